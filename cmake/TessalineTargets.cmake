@@ -1,0 +1,47 @@
+# One place for what every target of ours has in common.
+
+add_library(tessaline_options INTERFACE)
+target_include_directories(tessaline_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_definitions(
+  tessaline_options
+  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+            QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_compile_options(
+  tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                              -Woverloaded-virtual -Werror)
+if(TESSALINE_SANITIZE)
+  target_compile_options(
+    tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer
+                                -fno-sanitize-recover=all)
+  target_link_options(tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE})
+endif()
+
+# tessaline_library(NAME SOURCES ... [PUBLIC ...] [PRIVATE ...])
+# declares the static library tessaline_NAME, known to others as tessaline::NAME.
+function(tessaline_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  add_library(tessaline_${name} STATIC ${ARG_SOURCES})
+  add_library(tessaline::${name} ALIAS tessaline_${name})
+  target_link_libraries(
+    tessaline_${name}
+    PUBLIC tessaline_options ${ARG_PUBLIC}
+    PRIVATE ${ARG_PRIVATE})
+endfunction()
+
+# tessaline_test(NAME SOURCES ... LIBRARIES ...)
+# declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. Tests run
+# without a display, in a home folder of their own, and never report usage.
+function(tessaline_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  set(home "${CMAKE_BINARY_DIR}/test-home/${name}")
+  file(MAKE_DIRECTORY "${home}")
+  add_executable(test_${name} ${ARG_SOURCES})
+  target_include_directories(test_${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+  target_link_libraries(test_${name} PRIVATE tessaline_options GTest::gmock ${ARG_LIBRARIES})
+  gtest_discover_tests(
+    test_${name}
+    TEST_PREFIX "${name}."
+    DISCOVERY_MODE PRE_TEST
+    PROPERTIES TIMEOUT 120 LABELS "${ARG_LABELS}" ENVIRONMENT
+               "DO_NOT_TRACK=1;QT_QPA_PLATFORM=offscreen;HOME=${home};LC_ALL=C.UTF-8")
+endfunction()

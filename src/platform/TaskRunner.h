@@ -1,0 +1,17 @@
+#pragma once
+
+#include <functional>
+
+namespace tessaline {
+
+/// Runs tasks that may block, such as file reads, away from the main thread.
+class TaskRunner {
+public:
+    virtual ~TaskRunner() = default;
+
+    /// Starts a task in the background and returns at once. Tasks run one after another, in order.
+    /// Any thread.
+    virtual void run(std::function<void()> task) = 0;
+};
+
+} // namespace tessaline

@@ -1,0 +1,1 @@
+#include "settings/ScrollRate.h"

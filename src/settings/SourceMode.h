@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace tessaline {
+
+/// The legacy switch between a note file and the clipboard; held in memory only.
+enum class SourceMode { file, clipboard };
+
+/// The mode's raw string.
+QString rawValue(SourceMode mode);
+
+/// The mode with exactly this raw value (case-sensitive), or none.
+std::optional<SourceMode> sourceModeFromRawValue(QStringView raw);
+
+} // namespace tessaline
