@@ -6,9 +6,10 @@ target_compile_definitions(
   tessaline_options
   INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
             QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+# Designated initialisers leave the other members to their defaults, on purpose.
 target_compile_options(
   tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                              -Woverloaded-virtual -Werror)
+                              -Woverloaded-virtual -Wno-missing-field-initializers -Werror)
 if(TESSALINE_SANITIZE)
   target_compile_options(
     tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer

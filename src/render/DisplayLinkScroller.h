@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/DisplayLink.h"
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <optional>
+
+namespace tessaline {
+
+class DisplayLinkScrollerDelegate;
+class MainQueue;
+
+/// Turns the refreshes of a display into scroll distances and hands them to a delegate through the
+/// main queue. Main thread only; the display link's thread does the counting in between.
+class DisplayLinkScroller {
+public:
+    /// Makes its display link at once. Where there is none, says so on standard output; the engine
+    /// then never moves anything. The queue must outlive the engine.
+    DisplayLinkScroller(DisplayLinkMaker& linkMaker, MainQueue& mainQueue);
+    ~DisplayLinkScroller();
+    DisplayLinkScroller(const DisplayLinkScroller&) = delete;
+    DisplayLinkScroller& operator=(const DisplayLinkScroller&) = delete;
+
+    /// Sets the receiver of the distances, which is held weakly.
+    void setDelegate(std::weak_ptr<DisplayLinkScrollerDelegate> receiver);
+
+    /// Whether there is a display link.
+    bool isAvailable() const { return displayLink != nullptr; }
+
+    /// Begins to scroll. Does nothing while running or without a display link.
+    void start();
+
+    /// Ends scrolling and forgets when the last frame was; keeps a distance not yet handed out.
+    void stop();
+
+    /// Sets the speed in points per second; 0 and less produce nothing. 20 at first.
+    void updatePixelsPerSecond(double value);
+
+    /// Whether the engine has been started.
+    bool running() const { return isRunning; }
+
+private:
+    void tick(std::uint64_t hostTime);
+    double secondsSinceLastFrame(std::uint64_t hostTime) const;
+    void postScroll(double deltaY);
+    void deliver(double deltaY);
+
+    MainQueue& mainQueue;
+    std::weak_ptr<DisplayLinkScrollerDelegate> delegate;
+    bool isRunning = false;
+
+    std::mutex lock;
+    double pixelsPerSecond = 20.0;
+
+    // These two belong to the link's thread while the link runs, and to the main thread otherwise.
+    double scrollRemainder = 0.0;
+    std::optional<std::uint64_t> lastTimestamp;
+
+    // Owns nothing: it expires with the engine, so that posted tasks can tell.
+    const std::shared_ptr<DisplayLinkScroller> lifetime{this, [](DisplayLinkScroller*) {}};
+    std::unique_ptr<DisplayLink> displayLink;
+};
+
+} // namespace tessaline
