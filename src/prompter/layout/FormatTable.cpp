@@ -1,0 +1,81 @@
+#include "prompter/layout/FormatTable.h"
+
+#include "prompter/fonts/PointFont.h"
+
+#include <QFontMetricsF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaline {
+
+namespace {
+
+constexpr double defaultFontSize = 12.0;
+
+QFont::Weight resolvedWeight(TextFont::Weight weight) {
+    switch (weight) {
+    case TextFont::Weight::regular:
+        return QFont::Normal;
+    case TextFont::Weight::medium:
+        return QFont::Medium;
+    case TextFont::Weight::bold:
+        return QFont::Bold;
+    }
+    Q_UNREACHABLE();
+}
+
+FormatTable::Entry makeEntry(const TextAttributes& attributes) {
+    const QFont font = attributes.font ? resolvedFont(*attributes.font) : defaultTextFont();
+    FormatTable::Entry entry;
+    entry.format.setFont(font);
+    entry.format.setForeground(resolvedColor(attributes.foreground.value_or(TextColor{})));
+    if (attributes.background) entry.format.setBackground(resolvedColor(*attributes.background));
+    if (attributes.strikethrough != 0) entry.format.setFontStrikeOut(true);
+    const QFontMetricsF metrics(font);
+    entry.lineHeight = std::ceil(metrics.height() + std::max(metrics.leading(), 0.0));
+    entry.averageAdvance = metrics.averageCharWidth();
+    return entry;
+}
+
+} // namespace
+
+QColor resolvedColor(const TextColor& color) {
+    switch (color.base) {
+    case TextColor::Base::text:
+        return QColor::fromRgbF(float(AmberComponents::red), float(AmberComponents::green),
+                                float(AmberComponents::blue), float(color.alpha));
+    case TextColor::Base::systemGreen:
+        return QColor::fromRgb(48, 209, 88, qRound(color.alpha * 255));
+    case TextColor::Base::white:
+        return QColor::fromRgbF(1, 1, 1, float(color.alpha));
+    }
+    Q_UNREACHABLE();
+}
+
+QFont resolvedFont(const TextFont& font) {
+    const double size = std::max(font.size, 1.0);
+    QFont resolved = font.family == TextFont::Family::monospaced
+                         ? monospacedFont(size, resolvedWeight(font.weight))
+                         : systemFont(size, resolvedWeight(font.weight));
+    resolved.setItalic(font.italic);
+    // Hinted glyphs sit on whole pixels; text that moves by fractions must keep its shapes.
+    resolved.setHintingPreference(QFont::PreferNoHinting);
+    return resolved;
+}
+
+QFont defaultTextFont() {
+    return resolvedFont(
+        {TextFont::Family::system, TextFont::Weight::regular, false, defaultFontSize});
+}
+
+FormatTable::FormatTable() : plainEntry(makeEntry({})) {}
+
+void FormatTable::assign(const std::vector<TextAttributes>& styles) {
+    entries.clear();
+    entries.reserve(styles.size());
+    for (const auto& attributes : styles)
+        entries.push_back(makeEntry(attributes));
+}
+
+} // namespace tessaline

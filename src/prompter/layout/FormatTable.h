@@ -1,0 +1,48 @@
+#pragma once
+
+#include "render/TextAttributes.h"
+
+#include <QColor>
+#include <QFont>
+#include <QTextCharFormat>
+
+#include <vector>
+
+namespace tessaline {
+
+/// The real colour for a colour that the renderer names.
+QColor resolvedColor(const TextColor& color);
+
+/// The real font for a font that the renderer names.
+QFont resolvedFont(const TextFont& font);
+
+/// The font of text without attributes.
+QFont defaultTextFont();
+
+/// What the attribute sets of a text look like in Qt's terms, resolved once for each set.
+class FormatTable {
+public:
+    /// A set as Qt draws it, with the measures by which unseen text is estimated, in points.
+    struct Entry {
+        QTextCharFormat format;
+        double lineHeight = 0.0;
+        double averageAdvance = 0.0;
+    };
+
+    FormatTable();
+
+    /// Replaces the table by one for these sets.
+    void assign(const std::vector<TextAttributes>& styles);
+
+    /// The entry of the set with this index.
+    const Entry& operator[](int style) const { return entries[std::size_t(style)]; }
+
+    /// The entry of text without attributes.
+    const Entry& plain() const { return plainEntry; }
+
+private:
+    std::vector<Entry> entries;
+    Entry plainEntry;
+};
+
+} // namespace tessaline

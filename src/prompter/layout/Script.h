@@ -1,0 +1,47 @@
+#pragma once
+
+#include "render/StyledText.h"
+
+#include <QStringView>
+
+#include <vector>
+
+namespace tessaline {
+
+/// A styled text cut into the paragraphs that it is laid out by. A plain value; any thread.
+struct Script {
+    /// A line of the text without its newline, or a piece of a very long line. Offsets in UTF-16
+    /// units.
+    struct Paragraph {
+        qsizetype start = 0;
+        qsizetype length = 0;
+        qsizetype firstRun = 0;         ///< the run that `start` lies in, if there is any text
+        bool continuesPrevious = false; ///< belongs to the same line as the paragraph before
+        bool continuesInNext = false;   ///< belongs to the same line as the paragraph behind
+    };
+
+    /// Lines longer than this, in UTF-16 units, are laid out in pieces, so that no single layout
+    /// holds up a frame. No spoken paragraph comes near it.
+    static constexpr qsizetype longestPiece = 8192;
+
+    Script();
+
+    /// Takes a text apart. Carriage returns are left out: they neither show nor cost a line.
+    explicit Script(StyledText styledText);
+
+    QStringView textOf(const Paragraph& paragraph) const {
+        return QStringView(styled.text).sliced(paragraph.start, paragraph.length);
+    }
+
+    /// Whether a paragraph of this script and one of another have the same text and attributes.
+    bool hasSameParagraph(std::size_t index, const Script& other, std::size_t otherIndex) const;
+
+    StyledText styled;
+    std::vector<Paragraph> paragraphs; ///< at least one
+
+private:
+    void appendLine(qsizetype start, qsizetype end, qsizetype& run);
+    qsizetype pieceEnd(qsizetype start, qsizetype lineEnd) const;
+};
+
+} // namespace tessaline

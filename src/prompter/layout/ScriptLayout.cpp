@@ -1,0 +1,175 @@
+#include "prompter/layout/ScriptLayout.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessaline {
+
+namespace {
+
+/// How many paragraphs around what was drawn last stay laid out.
+constexpr std::size_t keptLayouts = 48;
+
+constexpr QColor selectionColor() {
+    return QColor(63, 99, 139);
+}
+
+} // namespace
+
+ScriptLayout::ScriptLayout() {
+    estimateAll();
+}
+
+ScriptChange ScriptLayout::exchangeScript(Script& script) {
+    const ScriptChange change = ScriptChange::between(currentScript, script);
+    std::swap(currentScript, script);
+    formats.assign(currentScript.styled.styles);
+    keepMeasured(change, script);
+    return change;
+}
+
+void ScriptLayout::keepMeasured(const ScriptChange& change, const Script& before) {
+    const std::size_t count = currentScript.paragraphs.size();
+    const std::size_t newEnd = change.first + change.newCount;
+    const auto oldIndex = [&](std::size_t index) {
+        return index < change.first ? index : index + change.oldCount - change.newCount;
+    };
+    std::vector<double> newHeights(count);
+    std::vector<bool> newMeasured(count);
+    for (std::size_t index = 0; index < count; ++index) {
+        const bool kept = index < change.first || index >= newEnd;
+        newMeasured[index] = kept && measured[oldIndex(index)];
+        newHeights[index] = kept ? heights.height(oldIndex(index))
+                                 : estimatedHeight(currentScript, index, formats, columnWidth);
+    }
+    std::map<std::size_t, ParagraphLayout> keptOnes;
+    for (auto& [index, layout] : layouts) {
+        if (index < change.first) keptOnes.emplace(index, std::move(layout));
+        if (index >= change.first + change.oldCount)
+            keptOnes.emplace(index + count - before.paragraphs.size(), std::move(layout));
+    }
+    layouts = std::move(keptOnes);
+    heights.assign(std::move(newHeights));
+    measured = std::move(newMeasured);
+    unmeasured = std::size_t(std::count(measured.begin(), measured.end(), false));
+    nextToMeasure = 0;
+}
+
+void ScriptLayout::setTextWidth(double points) {
+    if (points == columnWidth) return;
+    columnWidth = points;
+    estimateAll();
+}
+
+void ScriptLayout::estimateAll() {
+    const std::size_t count = currentScript.paragraphs.size();
+    std::vector<double> estimates(count);
+    for (std::size_t index = 0; index < count; ++index)
+        estimates[index] = estimatedHeight(currentScript, index, formats, columnWidth);
+    heights.assign(std::move(estimates));
+    measured.assign(count, false);
+    unmeasured = count;
+    nextToMeasure = 0;
+    layouts.clear();
+}
+
+void ScriptLayout::setMeasured(std::size_t index, double height) {
+    if (heights.height(index) != height) heights.set(index, height);
+    if (!measured[index]) --unmeasured;
+    measured[index] = true;
+}
+
+double ScriptLayout::measureMore(qsizetype units, double anchor) {
+    const std::size_t anchored = paragraphAt(anchor);
+    const double before = topOf(anchored);
+    for (; units > 0 && nextToMeasure < measured.size(); ++nextToMeasure) {
+        const auto& paragraph = currentScript.paragraphs[nextToMeasure];
+        if (measured[nextToMeasure]) continue;
+        units -= paragraph.length + 1;
+        if (paragraph.length == 0) {
+            setMeasured(nextToMeasure, heights.height(nextToMeasure));
+            continue;
+        }
+        setMeasured(nextToMeasure,
+                    layOutParagraph(currentScript, nextToMeasure, formats, columnWidth).height);
+    }
+    return topOf(anchored) - before;
+}
+
+void ScriptLayout::measureBetween(double top, double bottom) {
+    std::size_t index = paragraphAt(top);
+    for (double y = topOf(index); y < bottom && index < measured.size(); ++index) {
+        if (!measured[index]) laidOut(index);
+        y += heights.height(index);
+    }
+}
+
+const ParagraphLayout& ScriptLayout::laidOut(std::size_t index) {
+    const auto [entry, isNew] = layouts.try_emplace(index);
+    if (isNew) {
+        entry->second = layOutParagraph(currentScript, index, formats, columnWidth);
+        setMeasured(index, entry->second.height);
+    }
+    return entry->second;
+}
+
+void ScriptLayout::forgetLayoutsOutside(std::size_t first, std::size_t last) {
+    if (layouts.size() <= 2 * keptLayouts) return;
+    layouts.erase(layouts.begin(), layouts.lower_bound(first - std::min(first, keptLayouts / 2)));
+    layouts.erase(layouts.upper_bound(last + keptLayouts / 2), layouts.end());
+}
+
+void ScriptLayout::draw(QPainter& painter, double top, double bottom, const TextRange& selection) {
+    const std::size_t first = paragraphAt(top);
+    std::size_t index = first;
+    const QRectF clip(0, top, columnWidth, bottom - top);
+    for (double y = topOf(first); y < bottom && index < measured.size(); ++index) {
+        const ParagraphLayout& layout = laidOut(index);
+        const Script::Paragraph& paragraph = currentScript.paragraphs[index];
+        const TextRange selected =
+            selection.intersected({paragraph.start, paragraph.start + paragraph.length});
+        QList<QTextLayout::FormatRange> highlights;
+        if (!selected.isEmpty()) {
+            QTextCharFormat highlight;
+            highlight.setBackground(selectionColor());
+            highlights.push_back(
+                {int(selected.begin - paragraph.start), int(selected.length()), highlight});
+        }
+        layout.lines->draw(&painter, {0, y}, highlights, clip);
+        y += layout.height;
+    }
+    forgetLayoutsOutside(first, index);
+}
+
+qsizetype ScriptLayout::offsetAt(const QPointF& point) {
+    const std::size_t index = paragraphAt(point.y());
+    const QTextLayout& lines = *laidOut(index).lines;
+    const double y = point.y() - topOf(index);
+    int line = 0;
+    while (line + 1 < lines.lineCount() && lines.lineAt(line + 1).y() <= y)
+        ++line;
+    return currentScript.paragraphs[index].start + lines.lineAt(line).xToCursor(point.x());
+}
+
+std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
+    const auto& paragraphs = currentScript.paragraphs;
+    const auto next = std::upper_bound(paragraphs.begin() + 1, paragraphs.end(), offset,
+                                       [](qsizetype value, const Script::Paragraph& paragraph) {
+                                           return value < paragraph.start;
+                                       });
+    return std::size_t(next - paragraphs.begin()) - 1;
+}
+
+QRectF ScriptLayout::caretRect(qsizetype offset) {
+    const std::size_t index = paragraphOf(offset);
+    const auto& paragraph = currentScript.paragraphs[index];
+    const QTextLayout& lines = *laidOut(index).lines;
+    int position = int(std::clamp<qsizetype>(offset - paragraph.start, 0, paragraph.length));
+    const QTextLine line = lines.lineForTextPosition(position);
+    if (!line.isValid()) return {0, topOf(index), 0, heightOf(index)};
+    return {line.cursorToX(&position), topOf(index) + line.y(), 0, line.height()};
+}
+
+} // namespace tessaline

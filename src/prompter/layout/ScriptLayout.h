@@ -1,0 +1,85 @@
+#pragma once
+
+#include "prompter/layout/FormatTable.h"
+#include "prompter/layout/HeightIndex.h"
+#include "prompter/layout/ParagraphLayout.h"
+#include "prompter/layout/Script.h"
+#include "prompter/layout/ScriptChange.h"
+#include "prompter/layout/TextRange.h"
+
+#include <QPointF>
+#include <QRectF>
+
+#include <map>
+#include <vector>
+
+class QPainter;
+
+namespace tessaline {
+
+/// A script set in a column. Paragraphs are laid out when they are drawn or asked about; the
+/// heights of the others are estimated until they have been measured, so that a text of any length
+/// is ready at once. Coordinates are points from the column's top left corner, y downwards; offsets
+/// are UTF-16 units of the script's text.
+class ScriptLayout {
+public:
+    ScriptLayout();
+
+    /// Takes another script and hands the old one back in its place. What they share at both ends
+    /// stays laid out.
+    ScriptChange exchangeScript(Script& script);
+
+    /// Sets the column's width in points.
+    void setTextWidth(double points);
+
+    const Script& script() const { return currentScript; }
+    double textWidth() const { return columnWidth; }
+
+    /// The column's height, in part estimated until `isMeasured`.
+    double height() const { return heights.total(); }
+
+    /// Whether every paragraph has been measured.
+    bool isMeasured() const { return unmeasured == 0; }
+
+    /// Measures paragraphs from the top on, until about so many UTF-16 units are done. Returns by
+    /// how many points this moved what lies at `anchor`.
+    double measureMore(qsizetype units, double anchor);
+
+    /// Measures everything between two heights, so that drawing there changes nothing any more.
+    void measureBetween(double top, double bottom);
+
+    /// The paragraph at a height, and where a paragraph begins.
+    std::size_t paragraphAt(double y) const { return heights.indexAt(y); }
+    double topOf(std::size_t paragraph) const { return heights.topOf(paragraph); }
+    double heightOf(std::size_t paragraph) const { return heights.height(paragraph); }
+
+    /// Draws what lies between two heights, with the selected text highlighted.
+    void draw(QPainter& painter, double top, double bottom, const TextRange& selection);
+
+    /// The offset nearest to a point.
+    qsizetype offsetAt(const QPointF& point);
+
+    /// The paragraph that an offset lies in.
+    std::size_t paragraphOf(qsizetype offset) const;
+
+    /// The place of the caret before an offset, without width.
+    QRectF caretRect(qsizetype offset);
+
+private:
+    const ParagraphLayout& laidOut(std::size_t index);
+    void setMeasured(std::size_t index, double height);
+    void estimateAll();
+    void forgetLayoutsOutside(std::size_t first, std::size_t last);
+    void keepMeasured(const ScriptChange& change, const Script& before);
+
+    Script currentScript;
+    FormatTable formats;
+    HeightIndex heights;
+    std::vector<bool> measured;
+    std::size_t unmeasured = 0;
+    std::size_t nextToMeasure = 0; ///< no paragraph before this one is unmeasured
+    std::map<std::size_t, ParagraphLayout> layouts;
+    double columnWidth = 400.0;
+};
+
+} // namespace tessaline

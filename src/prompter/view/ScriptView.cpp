@@ -1,0 +1,298 @@
+#include "prompter/view/ScriptView.h"
+
+#include "prompter/controls/ThemedScroller.h"
+#include "prompter/view/RowBlending.h"
+#include "prompter/view/ScriptViewAccessible.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTimerEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tessaline {
+
+namespace {
+
+constexpr double horizontalInset = 15.0;
+constexpr double verticalInset = 10.0;
+constexpr double pointsPerWheelLine = 20.0;
+constexpr double unitsPerWheelStep = 120.0; // as mice report one notch
+
+/// Scripts up to this many UTF-16 units are laid out at once; longer ones in slices of so many,
+/// short enough that no frame is late.
+constexpr qsizetype unitsLaidOutAtOnce = 12000;
+constexpr qsizetype unitsLaidOutPerSlice = 3000;
+
+/// The scroller counts in whole steps; so many make a point, unless the document is too long.
+constexpr double scrollerStepsPerPoint = 8.0;
+constexpr double mostScrollerSteps = 1e9;
+
+double scrollerScale(double maximum) {
+    return std::min(scrollerStepsPerPoint, mostScrollerSteps / std::max(maximum, 1.0));
+}
+
+} // namespace
+
+ScriptView::ScriptView(TimerMaker& timers, QWidget* parent)
+    : QWidget(parent)
+    , strips([this](QPainter& painter, double top, double bottom) {
+        painter.translate(horizontalInset, verticalInset);
+        layout.draw(painter, top - verticalInset, bottom - verticalInset, currentSelection.range());
+    })
+    , scroller(new ThemedScroller(timers, this))
+    , interaction(*this) {
+    installScriptViewAccessibility();
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::IBeamCursor);
+    connect(scroller, &QScrollBar::valueChanged, this,
+            [this](int value) { scrollTo(value / scrollerScale(maximumScrollPosition())); });
+}
+
+ScriptView::~ScriptView() = default;
+
+double ScriptView::documentHeight() const {
+    return layout.height() + 2 * verticalInset;
+}
+
+double ScriptView::maximumScrollPosition() const {
+    return std::max(documentHeight() - height(), 0.0);
+}
+
+void ScriptView::scrollTo(double position) {
+    const double clamped = std::clamp(position, 0.0, maximumScrollPosition());
+    if (clamped == scrollTop) return;
+    scrollTop = clamped;
+    updateScroller();
+    update();
+    prepareStrips();
+}
+
+void ScriptView::scrollByHand(double position) {
+    scroller->reveal();
+    scrollTo(position);
+}
+
+void ScriptView::setScript(Script script) {
+    const Place place = placeAtTop();
+    const ScriptChange change = layout.exchangeScript(script);
+    const Script& before = script;
+    if (change.oldCount == 0 && change.newCount == 0) return;
+    moveSelectionAcross(change, before);
+    if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
+        layout.measureMore(unitsLaidOutAtOnce + 1, 0);
+    keepPlaceAcross(change, before.paragraphs.size(), place);
+    layoutChanged();
+    if (!QAccessible::isActive()) return;
+    QAccessibleTextUpdateEvent event(this, 0, before.styled.text, layout.script().styled.text);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ScriptView::completeLayout() {
+    const Place place = placeAtTop();
+    layout.measureMore(std::numeric_limits<qsizetype>::max(), 0);
+    restorePlace(place);
+    layoutChanged();
+}
+
+ScriptView::Place ScriptView::placeAtTop() const {
+    const double y = scrollTop - verticalInset;
+    const std::size_t paragraph = layout.paragraphAt(y);
+    const double height = std::max(layout.heightOf(paragraph), 1.0);
+    return {paragraph, (y - layout.topOf(paragraph)) / height};
+}
+
+void ScriptView::restorePlace(const Place& place) {
+    if (scrollTop == 0.0) return; // at the beginning is where the reader stays
+    scrollTop = layout.topOf(place.paragraph) + place.fraction * layout.heightOf(place.paragraph) +
+                verticalInset;
+}
+
+void ScriptView::keepPlaceAcross(const ScriptChange& change, std::size_t oldCount,
+                                 const Place& place) {
+    const std::size_t newCount = layout.script().paragraphs.size();
+    const bool isBehind = place.paragraph >= change.first + change.oldCount;
+    const bool sameLines = oldCount == newCount;
+    if (place.paragraph < change.first || sameLines) return restorePlace(place);
+    if (isBehind) restorePlace({place.paragraph + newCount - oldCount, place.fraction});
+}
+
+void ScriptView::moveSelectionAcross(const ScriptChange& change, const Script& before) {
+    TextSelection moved;
+    const auto movedOffset = [&](qsizetype offset) {
+        return ScriptChange::movedOffset(offset, before, layout.script(), change);
+    };
+    moved.moveTo(movedOffset(currentSelection.anchor()), false);
+    moved.moveTo(movedOffset(currentSelection.caret()), true);
+    currentSelection = moved;
+}
+
+void ScriptView::layoutChanged() {
+    scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
+    strips.invalidate();
+    updateScroller();
+    update();
+    if (layout.isMeasured())
+        Q_EMIT layoutCompleted();
+    else
+        idleTimer.start(0, this);
+}
+
+void ScriptView::continueLayout() {
+    const double moved = layout.measureMore(unitsLaidOutPerSlice, scrollTop - verticalInset);
+    if (scrollTop > 0.0 && moved != 0.0) {
+        scrollTop += moved;
+        strips.invalidate();
+        update();
+    }
+    scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
+    if (!layout.isMeasured()) return;
+    updateScroller();
+    Q_EMIT layoutCompleted();
+}
+
+void ScriptView::prepareStrips() {
+    if (!idleTimer.isActive()) idleTimer.start(0, this);
+}
+
+void ScriptView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != idleTimer.timerId()) return QWidget::timerEvent(event);
+    if (!layout.isMeasured()) return continueLayout();
+    idleTimer.stop();
+    const auto top = qsizetype(scrollTop * devicePixelRatioF());
+    strips.prepare(top + frame.height() + StripCache::rowsPerStrip / 2);
+    strips.prepare(top - StripCache::rowsPerStrip / 2);
+}
+
+void ScriptView::updateScroller() {
+    const double maximum = maximumScrollPosition();
+    const double scale = scrollerScale(maximum);
+    const QSignalBlocker blocker(scroller);
+    scroller->setRange(0, int(maximum * scale));
+    scroller->setPageStep(int(height() * scale));
+    scroller->setValue(int(scrollTop * scale));
+}
+
+void ScriptView::resizeEvent(QResizeEvent*) {
+    const Place place = placeAtTop();
+    const double textWidth = std::max(width() - 2 * horizontalInset, 1.0);
+    const bool rewraps = textWidth != layout.textWidth();
+    scroller->setGeometry(width() - scroller->sizeHint().width(), 0, scroller->sizeHint().width(),
+                          height());
+    sizeFrame();
+    if (rewraps) {
+        layout.setTextWidth(textWidth);
+        if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
+            layout.measureMore(unitsLaidOutAtOnce + 1, 0);
+        restorePlace(place);
+    }
+    layoutChanged();
+}
+
+void ScriptView::sizeFrame() {
+    const double ratio = devicePixelRatioF();
+    const QSize pixels(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
+    if (frame.size() == pixels && frame.devicePixelRatio() == ratio) return;
+    frame = QImage(pixels, QImage::Format_RGB32);
+    frame.setDevicePixelRatio(ratio);
+    strips.resize(pixels.width(), pixels.height(), ratio);
+}
+
+void ScriptView::paintEvent(QPaintEvent*) {
+    sizeFrame(); // the screen, and with it the pixel ratio, may be another one now
+    if (frame.isNull()) return;
+    composeFrame();
+    QPainter(this).drawImage(QPointF(0, 0), frame);
+}
+
+void ScriptView::composeFrame() {
+    const double top = scrollTop - verticalInset;
+    layout.measureBetween(top, top + height() + StripCache::rowsPerStrip);
+    const double firstRow = scrollTop * frame.devicePixelRatio();
+    auto row = qsizetype(std::floor(firstRow));
+    const auto lowerWeight = unsigned(std::lround((firstRow - double(row)) * wholeRow));
+    const auto bytes = std::size_t(frame.width()) * 4;
+    const std::uint8_t* upper = strips.row(row);
+    for (int y = 0; y < frame.height(); ++y) {
+        const std::uint8_t* lower = strips.row(++row);
+        blendRows(upper, lower, lowerWeight, frame.scanLine(y), bytes);
+        upper = lower;
+    }
+}
+
+void ScriptView::setSelection(const TextSelection& selection) {
+    const TextRange before = currentSelection.range();
+    const qsizetype caretBefore = currentSelection.caret();
+    currentSelection = selection;
+    const TextRange after = selection.range();
+    if (after != before) {
+        strips.invalidate();
+        update();
+        QAccessibleTextSelectionEvent event(this, int(after.begin), int(after.end));
+        QAccessible::updateAccessibility(&event);
+    } else if (selection.caret() != caretBefore) {
+        QAccessibleTextCursorEvent event(this, int(selection.caret()));
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+QString ScriptView::selectedText() const {
+    const TextRange range = currentSelection.range();
+    return layout.script().styled.text.mid(range.begin, range.length());
+}
+
+void ScriptView::copySelection() const {
+    if (!currentSelection.range().isEmpty()) QApplication::clipboard()->setText(selectedText());
+}
+
+QRectF ScriptView::caretRect(qsizetype offset) const {
+    return layout.caretRect(offset).translated(horizontalInset, verticalInset - scrollTop);
+}
+
+qsizetype ScriptView::offsetAt(const QPointF& point) const {
+    return layout.offsetAt({point.x() - horizontalInset, point.y() + scrollTop - verticalInset});
+}
+
+void ScriptView::reveal(qsizetype offset) {
+    const QRectF caret = caretRect(offset);
+    if (caret.top() < 0) scrollTo(scrollTop + caret.top() - verticalInset);
+    if (caret.bottom() > height()) scrollTo(scrollTop + caret.bottom() - height() + verticalInset);
+}
+
+void ScriptView::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
+    const double steps = event->angleDelta().y() / unitsPerWheelStep;
+    const double points = event->hasPixelDelta()
+                              ? event->pixelDelta().y()
+                              : steps * QApplication::wheelScrollLines() * pointsPerWheelLine;
+    scrollByHand(scrollTop - points);
+}
+
+void ScriptView::keyPressEvent(QKeyEvent* event) {
+    if (!interaction.keyPress(*event)) QWidget::keyPressEvent(event);
+}
+
+void ScriptView::mousePressEvent(QMouseEvent* event) {
+    interaction.mousePress(*event);
+}
+void ScriptView::mouseMoveEvent(QMouseEvent* event) {
+    interaction.mouseMove(*event);
+}
+void ScriptView::mouseReleaseEvent(QMouseEvent*) {
+    interaction.mouseRelease();
+}
+void ScriptView::mouseDoubleClickEvent(QMouseEvent* event) {
+    interaction.mouseDoubleClick(*event);
+}
+void ScriptView::contextMenuEvent(QContextMenuEvent* event) {
+    interaction.showMenu(*event);
+}
+
+} // namespace tessaline

@@ -1,0 +1,144 @@
+#include "prompter/view/ScriptViewAccessible.h"
+
+#include "prompter/view/ScriptView.h"
+
+#include <algorithm>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* view = qobject_cast<ScriptView*>(object);
+    return view ? new ScriptViewAccessible(*view) : nullptr;
+}
+
+/// Text attributes in the form that screen readers expect.
+QString describe(const TextAttributes& attributes) {
+    QString result;
+    if (attributes.font) {
+        const bool bold = attributes.font->weight == TextFont::Weight::bold;
+        result += u"font-size:%1pt;"_s.arg(attributes.font->size);
+        result += u"font-weight:%1;"_s.arg(bold ? u"bold"_s : u"normal"_s);
+        result += u"font-style:%1;"_s.arg(attributes.font->italic ? u"italic"_s : u"normal"_s);
+    }
+    if (attributes.strikethrough != 0) result += u"text-line-through-type:single;"_s;
+    return result;
+}
+
+} // namespace
+
+void installScriptViewAccessibility() {
+    QAccessible::installFactory(makeInterface);
+}
+
+ScriptViewAccessible::ScriptViewAccessible(ScriptView& scriptView)
+    : QAccessibleWidget(&scriptView, QAccessible::EditableText) {}
+
+ScriptView& ScriptViewAccessible::view() const {
+    return *static_cast<ScriptView*>(widget());
+}
+
+const QString& ScriptViewAccessible::content() const {
+    return view().script().styled.text;
+}
+
+void* ScriptViewAccessible::interface_cast(QAccessible::InterfaceType type) {
+    if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QAccessible::State ScriptViewAccessible::state() const {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = true;
+    state.multiLine = true;
+    state.selectableText = true;
+    return state;
+}
+
+void ScriptViewAccessible::selection(int selectionIndex, int* startOffset, int* endOffset) const {
+    const bool exists = selectionIndex == 0 && selectionCount() == 1;
+    const TextRange range = exists ? view().selection().range() : TextRange{};
+    *startOffset = int(range.begin);
+    *endOffset = int(range.end);
+}
+
+int ScriptViewAccessible::selectionCount() const {
+    return view().selection().range().isEmpty() ? 0 : 1;
+}
+
+void ScriptViewAccessible::select(int anchor, int caret) {
+    const auto clamped = [this](int offset) { return std::clamp(offset, 0, characterCount()); };
+    TextSelection selection;
+    selection.moveTo(clamped(anchor), false);
+    selection.moveTo(clamped(caret), true);
+    view().setSelection(selection);
+}
+
+void ScriptViewAccessible::addSelection(int startOffset, int endOffset) {
+    select(startOffset, endOffset);
+}
+
+void ScriptViewAccessible::removeSelection(int selectionIndex) {
+    if (selectionIndex == 0) select(cursorPosition(), cursorPosition());
+}
+
+void ScriptViewAccessible::setSelection(int selectionIndex, int startOffset, int endOffset) {
+    if (selectionIndex == 0) select(startOffset, endOffset);
+}
+
+int ScriptViewAccessible::cursorPosition() const {
+    return int(view().selection().caret());
+}
+
+void ScriptViewAccessible::setCursorPosition(int position) {
+    select(position, position);
+    view().reveal(cursorPosition());
+}
+
+QString ScriptViewAccessible::text(int startOffset, int endOffset) const {
+    const int begin = std::clamp(startOffset, 0, characterCount());
+    const int end =
+        endOffset < 0 ? characterCount() : std::clamp(endOffset, begin, characterCount());
+    return content().mid(begin, end - begin);
+}
+
+int ScriptViewAccessible::characterCount() const {
+    return int(content().size());
+}
+
+QRect ScriptViewAccessible::characterRect(int offset) const {
+    if (offset < 0 || offset > characterCount()) return {};
+    const QRectF here = view().caretRect(offset);
+    const QRectF next = view().caretRect(std::min(offset + 1, characterCount()));
+    const bool sameLine = next.top() == here.top() && next.left() > here.left();
+    const QRectF bounds(here.topLeft(),
+                        QSizeF(sameLine ? next.left() - here.left() : 1.0, here.height()));
+    return bounds.toAlignedRect().translated(view().mapToGlobal(QPoint(0, 0)));
+}
+
+int ScriptViewAccessible::offsetAtPoint(const QPoint& point) const {
+    return int(view().offsetAt(view().mapFromGlobal(point)));
+}
+
+void ScriptViewAccessible::scrollToSubstring(int startIndex, int endIndex) {
+    view().reveal(std::clamp(endIndex, 0, characterCount()));
+    view().reveal(std::clamp(startIndex, 0, characterCount()));
+}
+
+QString ScriptViewAccessible::attributes(int offset, int* startOffset, int* endOffset) const {
+    const auto& styled = view().script().styled;
+    *startOffset = *endOffset = offset;
+    const auto behind = std::upper_bound(
+        styled.runs.begin(), styled.runs.end(), qsizetype(offset),
+        [](qsizetype value, const StyledText::Run& run) { return value < run.start; });
+    if (behind == styled.runs.begin()) return {};
+    const StyledText::Run& run = *(behind - 1);
+    *startOffset = int(run.start);
+    *endOffset = int(run.start + run.length);
+    return describe(styled.attributes(run));
+}
+
+} // namespace tessaline

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace tessaline {
+
+class ScriptView;
+
+/// Makes every script view from now on speak to screen readers. May be called more than once.
+void installScriptViewAccessibility();
+
+/// What a screen reader sees of a script view: a read-only text of many lines.
+class ScriptViewAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
+public:
+    explicit ScriptViewAccessible(ScriptView& view);
+
+    void* interface_cast(QAccessible::InterfaceType type) override;
+    QAccessible::State state() const override;
+
+    void selection(int selectionIndex, int* startOffset, int* endOffset) const override;
+    int selectionCount() const override;
+    void addSelection(int startOffset, int endOffset) override;
+    void removeSelection(int selectionIndex) override;
+    void setSelection(int selectionIndex, int startOffset, int endOffset) override;
+    int cursorPosition() const override;
+    void setCursorPosition(int position) override;
+    QString text(int startOffset, int endOffset) const override;
+    using QAccessibleWidget::text;
+    int characterCount() const override;
+    QRect characterRect(int offset) const override;
+    int offsetAtPoint(const QPoint& point) const override;
+    void scrollToSubstring(int startIndex, int endIndex) override;
+    QString attributes(int offset, int* startOffset, int* endOffset) const override;
+
+private:
+    ScriptView& view() const;
+    const QString& content() const;
+    void select(int anchor, int caret);
+};
+
+} // namespace tessaline

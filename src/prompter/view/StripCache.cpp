@@ -1,0 +1,77 @@
+#include "prompter/view/StripCache.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace tessaline {
+
+StripCache::StripCache(Draw drawColumn) : draw(std::move(drawColumn)) {}
+
+void StripCache::resize(int width, int height, double devicePixelRatio) {
+    pixelRatio = devicePixelRatio;
+    // A screenful that begins and ends inside a strip, the row below it, and one strip either side
+    // that is drawn ahead of time.
+    const int count = height / rowsPerStrip + 2 + 2;
+    kept.clear();
+    for (int i = 0; i < count; ++i)
+        kept.push_back({-1, QImage(std::max(width, 1), rowsPerStrip, QImage::Format_RGB32)});
+}
+
+void StripCache::invalidate() {
+    for (Slot& slot : kept)
+        slot.strip = -1;
+}
+
+void StripCache::invalidateRows(qsizetype top, qsizetype bottom) {
+    for (Slot& slot : kept) {
+        if ((slot.strip + 1) * rowsPerStrip > top && slot.strip * rowsPerStrip < bottom)
+            slot.strip = -1;
+    }
+}
+
+const std::uint8_t* StripCache::row(qsizetype index) {
+    const qsizetype strip = index / rowsPerStrip;
+    return slotOf(strip).image.constScanLine(int(index - strip * rowsPerStrip));
+}
+
+bool StripCache::prepare(qsizetype row) {
+    const qsizetype strip = row / rowsPerStrip;
+    if (row < 0 || find(strip)) return false;
+    slotOf(strip);
+    return true;
+}
+
+StripCache::Slot* StripCache::find(qsizetype strip) {
+    const auto slot =
+        std::find_if(kept.begin(), kept.end(), [&](const Slot& s) { return s.strip == strip; });
+    return slot == kept.end() ? nullptr : &*slot;
+}
+
+StripCache::Slot& StripCache::slotOf(qsizetype strip) {
+    if (Slot* slot = find(strip)) return *slot;
+    const auto distance = [&](const Slot& slot) {
+        return slot.strip < 0 ? std::numeric_limits<qsizetype>::max()
+                              : std::abs(slot.strip - strip);
+    };
+    Slot& farthest = *std::max_element(kept.begin(), kept.end(), [&](const Slot& a, const Slot& b) {
+        return distance(a) < distance(b);
+    });
+    drawStrip(farthest, strip);
+    return farthest;
+}
+
+void StripCache::drawStrip(Slot& slot, qsizetype strip) {
+    slot.strip = strip;
+    slot.image.fill(Qt::black);
+    const double top = double(strip * rowsPerStrip) / pixelRatio;
+    QPainter painter(&slot.image);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.scale(pixelRatio, pixelRatio);
+    painter.translate(0, -top);
+    draw(painter, top, top + rowsPerStrip / pixelRatio);
+}
+
+} // namespace tessaline
