@@ -1,0 +1,46 @@
+#pragma once
+
+#include "prompter/layout/Script.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace tessaline {
+
+class MainQueue;
+class TaskRunner;
+
+/// A text made ready for the prompter.
+struct RenderedContent {
+    Script script;
+    qsizetype wordCount = 0;
+};
+
+/// Renders texts for the prompter: short ones at once, long ones in the background, so that the
+/// window answers meanwhile. Main thread only.
+class ContentRenderer {
+public:
+    using Handler = std::function<void(RenderedContent)>;
+
+    /// Texts of more UTF-16 units than this are rendered in the background.
+    static constexpr qsizetype mostRenderedAtOnce = 1'000'000;
+
+    /// Borrows both.
+    ContentRenderer(TaskRunner& tasks, MainQueue& queue);
+
+    /// Renders Markdown with body text of so many points, counts its words, and calls `done` with
+    /// the result on the main thread, unless something else has been asked for in the meantime.
+    void render(const QString& markdown, double fontSize, Handler done);
+
+    /// Whatever is being rendered is not wanted any more.
+    void cancel();
+
+private:
+    TaskRunner& tasks;
+    MainQueue& queue;
+    std::shared_ptr<const int> current; ///< expires when another text is asked for
+};
+
+} // namespace tessaline

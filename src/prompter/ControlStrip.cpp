@@ -1,0 +1,136 @@
+#include "prompter/ControlStrip.h"
+
+#include "prompter/ElidingLabel.h"
+#include "prompter/SourceIcon.h"
+#include "prompter/controls/PressableButton.h"
+#include "prompter/controls/SystemPalette.h"
+#include "prompter/controls/TrafficLightCloseButton.h"
+#include "prompter/fonts/PointFont.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int margin = 10;
+constexpr int gap = 4;
+constexpr int closeButtonSide = 12;
+constexpr int sourceIconSide = 12;
+constexpr double stripGlyphSize = 16.0;
+constexpr double smallGlyphSize = 12.0;
+constexpr double sourceGlyphSize = 14.0;
+
+void describe(QWidget& control, const QString& identifier, const QString& name,
+              const QString& toolTip) {
+    control.setObjectName(identifier);
+    control.setAccessibleName(name);
+    control.setToolTip(toolTip);
+}
+
+/// Puts a control to the right of `x`, centred on a height; returns where the next may begin.
+int place(QWidget& control, int x, double centre, const QSize& size) {
+    control.setGeometry(x, int(std::lround(centre - size.height() / 2.0)), size.width(),
+                        size.height());
+    return x + size.width() + gap;
+}
+
+} // namespace
+
+ControlStrip::ControlStrip(QWidget* parent)
+    : QWidget(parent)
+    , quitButton(new TrafficLightCloseButton(this))
+    , minimizeButton(new PressableButton(u"—"_s, smallGlyphSize, this))
+    , configButton(new PressableButton(u"⚙\uFE0E"_s, stripGlyphSize, this))
+    , autoScrollButton(new PressableButton(u"⏯"_s, stripGlyphSize, this))
+    , sourceIconView(new QLabel(this))
+    , sourceLabel(new QLabel(u"CLIP"_s, this))
+    , pasteButton(new PressableButton(u"📋"_s, smallGlyphSize, this))
+    , statsLabel(new ElidingLabel(this)) {
+    describe(*quitButton, u"prompter_quitButton"_s, u"Quit"_s, u"Quit Tessaline"_s);
+    describe(*minimizeButton, u"prompter_minimizeButton"_s, u"Minimize"_s,
+             u"Minimize/Expand window"_s);
+    describe(*configButton, u"prompter_configButton"_s, u"Settings"_s, u"Open Settings"_s);
+    describe(*autoScrollButton, u"prompter_autoScrollButton"_s, u"Toggle Auto-Scroll"_s,
+             u"Toggle auto-scroll"_s);
+    describe(*pasteButton, u"prompter_pasteButton"_s, u"Toggle content source"_s,
+             u"Toggle: Paste from clipboard / Back to file"_s);
+    describe(*sourceLabel, u"prompter_sourceLabel"_s, {}, u"Content source"_s);
+    describe(*statsLabel, u"prompter_statsLabel"_s, {}, u"Reading statistics"_s);
+    sourceLabel->setFont(systemFont(9, QFont::Bold));
+    sourceLabel->setAlignment(Qt::AlignCenter);
+    sourceIconView->hide();
+    statsLabel->setFont(systemFont(11, QFont::Medium));
+    showCollapsed(false);
+    showSourceMode(SourceMode::file);
+}
+
+void ControlStrip::setStripHeight(double points) {
+    stripHeight = points;
+    arrange();
+}
+
+void ControlStrip::resizeEvent(QResizeEvent*) {
+    arrange();
+}
+
+void ControlStrip::arrange() {
+    const double centre = stripHeight / 2;
+    const auto control = [&](QWidget& widget, int x) {
+        return place(widget, x, centre, widget.sizeHint());
+    };
+    int x = place(*quitButton, margin, centre, {closeButtonSide, closeButtonSide});
+    x = control(*minimizeButton, x);
+    x = control(*configButton, x);
+    x = control(*autoScrollButton, x);
+    if (!sourceIconView->isHidden())
+        x = place(*sourceIconView, x, centre, {sourceIconSide, sourceIconSide});
+    x = control(*sourceLabel, x);
+    x = control(*pasteButton, x);
+    const int statsWidth = std::max(width() - margin - x, 0);
+    place(*statsLabel, x, centre, {statsWidth, statsLabel->sizeHint().height()});
+}
+
+void ControlStrip::showStatistics(const QString& text, const QColor& color) {
+    statsLabel->setText(text);
+    statsLabel->setColor(color);
+}
+
+void ControlStrip::showSourceName(const QString& name, const QColor& color) {
+    sourceLabel->setText(name);
+    QPalette palette = sourceLabel->palette();
+    palette.setColor(QPalette::WindowText, color);
+    sourceLabel->setPalette(palette);
+    arrange();
+}
+
+void ControlStrip::showSourceMode(SourceMode mode) {
+    const bool isFile = mode == SourceMode::file;
+    pasteButton->setGlyph(isFile ? u"📋"_s : u"📄"_s, sourceGlyphSize);
+    pasteButton->setToolTip(isFile ? u"Switch to clipboard mode (paste)"_s
+                                   : u"Switch back to file mode"_s);
+    showSourceName(isFile ? u"FILE"_s : u"CLIP"_s,
+                   isFile ? SystemPalette::blue : SystemPalette::orange);
+}
+
+void ControlStrip::showSource(SourceType source) {
+    const QSize size(sourceIconSide, sourceIconSide);
+    sourceIconView->setPixmap(sourceIcon(source).pixmap(size, devicePixelRatioF()));
+    sourceIconView->show();
+    pasteButton->setGlyph(source == SourceType::clipboard ? u"📄"_s : u"📋"_s, sourceGlyphSize);
+    pasteButton->setToolTip(u"Cycle content source (current: %1)"_s.arg(displayName(source)));
+    showSourceName(displayName(source).toUpper(), sourceColor(source));
+}
+
+void ControlStrip::showCollapsed(bool collapsed) {
+    if (collapsed)
+        minimizeButton->setGlyph(u"□"_s, 14, QFont::DemiBold);
+    else
+        minimizeButton->setGlyph(u"—"_s, 14, QFont::Bold);
+    arrange();
+}
+
+} // namespace tessaline

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "settings/SourceMode.h"
+#include "settings/SourceType.h"
+
+#include <QLabel>
+#include <QWidget>
+
+namespace tessaline {
+
+class ElidingLabel;
+class PressableButton;
+class TrafficLightCloseButton;
+
+/// The row of controls along the prompter's top edge. It draws nothing of its own and knows no
+/// actions: whoever owns it connects the buttons. Main thread only.
+class ControlStrip : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ControlStrip(QWidget* parent = nullptr);
+
+    /// Centres the controls in a strip of this height, in points, at the widget's top.
+    void setStripHeight(double points);
+
+    void showStatistics(const QString& text, const QColor& color);
+    void showSourceMode(SourceMode mode);
+    void showSource(SourceType source);
+    void showCollapsed(bool collapsed);
+
+    TrafficLightCloseButton* const quitButton;
+    PressableButton* const minimizeButton;
+    PressableButton* const configButton;
+    PressableButton* const autoScrollButton;
+    QLabel* const sourceIconView;
+    QLabel* const sourceLabel;
+    PressableButton* const pasteButton;
+    ElidingLabel* const statsLabel;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void showSourceName(const QString& name, const QColor& color);
+    void arrange();
+
+    double stripHeight = 24.0;
+};
+
+} // namespace tessaline

@@ -1,0 +1,253 @@
+#include "prompter/PrompterWindow.h"
+
+#include "platform/MainQueue.h"
+#include "platform/ScreenCoordinates.h"
+#include "platform/Screens.h"
+#include "platform/WindowTraits.h"
+#include "prompter/ControlStrip.h"
+#include "prompter/Placeholder.h"
+#include "prompter/PrompterGeometry.h"
+#include "prompter/ReadingStatistics.h"
+#include "prompter/WindowShape.h"
+#include "prompter/view/ScriptView.h"
+#include "render/MarkdownRenderer.h"
+#include "screens/ScreenManager.h"
+#include "settings/AppSettings.h"
+
+#include <QEasingCurve>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int textMargin = 10;
+constexpr int textTop = 44;
+constexpr double pointsPerWheelLine = 80.0;
+constexpr double unitsPerWheelStep = 120.0;
+
+/// The desktop's standard resize animation takes this long for every so many points.
+constexpr double resizeMilliseconds = 200.0;
+constexpr double resizePoints = 150.0;
+
+QRect primaryGeometry() {
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    return primary ? primary->geometry() : QRect();
+}
+
+double overlap(const Rect& a, const Rect& b) {
+    const double width = std::min(a.maxX(), b.maxX()) - std::max(a.minX(), b.minX());
+    const double height = std::min(a.maxY(), b.maxY()) - std::max(a.minY(), b.minY());
+    return width > 0 && height > 0 ? width * height : 0.0;
+}
+
+} // namespace
+
+PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& platformPorts)
+    : QWidget(nullptr, Qt::FramelessWindowHint | platformPorts.windowTraits.creationFlags())
+    , settings(appSettings)
+    , ports(platformPorts)
+    , renderer(ports.tasks, ports.mainQueue)
+    , self(std::make_shared<PrompterWindow*>(this)) {
+    setWindowTitle(u"Tessaline"_s);
+    setAttribute(Qt::WA_TranslucentBackground);
+    resizing.setEasingCurve(QEasingCurve::InOutSine);
+    connect(&resizing, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& value) { setGeometry(value.toRect()); });
+    setupUI();
+    updateFrame();
+    autoScroll.emplace(settings, ports.displayLinks, ports.timers, ports.mainQueue,
+                       [this](double deltaY) { performScroll(deltaY); });
+}
+
+PrompterWindow::~PrompterWindow() = default;
+
+void PrompterWindow::setupUI() {
+    strip = new ControlStrip(this);
+    view = new ScriptView(ports.timers, this);
+    view->setObjectName(u"prompter_textView"_s);
+    view->setAccessibleName(u"Script"_s);
+    setFocusProxy(view);
+    connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
+    updateSourceModeIndicator(SourceMode::file);
+}
+
+void PrompterWindow::updateFrame() {
+    const PrompterPlacement placement{settings.width, settings.height, settings.xOffset};
+    if (screenManager) {
+        setFrame(prompterFrame(placement, screenManager->preferredScreen().frame));
+    } else if (const auto main = ports.screens.mainScreen()) {
+        setFrame(prompterFrameOnMainScreen(placement, main->frame));
+    } else {
+        return;
+    }
+    arrangeContent();
+    updateShape(*this, collapsed);
+    if (const auto screen = currentScreen()) ports.displayLinks.setRefreshRate(screen->refreshRate);
+}
+
+void PrompterWindow::setFrame(const Rect& frame) {
+    resizing.stop();
+    setGeometry(toQtCoordinates(frame, primaryGeometry()));
+}
+
+std::optional<Screen> PrompterWindow::currentScreen() const {
+    const Rect frame = fromQtCoordinates(geometry(), primaryGeometry());
+    const auto all = ports.screens.all();
+    const auto covered =
+        std::max_element(all.begin(), all.end(), [&](const auto& a, const auto& b) {
+            return overlap(frame, a.frame) < overlap(frame, b.frame);
+        });
+    if (covered != all.end() && overlap(frame, covered->frame) > 0) return *covered;
+    if (screenManager) return screenManager->preferredScreen();
+    return ports.screens.mainScreen();
+}
+
+double PrompterWindow::menuBarHeight() const {
+    return tessaline::menuBarHeight(currentScreen());
+}
+
+void PrompterWindow::toggleCollapsed() {
+    const Rect frame = fromQtCoordinates(geometry(), primaryGeometry());
+    if (!collapsed) expandedHeight = frame.height;
+    collapsed = !collapsed;
+    const Rect target =
+        collapsed ? collapsedFrame(frame, menuBarHeight()) : expandedFrame(frame, expandedHeight);
+    arrangeContent();
+    animateTo(target);
+    updateShape(*this, collapsed);
+    updateMinimizeButtonAppearance();
+}
+
+void PrompterWindow::animateTo(const Rect& frame) {
+    const QRect target = toQtCoordinates(frame, primaryGeometry());
+    const double distance = std::abs(target.height() - height());
+    resizing.stop();
+    resizing.setStartValue(geometry());
+    resizing.setEndValue(target);
+    resizing.setDuration(int(distance / resizePoints * resizeMilliseconds));
+    resizing.start();
+}
+
+void PrompterWindow::arrangeContent() {
+    const double stripHeight = menuBarHeight();
+    strip->setGeometry(0, 0, width(), std::max(textTop, int(std::ceil(stripHeight))));
+    strip->setStripHeight(stripHeight);
+    const int textHeight = collapsed ? 0 : std::max(height() - textTop - textMargin, 0);
+    view->setGeometry(textMargin, textTop, std::max(width() - 2 * textMargin, 0), textHeight);
+}
+
+void PrompterWindow::resizeEvent(QResizeEvent*) {
+    arrangeContent();
+    updateShape(*this, collapsed);
+}
+
+void PrompterWindow::showEvent(QShowEvent* event) {
+    ports.windowTraits.floatAboveEverything(winId());
+    ports.windowTraits.excludeFromCapture(winId());
+    QWidget::showEvent(event);
+}
+
+void PrompterWindow::paintEvent(QPaintEvent*) {
+    paintShape(*this, collapsed);
+}
+
+void PrompterWindow::updateText(const QString& content) {
+    ports.mainQueue.post([weak = std::weak_ptr<PrompterWindow*>(self), content] {
+        const auto window = weak.lock();
+        if (!window) return;
+        (*window)->lastRawContent = content;
+        (*window)->renderContent();
+    });
+}
+
+void PrompterWindow::rerender() {
+    if (!lastRawContent.isEmpty()) renderContent();
+}
+
+void PrompterWindow::renderContent() {
+    if (lastRawContent == placeholderContent)
+        renderPlaceholder();
+    else
+        renderMarkdown(lastRawContent);
+}
+
+void PrompterWindow::renderMarkdown(const QString& content) {
+    renderer.render(content, settings.fontSize,
+                    [this](RenderedContent rendered) { showContent(std::move(rendered)); });
+}
+
+void PrompterWindow::renderPlaceholder() {
+    renderer.cancel();
+    showContent(
+        {Script(placeholderText(view->height())), MarkdownRenderer::wordCount(placeholderContent)});
+}
+
+void PrompterWindow::showContent(RenderedContent content) {
+    wordCount = content.wordCount;
+    view->setScript(std::move(content.script));
+    updateStats();
+}
+
+void PrompterWindow::updateStats() {
+    const double seconds =
+        ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
+    strip->showStatistics(ReadingStatistics::labelText(wordCount, seconds),
+                          ReadingStatistics::labelColor(settings.scrollRate));
+}
+
+void PrompterWindow::performScroll(double deltaY) {
+    view->scrollTo(view->scrollPosition() - deltaY);
+}
+
+void PrompterWindow::toggleAutoScroll() {
+    settings.autoScrollEnabled = !settings.autoScrollEnabled;
+    if (!settings.autoScrollEnabled) {
+        autoScroll->stop();
+    } else {
+        if (settings.scrollSpeed <= 0) {
+            if (settings.lastNonZeroScrollSpeed <= 0)
+                settings.lastNonZeroScrollSpeed = AppSettings::defaultResumeSpeed;
+            settings.scrollSpeed = settings.lastNonZeroScrollSpeed;
+        }
+        updateScrollParameters();
+        autoScroll->start();
+    }
+    settings.save();
+}
+
+void PrompterWindow::updateScrollParameters() {
+    autoScroll->updateSpeed();
+    updateStats();
+}
+
+void PrompterWindow::updateSourceModeIndicator(SourceMode mode) {
+    strip->showSourceMode(mode);
+}
+
+void PrompterWindow::updateSourceIndicator(SourceType source) {
+    strip->showSource(source);
+}
+
+void PrompterWindow::updateMinimizeButtonAppearance() {
+    strip->showCollapsed(collapsed);
+}
+
+void PrompterWindow::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) return QWidget::wheelEvent(event);
+    const double points = event->hasPixelDelta()
+                              ? event->pixelDelta().y()
+                              : event->angleDelta().y() / unitsPerWheelStep * pointsPerWheelLine;
+    performScroll(points);
+}
+
+} // namespace tessaline

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "platform/Screen.h"
+#include "prompter/AutoScroll.h"
+#include "prompter/ContentRenderer.h"
+#include "prompter/PrompterPorts.h"
+#include "settings/SourceMode.h"
+#include "settings/SourceType.h"
+
+#include <QVariantAnimation>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace tessaline {
+
+class AppSettings;
+class ControlStrip;
+class ScreenManager;
+class ScriptView;
+
+/// The teleprompter: a borderless black window that hangs from the top edge of a screen, with a
+/// strip of controls above the text. Main thread only, unless a function says otherwise.
+class PrompterWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Builds the window, places it on the main screen and starts auto-scroll if the settings say
+    /// so; shows nothing yet. Both arguments are borrowed.
+    PrompterWindow(AppSettings& settings, const PrompterPorts& ports);
+    ~PrompterWindow() override;
+
+    /// Places the window on the manager's preferred screen from the next `updateFrame` on.
+    /// Borrowed.
+    void setScreenManager(const ScreenManager* manager) { screenManager = manager; }
+
+    /// Places and sizes the window as the settings say.
+    void updateFrame();
+
+    /// The height of the strip that a menu bar takes on the window's screen, in points.
+    double menuBarHeight() const;
+
+    /// Reduces the window to its strip of controls, or brings it back.
+    void toggleCollapsed();
+    bool isCollapsed() const { return collapsed; }
+
+    /// Shows another text. Any thread; takes effect on the main thread later.
+    void updateText(const QString& content);
+
+    /// Shows the last text again, with the settings as they are now.
+    void rerender();
+
+    /// Tells the words and the reading time of the text.
+    void updateStats();
+
+    /// Moves the text by so many points; negative is forward.
+    void performScroll(double deltaY);
+
+    /// Switches auto-scroll on or off and saves the settings.
+    void toggleAutoScroll();
+
+    /// Takes speed and rate over from the settings.
+    void updateScrollParameters();
+
+    void updateSourceModeIndicator(SourceMode mode);
+    void updateSourceIndicator(SourceType source);
+
+    /// Shows on the minimise button what it does next.
+    void updateMinimizeButtonAppearance();
+
+    /// The controls, for connecting their actions.
+    ControlStrip& controls() const { return *strip; }
+
+    /// The view that shows the text.
+    ScriptView& textView() const { return *view; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void setupUI();
+    void renderContent();
+    void renderMarkdown(const QString& content);
+    void renderPlaceholder();
+    void showContent(RenderedContent content);
+    std::optional<Screen> currentScreen() const;
+    void setFrame(const Rect& frame);
+    void animateTo(const Rect& frame);
+    void arrangeContent();
+
+    AppSettings& settings;
+    PrompterPorts ports;
+    const ScreenManager* screenManager = nullptr;
+    ControlStrip* strip = nullptr;
+    ScriptView* view = nullptr;
+    bool collapsed = false;
+    double expandedHeight = 0.0;
+    QString lastRawContent;
+    qsizetype wordCount = 0;
+    ContentRenderer renderer;
+    std::optional<AutoScroll> autoScroll;
+    QVariantAnimation resizing;
+    std::shared_ptr<PrompterWindow*> self; ///< what posted tasks hold weakly
+};
+
+} // namespace tessaline

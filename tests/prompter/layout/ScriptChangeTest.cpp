@@ -1,0 +1,59 @@
+#include "prompter/layout/ScriptChange.h"
+
+#include "render/MarkdownRenderer.h"
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Script scriptOf(const QString& markdown) { return Script(MarkdownRenderer(16).render(markdown)); }
+
+struct Case {
+    QString before;
+    QString after;
+    std::size_t first;
+    std::size_t oldCount;
+    std::size_t newCount;
+};
+
+class ScriptChangeOf : public testing::TestWithParam<Case> {};
+
+TEST_P(ScriptChangeOf, CoversJustTheLinesThatDiffer) {
+    const auto& [before, after, first, oldCount, newCount] = GetParam();
+    const ScriptChange change = ScriptChange::between(scriptOf(before), scriptOf(after));
+    EXPECT_EQ(change.first, first);
+    EXPECT_EQ(change.oldCount, oldCount);
+    EXPECT_EQ(change.newCount, newCount);
+}
+
+INSTANTIATE_TEST_SUITE_P(Edits, ScriptChangeOf,
+                         testing::Values(Case{u"a\nb\nc"_s, u"a\nb\nc"_s, 3, 0, 0},
+                                         Case{u"a\nb\nc"_s, u"a\nX\nc"_s, 1, 1, 1},
+                                         Case{u"a\nb\nc"_s, u"a\nc"_s, 1, 1, 0},
+                                         Case{u"a\nc"_s, u"a\nb\nc"_s, 1, 0, 1},
+                                         Case{u"a"_s, u"b"_s, 0, 1, 1},
+                                         Case{u"a\na"_s, u"a\na\na"_s, 2, 0, 1},
+                                         Case{u"a\nb"_s, u"a\n**b**"_s, 1, 1, 1},
+                                         Case{u"a\nb\nc\nd"_s, u"a\nX\nc\nY\nd"_s, 1, 2, 3}));
+
+TEST(ScriptChange, MovesOffsetsWithTheTextAroundTheChange) {
+    const Script before = scriptOf(u"first\nsecond\nthird"_s);
+    const Script after = scriptOf(u"first\nsecond, longer\nthird"_s);
+    const ScriptChange change = ScriptChange::between(before, after);
+    const auto moved = [&](qsizetype offset) {
+        return ScriptChange::movedOffset(offset, before, after, change);
+    };
+    EXPECT_EQ(moved(0), 0);
+    EXPECT_EQ(moved(5), 5);
+    EXPECT_EQ(moved(6), 6);
+    EXPECT_EQ(moved(before.styled.text.size()), after.styled.text.size());
+    EXPECT_EQ(moved(before.styled.text.indexOf(u"third"_s)), after.styled.text.indexOf(u"third"_s));
+    EXPECT_EQ(moved(before.styled.text.indexOf(u"ond"_s)), 6);
+}
+
+} // namespace
+} // namespace tessaline

@@ -1,0 +1,191 @@
+#include "prompter/layout/ScriptLayout.h"
+
+#include "render/MarkdownRenderer.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr auto everything = std::numeric_limits<qsizetype>::max();
+
+Script scriptOf(const QString& markdown) { return Script(MarkdownRenderer(16).render(markdown)); }
+
+ScriptLayout layoutOf(const QString& markdown) {
+    ScriptLayout layout;
+    Script script = scriptOf(markdown);
+    layout.exchangeScript(script);
+    layout.measureMore(everything, 0);
+    return layout;
+}
+
+double lineHeight() { return layoutOf(u"x"_s).height(); }
+
+/// The leftmost and rightmost columns with anything drawn, for a script in a column of 400 points.
+std::pair<int, int> inkOf(const QString& markdown) {
+    ScriptLayout layout = layoutOf(markdown);
+    QImage image(400, int(layout.height()), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    layout.draw(painter, 0, layout.height(), {});
+    painter.end();
+    std::pair<int, int> ink{image.width(), -1};
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (qGray(image.pixel(x, y)) > 40) {
+                ink.first = std::min(ink.first, x);
+                ink.second = std::max(ink.second, x);
+            }
+        }
+    }
+    return ink;
+}
+
+TEST(ScriptLayout, IsMeasuredOnceEveryParagraphIs) {
+    ScriptLayout layout;
+    Script script = scriptOf(u"a\nb\nc"_s);
+    layout.exchangeScript(script);
+    EXPECT_FALSE(layout.isMeasured());
+    layout.measureMore(1, 0);
+    EXPECT_FALSE(layout.isMeasured());
+    layout.measureMore(everything, 0);
+    EXPECT_TRUE(layout.isMeasured());
+}
+
+TEST(ScriptLayout, AddsTheSpacingOfNeighboursUp) {
+    // Each header brings 12 before and 6 after, on top of its line.
+    const double one = layoutOf(u"# A"_s).height();
+    EXPECT_DOUBLE_EQ(layoutOf(u"# A\n# A"_s).height(), 2 * one);
+    EXPECT_GT(one, 18 + lineHeight());
+}
+
+TEST(ScriptLayout, GivesBlankLinesTheHeightOfTheDefaultFont) {
+    const double blank = layoutOf(u"x\n\nx"_s).height() - 2 * lineHeight();
+    EXPECT_GT(blank, 10);
+    EXPECT_LT(blank, lineHeight());
+    ScriptLayout estimated;
+    EXPECT_DOUBLE_EQ(estimated.height(), blank);
+}
+
+TEST(ScriptLayout, LaysEveryLineOfACodeBlockOutAsAParagraph) {
+    const double one = layoutOf(u"```\nx\n```"_s).height();
+    const double two = layoutOf(u"```\nx\nx\n```"_s).height();
+    const double blank = layoutOf(u""_s).height();
+    EXPECT_DOUBLE_EQ(two - one, one - blank);
+}
+
+TEST(ScriptLayout, IndentsListItemsAndTheirFurtherLines) {
+    const QString words = u"word "_s.repeated(60);
+    const auto [plainLeft, plainRight] = inkOf(words);
+    const auto [left, right] = inkOf(u"    - "_s + words);
+    EXPECT_NEAR(left - plainLeft, 16, 4);
+    EXPECT_LE(right, 400);
+    EXPECT_LE(plainRight, 400);
+}
+
+TEST(ScriptLayout, KeepsTextInSightHoweverDeepItIsIndented) {
+    const auto [left, right] = inkOf(u" "_s.repeated(500) + u"- far"_s);
+    EXPECT_LT(left, 320);
+    EXPECT_LT(right, 400);
+}
+
+TEST(ScriptLayout, SetsRightToLeftTextFromTheRight) {
+    const auto [left, right] = inkOf(u"שלום"_s);
+    EXPECT_GT(left, 200);
+    EXPECT_GT(right, 380);
+}
+
+TEST(ScriptLayout, BreaksVeryLongWords) {
+    const auto [left, right] = inkOf(u"m"_s.repeated(500));
+    EXPECT_LT(left, 10);
+    EXPECT_LE(right, 400);
+    EXPECT_GT(layoutOf(u"m"_s.repeated(500)).height(), 5 * lineHeight());
+}
+
+TEST(ScriptLayout, CentresRules) {
+    const auto [left, right] = inkOf(u"---"_s);
+    EXPECT_NEAR(left, 400 - right, 4);
+}
+
+TEST(ScriptLayout, KeepsWhatDidNotChangeMeasured) {
+    ScriptLayout layout = layoutOf(u"one\ntwo\nthree\nfour"_s);
+    Script changed = scriptOf(u"one\ntwo, but longer\nthree\nfour"_s);
+    layout.exchangeScript(changed);
+    EXPECT_FALSE(layout.isMeasured());
+    layout.measureMore(u"two, but longer"_s.size(), 0);
+    EXPECT_TRUE(layout.isMeasured());
+    EXPECT_DOUBLE_EQ(layout.height(), layoutOf(u"one\ntwo, but longer\nthree\nfour"_s).height());
+}
+
+TEST(ScriptLayout, TellsHowFarMeasuringMovedTheReadersPlace) {
+    ScriptLayout layout;
+    Script script = scriptOf(u"word "_s.repeated(200) + u"\nlast"_s);
+    layout.exchangeScript(script);
+    const double before = layout.topOf(1);
+    const double moved = layout.measureMore(everything, before + 1);
+    EXPECT_DOUBLE_EQ(layout.topOf(1) - before, moved);
+    EXPECT_NE(moved, 0);
+}
+
+TEST(ScriptLayout, EstimatesHeightsWithinAReasonableFactor) {
+    const QString text = (u"A sentence of quite ordinary words, as people speak them. "_s.repeated(8) +
+                          u"\n\n"_s).repeated(50);
+    ScriptLayout layout;
+    Script script = scriptOf(text);
+    layout.exchangeScript(script);
+    const double estimated = layout.height();
+    layout.measureMore(everything, 0);
+    EXPECT_GT(estimated, layout.height() * 0.5);
+    EXPECT_LT(estimated, layout.height() * 2);
+}
+
+TEST(ScriptLayout, FindsTheOffsetWhereItDrawsTheCaret) {
+    ScriptLayout layout = layoutOf(u"# Title\n\nSome words in a line. "_s + u"And more. "_s.repeated(30));
+    const qsizetype length = layout.script().styled.text.size();
+    for (qsizetype offset = 0; offset < length; offset += 7) {
+        const QRectF caret = layout.caretRect(offset);
+        EXPECT_NEAR(double(layout.offsetAt(caret.center())), double(offset), 1) << offset;
+    }
+}
+
+TEST(ScriptLayout, AnswersForPlacesOutsideOfTheText) {
+    ScriptLayout layout = layoutOf(u"one\ntwo"_s);
+    EXPECT_EQ(layout.offsetAt({-100, -100}), 0);
+    EXPECT_EQ(layout.offsetAt({10000, 10000}), 7);
+    EXPECT_FALSE(layout.caretRect(7).isNull());
+    EXPECT_EQ(layout.paragraphOf(3), 0u);
+    EXPECT_EQ(layout.paragraphOf(4), 1u);
+}
+
+TEST(ScriptLayout, HighlightsTheSelection) {
+    ScriptLayout layout = layoutOf(u"word word"_s);
+    QImage plain(100, 30, QImage::Format_RGB32);
+    plain.fill(Qt::black);
+    QImage selected = plain;
+    QPainter plainPainter(&plain);
+    layout.draw(plainPainter, 0, 30, {});
+    QPainter selectedPainter(&selected);
+    layout.draw(selectedPainter, 0, 30, {0, 4});
+    EXPECT_NE(plain, selected);
+    EXPECT_GT(qBlue(selected.pixel(1, 2)), 80);
+}
+
+TEST(ScriptLayout, ForgetsMeasuresWhenTheColumnChanges) {
+    ScriptLayout layout = layoutOf(u"word "_s.repeated(100));
+    const double wide = layout.height();
+    layout.setTextWidth(100);
+    EXPECT_FALSE(layout.isMeasured());
+    layout.measureMore(everything, 0);
+    EXPECT_GT(layout.height(), 2 * wide);
+}
+
+} // namespace
+} // namespace tessaline
