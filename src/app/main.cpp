@@ -1,0 +1,52 @@
+#include "app/PrompterApplication.h"
+#include "app/cli/CommandLine.h"
+#include "app/cli/Console.h"
+#include "app/cli/ExitStatus.h"
+#include "app/cli/RenderCommand.h"
+#include "app/cli/TextInput.h"
+
+#include <QStringList>
+
+namespace tessaline {
+
+namespace {
+
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+/// Carries a request out; one overload for each kind.
+struct Dispatch {
+    int argc;
+    char** argv;
+
+    int operator()(const CommandLine::Print& request) const { return printText(request.text); }
+
+    int operator()(const CommandLine::Mistake& request) const {
+        reportError(request.message);
+        return ExitStatus::usage;
+    }
+
+    int operator()(const RenderRequest& request) const { return runRender(request); }
+
+    int operator()(const CommandLine::Show& request) const {
+        if (!request.input) return runPrompter(argc, argv, std::nullopt);
+        QString error;
+        const std::optional<QString> text = readTextInput(*request.input, &error);
+        if (text) return runPrompter(argc, argv, text);
+        reportError(error);
+        return ExitStatus::usage;
+    }
+};
+
+} // namespace
+
+} // namespace tessaline
+
+int main(int argc, char** argv) {
+    using namespace tessaline;
+    return std::visit(Dispatch{argc, argv}, CommandLine::parse(argumentsOf(argc, argv)));
+}
