@@ -33,8 +33,8 @@ qsizetype ScriptChange::movedOffset(qsizetype offset, const Script& before, cons
     const qsizetype changeBegin = startOf(before, change.first);
     const qsizetype oldEnd = startOf(before, change.first + change.oldCount);
     const qsizetype newEnd = startOf(after, change.first + change.newCount);
+    if (offset <= changeBegin) return std::min(offset, after.styled.text.size());
     if (offset >= oldEnd) return std::min(offset + newEnd - oldEnd, after.styled.text.size());
-    if (offset < changeBegin) return offset;
     return offset - changeBegin <= oldEnd - offset ? std::min(changeBegin, newEnd) : newEnd;
 }
 

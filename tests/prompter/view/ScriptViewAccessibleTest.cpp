@@ -1,0 +1,78 @@
+#include "ScriptViewFixture.h"
+
+#include <QAccessible>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class ScriptViewAccessibleTest : public ScriptViewFixture {
+protected:
+    QAccessibleInterface& interface() { return *QAccessible::queryAccessibleInterface(&view); }
+    QAccessibleTextInterface& text() { return *interface().textInterface(); }
+};
+
+TEST_F(ScriptViewAccessibleTest, IsAReadOnlyTextOfManyLines) {
+    EXPECT_EQ(interface().role(), QAccessible::EditableText);
+    EXPECT_TRUE(interface().state().readOnly);
+    EXPECT_TRUE(interface().state().multiLine);
+    EXPECT_TRUE(interface().state().selectableText);
+}
+
+TEST_F(ScriptViewAccessibleTest, SpeaksTheRenderedText) {
+    show(u"# Title\n**bold**"_s);
+    EXPECT_EQ(text().characterCount(), 10);
+    EXPECT_EQ(text().text(0, 10), u"Title\nbold"_s);
+    EXPECT_EQ(text().text(6, -1), u"bold"_s);
+    EXPECT_EQ(text().text(-3, 500), u"Title\nbold"_s);
+}
+
+TEST_F(ScriptViewAccessibleTest, TellsAndSetsTheSelection) {
+    show(u"alpha beta"_s);
+    EXPECT_EQ(text().selectionCount(), 0);
+    text().setSelection(0, 6, 10);
+    EXPECT_EQ(view.selectedText(), u"beta"_s);
+    int begin = 0;
+    int end = 0;
+    text().selection(0, &begin, &end);
+    EXPECT_EQ(begin, 6);
+    EXPECT_EQ(end, 10);
+    EXPECT_EQ(text().cursorPosition(), 10);
+    text().removeSelection(0);
+    EXPECT_EQ(text().selectionCount(), 0);
+}
+
+TEST_F(ScriptViewAccessibleTest, BringsTheCaretIntoSight) {
+    show(lines(100));
+    text().setCursorPosition(text().characterCount());
+    EXPECT_GT(view.scrollPosition(), 1000);
+    text().scrollToSubstring(0, 4);
+    EXPECT_EQ(view.scrollPosition(), 0);
+}
+
+TEST_F(ScriptViewAccessibleTest, FindsCharactersOnScreen) {
+    show(u"alpha beta"_s);
+    const QRect first = text().characterRect(0);
+    EXPECT_GT(first.height(), 10);
+    EXPECT_EQ(text().offsetAtPoint(first.center() - QPoint(first.width() / 2, 0)), 0);
+    EXPECT_GT(text().characterRect(6).left(), first.right());
+    EXPECT_TRUE(text().characterRect(-1).isNull());
+    EXPECT_TRUE(text().characterRect(99).isNull());
+}
+
+TEST_F(ScriptViewAccessibleTest, DescribesTheLookOfTheText) {
+    show(u"plain **bold** *slanted* ~~gone~~"_s);
+    int begin = 0;
+    int end = 0;
+    EXPECT_TRUE(text().attributes(7, &begin, &end).contains(u"font-weight:bold"_s));
+    EXPECT_EQ(begin, 6);
+    EXPECT_EQ(end, 10);
+    EXPECT_TRUE(text().attributes(12, &begin, &end).contains(u"font-style:italic"_s));
+    EXPECT_TRUE(text().attributes(20, &begin, &end).contains(u"text-line-through"_s));
+    EXPECT_TRUE(text().attributes(0, &begin, &end).contains(u"font-size:16pt"_s));
+}
+
+} // namespace
+} // namespace tessaline

@@ -1,0 +1,186 @@
+#include "prompter/view/ScriptView.h"
+#include "prompter/controls/ThemedScroller.h"
+#include "support/PaintCounter.h"
+
+#include "ScriptViewFixture.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class ScriptViewTest : public ScriptViewFixture {
+protected:
+    /// The height, in pixels, of the centre of all light that the view draws.
+    double centreOfLight() {
+        const QImage picture = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        double light = 0;
+        double moment = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const double value = qGray(picture.pixel(x, y));
+                light += value;
+                moment += value * y;
+            }
+        }
+        return moment / light;
+    }
+};
+
+TEST_F(ScriptViewTest, StartsAtTheTop) {
+    show(lines(100));
+    EXPECT_EQ(view.scrollPosition(), 0);
+    EXPECT_GT(view.maximumScrollPosition(), 1000);
+}
+
+TEST_F(ScriptViewTest, StaysWithinTheDocument) {
+    show(lines(100));
+    view.scrollTo(-50);
+    EXPECT_EQ(view.scrollPosition(), 0);
+    view.scrollTo(1e9);
+    EXPECT_EQ(view.scrollPosition(), view.maximumScrollPosition());
+    EXPECT_DOUBLE_EQ(view.maximumScrollPosition(), view.documentHeight() - view.height());
+}
+
+TEST_F(ScriptViewTest, CannotScrollWhatFits) {
+    show(u"short"_s);
+    EXPECT_EQ(view.maximumScrollPosition(), 0);
+    view.scrollTo(10);
+    EXPECT_EQ(view.scrollPosition(), 0);
+}
+
+TEST_F(ScriptViewTest, MovesWhatItDrawsByFractionsOfAPixel) {
+    show(u"\n\n\nOne line of text\n"_s + u"\n"_s.repeated(40));
+    double before = centreOfLight();
+    for (int frame = 1; frame <= 30; ++frame) {
+        view.scrollTo(frame * 0.16);
+        const double now = centreOfLight();
+        EXPECT_NEAR(before - now, 0.16, 0.03) << "frame " << frame;
+        before = now;
+    }
+}
+
+TEST_F(ScriptViewTest, PaintsNothingWhileNothingMoves) {
+    show(lines(100));
+    PaintCounter paints(view);
+    paints.take();
+    view.scrollTo(5.25);
+    EXPECT_EQ(paints.take(), 1);
+    view.scrollTo(5.25);
+    EXPECT_EQ(paints.take(), 0);
+    view.scrollTo(5.5);
+    view.scrollTo(5.75);
+    EXPECT_EQ(paints.take(), 1);
+}
+
+TEST_F(ScriptViewTest, KeepsThePositionWhenTheEndChanges) {
+    show(lines(100));
+    view.scrollTo(333.25);
+    show(lines(100) + u"one more"_s);
+    EXPECT_DOUBLE_EQ(view.scrollPosition(), 333.25);
+}
+
+TEST_F(ScriptViewTest, KeepsTheReadersLineWhenSomethingIsInsertedAbove) {
+    show(lines(100));
+    view.scrollTo(500);
+    const QString before = topLine();
+    QString edited = lines(100);
+    edited.insert(edited.indexOf(u"line 3\n"_s), u"# A new header\n\nand more\n"_s);
+    show(edited);
+    EXPECT_EQ(topLine(), before);
+    EXPECT_GT(view.scrollPosition(), 520);
+}
+
+TEST_F(ScriptViewTest, StaysAtTheTopWhenSomethingIsInsertedThere) {
+    show(lines(100));
+    show(u"# First of all\n"_s + lines(100));
+    EXPECT_EQ(view.scrollPosition(), 0);
+}
+
+TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheFontGrows) {
+    show(lines(100));
+    view.scrollTo(700);
+    const QString before = topLine();
+    view.setScript(Script(MarkdownRenderer(28).render(lines(100))));
+    view.completeLayout();
+    EXPECT_EQ(topLine(), before);
+}
+
+TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheWidthChanges) {
+    show((u"words "_s.repeated(40) + u"\n"_s).repeated(50) + lines(50));
+    view.scrollTo(view.maximumScrollPosition() * 0.5);
+    const qsizetype before = view.offsetAt({20, 1});
+    view.resize(300, 202);
+    view.completeLayout();
+    EXPECT_NEAR(double(view.offsetAt({20, 1})), double(before), 60);
+}
+
+TEST_F(ScriptViewTest, ClampsThePositionToAShorterText) {
+    show(lines(100));
+    view.scrollTo(1e9);
+    show(u"something\nelse entirely"_s);
+    EXPECT_EQ(view.scrollPosition(), 0);
+}
+
+TEST_F(ScriptViewTest, LaysLongTextsOutWhileTheProgramGoesOn) {
+    view.setScript(Script(MarkdownRenderer(16).render(lines(20000))));
+    EXPECT_FALSE(view.isLayoutComplete());
+    bool completed = false;
+    QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { completed = true; });
+    for (int turn = 0; turn < 100000 && !completed; ++turn)
+        QCoreApplication::processEvents();
+    EXPECT_TRUE(completed);
+    EXPECT_TRUE(view.isLayoutComplete());
+}
+
+TEST_F(ScriptViewTest, DoesNotMoveTheReaderWhileALongTextIsLaidOut) {
+    const QString text = (u"words "_s.repeated(70) + u"\n"_s).repeated(2000);
+    view.setScript(Script(MarkdownRenderer(16).render(text)));
+    view.scrollTo(view.maximumScrollPosition() / 2);
+    view.grab();
+    const qsizetype before = view.offsetAt({20, 100});
+    while (!view.isLayoutComplete())
+        QCoreApplication::processEvents();
+    EXPECT_NEAR(double(view.offsetAt({20, 100})), double(before), 60);
+}
+
+TEST_F(ScriptViewTest, ShowsTheScrollerOnlyForTheReadersHand) {
+    show(lines(100));
+    auto* scroller = view.findChild<ThemedScroller*>();
+    ASSERT_TRUE(scroller);
+    view.scrollTo(100);
+    EXPECT_EQ(scroller->opacity(), 0);
+    view.scrollByHand(200);
+    EXPECT_GT(scroller->opacity(), 0);
+    EXPECT_NEAR(double(scroller->value()) / scroller->maximum(),
+                view.scrollPosition() / view.maximumScrollPosition(), 0.01);
+}
+
+TEST_F(ScriptViewTest, FollowsTheScroller) {
+    show(lines(100));
+    auto* scroller = view.findChild<ThemedScroller*>();
+    scroller->setValue(scroller->maximum());
+    EXPECT_NEAR(view.scrollPosition(), view.maximumScrollPosition(), 0.2);
+}
+
+TEST_F(ScriptViewTest, StandsAnythingAsText) {
+    for (const QString& text :
+         {QString(), QString(QChar(0xD800)), QString(QChar(0)), u"\r\r\r"_s, u"\u2028\u2029\v\f"_s,
+          QString(QChar(0x202E)) + u"override"_s.repeated(100), u"e"_s + u"\u0301"_s.repeated(500), u"\t"_s.repeated(1000),
+          u"m"_s.repeated(20000), u"مرحبا عالم"_s, u"日本語の文章"_s.repeated(50),
+          u"👨‍👩‍👧‍👦"_s.repeated(200)}) {
+        show(text);
+        view.grab();
+        view.scrollTo(1e9);
+        view.grab();
+        EXPECT_GE(view.documentHeight(), 20);
+    }
+}
+
+} // namespace
+} // namespace tessaline
