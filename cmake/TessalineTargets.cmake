@@ -29,20 +29,26 @@ function(tessaline_library name)
     PRIVATE ${ARG_PRIVATE})
 endfunction()
 
-# tessaline_test(NAME SOURCES ... LIBRARIES ...)
-# declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. Tests run
-# without a display, in a home folder of their own, and never report usage.
+add_custom_target(threaded_tests)
+
+# tessaline_test(NAME SOURCES ... LIBRARIES ... [LABELS ...])
+# declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. The target
+# threaded_tests builds all those with the label "threads".
 function(tessaline_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
-  set(home "${CMAKE_BINARY_DIR}/test-home/${name}")
-  file(MAKE_DIRECTORY "${home}")
   add_executable(test_${name} ${ARG_SOURCES})
   target_include_directories(test_${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
   target_link_libraries(test_${name} PRIVATE tessaline_options GTest::gmock ${ARG_LIBRARIES})
+  set(properties TIMEOUT 120)
+  if(ARG_LABELS)
+    list(APPEND properties LABELS "${ARG_LABELS}")
+  endif()
   gtest_discover_tests(
     test_${name}
     TEST_PREFIX "${name}."
     DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT 120 LABELS "${ARG_LABELS}" ENVIRONMENT
-               "DO_NOT_TRACK=1;QT_QPA_PLATFORM=offscreen;HOME=${home};LC_ALL=C.UTF-8")
+    PROPERTIES ${properties})
+  if("threads" IN_LIST ARG_LABELS)
+    add_dependencies(threaded_tests test_${name})
+  endif()
 endfunction()

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QFont>
+
+namespace tessaline {
+
+/// The desktop's interface font. Sizes here are in points of one logical pixel each, whatever the
+/// screen's dots per inch. The font keeps the fraction of its size; drawing does not everywhere: on
+/// Linux Qt rasterises and measures at the nearest whole pixel, so text that must follow a fraction
+/// is laid out at a multiple of its size under a scaled painter. Main thread, after the
+/// QGuiApplication is made.
+QFont systemFont(double points, QFont::Weight weight = QFont::Normal);
+
+/// The desktop's fixed-width font, sized in the same way. Main thread.
+QFont monospacedFont(double points, QFont::Weight weight = QFont::Normal);
+
+/// The same font at another size in points of one logical pixel each; points must be positive.
+QFont withPoints(QFont font, double points);
+
+/// The font's size in points of one logical pixel each, fraction included.
+double pointsOf(const QFont& font);
+
+} // namespace tessaline

@@ -1,0 +1,347 @@
+#include "prompter/PrompterWindow.h"
+
+#include "prompter/ControlStrip.h"
+#include "prompter/ElidingLabel.h"
+#include "prompter/controls/PressableButton.h"
+#include "prompter/controls/SystemPalette.h"
+#include "prompter/controls/TrafficLightCloseButton.h"
+#include "prompter/view/ScriptView.h"
+#include "settings/AppSettings.h"
+#include "support/FakeDisplayLinkMaker.h"
+#include "support/FakeMainQueue.h"
+#include "support/FakeScreens.h"
+#include "support/FakeTaskRunner.h"
+#include "support/FakeTimerMaker.h"
+#include "support/FakeWindowTraits.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A prompter on one screen, the offscreen platform's, with a panel of 32 points at its top.
+class PrompterWindowTest : public testing::Test {
+protected:
+    PrompterWindowTest() {
+        const QSize size = QApplication::primaryScreen()->size();
+        Screen screen{.id = 1, .name = u"screen"_s};
+        screen.frame = {0, 0, double(size.width()), double(size.height())};
+        screen.visibleFrame = screen.frame;
+        screen.visibleFrame.height -= 32;
+        screen.refreshRate = 144;
+        screens.attached = {screen};
+        screens.main = screen;
+    }
+
+    PrompterWindow& window() {
+        if (!prompter) {
+            prompter = std::make_unique<PrompterWindow>(
+                settings, PrompterPorts{queue, tasks, timers, links, screens, traits});
+            prompter->show();
+        }
+        return *prompter;
+    }
+
+    void show(const QString& markdown) {
+        window().updateText(markdown);
+        queue.runAll();
+        window().textView().completeLayout();
+    }
+
+    QString statistics() { return window().controls().statsLabel->text(); }
+
+    /// Lets the resize animation run to its end.
+    void finishResizing(int height) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window().height() == height; }, 3000))
+            << window().height();
+    }
+
+    QTemporaryDir folder;
+    AppSettings settings{folder.filePath(u"config.json"_s)};
+    FakeMainQueue queue;
+    FakeTaskRunner tasks;
+    FakeTimerMaker timers;
+    FakeDisplayLinkMaker links;
+    FakeScreens screens;
+    FakeWindowTraits traits;
+    std::unique_ptr<PrompterWindow> prompter;
+};
+
+TEST_F(PrompterWindowTest, HangsFromTheTopCentreOfTheScreen) {
+    const int screenWidth = QApplication::primaryScreen()->size().width();
+    EXPECT_EQ(window().geometry(), QRect((screenWidth - 450) / 2, 0, 450, 256));
+}
+
+TEST_F(PrompterWindowTest, FollowsTheSettings) {
+    window();
+    settings.width = 600;
+    settings.height = 300;
+    settings.xOffset = 10;
+    window().updateFrame();
+    const int screenWidth = QApplication::primaryScreen()->size().width();
+    EXPECT_EQ(window().geometry(), QRect((screenWidth - 600) / 2 + 10, 0, 600, 300));
+}
+
+TEST_F(PrompterWindowTest, StaysWhereItIsWithoutAScreen) {
+    const QRect before = window().geometry();
+    screens.attached.clear();
+    screens.main.reset();
+    settings.width = 700;
+    window().updateFrame();
+    EXPECT_EQ(window().geometry(), before);
+    EXPECT_EQ(window().menuBarHeight(), 24);
+}
+
+TEST_F(PrompterWindowTest, TellsTheDisplayLinkTheRateOfItsScreen) {
+    window();
+    EXPECT_EQ(links.refreshRate, 144);
+}
+
+TEST_F(PrompterWindowTest, AsksForItsTraitsWhenItIsShown) {
+    const auto id = window().winId();
+    EXPECT_EQ(traits.floating.back(), id);
+    EXPECT_EQ(traits.excluded.back(), id);
+    EXPECT_TRUE(window().windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_TRUE(window().windowFlags().testFlag(Qt::BypassWindowManagerHint));
+}
+
+TEST_F(PrompterWindowTest, KeepsTheTextBelowTheStripOfControls) {
+    window();
+    EXPECT_EQ(window().textView().geometry(), QRect(10, 44, 430, 202));
+    EXPECT_EQ(window().menuBarHeight(), 32);
+    const auto* quit = window().controls().quitButton;
+    EXPECT_EQ(quit->geometry(), QRect(10, 10, 12, 12));
+}
+
+TEST_F(PrompterWindowTest, CollapsesIntoTheStripAndComesBack) {
+    window().toggleCollapsed();
+    EXPECT_TRUE(window().isCollapsed());
+    finishResizing(32);
+    EXPECT_EQ(window().geometry().top(), 0);
+    EXPECT_EQ(window().textView().height(), 0);
+    window().toggleCollapsed();
+    EXPECT_FALSE(window().isCollapsed());
+    finishResizing(256);
+    EXPECT_EQ(window().geometry().top(), 0);
+    EXPECT_EQ(window().textView().height(), 202);
+}
+
+TEST_F(PrompterWindowTest, ExpandsToAHundredPointsAtLeast) {
+    settings.height = 60;
+    window().toggleCollapsed();
+    finishResizing(32);
+    window().toggleCollapsed();
+    finishResizing(100);
+}
+
+TEST_F(PrompterWindowTest, KeepsTheReadersPlaceWhileCollapsed) {
+    show(u"line\n"_s.repeated(100));
+    window().performScroll(-400);
+    window().toggleCollapsed();
+    finishResizing(32);
+    window().toggleCollapsed();
+    finishResizing(256);
+    EXPECT_EQ(window().textView().scrollPosition(), 400);
+}
+
+TEST_F(PrompterWindowTest, ShowsTextsOnlyOnceTheMainQueueComesToThem) {
+    window().updateText(u"# Hello"_s);
+    EXPECT_TRUE(window().textView().script().styled.text.isEmpty());
+    queue.runAll();
+    EXPECT_EQ(window().textView().script().styled.text, u"Hello"_s);
+}
+
+TEST_F(PrompterWindowTest, IgnoresATextThatArrivesAfterItsEnd) {
+    window().updateText(u"late"_s);
+    prompter.reset();
+    queue.runAll();
+}
+
+TEST_F(PrompterWindowTest, ShowsAHintInPlaceOfThePlaceholder) {
+    show(u"PLACEHOLDER"_s);
+    EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
+    EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
+    // In the middle of the view: as much black above the first line as below the second, about.
+    const QRectF first = window().textView().caretRect(0);
+    const QRectF last = window().textView().caretRect(5);
+    EXPECT_NEAR(first.top(), 202 - last.bottom(), 25);
+}
+
+TEST_F(PrompterWindowTest, RerendersWithTheFontSizeOfTheSettings) {
+    show(u"# Hello\nyou"_s);
+    settings.fontSize = 30;
+    window().rerender();
+    const auto& styled = window().textView().script().styled;
+    EXPECT_EQ(styled.attributes(styled.runs.front()).font->size, 40);
+}
+
+TEST_F(PrompterWindowTest, RerendersNothingBeforeTheFirstText) {
+    window().rerender();
+    EXPECT_TRUE(window().textView().script().styled.text.isEmpty());
+    EXPECT_TRUE(statistics().isEmpty());
+}
+
+TEST_F(PrompterWindowTest, TellsWordsAndTime) {
+    show(u"one two three"_s);
+    EXPECT_EQ(statistics(), u"3 words • ~5s"_s);
+    EXPECT_EQ(window().controls().statsLabel->color(), SystemPalette::yellow);
+}
+
+TEST_F(PrompterWindowTest, TellsTheTimeForWhatIsLeftToScroll) {
+    show(u"line\n"_s.repeated(200));
+    const double remaining = window().textView().maximumScrollPosition();
+    const long units = std::lround(remaining / 10.240000000000002 / 5);
+    const auto seconds = units * 5;
+    EXPECT_EQ(statistics(), u"200 words • ~%1m%2s"_s.arg(seconds / 60).arg(seconds % 60));
+}
+
+TEST_F(PrompterWindowTest, ShowsTheRateInTheColorOfTheStatistics) {
+    show(u"text"_s);
+    settings.scrollRate = ScrollRate::fast;
+    window().updateScrollParameters();
+    EXPECT_EQ(window().controls().statsLabel->color(), SystemPalette::red);
+}
+
+TEST_F(PrompterWindowTest, ScrollsWithinTheText) {
+    show(u"line\n"_s.repeated(100));
+    window().performScroll(50);
+    EXPECT_EQ(window().textView().scrollPosition(), 0);
+    window().performScroll(-100.5);
+    EXPECT_EQ(window().textView().scrollPosition(), 100.5);
+    window().performScroll(-1e9);
+    const double end = window().textView().maximumScrollPosition();
+    EXPECT_EQ(window().textView().scrollPosition(), end);
+    window().performScroll(-50);
+    EXPECT_EQ(window().textView().scrollPosition(), end);
+}
+
+TEST_F(PrompterWindowTest, ScrollsEightyPointsForALineOfTheWheelWithControl) {
+    show(u"line\n"_s.repeated(100));
+    QWheelEvent event({10, 10}, window().mapToGlobal(QPointF(10, 10)), {}, {0, -120}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&window(), &event);
+    EXPECT_EQ(window().textView().scrollPosition(), 80);
+}
+
+TEST_F(PrompterWindowTest, ScrollsExactlyWithATrackpadAndControl) {
+    show(u"line\n"_s.repeated(100));
+    QWheelEvent event({10, 10}, window().mapToGlobal(QPointF(10, 10)), {0, -7}, {0, -15},
+                      Qt::NoButton, Qt::ControlModifier, Qt::ScrollUpdate, false);
+    QApplication::sendEvent(&window(), &event);
+    EXPECT_EQ(window().textView().scrollPosition(), 7);
+}
+
+TEST_F(PrompterWindowTest, ResumesAutoScrollAtTheDefaultSpeedWhenThereIsNone) {
+    settings.scrollSpeed = 0;
+    settings.lastNonZeroScrollSpeed = 0;
+    window().toggleAutoScroll();
+    EXPECT_TRUE(settings.autoScrollEnabled);
+    EXPECT_EQ(settings.scrollSpeed, 2.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 2.0);
+    AppSettings saved(*settings.testConfigURL);
+    EXPECT_TRUE(saved.autoScrollEnabled);
+    EXPECT_EQ(saved.scrollSpeed, 2.0);
+}
+
+TEST_F(PrompterWindowTest, MovesTheTextWithEveryFrameWhileAutoScrollIsOn) {
+    show(u"line\n"_s.repeated(100));
+    settings.scrollRate = ScrollRate::fast;
+    settings.scrollSpeed = 2.5;
+    window().toggleAutoScroll();
+    for (std::uint64_t frame = 1; frame <= 10; ++frame)
+        links.refresh(frame);
+    queue.runAll();
+    EXPECT_NEAR(window().textView().scrollPosition(), 1.6, 1e-9);
+    window().toggleAutoScroll();
+    links.refresh(11);
+    queue.runAll();
+    EXPECT_NEAR(window().textView().scrollPosition(), 1.6, 1e-9);
+    EXPECT_FALSE(settings.autoScrollEnabled);
+}
+
+TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {
+    const ControlStrip& strip = window().controls();
+    const auto color = [&] { return strip.sourceLabel->palette().color(QPalette::WindowText); };
+    window().updateSourceIndicator(SourceType::obsidian);
+    EXPECT_EQ(strip.sourceLabel->text(), u"OBSIDIAN"_s);
+    EXPECT_EQ(color(), QColor::fromRgbF(0.49F, 0.23F, 0.93F));
+    EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Obsidian)"_s);
+    EXPECT_TRUE(strip.sourceIconView->isVisible());
+    window().updateSourceIndicator(SourceType::appleNotes);
+    EXPECT_EQ(strip.sourceLabel->text(), u"APPLE NOTES"_s);
+    EXPECT_EQ(color(), SystemPalette::yellow);
+    window().updateSourceIndicator(SourceType::clipboard);
+    EXPECT_EQ(strip.sourceLabel->text(), u"CLIPBOARD"_s);
+    EXPECT_EQ(color(), SystemPalette::orange);
+    EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Clipboard)"_s);
+}
+
+TEST_F(PrompterWindowTest, NamesTheSourceMode) {
+    const ControlStrip& strip = window().controls();
+    EXPECT_EQ(strip.sourceLabel->text(), u"FILE"_s);
+    EXPECT_EQ(strip.pasteButton->toolTip(), u"Switch to clipboard mode (paste)"_s);
+    EXPECT_EQ(strip.pasteButton->text(), u"📋"_s);
+    window().updateSourceModeIndicator(SourceMode::clipboard);
+    EXPECT_EQ(strip.sourceLabel->text(), u"CLIP"_s);
+    EXPECT_EQ(strip.pasteButton->toolTip(), u"Switch back to file mode"_s);
+    EXPECT_EQ(strip.pasteButton->text(), u"📄"_s);
+}
+
+TEST_F(PrompterWindowTest, ShowsWhatTheMinimizeButtonDoesNext) {
+    const auto* button = window().controls().minimizeButton;
+    EXPECT_EQ(button->text(), u"—"_s);
+    EXPECT_EQ(button->font().weight(), QFont::Bold);
+    window().toggleCollapsed();
+    EXPECT_EQ(button->text(), u"□"_s);
+    EXPECT_EQ(button->font().weight(), QFont::DemiBold);
+}
+
+struct Control {
+    QString identifier;
+    QString name;
+    QString toolTip;
+};
+
+TEST_F(PrompterWindowTest, DescribesItsControls) {
+    for (const auto& [identifier, name, toolTip] :
+         {Control{u"prompter_quitButton"_s, u"Quit"_s, u"Quit Tessaline"_s},
+          Control{u"prompter_minimizeButton"_s, u"Minimize"_s, u"Minimize/Expand window"_s},
+          Control{u"prompter_configButton"_s, u"Settings"_s, u"Open Settings"_s},
+          Control{u"prompter_autoScrollButton"_s, u"Toggle Auto-Scroll"_s, u"Toggle auto-scroll"_s},
+          Control{u"prompter_pasteButton"_s, u"Toggle content source"_s,
+                  u"Switch to clipboard mode (paste)"_s}}) {
+        const auto* button = window().findChild<QAbstractButton*>(identifier);
+        ASSERT_TRUE(button) << identifier.toStdString();
+        EXPECT_EQ(button->accessibleName(), name);
+        EXPECT_EQ(button->toolTip(), toolTip);
+        EXPECT_TRUE(button->isVisible());
+    }
+    EXPECT_TRUE(window().findChild<QWidget*>(u"prompter_textView"_s));
+    EXPECT_EQ(window().findChild<QWidget*>(u"prompter_statsLabel"_s)->toolTip(),
+              u"Reading statistics"_s);
+    EXPECT_EQ(window().findChild<QWidget*>(u"prompter_sourceLabel"_s)->toolTip(),
+              u"Content source"_s);
+}
+
+TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
+    const QImage picture = window().grab().toImage();
+    EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 255);
+    EXPECT_EQ(picture.pixelColor(449, 0).alpha(), 255);
+    EXPECT_EQ(picture.pixelColor(0, 255).alpha(), 0);
+    EXPECT_EQ(picture.pixelColor(449, 255).alpha(), 0);
+    EXPECT_EQ(picture.pixelColor(225, 255), QColor(Qt::black));
+}
+
+} // namespace
+} // namespace tessaline

@@ -1,0 +1,51 @@
+#include "prompter/controls/GlyphOutline.h"
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(GlyphOutline, TreatsTheTextPresentationAsTheSameGlyph) {
+    const auto plain = glyphOutline(u"\u2699"_s, 16, QFont::Normal);
+    const auto asText = glyphOutline(u"\u2699\uFE0E"_s, 16, QFont::Normal);
+
+    ASSERT_TRUE(plain && asText);
+    EXPECT_EQ(*plain, *asText);
+}
+
+TEST(GlyphOutline, LeavesOtherTextToTheFont) {
+    EXPECT_FALSE(glyphOutline(u""_s, 16, QFont::Normal));
+    EXPECT_FALSE(glyphOutline(u"\uFE0E"_s, 16, QFont::Normal));
+    EXPECT_FALSE(glyphOutline(u"A"_s, 16, QFont::Normal));
+    EXPECT_FALSE(glyphOutline(u"\u2699\uFE0F"_s, 16, QFont::Normal));
+    EXPECT_FALSE(glyphOutline(u"\u2699\u2699"_s, 16, QFont::Normal));
+}
+
+class GlyphOutlineOf : public ::testing::TestWithParam<QString> {};
+
+TEST_P(GlyphOutlineOf, GrowsWithTheSizeAndStaysWithinIt) {
+    const auto small = glyphOutline(GetParam(), 12, QFont::Normal);
+    const auto large = glyphOutline(GetParam(), 24, QFont::Normal);
+
+    ASSERT_TRUE(small && large);
+    EXPECT_NEAR(large->boundingRect().width(), 2 * small->boundingRect().width(), 1e-6);
+    EXPECT_LE(small->boundingRect().width(), 12);
+    EXPECT_LE(small->boundingRect().height(), 12);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryGlyph, GlyphOutlineOf,
+                         ::testing::Values(u"\u2014"_s, u"\u25A1"_s, u"\u2699"_s, u"\u23EF"_s,
+                                           u"\U0001F4CB"_s, u"\U0001F4C4"_s));
+
+TEST(GlyphOutline, ABolderDashIsThicker) {
+    const auto medium = glyphOutline(u"\u2014"_s, 14, QFont::Medium);
+    const auto bold = glyphOutline(u"\u2014"_s, 14, QFont::Bold);
+
+    EXPECT_GT(bold->boundingRect().height(), medium->boundingRect().height());
+    EXPECT_DOUBLE_EQ(bold->boundingRect().width(), medium->boundingRect().width());
+}
+
+} // namespace
+} // namespace tessaline

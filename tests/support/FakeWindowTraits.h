@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/WindowTraits.h"
+
+#include <optional>
+#include <vector>
+
+namespace tessaline {
+
+/// Window traits that only keep book of what a window asked for.
+class FakeWindowTraits final : public WindowTraits {
+public:
+    Qt::WindowFlags creationFlags() const override { return flags; }
+    bool canExcludeFromCapture() const override { return canExclude; }
+
+    bool excludeFromCapture(NativeWindow window) override {
+        if (canExclude) excluded.push_back(window);
+        return canExclude;
+    }
+
+    void floatAboveEverything(NativeWindow window) override { floating.push_back(window); }
+    void takeKeyboard(NativeWindow window) override { keyboardOwner = window; }
+
+    void giveKeyboardBack(NativeWindow window) override {
+        if (keyboardOwner == window) keyboardOwner.reset();
+    }
+
+    Qt::WindowFlags flags = Qt::BypassWindowManagerHint;
+    bool canExclude = true;
+    std::vector<NativeWindow> excluded;
+    std::vector<NativeWindow> floating;
+    std::optional<NativeWindow> keyboardOwner; ///< none: another program has the keyboard
+};
+
+} // namespace tessaline
