@@ -17,16 +17,18 @@ constexpr double smallestScroll = 0.1;
 
 } // namespace
 
-DisplayLinkScroller::DisplayLinkScroller(DisplayLinkMaker& linkMaker, MainQueue& mainQueue)
-    : mainQueue(mainQueue)
-    , displayLink(linkMaker.make([this](std::uint64_t hostTime) { tick(hostTime); })) {
+DisplayLinkScroller::DisplayLinkScroller(DisplayLinkMaker& links, MainQueue& queue)
+    : mainQueue(queue)
+    , displayLink(links.make([this](std::uint64_t hostTime) { tick(hostTime); })) {
     if (!displayLink) {
         std::puts("Failed to create CVDisplayLink, falling back to Timer");
         std::fflush(stdout);
     }
 }
 
-DisplayLinkScroller::~DisplayLinkScroller() { stop(); }
+DisplayLinkScroller::~DisplayLinkScroller() {
+    stop();
+}
 
 void DisplayLinkScroller::setDelegate(std::weak_ptr<DisplayLinkScrollerDelegate> receiver) {
     delegate = std::move(receiver);
@@ -58,7 +60,7 @@ void DisplayLinkScroller::tick(std::uint64_t hostTime) {
     }
     // The time of the frame is not noted at speed 0: the first frame at a positive speed makes up
     // for the whole pause.
-    if (pps <= 0.0) return;
+    if (!(pps > 0.0)) return;
 
     const double dt = secondsSinceLastFrame(hostTime);
     lastTimestamp = hostTime;

@@ -18,7 +18,7 @@ class DisplayLinkScroller {
 public:
     /// Makes its display link at once. Where there is none, says so on standard output; the engine
     /// then never moves anything. The queue must outlive the engine.
-    DisplayLinkScroller(DisplayLinkMaker& linkMaker, MainQueue& mainQueue);
+    DisplayLinkScroller(DisplayLinkMaker& links, MainQueue& queue);
     ~DisplayLinkScroller();
     DisplayLinkScroller(const DisplayLinkScroller&) = delete;
     DisplayLinkScroller& operator=(const DisplayLinkScroller&) = delete;

@@ -25,25 +25,21 @@ unsigned markersIn(QStringView line) {
 }
 
 template <typename Apply>
-void forEachMatch(MarkerScanner scanner, qsizetype length, Apply apply) {
-    for (qsizetype position = 0; position < length;) {
-        if (const auto match = scanner.matchAt(position)) {
-            apply(*match);
-            position = match->end;
-        } else {
-            ++position;
-        }
-    }
+void forEachMatch(MarkerScanner scanner, Apply apply) {
+    for (auto match = scanner.next(0); match; match = scanner.next(match->end))
+        apply(*match);
 }
 
 /// As above for two markers at once: whichever match begins first hides those that cross it.
 template <typename Apply>
-void forEachMatch(MarkerScanner first, MarkerScanner second, qsizetype length, Apply apply) {
-    for (qsizetype position = 0; position < length;) {
-        auto match = first.matchAt(position);
-        if (!match) match = second.matchAt(position);
-        if (match) apply(*match);
-        position = match ? match->end : position + 1;
+void forEachMatch(MarkerScanner first, MarkerScanner second, Apply apply) {
+    auto one = first.next(0);
+    auto other = second.next(0);
+    while (one || other) {
+        const auto match = !other || (one && one->begin < other->begin) ? *one : *other;
+        apply(match);
+        if (one && one->begin < match.end) one = first.next(match.end);
+        if (other && other->begin < match.end) other = second.next(match.end);
     }
 }
 
@@ -71,18 +67,17 @@ void InlineFormatter::applyStyles(unsigned markers) {
         std::fill(styles.begin() + match.begin, styles.begin() + match.end, style);
     };
     if (markers & (asterisk | underscore)) {
-        forEachMatch({text, u'*', Kind::doubled}, {text, u'_', Kind::doubled}, text.size(),
+        forEachMatch({text, u'*', Kind::doubled}, {text, u'_', Kind::doubled},
                      [&](const auto& match) { fill(match, bold); });
         // Italic slants the font that the match begins with, over the whole match.
-        forEachMatch({text, u'*', Kind::lone}, {text, u'_', Kind::lone}, text.size(),
+        forEachMatch({text, u'*', Kind::lone}, {text, u'_', Kind::lone},
                      [&](const auto& match) { fill(match, styles[match.begin] | italic); });
     }
     if (markers & backtick) {
-        forEachMatch({text, u'`', Kind::code}, text.size(),
-                     [&](const auto& match) { fill(match, code); });
+        forEachMatch({text, u'`', Kind::code}, [&](const auto& match) { fill(match, code); });
     }
     if (markers & tilde) {
-        forEachMatch({text, u'~', Kind::doubled}, text.size(), [&](const auto& match) {
+        forEachMatch({text, u'~', Kind::doubled}, [&](const auto& match) {
             for (qsizetype i = match.begin; i < match.end; ++i)
                 styles[i] |= strikethrough;
         });
@@ -113,7 +108,7 @@ void InlineFormatter::removePairs(char16_t marker, MarkerScanner::Kind kind) {
     };
     // In place: the scanner looks back by one unit, and what is written ends further back than
     // that.
-    forEachMatch({text, marker, kind}, text.size(), [&](const auto& match) {
+    forEachMatch({text, marker, kind}, [&](const auto& match) {
         keepUntil(match.begin);
         const std::uint8_t style = styles[match.innerBegin];
         const qsizetype shown = written;

@@ -27,13 +27,15 @@ public:
 
     MarkerScanner(QStringView text, char16_t marker, Kind kind);
 
-    /// The pair whose opening marker begins exactly at `position`, if there is one.
-    std::optional<Match> matchAt(qsizetype position);
+    /// The first pair that begins at or after a position, if there is one.
+    std::optional<Match> next(qsizetype position);
 
 private:
+    std::optional<Match> matchAt(qsizetype opening);
+    qsizetype nextMarker(qsizetype position) const;
     bool isMarkerAt(qsizetype position) const;
     bool isMarkerCharacter(qsizetype position) const;
-    bool endsSearch(qsizetype position) const;
+    qsizetype reach(qsizetype begin, qsizetype end) const;
 
     QStringView text;
     char16_t marker;

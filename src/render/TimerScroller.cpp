@@ -17,11 +17,8 @@ constexpr double smallestScroll = 0.1;
 
 } // namespace
 
-TimerScroller::TimerScroller(TimerMaker& timerMaker, MainQueue& mainQueue,
-                             DisplayLinkMaker& linkMaker)
-    : timerMaker(timerMaker)
-    , mainQueue(mainQueue)
-    , linkMaker(linkMaker) {}
+TimerScroller::TimerScroller(TimerMaker& timers, MainQueue& queue, DisplayLinkMaker& links)
+    : timerMaker(timers), mainQueue(queue), linkMaker(links) {}
 
 TimerScroller::~TimerScroller() = default;
 
@@ -36,9 +33,13 @@ void TimerScroller::start() {
     });
 }
 
-void TimerScroller::stop() { timer.reset(); }
+void TimerScroller::stop() {
+    timer.reset();
+}
 
-void TimerScroller::updatePixelsPerSecond(double value) { pixelsPerSecond = value; }
+void TimerScroller::updatePixelsPerSecond(double value) {
+    pixelsPerSecond = value;
+}
 
 void TimerScroller::tick() {
     if (pixelsPerSecond <= 0.0) return;

@@ -15,8 +15,8 @@ class TimerMaker;
 class TimerScroller {
 public:
     /// All three must outlive the engine. Distances come with a display-link engine made for that
-    /// one call, hence `linkMaker`.
-    TimerScroller(TimerMaker& timerMaker, MainQueue& mainQueue, DisplayLinkMaker& linkMaker);
+    /// one call, hence `links`.
+    TimerScroller(TimerMaker& timers, MainQueue& queue, DisplayLinkMaker& links);
     ~TimerScroller();
     TimerScroller(const TimerScroller&) = delete;
     TimerScroller& operator=(const TimerScroller&) = delete;

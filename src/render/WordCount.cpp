@@ -77,9 +77,9 @@ Prefix matchHeader(QStringView text, qsizetype start) {
     qsizetype end = start;
     while (end < text.size() && end - start < 6 && text[end] == u'#')
         ++end;
+    if (end == start) return {false, start};
     const qsizetype rest = skipWhitespace(text, end);
-    if (end == start || rest == end) return {false, start};
-    return {true, rest};
+    return {rest > end, rest};
 }
 
 Prefix matchBullet(QStringView text, qsizetype start) {

@@ -42,6 +42,17 @@ formatRanges(const Script& script, const Script::Paragraph& paragraph, const For
     return ranges;
 }
 
+/// The entry that the whole paragraph looks like, or null where it takes more than a font and a
+/// pen. Text that is not split into formats is laid out in half the time.
+const FormatTable::Entry* singleEntry(const Script& script, const Script::Paragraph& paragraph,
+                                      const FormatTable& formats) {
+    if (paragraph.length == 0) return &formats.plain();
+    const auto& run = script.styled.runs[std::size_t(paragraph.firstRun)];
+    const bool single = run.start + run.length >= paragraph.start + paragraph.length;
+    if (!single || script.styled.attributes(run).background) return nullptr;
+    return &formats[run.style];
+}
+
 double fittingIndent(double indent, double tail, double textWidth) {
     return std::clamp(indent, 0.0, std::max(textWidth * (1 - leastTextShare) - tail, 0.0));
 }
@@ -68,12 +79,16 @@ ParagraphLayout layOutParagraph(const Script& script, std::size_t index, const F
     const bool rightToLeft = text.isRightToLeft();
     const double tail = std::max(-style.tailIndent, 0.0);
 
+    const FormatTable::Entry* single = singleEntry(script, paragraph, formats);
+    const QTextCharFormat& base = (single ? *single : formats.plain()).format;
+
     ParagraphLayout result;
-    result.lines = std::make_unique<QTextLayout>(text, formats.plain().format.font());
+    result.lines = std::make_unique<QTextLayout>(text, base.font());
+    result.pen = base.foreground().color();
     QTextLayout& layout = *result.lines;
     layout.setCacheEnabled(true);
     layout.setTextOption(textOption(style, rightToLeft));
-    layout.setFormats(formatRanges(script, paragraph, formats));
+    if (!single) layout.setFormats(formatRanges(script, paragraph, formats));
 
     double y = style.spacingBefore;
     double indent = style.firstLineHeadIndent;

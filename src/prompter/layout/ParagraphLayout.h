@@ -3,6 +3,7 @@
 #include "prompter/layout/FormatTable.h"
 #include "prompter/layout/Script.h"
 
+#include <QColor>
 #include <QTextLayout>
 
 #include <cstddef>
@@ -13,6 +14,7 @@ namespace tessaline {
 /// One paragraph laid out in lines.
 struct ParagraphLayout {
     std::unique_ptr<QTextLayout> lines; ///< its top is at 0, spacing included
+    QColor pen;                         ///< what the lines are drawn in where they do not say
     double height = 0.0;                ///< points, with the spacing before and after
 };
 

@@ -137,6 +137,7 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
             highlights.push_back(
                 {int(selected.begin - paragraph.start), int(selected.length()), highlight});
         }
+        painter.setPen(layout.pen);
         layout.lines->draw(&painter, {0, y}, highlights, clip);
         y += layout.height;
     }

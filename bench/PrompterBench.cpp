@@ -1,0 +1,154 @@
+#include "MedianReporter.h"
+#include "SampleTalk.h"
+
+#include "platform/qt/QtTimerMaker.h"
+#include "prompter/view/ScriptView.h"
+#include "render/MarkdownRenderer.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QFont>
+#include <QTextDocument>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <memory>
+#include <vector>
+
+namespace {
+
+using tessaline::MarkdownRenderer;
+using tessaline::Script;
+using tessaline::ScriptView;
+
+constexpr double fontSize = 16;
+constexpr double columnWidth = 400;
+
+QString talk(qsizetype words) {
+    return tessaline::SampleTalk().write(words);
+}
+
+/// A view of the size that it has in a prompter of 450 × 256 points, on screen.
+class ShownView {
+public:
+    ShownView() {
+        view.resize(430, 202);
+        view.show();
+    }
+
+    /// Everything from a text's arrival to pixels that are ready to be seen.
+    void show(const QString& markdown) {
+        benchmark::DoNotOptimize(MarkdownRenderer::wordCount(markdown));
+        view.setScript(Script(MarkdownRenderer(fontSize).render(markdown)));
+        view.repaint();
+    }
+
+private:
+    tessaline::QtTimerMaker timers;
+
+public:
+    ScriptView view{timers};
+};
+
+void setMarkdownAndLayOut(benchmark::State& state) {
+    const QString text = talk(10'000);
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto document = std::make_unique<QTextDocument>();
+        QFont font;
+        font.setPointSizeF(fontSize * 0.75);
+        document->setDefaultFont(font);
+        document->setTextWidth(columnWidth);
+        state.ResumeTiming();
+        document->setMarkdown(text);
+        benchmark::DoNotOptimize(document->documentLayout()->documentSize());
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+}
+
+void arrival(benchmark::State& state) {
+    const QString text = talk(10'000);
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto shown = std::make_unique<ShownView>();
+        state.ResumeTiming();
+        shown->show(text);
+        shown->view.completeLayout();
+        state.PauseTiming();
+        shown.reset();
+        state.ResumeTiming();
+    }
+}
+
+void editOfOneLine(benchmark::State& state) {
+    const QString text = talk(100'000);
+    QString edited = text;
+    edited.insert(text.indexOf(u'\n', text.size() / 2), QStringLiteral(" and some more"));
+    ShownView shown;
+    shown.show(text);
+    shown.view.completeLayout();
+    bool original = true;
+    for (auto _ : state) {
+        original = !original;
+        shown.show(original ? text : edited);
+    }
+}
+
+BENCHMARK(setMarkdownAndLayOut)->Unit(benchmark::kMillisecond);
+BENCHMARK(arrival)->Unit(benchmark::kMillisecond);
+BENCHMARK(editOfOneLine)->Unit(benchmark::kMillisecond);
+
+double threadMilliseconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+void verdict(const char* what, double value, double limit, const char* unit) {
+    std::printf("%-46s %8.3f %s, at most %g wanted: %s\n", what, value, unit, limit,
+                value <= limit ? "pass" : "falls short");
+}
+
+/// Scrolls through a text frame by frame and tells how long the painting of a frame takes.
+void measureFrames(qsizetype words) {
+    ShownView shown;
+    shown.show(talk(words));
+    shown.view.completeLayout();
+    std::vector<double> times;
+    for (int frame = 1; frame <= 4000; ++frame) {
+        shown.view.scrollTo(frame * 0.16);
+        const double begin = threadMilliseconds();
+        shown.view.repaint();
+        times.push_back(threadMilliseconds() - begin);
+        QCoreApplication::processEvents(); // the time between frames, in which strips are prepared
+    }
+    std::sort(times.begin(), times.end());
+    std::printf("Frames of a script of %lld words:\n", static_cast<long long>(words));
+    verdict("  median", times[times.size() / 2], 0.4, "ms");
+    verdict("  99th percentile", times[times.size() * 99 / 100], 1.0, "ms");
+}
+
+} // namespace
+
+/// Measures what the prompter's view costs: frames, the arrival of a text, and an edit of one line.
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    const QApplication application(argc, argv);
+
+    tessaline::MedianReporter medians;
+    benchmark::RunSpecifiedBenchmarks(&medians);
+    std::printf("\n");
+    verdict("Arrival of 10,000 words, share of setMarkdown's",
+            medians.milliseconds("arrival") / medians.milliseconds("setMarkdownAndLayOut"), 0.6,
+            "  ");
+    verdict("One edited line in 100,000 words", medians.milliseconds("editOfOneLine"), 10, "ms");
+    for (const qsizetype words : {1'000, 10'000, 100'000})
+        measureFrames(words);
+    return 0;
+}

@@ -1,0 +1,7 @@
+#include "SteadyMemory.h"
+
+namespace tessaline {
+
+void makeMemorySteady() {}
+
+} // namespace tessaline

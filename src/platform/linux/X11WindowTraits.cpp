@@ -1,0 +1,123 @@
+#include "platform/linux/X11WindowTraits.h"
+
+#include "platform/linux/X11Stacking.h"
+#include "platform/linux/XcbReply.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace tessaline {
+namespace {
+
+Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
+
+constexpr std::uint8_t sentEventBit = 0x80;
+
+} // namespace
+
+X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
+    : connection(serverConnection)
+    , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root) {
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+X11WindowTraits::~X11WindowTraits() = default;
+
+Qt::WindowFlags X11WindowTraits::creationFlags() const {
+    return Qt::BypassWindowManagerHint;
+}
+
+bool X11WindowTraits::canExcludeFromCapture() const {
+    return false;
+}
+
+bool X11WindowTraits::excludeFromCapture(NativeWindow /*window*/) {
+    if (!std::exchange(reportedCapture, true)) {
+        qCWarning(windowLog, "X11 cannot keep a window out of screen captures.");
+    }
+    return false;
+}
+
+void X11WindowTraits::floatAboveEverything(NativeWindow window) {
+    floating = static_cast<XWindow>(window);
+    listenToRestacking();
+    raiseSoon();
+}
+
+void X11WindowTraits::takeKeyboard(NativeWindow window) {
+    const auto own = static_cast<XWindow>(window);
+    const auto current = focusedWindow();
+    if (!current || *current == own) return;
+    if (focus(own)) previousFocus = *current;
+}
+
+void X11WindowTraits::giveKeyboardBack(NativeWindow window) {
+    const auto previous = std::exchange(previousFocus, XWindow{XCB_NONE});
+    if (previous == XCB_NONE) return;
+    // Hiding the window has passed the keyboard on to the root window.
+    const auto current = focusedWindow();
+    if (current != static_cast<XWindow>(window) && current != root) return;
+    // A window that went away or is on another desktop cannot have it: let the window manager
+    // choose.
+    if (!focus(previous)) focus(XCB_INPUT_FOCUS_POINTER_ROOT);
+}
+
+bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
+                                        qintptr* /*result*/) {
+    if (floating != XCB_NONE && type == "xcb_generic_event_t" && isRestackOfOthers(message)) {
+        raiseSoon();
+    }
+    return false;
+}
+
+bool X11WindowTraits::isRestackOfOthers(const void* event) const {
+    switch (static_cast<const xcb_generic_event_t*>(event)->response_type & ~sentEventBit) {
+    case XCB_CONFIGURE_NOTIFY: {
+        const auto* configured = static_cast<const xcb_configure_notify_event_t*>(event);
+        return configured->event == root && configured->window != floating;
+    }
+    case XCB_MAP_NOTIFY:
+        return static_cast<const xcb_map_notify_event_t*>(event)->event == root;
+    default:
+        return false;
+    }
+}
+
+void X11WindowTraits::listenToRestacking() {
+    const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+        connection, xcb_get_window_attributes(connection, root), nullptr));
+    if (!attributes) return;
+    // Qt listens to the root window through the same connection: its events are kept.
+    const std::uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &mask);
+    xcb_flush(connection);
+}
+
+/// Restacking comes as a series of events, which one look at the result answers.
+void X11WindowTraits::raiseSoon() {
+    if (std::exchange(raiseIsPending, true)) return;
+    const auto raise = [this] {
+        raiseIsPending = false;
+        X11Stacking(connection, root).raiseAboveManagedWindows(floating);
+    };
+    QMetaObject::invokeMethod(&context, raise, Qt::QueuedConnection);
+}
+
+std::optional<X11WindowTraits::XWindow> X11WindowTraits::focusedWindow() const {
+    const XcbReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    if (!reply) return std::nullopt;
+    return reply->focus;
+}
+
+/// False when the server refuses, as it does for windows that are gone or hidden.
+bool X11WindowTraits::focus(XWindow window) const {
+    const auto cookie =
+        xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection, cookie));
+    return !error;
+}
+
+} // namespace tessaline

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/WindowTraits.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QObject>
+
+#include <cstdint>
+#include <optional>
+
+struct xcb_connection_t;
+
+namespace tessaline {
+
+/// Traits by means of the X server alone: the window is created out of the window manager's reach
+/// (override-redirect). A managed window, whatever its type and states, ends up below the
+/// full-screen window that has the keyboard, may be moved away from panels, and is listed. What the
+/// window manager would do is done here instead:
+/// - it may raise a managed window above ours, so ours is put on top again when windows are
+/// restacked;
+/// - it never directs the keyboard to our window, so a click has to: see `FocusOnClick`.
+/// X11 has no way to keep a window out of captures.
+class X11WindowTraits final : public WindowTraits, private QAbstractNativeEventFilter {
+public:
+    /// Borrows Qt's connection, which must outlive the traits. Needs a QGuiApplication.
+    explicit X11WindowTraits(xcb_connection_t* connection);
+    ~X11WindowTraits() override;
+
+    Qt::WindowFlags creationFlags() const override;
+    bool canExcludeFromCapture() const override;
+    bool excludeFromCapture(NativeWindow window) override;
+
+    /// Keeps one window on top; another one takes the place of the first.
+    void floatAboveEverything(NativeWindow window) override;
+
+    void takeKeyboard(NativeWindow window) override;
+    void giveKeyboardBack(NativeWindow window) override;
+
+private:
+    using XWindow = std::uint32_t;
+
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+    bool isRestackOfOthers(const void* event) const;
+    void listenToRestacking();
+    void raiseSoon();
+    std::optional<XWindow> focusedWindow() const;
+    bool focus(XWindow window) const;
+
+    xcb_connection_t* connection;
+    XWindow root;
+    XWindow floating = 0;
+    XWindow previousFocus = 0;
+    bool raiseIsPending = false;
+    bool reportedCapture = false;
+    QObject context; ///< ends the queued calls together with this object
+};
+
+} // namespace tessaline

@@ -1,0 +1,39 @@
+#include "platform/unsupported/UnsupportedWindowTraits.h"
+
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace tessaline {
+namespace {
+
+Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
+
+} // namespace
+
+Qt::WindowFlags UnsupportedWindowTraits::creationFlags() const {
+    return Qt::WindowStaysOnTopHint;
+}
+
+bool UnsupportedWindowTraits::canExcludeFromCapture() const {
+    return false;
+}
+
+bool UnsupportedWindowTraits::excludeFromCapture(NativeWindow /*window*/) {
+    if (!std::exchange(reportedCapture, true)) {
+        qCWarning(windowLog, "This system cannot keep a window out of screen captures.");
+    }
+    return false;
+}
+
+void UnsupportedWindowTraits::floatAboveEverything(NativeWindow /*window*/) {
+    if (!std::exchange(reportedLevel, true)) {
+        qCWarning(windowLog, "This system decides by itself how a window is placed and stacked.");
+    }
+}
+
+void UnsupportedWindowTraits::takeKeyboard(NativeWindow /*window*/) {}
+
+void UnsupportedWindowTraits::giveKeyboardBack(NativeWindow /*window*/) {}
+
+} // namespace tessaline

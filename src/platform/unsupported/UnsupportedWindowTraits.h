@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/WindowTraits.h"
+
+namespace tessaline {
+
+/// For systems without a way to do more than Qt can: the window is asked to stay on top, and the
+/// system decides on the rest. What cannot be done is logged once.
+class UnsupportedWindowTraits final : public WindowTraits {
+public:
+    Qt::WindowFlags creationFlags() const override;
+    bool canExcludeFromCapture() const override;
+    bool excludeFromCapture(NativeWindow window) override;
+    void floatAboveEverything(NativeWindow window) override;
+    void takeKeyboard(NativeWindow window) override;
+    void giveKeyboardBack(NativeWindow window) override;
+
+private:
+    bool reportedCapture = false;
+    bool reportedLevel = false;
+};
+
+} // namespace tessaline

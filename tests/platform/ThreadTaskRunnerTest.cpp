@@ -1,0 +1,74 @@
+#include "platform/ThreadTaskRunner.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <chrono>
+#include <future>
+#include <optional>
+#include <thread>
+#include <vector>
+
+namespace tessaline {
+namespace {
+
+TEST(ThreadTaskRunner, RunsTasksInOrderOnOneOtherThread) {
+    std::vector<int> ran;
+    std::vector<std::thread::id> threads;
+    std::promise<void> done;
+    ThreadTaskRunner runner;
+    for (int number = 0; number < 100; ++number) {
+        runner.run([&, number] {
+            ran.push_back(number);
+            threads.push_back(std::this_thread::get_id());
+        });
+    }
+    runner.run([&] { done.set_value(); });
+    done.get_future().wait();
+    ASSERT_EQ(ran.size(), 100U);
+    EXPECT_TRUE(std::is_sorted(ran.begin(), ran.end()));
+    EXPECT_NE(threads.front(), std::this_thread::get_id());
+    EXPECT_THAT(threads, ::testing::Each(threads.front()));
+}
+
+TEST(ThreadTaskRunner, LetsATaskStartAnother) {
+    std::promise<void> done;
+    ThreadTaskRunner runner;
+    runner.run([&] { runner.run([&] { done.set_value(); }); });
+    done.get_future().wait();
+}
+
+TEST(ThreadTaskRunner, WaitsForTheRunningTaskWhenItGoes) {
+    std::promise<void> started;
+    std::promise<void> release;
+    bool finished = false;
+    auto runner = std::make_optional<ThreadTaskRunner>();
+    runner->run([&] {
+        started.set_value();
+        release.get_future().wait();
+        finished = true;
+    });
+    started.get_future().wait();
+    std::thread releaser([&] { release.set_value(); });
+    runner.reset();
+    EXPECT_TRUE(finished);
+    releaser.join();
+}
+
+TEST(ThreadTaskRunner, DropsTheTasksThatHaveNotStartedWhenItGoes) {
+    constexpr int count = 5000;
+    int ran = 0;
+    {
+        ThreadTaskRunner runner;
+        for (int number = 0; number < count; ++number) {
+            runner.run([&] {
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                ++ran;
+            });
+        }
+    }
+    EXPECT_LT(ran, count);
+}
+
+} // namespace
+} // namespace tessaline
