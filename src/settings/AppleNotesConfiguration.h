@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QHashFunctions>
 #include <QString>
 
-#include <compare>
+#include <cstddef>
+#include <functional>
+#include <tuple>
 
 namespace tessaline {
 
@@ -12,6 +15,22 @@ struct AppleNotesConfiguration {
     QString noteName; ///< the note's title, for display
 
     bool operator==(const AppleNotesConfiguration&) const = default;
+    bool operator<(const AppleNotesConfiguration& other) const {
+        return std::tie(noteId, noteName) < std::tie(other.noteId, other.noteName);
+    }
 };
 
+/// For use as a key of Qt's hashed containers.
+inline std::size_t qHash(const AppleNotesConfiguration& note, std::size_t seed = 0) {
+    return qHashMulti(seed, note.noteId, note.noteName);
+}
+
 } // namespace tessaline
+
+/// For use as a key of the standard library's hashed containers.
+template <>
+struct std::hash<tessaline::AppleNotesConfiguration> {
+    std::size_t operator()(const tessaline::AppleNotesConfiguration& note) const {
+        return qHash(note);
+    }
+};

@@ -1,0 +1,261 @@
+#include "settings/SettingsCodec.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+using nlohmann::json;
+using nlohmann::ordered_json;
+
+namespace {
+
+void report(QString* error, const QString& description) {
+    if (error) *error = description;
+}
+
+// Each `decode` takes the one form of JSON value that its target accepts, and tells whether the
+// value had that form.
+
+bool decode(const json& value, bool& target) {
+    if (!value.is_boolean()) return false;
+    target = value.get<bool>();
+    return true;
+}
+
+bool decode(const json& value, double& target) {
+    if (!value.is_number()) return false;
+    target = value.get<double>();
+    return true;
+}
+
+bool decode(const json& value, std::uint32_t& target) {
+    constexpr double greatest = std::numeric_limits<std::uint32_t>::max();
+    double number = 0;
+    if (!decode(value, number) || number < 0 || number > greatest || number != std::floor(number))
+        return false;
+    target = static_cast<std::uint32_t>(number);
+    return true;
+}
+
+bool decode(const json& value, QString& target) {
+    if (!value.is_string()) return false;
+    target = QString::fromStdString(value.get_ref<const std::string&>());
+    return true;
+}
+
+bool decode(const json& value, QByteArray& target) {
+    if (!value.is_string()) return false;
+    const auto text = QByteArray::fromStdString(value.get_ref<const std::string&>());
+    auto result = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+    // Qt lets missing padding pass.
+    if (!result || text.size() % 4 != 0) return false;
+    target = std::move(*result);
+    return true;
+}
+
+template <typename Enumeration>
+bool decode(const json& value, Enumeration& target,
+            std::optional<Enumeration> (*fromRawValue)(QStringView)) {
+    QString raw;
+    if (!decode(value, raw)) return false;
+    const auto result = fromRawValue(raw);
+    if (result) target = *result;
+    return result.has_value();
+}
+
+bool decode(const json& value, ScrollRate& target) {
+    return decode(value, target, scrollRateFromRawValue);
+}
+
+bool decode(const json& value, SourceType& target) {
+    return decode(value, target, sourceTypeFromRawValue);
+}
+
+bool decode(const json& value, std::set<SourceType>& target) {
+    if (!value.is_array()) return false;
+    target.clear();
+    return std::all_of(value.begin(), value.end(), [&target](const json& element) {
+        SourceType source{};
+        return decode(element, source) && (target.insert(source), true);
+    });
+}
+
+bool decode(const json& value, AppleNotesConfiguration& target) {
+    return value.is_object() && value.contains("noteId") &&
+           decode(value["noteId"], target.noteId) && value.contains("noteName") &&
+           decode(value["noteName"], target.noteName);
+}
+
+template <typename T>
+bool decode(const json& value, std::optional<T>& target) {
+    return decode(value, target.emplace());
+}
+
+/// The members of the file's object. Remembers the first one that was of the wrong form.
+class Members {
+public:
+    explicit Members(const json& members) : object(members) {}
+
+    /// Takes the key's value over into `target`, which stays when the key is absent or null.
+    template <typename T>
+    void take(const char* key, T& target) {
+        const auto member = object.find(key);
+        if (member == object.end() || member->is_null() || wrongKey) return;
+        if (!decode(*member, target)) wrongKey = key;
+    }
+
+    const char* firstWrongKey() const { return wrongKey; }
+
+private:
+    const json& object;
+    const char* wrongKey = nullptr;
+};
+
+/// Settles which sources are enabled and which of them is active.
+void takeSources(Members& members, PersistedSettings& settings) {
+    std::optional<std::set<SourceType>> enabled;
+    std::optional<SourceType> active;
+    members.take("enabledSourceTypes", enabled);
+    members.take("activeSourceType", active);
+    // A file without the list was written when the active source was the only choice.
+    if (!enabled && active) enabled = {*active};
+    settings.enabledSourceTypes = enabled.value_or(std::set<SourceType>());
+    settings.enabledSourceTypes.insert(SourceType::clipboard);
+    if (active && settings.enabledSourceTypes.count(*active) > 0)
+        settings.activeSourceType = *active;
+}
+
+PersistedSettings takeSettings(Members& members) {
+    PersistedSettings settings;
+    members.take("notePath", settings.notePath);
+    members.take("fontSize", settings.fontSize);
+    members.take("width", settings.width);
+    members.take("height", settings.height);
+    members.take("xOffset", settings.xOffset);
+    members.take("scrollSpeed", settings.scrollSpeed);
+    members.take("lastNonZeroScrollSpeed", settings.lastNonZeroScrollSpeed);
+    members.take("autoScrollEnabled", settings.autoScrollEnabled);
+    members.take("scrollRate", settings.scrollRate);
+    members.take("hasCompletedOnboarding", settings.hasCompletedOnboarding);
+    members.take("appleNotesConfig", settings.appleNotesConfig);
+    members.take("obsidianBookmarkData", settings.obsidianBookmarkData);
+    members.take("preferredDisplayID", settings.preferredDisplayID);
+    takeSources(members, settings);
+
+    constexpr double maxSpeed = PersistedSettings::maxScrollSpeed;
+    settings.scrollSpeed = std::min(settings.scrollSpeed, maxSpeed);
+    settings.lastNonZeroScrollSpeed = std::min(settings.lastNonZeroScrollSpeed, maxSpeed);
+    return settings;
+}
+
+/// Whether brackets nest deeper than any configuration's. Building a value out of millions of
+/// nested brackets would take many times the file's size in memory.
+bool nestsTooDeep(const QByteArray& bytes) {
+    constexpr int greatestDepth = 512;
+    int depth = 0;
+    bool inString = false;
+    for (auto byte = bytes.begin(); byte != bytes.end(); ++byte) {
+        if (*byte == '"') {
+            inString = !inString;
+        } else if (inString) {
+            if (*byte == '\\' && byte + 1 != bytes.end()) ++byte;
+        } else if (*byte == '[' || *byte == '{') {
+            if (++depth > greatestDepth) return true;
+        } else if (*byte == ']' || *byte == '}') {
+            --depth;
+        }
+    }
+    return false;
+}
+
+/// The file's one object.
+std::optional<json> parseObject(const QByteArray& bytes, QString* error) {
+    if (nestsTooDeep(bytes)) {
+        report(error, u"The JSON is nested too deeply"_s);
+        return std::nullopt;
+    }
+    try {
+        // Not the ordered type: that one looks for a key by going through all others.
+        json object = json::parse(bytes.begin(), bytes.end());
+        if (object.is_object()) return object;
+        report(error, u"The JSON is not an object"_s);
+    } catch (const json::parse_error& failure) {
+        report(error, u"Invalid JSON at byte %1"_s.arg(failure.byte));
+    } catch (const json::out_of_range&) {
+        report(error, u"The JSON holds a number out of range"_s);
+    }
+    return std::nullopt;
+}
+
+ordered_json encode(const AppleNotesConfiguration& note) {
+    return {{"noteId", note.noteId.toStdString()}, {"noteName", note.noteName.toStdString()}};
+}
+
+ordered_json encode(const std::set<SourceType>& sources) {
+    ordered_json array = ordered_json::array();
+    for (const SourceType source : sources)
+        array.push_back(rawValue(source).toStdString());
+    return array;
+}
+
+ordered_json encode(const PersistedSettings& settings) {
+    ordered_json object{
+        {"notePath", settings.notePath.toStdString()},
+        {"fontSize", settings.fontSize},
+        {"width", settings.width},
+        {"height", settings.height},
+        {"xOffset", settings.xOffset},
+        {"scrollSpeed", settings.scrollSpeed},
+        {"lastNonZeroScrollSpeed", settings.lastNonZeroScrollSpeed},
+        {"autoScrollEnabled", settings.autoScrollEnabled},
+        {"scrollRate", rawValue(settings.scrollRate).toStdString()},
+        {"hasCompletedOnboarding", settings.hasCompletedOnboarding},
+        {"activeSourceType", rawValue(settings.activeSourceType).toStdString()},
+    };
+    if (settings.appleNotesConfig) object["appleNotesConfig"] = encode(*settings.appleNotesConfig);
+    object["enabledSourceTypes"] = encode(settings.enabledSourceTypes);
+    if (settings.obsidianBookmarkData)
+        object["obsidianBookmarkData"] = settings.obsidianBookmarkData->toBase64().toStdString();
+    if (settings.preferredDisplayID) object["preferredDisplayID"] = *settings.preferredDisplayID;
+    return object;
+}
+
+/// The first key whose number is not finite, or an empty string.
+std::string firstNonFinite(const ordered_json& object) {
+    for (const auto& [key, value] : object.items())
+        if (value.is_number_float() && !std::isfinite(value.get<double>())) return key;
+    return {};
+}
+
+} // namespace
+
+std::optional<PersistedSettings> decodeSettings(const QByteArray& bytes, QString* error) {
+    const auto object = parseObject(bytes, error);
+    if (!object) return std::nullopt;
+    Members members(*object);
+    PersistedSettings settings = takeSettings(members);
+    if (members.firstWrongKey()) {
+        report(error, u"Invalid value for \"%1\""_s.arg(QLatin1String(members.firstWrongKey())));
+        return std::nullopt;
+    }
+    return settings;
+}
+
+std::optional<QByteArray> encodeSettings(const PersistedSettings& settings, QString* error) {
+    const ordered_json object = encode(settings);
+    const std::string nonFinite = firstNonFinite(object);
+    if (!nonFinite.empty()) {
+        report(error, u"\"%1\" is not a finite number"_s.arg(QString::fromStdString(nonFinite)));
+        return std::nullopt;
+    }
+    return QByteArray::fromStdString(object.dump(2) + '\n');
+}
+
+} // namespace tessaline

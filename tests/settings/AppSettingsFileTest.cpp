@@ -1,0 +1,158 @@
+#include "settings/AppSettings.h"
+
+#include "settings/TemporaryHome.h"
+#include "support/TestFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <gmock/gmock.h>
+
+#include <ostream>
+
+#include <sys/stat.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Configurations that cannot be used, and places that cannot be written.
+class AppSettingsFile : public testing::Test {
+protected:
+    TemporaryHome home;
+    QString path = home.path() + u"/config.json"_s;
+
+    /// Loads the file into new settings, expects the defaults, and gives what was printed.
+    std::string printedByLoading() const {
+        testing::internal::CaptureStdout();
+        const AppSettings settings(path);
+        EXPECT_EQ(static_cast<const PersistedSettings&>(settings), PersistedSettings());
+        return testing::internal::GetCapturedStdout();
+    }
+
+    static std::string printedBySaving(const AppSettings& settings) {
+        testing::internal::CaptureStdout();
+        settings.save();
+        return testing::internal::GetCapturedStdout();
+    }
+};
+
+struct UnusableFile {
+    const char* name;
+    QByteArray bytes;
+    const char* reason;
+};
+
+std::ostream& operator<<(std::ostream& out, const UnusableFile& test) {
+    return out << test.name;
+}
+
+class AppSettingsUnusableFile : public AppSettingsFile,
+                                public testing::WithParamInterface<UnusableFile> {};
+
+TEST_P(AppSettingsUnusableFile, IsReportedAndKeptUntilTheNextSave) {
+    putFile(path, GetParam().bytes);
+    EXPECT_EQ(printedByLoading(),
+              std::string("⚠️ Failed to load config: ") + GetParam().reason + '\n');
+    EXPECT_EQ(fileBytes(path), GetParam().bytes);
+
+    AppSettings settings(home.path() + u"/other.json"_s);
+    settings.testConfigURL = path;
+    settings.fontSize = 20;
+    settings.loadSettings();
+    EXPECT_EQ(settings.fontSize, 20.0);
+    EXPECT_EQ(fileBytes(path), GetParam().bytes);
+
+    EXPECT_EQ(printedBySaving(settings), "");
+    EXPECT_EQ(AppSettings(path).fontSize, 20.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, AppSettingsUnusableFile,
+    testing::Values(
+        UnusableFile{"UnknownScrollRate", R"({"fontSize": 30, "scrollRate": "turbo"})",
+                     "Invalid value for \"scrollRate\""},
+        UnusableFile{"WrongType", R"({"fontSize": 30, "autoScrollEnabled": 1})",
+                     "Invalid value for \"autoScrollEnabled\""},
+        UnusableFile{"Truncated", R"({"fontSize": 30, "wid)", "Invalid JSON at byte 22"},
+        UnusableFile{"Empty", "", "Invalid JSON at byte 1"},
+        UnusableFile{"Binary",
+                     QByteArray("\x7f"
+                                "ELF\0\0",
+                                6),
+                     "Invalid JSON at byte 1"},
+        UnusableFile{"DeeplyNested", QByteArray(2'000'000, '['), "The JSON is nested too deeply"},
+        UnusableFile{"Huge", QByteArray(16'777'217, ' '),
+                     "The file is larger than 16777216 bytes"}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(AppSettingsFile, LoadsAFileOfTheGreatestSize) {
+    const QByteArray json = R"({"fontSize": 20})";
+    putFile(path, json + QByteArray(16'777'216 - json.size(), ' '));
+    EXPECT_EQ(AppSettings(path).fontSize, 20.0);
+}
+
+TEST_F(AppSettingsFile, AFolderInItsPlaceIsReportedAndKept) {
+    ASSERT_TRUE(QDir().mkdir(path));
+    EXPECT_EQ(printedByLoading(), "⚠️ Failed to load config: Not a regular file\n");
+    EXPECT_EQ(printedBySaving(AppSettings(path)), "❌ Failed to save config: Not a regular file\n");
+    EXPECT_TRUE(QFileInfo(path).isDir());
+}
+
+TEST_F(AppSettingsFile, AFifoInItsPlaceIsReportedAndKeptWithoutBlocking) {
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_EQ(printedByLoading(), "⚠️ Failed to load config: Not a regular file\n");
+    EXPECT_EQ(printedBySaving(AppSettings(path)), "❌ Failed to save config: Not a regular file\n");
+    EXPECT_FALSE(QFileInfo(path).isFile());
+}
+
+TEST_F(AppSettingsFile, ALinkToADeviceIsReportedAndKept) {
+    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, path));
+    EXPECT_EQ(printedByLoading(), "⚠️ Failed to load config: Not a regular file\n");
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+}
+
+TEST_F(AppSettingsFile, ASymbolicLinkStaysOneAndItsTargetIsLoadedAndSaved) {
+    const QString target = home.path() + u"/dotfiles.json"_s;
+    putFile(target, R"({"fontSize": 20})");
+    ASSERT_TRUE(QFile::link(target, path));
+    AppSettings settings(path);
+    EXPECT_EQ(settings.fontSize, 20.0);
+    settings.fontSize = 21;
+    settings.save();
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_EQ(AppSettings(target).fontSize, 21.0);
+}
+
+TEST_F(AppSettingsFile, ADanglingLinkCountsAsNoFileAndReceivesTheDefaults) {
+    const QString target = home.path() + u"/dotfiles.json"_s;
+    ASSERT_TRUE(QFile::link(target, path));
+    EXPECT_EQ(printedByLoading(), "");
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_TRUE(fileBytes(target).contains("\"fontSize\": 16.0"));
+}
+
+TEST_F(AppSettingsFile, AFolderThatCannotBeCreatedIsReportedByTheSave) {
+    putFile(home.path() + u"/Library"_s, "in the way");
+    testing::internal::CaptureStdout();
+    AppSettings settings;
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "❌ Failed to save config: Not a directory\n");
+    settings.fontSize = 20;
+    EXPECT_EQ(printedBySaving(settings), "❌ Failed to save config: Not a directory\n");
+    EXPECT_EQ(settings.fontSize, 20.0);
+}
+
+TEST_F(AppSettingsFile, AMissingFolderOfTheTestFileIsReportedByTheSave) {
+    path = home.path() + u"/missing/config.json"_s;
+    EXPECT_THAT(printedByLoading(), testing::MatchesRegex("❌ Failed to save config: [^\n]+\n"));
+    EXPECT_FALSE(QFileInfo::exists(home.path() + u"/missing"_s));
+}
+
+TEST_F(AppSettingsFile, AnEmptyPathIsReportedByTheSave) {
+    path.clear();
+    EXPECT_THAT(printedByLoading(), testing::MatchesRegex("❌ Failed to save config: [^\n]+\n"));
+}
+
+} // namespace
+} // namespace tessaline

@@ -1,0 +1,335 @@
+#include "settings/SettingsCodec.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+#include <ostream>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::UnorderedElementsAre;
+
+/// The settings that `json` holds; fails the test and gives the defaults when it holds none.
+PersistedSettings decoded(const QByteArray& json) {
+    QString error;
+    const auto settings = decodeSettings(json, &error);
+    EXPECT_TRUE(settings.has_value()) << json.toStdString() << ": " << error.toStdString();
+    return settings.value_or(PersistedSettings());
+}
+
+QString decodingError(const QByteArray& json) {
+    QString error;
+    EXPECT_EQ(decodeSettings(json, &error), std::nullopt) << json.left(200).toStdString();
+    return error;
+}
+
+TEST(SettingsDecoding, AnEmptyObjectGivesTheDefaults) {
+    const PersistedSettings settings = decoded("{}");
+    EXPECT_EQ(settings, PersistedSettings());
+    EXPECT_EQ(settings.notePath,
+              QString::fromLocal8Bit(qgetenv("HOME")) +
+                  u"/Library/Mobile Documents/com~apple~CloudDocs/Obsidian/notch.md"_s);
+    EXPECT_EQ(settings.fontSize, 16.0);
+    EXPECT_EQ(settings.width, 450.0);
+    EXPECT_EQ(settings.height, 256.0);
+    EXPECT_EQ(settings.xOffset, 0.0);
+    EXPECT_EQ(settings.scrollSpeed, 0.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 2.0);
+    EXPECT_FALSE(settings.autoScrollEnabled);
+    EXPECT_EQ(settings.scrollRate, ScrollRate::medium);
+    EXPECT_FALSE(settings.hasCompletedOnboarding);
+    EXPECT_EQ(settings.activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(settings.appleNotesConfig, std::nullopt);
+    EXPECT_THAT(settings.enabledSourceTypes, UnorderedElementsAre(SourceType::clipboard));
+    EXPECT_EQ(settings.obsidianBookmarkData, std::nullopt);
+    EXPECT_EQ(settings.preferredDisplayID, std::nullopt);
+}
+
+TEST(SettingsDecoding, TakesASingleKeyAndKeepsTheOtherDefaults) {
+    PersistedSettings expected;
+    expected.fontSize = 20;
+    EXPECT_EQ(decoded(R"({"fontSize": 20})"), expected);
+}
+
+TEST(SettingsDecoding, NullMeansAbsentForEveryKey) {
+    EXPECT_EQ(decoded(R"({"notePath": null, "fontSize": null, "width": null, "height": null,
+        "xOffset": null, "scrollSpeed": null, "lastNonZeroScrollSpeed": null,
+        "autoScrollEnabled": null, "scrollRate": null, "hasCompletedOnboarding": null,
+        "activeSourceType": null, "appleNotesConfig": null, "enabledSourceTypes": null,
+        "obsidianBookmarkData": null, "preferredDisplayID": null})"),
+              PersistedSettings());
+}
+
+TEST(SettingsDecoding, IgnoresUnknownAndUnpersistedKeys) {
+    EXPECT_EQ(decoded(R"({"sourceMode": 3, "clipboardContent": [], "testConfigURL": {},
+        "FontSize": "x", "": {"deep": [[1e308]]}})"),
+              PersistedSettings());
+}
+
+TEST(SettingsDecoding, AcceptsIntegersAndFractionsAndExponentsForDoubles) {
+    EXPECT_EQ(decoded(R"({"width": 600})").width, 600.0);
+    EXPECT_EQ(decoded(R"({"xOffset": -12})").xOffset, -12.0);
+    EXPECT_EQ(decoded(R"({"xOffset": -12.25})").xOffset, -12.25);
+    EXPECT_EQ(decoded(R"({"height": 3.5e2})").height, 350.0);
+    EXPECT_EQ(decoded(R"({"height": 18446744073709551616})").height, 18446744073709551616.0);
+}
+
+TEST(SettingsDecoding, LimitsSpeedsToTheGreatestOneWithoutFurtherRepair) {
+    const auto settings = decoded(R"({"scrollSpeed": 9, "lastNonZeroScrollSpeed": 5.000001})");
+    EXPECT_EQ(settings.scrollSpeed, 5.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 5.0);
+    const auto negative = decoded(R"({"scrollSpeed": -3, "lastNonZeroScrollSpeed": -1})");
+    EXPECT_EQ(negative.scrollSpeed, -3.0);
+    EXPECT_EQ(negative.lastNonZeroScrollSpeed, -1.0);
+}
+
+TEST(SettingsDecoding, TakesTheNoteAndIgnoresItsUnknownMembers) {
+    const AppleNotesConfiguration note{u"x-coredata://7"_s, u"Ein Vortrag 🎤"_s};
+    EXPECT_EQ(decoded(R"({"appleNotesConfig": {"noteName": "Ein Vortrag 🎤", "folder": 1,
+        "noteId": "x-coredata://7"}})")
+                  .appleNotesConfig,
+              note);
+}
+
+TEST(SettingsDecoding, TakesBookmarkBytesFromBase64) {
+    EXPECT_EQ(decoded(R"({"obsidianBookmarkData": "AAH+/w=="})").obsidianBookmarkData,
+              QByteArray("\x00\x01\xfe\xff", 4));
+    EXPECT_EQ(decoded(R"({"obsidianBookmarkData": ""})").obsidianBookmarkData, QByteArray());
+}
+
+TEST(SettingsDecoding, TakesDisplayNumbersOfTheWholeRange) {
+    EXPECT_EQ(decoded(R"({"preferredDisplayID": 0})").preferredDisplayID, 0U);
+    EXPECT_EQ(decoded(R"({"preferredDisplayID": 4294967295})").preferredDisplayID, 4294967295U);
+    EXPECT_EQ(decoded(R"({"preferredDisplayID": 7.0})").preferredDisplayID, 7U);
+}
+
+TEST(SettingsDecoding, TakesTextWithEscapesAndNulls) {
+    EXPECT_EQ(decoded(R"({"notePath": "a\u0000\n\/\ud83c\udfa4é"})").notePath,
+              QString::fromUtf8("a\0\n/🎤é", 10));
+}
+
+TEST(SettingsDecoding, SkipsAByteOrderMark) {
+    EXPECT_EQ(decoded("\xEF\xBB\xBF{\"fontSize\": 20}").fontSize, 20.0);
+}
+
+TEST(SettingsDecoding, TheLastOfSeveralEqualKeysWins) {
+    EXPECT_EQ(decoded(R"({"fontSize": 20, "fontSize": 21})").fontSize, 21.0);
+}
+
+struct SourcesCase {
+    QByteArray name;
+    QByteArray json;
+    std::set<SourceType> enabled;
+    SourceType active;
+};
+
+std::ostream& operator<<(std::ostream& out, const SourcesCase& test) {
+    return out << test.name.constData();
+}
+
+class SourcesDecoding : public testing::TestWithParam<SourcesCase> {};
+
+TEST_P(SourcesDecoding, SettlesEnabledAndActiveSources) {
+    const PersistedSettings settings = decoded(GetParam().json);
+    EXPECT_EQ(settings.enabledSourceTypes, GetParam().enabled);
+    EXPECT_EQ(settings.activeSourceType, GetParam().active);
+}
+
+constexpr auto obsidian = SourceType::obsidian;
+constexpr auto appleNotes = SourceType::appleNotes;
+constexpr auto clipboard = SourceType::clipboard;
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, SourcesDecoding,
+    testing::Values(
+        SourcesCase{"ActiveObsidianWithoutList",
+                    R"({"activeSourceType": "obsidian"})",
+                    {clipboard, obsidian},
+                    obsidian},
+        SourcesCase{"ActiveNotesWithoutList",
+                    R"({"activeSourceType": "appleNotes"})",
+                    {clipboard, appleNotes},
+                    appleNotes},
+        SourcesCase{"ActiveClipboardWithoutList",
+                    R"({"activeSourceType": "clipboard"})",
+                    {clipboard},
+                    clipboard},
+        SourcesCase{"ActiveObsidianWithNullList",
+                    R"({"activeSourceType": "obsidian", "enabledSourceTypes": null})",
+                    {clipboard, obsidian},
+                    obsidian},
+        SourcesCase{"ActiveSourceNotInList",
+                    R"({"activeSourceType": "obsidian", "enabledSourceTypes": ["clipboard"]})",
+                    {clipboard},
+                    clipboard},
+        SourcesCase{"ActiveSourceNotInEmptyList",
+                    R"({"activeSourceType": "obsidian", "enabledSourceTypes": []})",
+                    {clipboard},
+                    clipboard},
+        SourcesCase{"EmptyList", R"({"enabledSourceTypes": []})", {clipboard}, clipboard},
+        SourcesCase{"ListWithoutClipboard",
+                    R"({"activeSourceType": "obsidian", "enabledSourceTypes": ["obsidian"]})",
+                    {clipboard, obsidian},
+                    obsidian},
+        SourcesCase{"ListWithoutActiveSource",
+                    R"({"enabledSourceTypes": ["obsidian", "appleNotes"]})",
+                    {clipboard, obsidian, appleNotes},
+                    clipboard},
+        SourcesCase{"ActiveClipboardWithListWithoutIt",
+                    R"({"activeSourceType": "clipboard", "enabledSourceTypes": ["obsidian"]})",
+                    {clipboard, obsidian},
+                    clipboard},
+        SourcesCase{"ListWithDuplicates",
+                    R"({"enabledSourceTypes": ["obsidian", "obsidian", "clipboard"]})",
+                    {clipboard, obsidian},
+                    clipboard}),
+    [](const auto& test) { return test.param.name.toStdString(); });
+
+struct WrongValue {
+    const char* key;
+    const char* value;
+};
+
+std::ostream& operator<<(std::ostream& out, const WrongValue& wrong) {
+    return out << wrong.key << ": " << wrong.value;
+}
+
+class WrongValueDecoding : public testing::TestWithParam<WrongValue> {};
+
+TEST_P(WrongValueDecoding, FailsAndNamesTheKey) {
+    const QByteArray json =
+        QByteArray("{\"fontSize\": 20, \"") + GetParam().key + "\": " + GetParam().value + "}";
+    EXPECT_EQ(decodingError(json),
+              u"Invalid value for \"%1\""_s.arg(QLatin1String(GetParam().key)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Strings, WrongValueDecoding,
+    testing::Values(WrongValue{"notePath", "1"}, WrongValue{"notePath", "true"},
+                    WrongValue{"notePath", "[]"}, WrongValue{"notePath", "{}"},
+                    WrongValue{"scrollRate", R"("Medium")"}, WrongValue{"scrollRate", R"("")"},
+                    WrongValue{"scrollRate", R"("turbo")"}, WrongValue{"scrollRate", "1"},
+                    WrongValue{"activeSourceType", R"("Clipboard")"},
+                    WrongValue{"activeSourceType", R"("none")"},
+                    WrongValue{"activeSourceType", "0"},
+                    WrongValue{"activeSourceType", R"(["clipboard"])"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, WrongValueDecoding,
+    testing::Values(
+        WrongValue{"fontSize", R"("16")"}, WrongValue{"fontSize", "true"},
+        WrongValue{"width", "false"}, WrongValue{"height", "[450]"}, WrongValue{"xOffset", "{}"},
+        WrongValue{"scrollSpeed", R"("2.0")"}, WrongValue{"scrollSpeed", R"("NaN")"},
+        WrongValue{"lastNonZeroScrollSpeed", "true"}, WrongValue{"preferredDisplayID", "-1"},
+        WrongValue{"preferredDisplayID", "4294967296"},
+        WrongValue{"preferredDisplayID", "18446744073709551616"},
+        WrongValue{"preferredDisplayID", "1.5"}, WrongValue{"preferredDisplayID", "1e300"},
+        WrongValue{"preferredDisplayID", R"("1")"}, WrongValue{"preferredDisplayID", "true"}));
+
+INSTANTIATE_TEST_SUITE_P(Booleans, WrongValueDecoding,
+                         testing::Values(WrongValue{"autoScrollEnabled", "0"},
+                                         WrongValue{"autoScrollEnabled", "1"},
+                                         WrongValue{"autoScrollEnabled", R"("true")"},
+                                         WrongValue{"hasCompletedOnboarding", "1.0"},
+                                         WrongValue{"hasCompletedOnboarding", "[]"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Structures, WrongValueDecoding,
+    testing::Values(WrongValue{"enabledSourceTypes", R"("clipboard")"},
+                    WrongValue{"enabledSourceTypes", R"({"clipboard": true})"},
+                    WrongValue{"enabledSourceTypes", R"(["clipboard", "web"])"},
+                    WrongValue{"enabledSourceTypes", R"(["clipboard", null])"},
+                    WrongValue{"enabledSourceTypes", R"([["clipboard"]])"},
+                    WrongValue{"enabledSourceTypes", "[0]"},
+                    WrongValue{"appleNotesConfig", R"("x-coredata://7")"},
+                    WrongValue{"appleNotesConfig", "[]"}, WrongValue{"appleNotesConfig", "{}"},
+                    WrongValue{"appleNotesConfig", R"({"noteId": "7"})"},
+                    WrongValue{"appleNotesConfig", R"({"noteName": "Talk"})"},
+                    WrongValue{"appleNotesConfig", R"({"noteId": "7", "noteName": null})"},
+                    WrongValue{"appleNotesConfig", R"({"noteId": 7, "noteName": "Talk"})"}));
+
+INSTANTIATE_TEST_SUITE_P(Base64, WrongValueDecoding,
+                         testing::Values(WrongValue{"obsidianBookmarkData", R"("AAH-_w==")"},
+                                         WrongValue{"obsidianBookmarkData", R"("AAH+/w")"},
+                                         WrongValue{"obsidianBookmarkData", R"("AAH+/w=")"},
+                                         WrongValue{"obsidianBookmarkData", R"("AAH+\n/w==")"},
+                                         WrongValue{"obsidianBookmarkData", R"("====")"},
+                                         WrongValue{"obsidianBookmarkData", R"("AA=A")"},
+                                         WrongValue{"obsidianBookmarkData", R"("äöüß")"},
+                                         WrongValue{"obsidianBookmarkData", "[0, 1]"}));
+
+TEST(SettingsDecoding, NamesTheFirstOfSeveralWrongKeys) {
+    EXPECT_EQ(decodingError(R"({"width": "x", "fontSize": "x"})"),
+              u"Invalid value for \"fontSize\""_s);
+}
+
+struct BrokenFile {
+    const char* name;
+    QByteArray bytes;
+    QString error;
+};
+
+std::ostream& operator<<(std::ostream& out, const BrokenFile& test) {
+    return out << test.name;
+}
+
+class BrokenFileDecoding : public testing::TestWithParam<BrokenFile> {};
+
+TEST_P(BrokenFileDecoding, FailsWithOneLine) {
+    EXPECT_EQ(decodingError(GetParam().bytes), GetParam().error);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BrokenFileDecoding,
+    testing::Values(
+        BrokenFile{"Empty", "", u"Invalid JSON at byte 1"_s},
+        BrokenFile{"OnlyAByteOrderMark", "\xEF\xBB\xBF", u"Invalid JSON at byte 4"_s},
+        BrokenFile{"Binary", QByteArray("\x00\xff\x7f\x00", 4), u"Invalid JSON at byte 1"_s},
+        BrokenFile{"Truncated", R"({"fontSize": 20, "wid)", u"Invalid JSON at byte 22"_s},
+        BrokenFile{"TruncatedNumber", R"({"fontSize": 20)", u"Invalid JSON at byte 16"_s},
+        BrokenFile{"TrailingText", R"({"fontSize": 20} x)", u"Invalid JSON at byte 18"_s},
+        BrokenFile{"TrailingComma", R"({"fontSize": 20,})", u"Invalid JSON at byte 17"_s},
+        BrokenFile{"Comment", "{} // defaults", u"Invalid JSON at byte 4"_s},
+        BrokenFile{"NotANumber", R"({"fontSize": NaN})", u"Invalid JSON at byte 14"_s},
+        BrokenFile{"InvalidUtf8", "{\"notePath\": \"\xC3(\"}", u"Invalid JSON at byte 16"_s},
+        BrokenFile{"InvalidUtf8InUnknownKey", "{\"x\": \"\xFF\"}", u"Invalid JSON at byte 8"_s},
+        BrokenFile{"LoneSurrogate", R"({"notePath": "\ud83c"})", u"Invalid JSON at byte 21"_s},
+        BrokenFile{"NumberOutOfRange", R"({"fontSize": 1e400})",
+                   u"The JSON holds a number out of range"_s},
+        BrokenFile{"Array", "[]", u"The JSON is not an object"_s},
+        BrokenFile{"Null", "null", u"The JSON is not an object"_s},
+        BrokenFile{"Text", R"("config")", u"The JSON is not an object"_s}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST(SettingsDecoding, RefusesMillionsOfNestedBracketsWithoutBuildingThem) {
+    for (const char bracket : {'[', '{'}) {
+        EXPECT_EQ(decodingError("{\"x\": " + QByteArray(10'000'000, bracket)),
+                  u"The JSON is nested too deeply"_s);
+    }
+}
+
+TEST(SettingsDecoding, CountsNestingOutsideOfStringsOnly) {
+    const QByteArray brackets(1000, '[');
+    EXPECT_EQ(decoded("{\"notePath\": \"\\\"" + brackets + "\\\\\"}").notePath,
+              u"\"%1\\"_s.arg(QString::fromLatin1(brackets)));
+}
+
+TEST(SettingsDecoding, AcceptsNestingAsDeepAsFiveHundredAndTwelveLevels) {
+    const QByteArray open(511, '[');
+    const QByteArray close(511, ']');
+    EXPECT_EQ(decoded("{\"x\": " + open + close + "}"), PersistedSettings());
+    EXPECT_EQ(decodingError("{\"x\": [" + open + close + "]}"), u"The JSON is nested too deeply"_s);
+}
+
+TEST(SettingsDecoding, TakesALargeTextAndManyUnknownKeys) {
+    QByteArray json = "{";
+    for (int key = 0; key < 200'000; ++key)
+        json += "\"k" + QByteArray::number(key) + "\": [" + QByteArray::number(key) + "],";
+    json += "\"notePath\": \"" + QByteArray(5'000'000, 'p') + "\"}";
+    EXPECT_EQ(decoded(json).notePath.size(), 5'000'000);
+}
+
+} // namespace
+} // namespace tessaline
