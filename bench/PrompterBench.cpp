@@ -1,5 +1,6 @@
 #include "MedianReporter.h"
 #include "SampleTalk.h"
+#include "Verdict.h"
 
 #include "platform/qt/QtTimerMaker.h"
 #include "prompter/view/ScriptView.h"
@@ -20,9 +21,11 @@
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
 using tessaline::MarkdownRenderer;
 using tessaline::Script;
 using tessaline::ScriptView;
+using tessaline::verdict;
 
 constexpr double fontSize = 16;
 constexpr double columnWidth = 400;
@@ -109,11 +112,6 @@ double threadMilliseconds() {
     return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
 }
 
-void verdict(const char* what, double value, double limit, const char* unit) {
-    std::printf("%-46s %8.3f %s, at most %g wanted: %s\n", what, value, unit, limit,
-                value <= limit ? "pass" : "falls short");
-}
-
 /// Scrolls through a text frame by frame and tells how long the painting of a frame takes.
 void measureFrames(qsizetype words) {
     ShownView shown;
@@ -129,8 +127,8 @@ void measureFrames(qsizetype words) {
     }
     std::sort(times.begin(), times.end());
     std::printf("Frames of a script of %lld words:\n", static_cast<long long>(words));
-    verdict("  median", times[times.size() / 2], 0.4, "ms");
-    verdict("  99th percentile", times[times.size() * 99 / 100], 1.0, "ms");
+    verdict(u"  median"_s, times[times.size() / 2], 0.4, "ms");
+    verdict(u"  99th percentile"_s, times[times.size() * 99 / 100], 1.0, "ms");
 }
 
 } // namespace
@@ -144,10 +142,10 @@ int main(int argc, char** argv) {
     tessaline::MedianReporter medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
     std::printf("\n");
-    verdict("Arrival of 10,000 words, share of setMarkdown's",
+    verdict(u"Arrival of 10,000 words, share of setMarkdown's"_s,
             medians.milliseconds("arrival") / medians.milliseconds("setMarkdownAndLayOut"), 0.6,
-            "  ");
-    verdict("One edited line in 100,000 words", medians.milliseconds("editOfOneLine"), 10, "ms");
+            "");
+    verdict(u"One edited line in 100,000 words"_s, medians.milliseconds("editOfOneLine"), 10, "ms");
     for (const qsizetype words : {1'000, 10'000, 100'000})
         measureFrames(words);
     return 0;

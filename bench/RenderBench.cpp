@@ -22,7 +22,7 @@ const QString& talk() {
 }
 
 void setMarkdown(benchmark::State& state) {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         std::optional<QTextDocument> document(std::in_place);
         state.ResumeTiming();
@@ -34,7 +34,7 @@ void setMarkdown(benchmark::State& state) {
 }
 
 void render(benchmark::State& state) {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         StyledText styled = MarkdownRenderer(24).render(talk());
         benchmark::DoNotOptimize(styled.text.data());
         state.PauseTiming();
@@ -44,7 +44,7 @@ void render(benchmark::State& state) {
 }
 
 void wordCount(benchmark::State& state) {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(MarkdownRenderer::wordCount(talk()));
     }
 }
