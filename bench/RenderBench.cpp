@@ -49,9 +49,9 @@ void wordCount(benchmark::State& state) {
     }
 }
 
-BENCHMARK(setMarkdown)->Unit(benchmark::kMillisecond);
-BENCHMARK(render)->Unit(benchmark::kMillisecond);
-BENCHMARK(wordCount)->Unit(benchmark::kMillisecond);
+BENCHMARK(setMarkdown)->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly();
+BENCHMARK(render)->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly();
+BENCHMARK(wordCount)->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly();
 
 /// Prints how often `name` goes into setMarkdown's time, and whether that suffices.
 bool compare(const tessaline::MedianReporter& medians, const char* name, double wanted) {

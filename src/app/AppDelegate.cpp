@@ -65,7 +65,7 @@ void AppDelegate::createPrompter() {
 }
 
 void AppDelegate::startApp(const std::optional<QString>& text) {
-    prompterWindow->show();
+    prompterWindow->makeKeyAndOrderFront();
     if (text)
         openText(*text);
     else

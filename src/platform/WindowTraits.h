@@ -18,6 +18,10 @@ public:
     /// Flags that the window has to be created with, on top of those that shape it.
     virtual Qt::WindowFlags creationFlags() const = 0;
 
+    /// Whether translucent parts of a window show what lies below, at this moment. Otherwise the
+    /// window has to be cut to its shape.
+    virtual bool showsTranslucency() const = 0;
+
     /// Whether `excludeFromCapture` can do its work here.
     virtual bool canExcludeFromCapture() const = 0;
 

@@ -4,6 +4,7 @@
 #include "platform/ScreenCoordinates.h"
 #include "platform/Screens.h"
 #include "platform/WindowTraits.h"
+#include "platform/qt/FocusOnClick.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/Placeholder.h"
 #include "prompter/PrompterGeometry.h"
@@ -91,7 +92,7 @@ void PrompterWindow::updateFrame() {
         return;
     }
     arrangeContent();
-    updateShape(*this, collapsed);
+    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
     if (const auto screen = currentScreen()) ports.displayLinks.setRefreshRate(screen->refreshRate);
 }
 
@@ -124,7 +125,7 @@ void PrompterWindow::toggleCollapsed() {
         collapsed ? collapsedFrame(frame, menuBarHeight()) : expandedFrame(frame, expandedHeight);
     arrangeContent();
     animateTo(target);
-    updateShape(*this, collapsed);
+    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
     updateMinimizeButtonAppearance();
 }
 
@@ -148,13 +149,21 @@ void PrompterWindow::arrangeContent() {
 
 void PrompterWindow::resizeEvent(QResizeEvent*) {
     arrangeContent();
-    updateShape(*this, collapsed);
+    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
 }
 
 void PrompterWindow::showEvent(QShowEvent* event) {
     ports.windowTraits.floatAboveEverything(winId());
     ports.windowTraits.excludeFromCapture(winId());
+    if (!std::exchange(watchesClicks, true)) new FocusOnClick(*windowHandle(), ports.windowTraits);
+    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
     QWidget::showEvent(event);
+}
+
+void PrompterWindow::makeKeyAndOrderFront() {
+    show();
+    raise();
+    ports.windowTraits.takeKeyboard(winId());
 }
 
 void PrompterWindow::paintEvent(QPaintEvent*) {

@@ -35,6 +35,9 @@ public:
     /// Borrowed.
     void setScreenManager(const ScreenManager* manager) { screenManager = manager; }
 
+    /// Shows the window above all others and directs the keyboard to it.
+    void makeKeyAndOrderFront();
+
     /// Places and sizes the window as the settings say.
     void updateFrame();
 
@@ -97,6 +100,7 @@ private:
     const ScreenManager* screenManager = nullptr;
     ControlStrip* strip = nullptr;
     ScriptView* view = nullptr;
+    bool watchesClicks = false;
     bool collapsed = false;
     double expandedHeight = 0.0;
     QString lastRawContent;

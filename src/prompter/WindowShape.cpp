@@ -35,8 +35,11 @@ QRegion maskOf(const QWidget& window, bool collapsed) {
 
 } // namespace
 
-void updateShape(QWidget& window, bool collapsed) {
-    window.setMask(maskOf(window, collapsed));
+void updateShape(QWidget& window, bool collapsed, bool showsTranslucency) {
+    if (showsTranslucency)
+        window.clearMask();
+    else
+        window.setMask(maskOf(window, collapsed));
     window.update();
 }
 

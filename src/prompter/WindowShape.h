@@ -5,8 +5,8 @@ class QWidget;
 namespace tessaline {
 
 /// Cuts the window to its shape where the desktop cannot show translucent ones: square at the top,
-/// round at the bottom unless it is collapsed. Call it when the size or the state changes.
-void updateShape(QWidget& window, bool collapsed);
+/// round at the bottom unless it is collapsed. Call it when any of this changes.
+void updateShape(QWidget& window, bool collapsed, bool showsTranslucency);
 
 /// Fills the window's shape with black, with smooth corners. For paint events.
 void paintShape(QWidget& window, bool collapsed);

@@ -13,14 +13,12 @@ namespace {
 
 class FocusOnClickTest : public ::testing::Test {
 protected:
-    FocusOnClickTest() {
+    void SetUp() override {
         window.setGeometry(0, 0, 200, 100);
         window.show();
-        // Owned by the window.
-        new FocusOnClick(window, traits);
     }
 
-    ~FocusOnClickTest() override {
+    void TearDown() override {
         if (pressed) release(inside);
     }
 
@@ -51,6 +49,7 @@ protected:
 
     FakeWindowTraits traits;
     QWindow window;
+    FocusOnClick focusOnClick{window, traits};
     bool pressed = false;
 };
 

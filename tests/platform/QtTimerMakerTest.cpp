@@ -4,8 +4,7 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <cmath>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -14,24 +13,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 using Seconds = TimerMaker::Interval;
-
-TEST(QtTimerMaker, AddsUpNoRoundedMilliseconds) {
-    constexpr Seconds interval{1.0 / 60.0};
-    constexpr std::size_t count = 60;
-    constexpr std::size_t stretch = 20;
-    QtTimerMaker timers;
-    std::vector<Clock::time_point> firings;
-    const auto start = Clock::now();
-    const auto timer = timers.every(interval, [&] { firings.push_back(Clock::now()); });
-    ASSERT_TRUE(waitUntil([&] { return firings.size() >= count; }));
-    EXPECT_GE(firings[count - 1] - start, (count - 0.1) * interval);
-    // Periods of 17 ms would make every stretch too long. A loaded machine delays some, not all.
-    Seconds shortest = 2 * stretch * interval;
-    for (std::size_t index = 0; index + stretch < count; ++index) {
-        shortest = std::min<Seconds>(shortest, firings[index + stretch] - firings[index]);
-    }
-    EXPECT_LT(shortest.count(), (stretch * interval).count() + 0.003);
-}
 
 TEST(QtTimerMaker, FiresFirstAfterOneInterval) {
     constexpr Seconds interval{0.05};
@@ -51,11 +32,9 @@ TEST(QtTimerMaker, LeavesOutTheFiringsThatTheLoopWasTooBusyFor) {
     const auto start = Clock::now();
     const auto timer = timers.every(interval, [&] { ++firings; });
     std::this_thread::sleep_for(4.5 * interval);
-    const auto gridPosition = [&] { return std::floor(Seconds(Clock::now() - start) / interval); };
-    const double missed = gridPosition();
-    ASSERT_TRUE(waitUntil([&] { return firings >= 2; }));
-    EXPECT_LE(firings, 2 + gridPosition() - missed);
-    EXPECT_GE(gridPosition(), missed + 1);
+    ASSERT_TRUE(waitUntil([&] { return firings == 2; }));
+    // One firing came late for all that were missed; the next one waited for its time.
+    EXPECT_GE(Seconds(Clock::now() - start), 5 * interval - Seconds{0.002});
 }
 
 TEST(QtTimerMaker, StopsWithItsTimer) {

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
 #include <string>
 
 namespace tessaline {
@@ -15,6 +16,10 @@ struct FlipCase {
     QRect primary;
     Rect ours;
 };
+
+void PrintTo(const FlipCase& flip, std::ostream* out) {
+    *out << flip.name;
+}
 
 std::string nameOf(const ::testing::TestParamInfo<FlipCase>& info) {
     return info.param.name;

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
 #include <string>
 
 namespace tessaline {
@@ -18,6 +19,10 @@ struct PlacementCase {
     Rect screen;
     Rect expected;
 };
+
+void PrintTo(const PlacementCase& placement, std::ostream* out) {
+    *out << placement.name;
+}
 
 std::string nameOf(const ::testing::TestParamInfo<PlacementCase>& info) {
     return info.param.name;

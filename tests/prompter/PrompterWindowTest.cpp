@@ -334,6 +334,23 @@ TEST_F(PrompterWindowTest, DescribesItsControls) {
               u"Content source"_s);
 }
 
+TEST_F(PrompterWindowTest, TakesTheKeyboardWhenItIsBroughtToTheFront) {
+    window().makeKeyAndOrderFront();
+    EXPECT_EQ(traits.keyboardOwner, window().winId());
+    window().hide();
+    EXPECT_FALSE(traits.keyboardOwner);
+}
+
+TEST_F(PrompterWindowTest, IsCutToItsShapeWhereNothingIsTranslucent) {
+    EXPECT_TRUE(window().mask().isEmpty());
+    traits.translucency = false;
+    window().updateFrame();
+    EXPECT_TRUE(window().mask().contains(QPoint(0, 0)));
+    EXPECT_TRUE(window().mask().contains(QPoint(225, 255)));
+    EXPECT_FALSE(window().mask().contains(QPoint(0, 255)));
+    EXPECT_FALSE(window().mask().contains(QPoint(449, 255)));
+}
+
 TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
     const QImage picture = window().grab().toImage();
     EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 255);

@@ -11,6 +11,7 @@ namespace tessaline {
 class FakeWindowTraits final : public WindowTraits {
 public:
     Qt::WindowFlags creationFlags() const override { return flags; }
+    bool showsTranslucency() const override { return translucency; }
     bool canExcludeFromCapture() const override { return canExclude; }
 
     bool excludeFromCapture(NativeWindow window) override {
@@ -26,6 +27,7 @@ public:
     }
 
     Qt::WindowFlags flags = Qt::BypassWindowManagerHint;
+    bool translucency = true;
     bool canExclude = true;
     std::vector<NativeWindow> excluded;
     std::vector<NativeWindow> floating;

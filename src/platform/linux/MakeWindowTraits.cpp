@@ -1,5 +1,4 @@
-#include "platform/linux/MakeWindowTraits.h"
-
+#include "platform/SystemAdapters.h"
 #include "platform/linux/X11WindowTraits.h"
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 

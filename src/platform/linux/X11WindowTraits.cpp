@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
+#include <string_view>
 #include <utility>
 
 namespace tessaline {
@@ -15,11 +16,21 @@ Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
 
 constexpr std::uint8_t sentEventBit = 0x80;
 
+/// The atom by which compositors of the first screen make themselves known.
+xcb_atom_t internCompositorSelection(xcb_connection_t* connection) {
+    constexpr std::string_view name = "_NET_WM_CM_S0";
+    const auto cookie = xcb_intern_atom(connection, 0, std::uint16_t(name.size()), name.data());
+    const XcbReply<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
 } // namespace
 
 X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
     : connection(serverConnection)
-    , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root) {
+    , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
+    , compositorSelection(internCompositorSelection(serverConnection)) {
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
@@ -27,6 +38,13 @@ X11WindowTraits::~X11WindowTraits() = default;
 
 Qt::WindowFlags X11WindowTraits::creationFlags() const {
     return Qt::BypassWindowManagerHint;
+}
+
+bool X11WindowTraits::showsTranslucency() const {
+    const auto cookie = xcb_get_selection_owner(connection, compositorSelection);
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(connection, cookie, nullptr));
+    return reply && reply->owner != XCB_NONE;
 }
 
 bool X11WindowTraits::canExcludeFromCapture() const {

@@ -27,6 +27,8 @@ public:
     ~X11WindowTraits() override;
 
     Qt::WindowFlags creationFlags() const override;
+    /// True while a compositor runs.
+    bool showsTranslucency() const override;
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
 
@@ -48,6 +50,7 @@ private:
 
     xcb_connection_t* connection;
     XWindow root;
+    std::uint32_t compositorSelection; ///< owned by the compositor while there is one
     XWindow floating = 0;
     XWindow previousFocus = 0;
     bool raiseIsPending = false;

@@ -35,7 +35,8 @@ bool FocusOnClick::eventFilter(QObject* watched, QEvent* event) {
     default:
         break;
     }
-    if (giveBack) traits.giveKeyboardBack(window.winId());
+    // winId would create a native window anew for one that is being destroyed.
+    if (giveBack && window.handle()) traits.giveKeyboardBack(window.winId());
     return QObject::eventFilter(watched, event);
 }
 

@@ -1,9 +1,9 @@
 #include "platform/qt/QtTimerMaker.h"
 
+#include "platform/FiringGrid.h"
+
 #include <QTimer>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace tessaline {
@@ -19,8 +19,8 @@ constexpr Interval longestPreciseInterval{0.1};
 
 class QtRepeatingTimer final : public RepeatingTimer {
 public:
-    QtRepeatingTimer(Interval period, std::function<void()> onFire)
-        : interval(period), action(std::make_shared<std::function<void()>>(std::move(onFire))) {
+    QtRepeatingTimer(Interval interval, std::function<void()> onFire)
+        : grid(interval), action(std::make_shared<std::function<void()>>(std::move(onFire))) {
         timer.setSingleShot(true);
         timer.setTimerType(interval <= longestPreciseInterval ? Qt::PreciseTimer : Qt::CoarseTimer);
         timer.callOnTimeout([this] { fire(); });
@@ -28,13 +28,7 @@ public:
     }
 
 private:
-    void schedule() {
-        const Interval elapsed = Clock::now() - start;
-        firings = std::max(firings, std::floor(elapsed / interval)) + 1;
-        const auto wait =
-            std::chrono::round<std::chrono::milliseconds>(firings * interval - elapsed);
-        timer.start(wait);
-    }
+    void schedule() { timer.start(grid.waitForNext(Clock::now() - start)); }
 
     void fire() {
         schedule();
@@ -43,9 +37,8 @@ private:
         (*running)();
     }
 
-    const Interval interval;
     const Clock::time_point start = Clock::now();
-    double firings = 0.0;
+    FiringGrid grid;
     std::shared_ptr<std::function<void()>> action;
     QTimer timer;
 };

@@ -15,6 +15,10 @@ Qt::WindowFlags UnsupportedWindowTraits::creationFlags() const {
     return Qt::WindowStaysOnTopHint;
 }
 
+bool UnsupportedWindowTraits::showsTranslucency() const {
+    return true;
+}
+
 bool UnsupportedWindowTraits::canExcludeFromCapture() const {
     return false;
 }

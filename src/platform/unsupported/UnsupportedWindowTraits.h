@@ -9,6 +9,7 @@ namespace tessaline {
 class UnsupportedWindowTraits final : public WindowTraits {
 public:
     Qt::WindowFlags creationFlags() const override;
+    bool showsTranslucency() const override;
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
     void floatAboveEverything(NativeWindow window) override;

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
 #include <string>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,6 +42,10 @@ struct ConnectorCase {
     std::string connector;
     bool builtIn;
 };
+
+void PrintTo(const ConnectorCase& example, std::ostream* out) {
+    *out << example.connector;
+}
 
 class BuiltInConnector : public ::testing::TestWithParam<ConnectorCase> {};
 

@@ -1,0 +1,46 @@
+"""The base of every scenario."""
+
+import os
+import pathlib
+import sys
+import unittest
+
+from .desktop import Desktop
+
+
+class DesktopTestCase(unittest.TestCase):
+    """Gives a scenario its desktop, and shows logs and a screenshot when it fails. Screenshots go to
+    the folder that TESSALINE_ARTIFACTS names, if any."""
+
+    desktop_options = {}
+
+    def setUp(self):
+        self.desktop = self.start_desktop(**self.desktop_options)
+
+    def start_desktop(self, **options):
+        desktop = Desktop(**options)
+        self.addCleanup(desktop.close)
+        self.addCleanup(self._report_failure, desktop)
+        return desktop
+
+    def start_tessaline(self, *arguments, **env):
+        return self.desktop.start("tessaline", [os.environ["TESSALINE_BINARY"], *arguments], **env)
+
+    def _failed(self):
+        outcome = self._outcome
+        result = outcome.result
+        return any(test is self for test, _ in result.failures + result.errors) or (
+            sys.version_info < (3, 11)
+            and any(error for _, error in getattr(outcome, "errors", ()))
+        )
+
+    def _report_failure(self, desktop):
+        if not self._failed():
+            return
+        print(desktop.logs(), file=sys.stderr)
+        folder = os.environ.get("TESSALINE_ARTIFACTS")
+        if folder:
+            path = pathlib.Path(folder) / f"{self.id()}.ppm"
+            path.parent.mkdir(parents=True, exist_ok=True)
+            desktop.picture().save(path)
+            print(f"screenshot: {path}", file=sys.stderr)

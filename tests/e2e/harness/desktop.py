@@ -1,0 +1,226 @@
+"""A desktop with its user: what runs on it, what is seen, and what mouse and keys do."""
+
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+from . import session
+from .picture import Picture
+from .process import Process
+from .waiting import wait_until
+
+TOOL_SECONDS = 20
+OUTPUT = "screen"  # as Xvfb calls its only one
+
+
+class Desktop:
+    """Starts everything on construction; close() ends it. Use it as a context manager."""
+
+    def __init__(self, size=(1280, 800), panel=True, compositor=False, monitors=None):
+        session.require("xdotool", "xprop", "xrandr", "xwininfo", "import")
+        self.size = size
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
+        self.processes = []
+        try:
+            self.env = session.clean_environment(self.folder)
+            session.start_x_server(self.start, self.env, size)
+            if monitors:
+                self.set_monitors(monitors)
+            session.start_bus(self.start, self.env)
+            session.start_window_manager(self.start, self.env)
+            if compositor:
+                session.start_compositor(self.start, self.env)
+            if panel:
+                session.start_panel(self.start, self.env, size[1])
+        except BaseException:
+            print(self.logs(), file=sys.stderr)
+            self.close()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        while self.processes:
+            self.processes.pop().end()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    @property
+    def home(self):
+        return pathlib.Path(self.env["HOME"])
+
+    def logs(self):
+        """All that the programs printed, for the report of a failure."""
+        parts = []
+        for process in self.processes:
+            for kind, text in (("stdout", process.stdout()), ("stderr", process.stderr())):
+                if text.strip():
+                    parts.append(f"--- {process.name}, {kind}\n{text.rstrip()}")
+        return "\n".join(parts)
+
+    # Programs
+
+    def start(self, name, command, pass_fds=(), **env):
+        """Starts a program on this desktop. Other keyword arguments are added to its environment."""
+        process = Process(name, command, {**self.env, **env}, self.folder, pass_fds)
+        self.processes.append(process)
+        return process
+
+    def process(self, name):
+        """The program that was started last under this name."""
+        return next(process for process in reversed(self.processes) if process.name == name)
+
+    def run(self, *command, check=True):
+        """Runs a tool to its end and returns what it printed."""
+        result = subprocess.run(
+            [str(part) for part in command],
+            env=self.env,
+            cwd=self.home,
+            stdin=subprocess.DEVNULL,
+            capture_output=True,
+            text=True,
+            timeout=TOOL_SECONDS,
+            check=False,
+        )
+        if check and result.returncode != 0:
+            raise AssertionError(f"{command} failed: {result.stdout}{result.stderr}")
+        return result.stdout.strip()
+
+    # Windows, named by their X identifiers
+
+    def windows(self, title=None, pid=None):
+        """The visible windows with a title (a regular expression) or of a process."""
+        criteria = ["--name", title] if title is not None else []
+        criteria += ["--pid", pid] if pid is not None else []
+        found = self.run("xdotool", "search", "--all", "--onlyvisible", *criteria, check=False)
+        return [int(line) for line in found.split()]
+
+    def wait_for_window(self, title=None, pid=None):
+        return wait_until(
+            lambda: self.windows(title, pid), f"a window with title {title} of process {pid}"
+        )[0]
+
+    def geometry(self, window):
+        """(x, y, width, height) on the screen, without the window manager's frame."""
+        lines = self.run("xdotool", "getwindowgeometry", "--shell", window).split()
+        values = dict(line.split("=") for line in lines)
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def property(self, window, name):
+        """A window's property as xprop shows it; empty when it has none."""
+        return session.property_value(self.run("xprop", "-id", window, name))
+
+    def _root_windows(self, name):
+        text = session.root_property(self.env, name)
+        return [int(word, 16) for word in text.replace(",", " ").split() if word.startswith("0x")]
+
+    def frame_of(self, window):
+        """The window manager's outermost window around a window, or the window itself."""
+        tree = self.run("xwininfo", "-id", window, "-tree")
+        root = int(re.search(r"Root window id: (0x[0-9a-f]+)", tree).group(1), 16)
+        parent = int(re.search(r"Parent window id: (0x[0-9a-f]+)", tree).group(1), 16)
+        return window if parent == root else self.frame_of(parent)
+
+    def managed_windows(self):
+        """What taskbars and pagers know, lowest first."""
+        return self._root_windows("_NET_CLIENT_LIST_STACKING")
+
+    def active_window(self):
+        """The window that the window manager takes for the active one; 0 for none."""
+        return (self._root_windows("_NET_ACTIVE_WINDOW") or [0])[0]
+
+    def focused_window(self):
+        """The window that gets the keys, by the X server itself; 0 for none."""
+        text = self.run("xdotool", "getwindowfocus", "-f", check=False)
+        return int(text) if text else 0
+
+    def activate(self, window):
+        self.run("xdotool", "windowactivate", "--sync", window)
+
+    def switch_to_desktop(self, number):
+        self.run("xdotool", "set_desktop", number)
+        wait_until(
+            lambda: session.root_property(self.env, "_NET_CURRENT_DESKTOP") == str(number),
+            f"desktop {number} is shown",
+        )
+
+    # Monitors
+
+    def set_monitors(self, monitors):
+        """Divides the screen into monitors: {name: (x, y, width, height)}. Monitors with other names
+        are unplugged; the first one becomes the primary one. Programs see the steps in between."""
+        monitors_now = self.monitors()
+        owner = next(iter(monitors_now))
+        first = next(iter(monitors))
+        for name in monitors_now:
+            if name != owner and (name == first or monitors_now[name] != monitors.get(name)):
+                self.run("xrandr", "--delmonitor", name)
+        # The server has one output, which goes to the first monitor: without a monitor, an output is
+        # one by itself. A monitor that loses its output to another one is gone.
+        if owner != first or monitors_now[owner] != monitors[first]:
+            if owner == first:
+                self.run("xrandr", "--delmonitor", owner)
+            self._add_monitor("*" + first, monitors[first], OUTPUT)
+        for name, area in monitors.items():
+            if name not in self.monitors():
+                self._add_monitor(name, area, "none")
+
+    def monitors(self):
+        """The monitors now, {name: (x, y, width, height)}, the primary one first."""
+        found = {}
+        for line in self.run("xrandr", "--listmonitors").splitlines()[1:]:
+            _, name, area = line.split()[:3]
+            width, height, x, y = re.match(r"(\d+)/\d+x(\d+)/\d+\+(\d+)\+(\d+)", area).groups()
+            found[name.strip("+*")] = (int(x), int(y), int(width), int(height))
+        return found
+
+    def _add_monitor(self, name, area, output):
+        x, y, width, height = area
+        size = f"{width}/{width // 4}x{height}/{height // 4}+{x}+{y}"
+        self.run("xrandr", "--setmonitor", name, size, output)
+
+    # What is seen
+
+    def picture(self, window="root"):
+        result = subprocess.run(
+            ["import", "-window", str(window), "-depth", "8", "ppm:-"],
+            env=self.env,
+            capture_output=True,
+            timeout=TOOL_SECONDS,
+            check=True,
+        )
+        return Picture(result.stdout)
+
+    def pixel(self, x, y):
+        return self.picture().pixel(x, y)
+
+    def wait_for_pixel(self, x, y, color):
+        wait_until(lambda: self.pixel(x, y) == color, f"pixel ({x}, {y}) is {color}")
+
+    # Mouse and keys
+
+    def move_mouse(self, x, y):
+        self.run("xdotool", "mousemove", "--sync", x, y)
+
+    def click(self, x, y, button=1):
+        self.move_mouse(x, y)
+        self.run("xdotool", "click", button)
+
+    def press_button(self, button=1):
+        self.run("xdotool", "mousedown", button)
+
+    def release_button(self, button=1):
+        self.run("xdotool", "mouseup", button)
+
+    def key(self, *chords):
+        """Presses keys such as "a", "Escape" or "ctrl+c", one after another."""
+        self.run("xdotool", "key", *chords)
+
+    def type(self, text):
+        self.run("xdotool", "type", "--", text)

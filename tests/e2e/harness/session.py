@@ -1,0 +1,124 @@
+"""The parts of a desktop session, each started by a function that returns once it is usable. They
+start programs through `start(name, command)`, so that these are ended whatever goes wrong here."""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+
+from .waiting import wait_until
+
+PANEL_HEIGHT = 30
+PANEL_COLOR = (0, 255, 0)
+
+PANEL_CONFIG = f"""\
+panel_monitor = all
+panel_position = top center horizontal
+panel_size = 100% {PANEL_HEIGHT}
+panel_items = T
+panel_layer = top
+strut_policy = follow_size
+taskbar_mode = multi_desktop
+rounded = 0
+border_width = 0
+background_color = #00ff00 100
+panel_background_id = 1
+"""
+
+
+def require(*programs):
+    missing = [program for program in programs if not shutil.which(program)]
+    if missing:
+        raise RuntimeError("not installed: " + ", ".join(missing))
+
+
+def clean_environment(folder):
+    """The environment of a fresh user: nothing of the developer's own session gets in."""
+    home, runtime = folder / "home", folder / "runtime"
+    home.mkdir()
+    runtime.mkdir(mode=0o700)
+    kept = ("PATH", "LANG", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS")
+    env = {name: os.environ[name] for name in kept if name in os.environ}
+    env.update(
+        HOME=str(home),
+        XDG_RUNTIME_DIR=str(runtime),
+        LC_ALL="C.UTF-8",
+        DO_NOT_TRACK="1",
+        QT_QPA_PLATFORM="xcb",
+        NO_AT_BRIDGE="1",
+    )
+    return env
+
+
+def start_x_server(start, env, size):
+    """A virtual X server of our own on a free display; its number goes into env."""
+    require("Xvfb")
+    reading, writing = os.pipe()
+    command = ["Xvfb", "-displayfd", writing, "-screen", "0", f"{size[0]}x{size[1]}x24"]
+    command += ["-nolisten", "tcp", "-noreset", "+extension", "RANDR", "+extension", "Composite"]
+    try:
+        server = start("xvfb", command, pass_fds=(writing,))
+    finally:
+        os.close(writing)
+    with os.fdopen(reading) as pipe:
+        number = pipe.readline().strip()
+    if not number:
+        raise RuntimeError("Xvfb did not start:\n" + server.stderr())
+    env["DISPLAY"] = ":" + number
+
+
+def start_bus(start, env):
+    """A D-Bus session of our own; its address goes into env."""
+    require("dbus-daemon")
+    address = f"unix:path={env['XDG_RUNTIME_DIR']}/bus"
+    command = ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--address=" + address]
+    start("dbus", command)
+    env["DBUS_SESSION_BUS_ADDRESS"] = address
+    socket = pathlib.Path(env["XDG_RUNTIME_DIR"]) / "bus"
+    wait_until(socket.exists, "the D-Bus session listens")
+
+
+def property_value(shown):
+    """The value in what xprop printed for one property; empty when there is none."""
+    match = re.match(r"\w+\([\w/]+\)(?: = |: window id # |:\s*)(.*)", shown, re.DOTALL)
+    return match.group(1).strip() if match else ""
+
+
+def root_property(env, name):
+    command = ["xprop", "-root", name]
+    result = subprocess.run(command, env=env, capture_output=True, text=True, check=False)
+    return property_value(result.stdout)
+
+
+def start_window_manager(start, env):
+    require("openbox", "xprop")
+    start("openbox", ["openbox", "--sm-disable"])
+    # Set near the end of its start, when it takes windows already.
+    wait_until(lambda: root_property(env, "_NET_SHOWING_DESKTOP"), "openbox manages the screen")
+
+
+def start_panel(start, env, screen_height):
+    require("tint2")
+    config = pathlib.Path(env["HOME"]) / "tint2rc"
+    config.write_text(PANEL_CONFIG)
+    start("tint2", ["tint2", "-c", config])
+
+    def has_room():
+        areas = root_property(env, "_NET_WORKAREA").replace(",", " ").split()
+        return len(areas) >= 4 and int(areas[3]) < screen_height
+
+    wait_until(has_room, "the panel has its strip of the screen")
+
+
+def start_compositor(start, env):
+    require("picom")
+    command = ["picom", "--backend", "xrender", "--config", "/dev/null"]
+    start("picom", command)
+    # The window by which a compositor tells others that it is there.
+    registered = ["xdotool", "search", "--name", "^picom$"]
+
+    def is_registered():
+        return subprocess.run(registered, env=env, capture_output=True, check=False).stdout
+
+    wait_until(is_registered, "the compositor runs")

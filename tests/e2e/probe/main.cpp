@@ -1,0 +1,84 @@
+#include "ProbeReport.h"
+#include "ProbeWindow.h"
+
+#include "platform/NotificationCenter.h"
+#include "platform/SystemAdapters.h"
+#include "platform/WindowTraits.h"
+#include "platform/qt/FocusOnClick.h"
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtScreens.h"
+#include "screens/ScreenManager.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QJsonArray>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace tessaline {
+namespace {
+
+QJsonArray toJson(const Rect& rect) {
+    return {rect.x, rect.y, rect.width, rect.height};
+}
+
+QJsonObject toJson(const Screen& screen) {
+    return {{u"id"_s, static_cast<qint64>(screen.id)},
+            {u"name"_s, screen.name},
+            {u"frame"_s, toJson(screen.frame)},
+            {u"visibleFrame"_s, toJson(screen.visibleFrame)},
+            {u"builtIn"_s, screen.builtIn},
+            {u"refreshRate"_s, screen.refreshRate}};
+}
+
+void reportScreens(const Screens& screens, const ScreenManager& manager) {
+    QJsonArray all;
+    for (const Screen& screen : screens.all())
+        all.append(toJson(screen));
+    report(u"screens"_s, {{u"all"_s, all}, {u"preferred"_s, toJson(manager.preferredScreen())}});
+}
+
+/// Like the prompter: at the very top, over everything.
+void showFloating(QWidget& window, WindowTraits& traits) {
+    window.setWindowFlags(Qt::FramelessWindowHint | traits.creationFlags());
+    window.setGeometry(400, 0, 300, 120);
+    traits.floatAboveEverything(window.winId());
+    report(u"capture"_s, {{u"excluded"_s, traits.excludeFromCapture(window.winId())}});
+    new FocusOnClick(*window.windowHandle(), traits);
+    window.show();
+}
+
+} // namespace
+} // namespace tessaline
+
+/// Shows one window whose title, colour and kind the command line gives, and reports what happens
+/// to it and to the screens.
+int main(int argc, char** argv) {
+    using namespace tessaline;
+    QApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.addPositionalArgument(u"kind"_s, u"floating, normal or fullscreen"_s);
+    parser.addPositionalArgument(u"color"_s, u"the colour that fills the window"_s);
+    parser.process(application);
+    const QString kind = parser.positionalArguments().value(0);
+
+    NotificationCenter notifications;
+    QtMainQueue queue;
+    const QtScreens screens(notifications, queue, identifyScreen);
+    ScreenManager manager(screens, notifications);
+    manager.onScreenChange = [&] { reportScreens(screens, manager); };
+    reportScreens(screens, manager);
+
+    const auto traits = makeWindowTraits();
+    ProbeWindow window{QColor(parser.positionalArguments().value(1))};
+    window.setWindowTitle(kind);
+    if (kind == "floating"_L1) {
+        showFloating(window, *traits);
+    } else if (kind == "fullscreen"_L1) {
+        window.showFullScreen();
+    } else {
+        window.setGeometry(100, 400, 300, 120);
+        window.show();
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,311 @@
+"""The prompter as its user meets it: scripts, sources, scrolling, the strip of controls."""
+
+import json
+import os
+import unittest
+
+from harness import DesktopTestCase, wait_until
+from harness.session import PANEL_COLOR, PANEL_HEIGHT
+from harness.waiting import holds_for
+
+SCREEN = (1280, 800)
+WIDTH, HEIGHT = 450, 256
+LEFT = (SCREEN[0] - WIDTH) // 2
+STRIP_MIDDLE = PANEL_HEIGHT // 2
+TEXT = (LEFT + 25, 54, WIDTH - 50, HEIGHT - 64)  # x, y, width, height of what is read
+CLOSE = (LEFT + 16, STRIP_MIDDLE)
+MINIMIZE = (LEFT + 36, STRIP_MIDDLE)
+ELSEWHERE = (200, 600)
+BLACK = (0, 0, 0)
+
+
+class PrompterTestCase(DesktopTestCase):
+    def support_folder(self):
+        folder = self.desktop.home / "Library/Application Support/Tessaline"
+        folder.mkdir(parents=True, exist_ok=True)
+        return folder
+
+    def settings(self):
+        return json.loads((self.support_folder() / "config.json").read_text())
+
+    def write_settings(self, **values):
+        (self.support_folder() / "config.json").write_text(json.dumps(values))
+
+    def write_script(self, text):
+        path = self.desktop.home / "talk.md"
+        path.write_text(text)
+        return path
+
+    def start(self, *arguments):
+        self.prompter = self.start_tessaline(*arguments)
+        self.window = self.desktop.wait_for_window(pid=self.prompter.pid)
+        wait_until(lambda: self.desktop.pixel(LEFT + 5, 100) == BLACK, "the prompter is black")
+
+    def text_pixels(self):
+        """The colours of what is read, row by row."""
+        picture = self.desktop.picture()
+        x, y, width, height = TEXT
+        return [
+            [picture.pixel(column, row) for column in range(x, x + width)]
+            for row in range(y, y + height)
+        ]
+
+    def ink_rows(self):
+        """The rows of the text, from its top, that something is drawn on."""
+        return [
+            number
+            for number, row in enumerate(self.text_pixels())
+            if any(max(pixel) > 90 for pixel in row)
+        ]
+
+    def wait_for_text(self):
+        return wait_until(self.ink_rows, "a text is shown")
+
+    def wait_for_other_text(self, before):
+        wait_until(lambda: self.text_pixels() != before, "the text has changed", 3)
+
+
+class FirstStart(PrompterTestCase):
+    def test_hangs_from_the_top_centre_above_the_panel(self):
+        self.start(self.write_script("# Hello\n\nThis is a talk."))
+        self.assertEqual(self.desktop.geometry(self.window), (LEFT, 0, WIDTH, HEIGHT))
+        self.wait_for_text()
+        picture = self.desktop.picture()
+        self.assertEqual(picture.pixel(LEFT + 225, 2), BLACK)
+        self.assertEqual(picture.pixel(100, 10), PANEL_COLOR)
+        self.assertNotIn(self.window, self.desktop.managed_windows())
+
+    def test_keeps_the_opened_text_as_if_it_had_been_pasted(self):
+        text = "# Hello\r\n\r\nThis is *a talk*.\n"
+        self.start(self.write_script(text))
+        self.wait_for_text()
+        kept = self.support_folder() / "clipboard-content.md"
+        self.assertEqual(kept.read_text(newline=""), text)
+        self.assertEqual(self.settings()["activeSourceType"], "clipboard")
+
+    def test_makes_the_clipboard_the_active_source_when_a_file_is_opened(self):
+        self.write_settings(activeSourceType="obsidian", enabledSourceTypes=["obsidian"])
+        self.start(self.write_script("# Hello"))
+        self.wait_for_text()
+        self.assertEqual(self.settings()["activeSourceType"], "clipboard")
+
+    def test_shows_the_last_text_again_at_the_next_start(self):
+        self.start(self.write_script("# Hello"))
+        self.wait_for_text()
+        before = self.text_pixels()
+        self.prompter.end()
+        self.start()
+        wait_until(lambda: self.text_pixels() == before, "the same text is shown")
+
+    def test_shows_a_hint_without_any_text(self):
+        self.start()
+        rows = self.wait_for_text()
+        self.assertGreater(rows[0], 40)
+        self.assertLess(rows[-1], 150)
+
+    def test_changes_nothing_when_the_file_cannot_be_read(self):
+        for name, make in (("missing.md", lambda path: None), ("folder", lambda path: path.mkdir())):
+            make(self.desktop.home / name)
+            program = self.start_tessaline(name)
+            self.assertEqual(program.wait(), 2)
+            self.assertEqual(len(program.stderr().strip().splitlines()), 1, program.stderr())
+            self.assertTrue(program.stderr().startswith("tessaline: "))
+        self.assertFalse((self.desktop.home / "Library").exists())
+
+    def test_says_so_without_a_display(self):
+        program = self.start_tessaline(DISPLAY="", QT_QPA_PLATFORM="")
+        self.assertEqual(program.wait(), 1)
+        self.assertIn("tessaline: there is no display", program.stderr())
+        program = self.start_tessaline(DISPLAY=":4711", QT_QPA_PLATFORM="")
+        self.assertEqual(program.wait(), 1)
+        self.assertIn("tessaline: the display :4711 does not answer", program.stderr())
+
+
+class ObsidianContent(PrompterTestCase):
+    def setUp(self):
+        super().setUp()
+        self.write_settings(
+            activeSourceType="obsidian", enabledSourceTypes=["clipboard", "obsidian"]
+        )
+        self.content = self.support_folder() / "tessaline-content.md"
+
+    def test_follows_the_file_within_about_a_second(self):
+        self.start()
+        self.wait_for_text()
+        for text in ("# First", "# Second\n\nand more", "# Third"):
+            before = self.text_pixels()
+            self.content.write_text(text)
+            self.wait_for_other_text(before)
+
+    def test_keeps_the_text_when_the_file_goes(self):
+        self.content.write_text("# First")
+        self.start()
+        self.wait_for_text()
+        before = self.text_pixels()
+        self.content.unlink()
+        self.assertTrue(holds_for(lambda: self.text_pixels() == before, 2.5))
+
+    def test_survives_anything_in_the_files_place(self):
+        self.content.write_text("# First")
+        self.start()
+        self.wait_for_text()
+        self.content.write_bytes(b"\xff\xfe not utf-8 \x80")
+        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.content.unlink()
+        self.content.mkdir()
+        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.content.rmdir()
+        self.content.symlink_to("nowhere")
+        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.content.unlink()
+        os.mkfifo(self.content)
+        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.content.unlink()
+        before = self.text_pixels()
+        self.content.write_text("# Second")
+        self.wait_for_other_text(before)
+
+    def test_answers_while_it_takes_a_very_long_text_in(self):
+        self.content.write_text("# First")
+        self.start()
+        self.wait_for_text()
+        before = self.text_pixels()
+        self.content.write_text("A line of a very long text indeed.\n\n" * 1_400_000)  # 50 MB
+        wait_until(lambda: self.text_pixels() != before, "the long text is shown", 30)
+        before = self.text_pixels()
+        self.desktop.move_mouse(LEFT + 200, 150)
+        self.desktop.run("xdotool", "click", 5)
+        self.wait_for_other_text(before)
+
+
+class Use(PrompterTestCase):
+    def setUp(self):
+        super().setUp()
+        self.start(self.write_script("".join(f"Line number {n} of the talk\n" for n in range(200))))
+        self.wait_for_text()
+
+    def test_scrolls_with_the_wheel(self):
+        before = self.text_pixels()
+        self.desktop.move_mouse(LEFT + 200, 150)
+        self.desktop.run("xdotool", "click", 5)
+        wait_until(lambda: self.text_pixels() != before, "the text has moved")
+        self.desktop.run("xdotool", "click", 4)
+        wait_until(lambda: self.text_pixels() == before, "the text is back")
+
+    def test_scrolls_with_the_keys_once_it_is_clicked(self):
+        before = self.text_pixels()
+        self.desktop.click(LEFT + 200, 150)
+        self.desktop.key("End")
+        self.wait_for_other_text(before)
+        self.desktop.key("Home")
+        wait_until(lambda: self.text_pixels() == before, "the text is back")
+
+    def test_scrolls_by_itself_when_it_is_switched_on(self):
+        button = (LEFT + 82, STRIP_MIDDLE)
+        self.desktop.click(*button)
+        wait_until(lambda: self.settings()["autoScrollEnabled"], "auto-scroll is saved")
+        before = self.text_pixels()
+        self.wait_for_other_text(before)
+        self.desktop.click(*button)
+        wait_until(lambda: not self.settings()["autoScrollEnabled"], "auto-scroll is off")
+        before = self.text_pixels()
+        self.assertTrue(holds_for(lambda: self.text_pixels() == before, 1))
+
+    def test_collapses_into_the_panels_strip_and_comes_back(self):
+        self.desktop.click(*MINIMIZE)
+        collapsed = (LEFT, 0, WIDTH, PANEL_HEIGHT)
+        wait_until(lambda: self.desktop.geometry(self.window) == collapsed, "it is collapsed")
+        self.desktop.click(*MINIMIZE)
+        expanded = (LEFT, 0, WIDTH, HEIGHT)
+        wait_until(lambda: self.desktop.geometry(self.window) == expanded, "it is expanded")
+        self.wait_for_text()
+
+    def test_pastes_what_was_copied(self):
+        before = self.text_pixels()
+        self.desktop.click(LEFT + 200, 150)
+        # Copies the first line out of the prompter itself, and pastes it in place of the rest.
+        self.desktop.key("ctrl+Home", "Home")
+        self.desktop.run("xdotool", "mousemove", LEFT + 60, 60)
+        self.desktop.run("xdotool", "click", "--repeat", 3, "--delay", 60, 1)
+        self.desktop.key("ctrl+c", "ctrl+v")
+        self.wait_for_other_text(before)
+        kept = self.support_folder() / "clipboard-content.md"
+        wait_until(lambda: kept.read_text() == "Line number 0 of the talk", "the line is kept")
+
+    def test_quits_with_its_close_button(self):
+        self.desktop.click(*CLOSE)
+        self.assertEqual(self.prompter.wait(), 0)
+
+    def test_gives_the_keyboard_back_to_who_had_it(self):
+        probe = self.desktop.start("normal", [os.environ["TESSALINE_PROBE"], "normal", "#0000ff"])
+        other = self.desktop.wait_for_window(pid=probe.pid)
+        self.desktop.activate(other)
+        self.desktop.click(LEFT + 200, 150)
+        wait_until(lambda: self.desktop.focused_window() == self.window, "the prompter has the keys")
+        self.desktop.move_mouse(*ELSEWHERE)
+        wait_until(lambda: self.desktop.focused_window() == other, "the other window has them again")
+
+
+class Corners(PrompterTestCase):
+    # The root window is painted, so that what lies below the corners is seen.
+    def corner_colors(self):
+        self.desktop.run("xsetroot", "-solid", "#0000ff")
+        self.start(self.write_script("# Hello"))
+        self.wait_for_text()
+        picture = self.desktop.picture()
+        bottom = HEIGHT - 1
+        return {picture.pixel(x, y) for x in range(LEFT, LEFT + 16) for y in range(bottom - 15, bottom + 1)}
+
+    def test_are_cut_round_without_a_compositor(self):
+        colors = self.corner_colors()
+        self.assertEqual(colors, {BLACK, (0, 0, 255)})
+
+
+class SmoothCorners(Corners):
+    desktop_options = {"compositor": True}
+
+    def test_are_cut_round_without_a_compositor(self):
+        self.skipTest("this desktop has one")
+
+    def test_are_smooth_with_a_compositor(self):
+        colors = self.corner_colors()
+        self.assertIn(BLACK, colors)
+        self.assertGreater(len(colors), 4, "there are shades between inside and outside")
+
+
+class Monitors(PrompterTestCase):
+    NOTEBOOK = {"eDP-1": (0, 0, 1280, 800)}
+    PROJECTOR = {"HDMI-1": (1280, 0, 1024, 768)}
+    desktop_options = {"size": (2304, 800), "panel": False, "monitors": {**NOTEBOOK, **PROJECTOR}}
+
+    def wait_for_centre(self, x):
+        wait_until(
+            lambda: self.desktop.geometry(self.window)[:2] == (x - WIDTH // 2, 0),
+            f"the prompter hangs at {x}",
+        )
+
+    def test_follows_its_screen_when_monitors_come_and_go(self):
+        self.write_settings(autoScrollEnabled=True, scrollSpeed=2.0)
+        self.start(self.write_script("Some text\n\n" * 200))
+        self.wait_for_centre(640)
+        self.desktop.set_monitors(self.PROJECTOR)
+        self.wait_for_centre(512)
+        self.desktop.set_monitors({**self.NOTEBOOK, **self.PROJECTOR})
+        self.wait_for_centre(640)
+        self.assertTrue(self.prompter.running)
+
+
+class SmallScreen(PrompterTestCase):
+    desktop_options = {"size": (640, 480)}
+
+    def test_starts_at_the_left_edge_when_it_is_wider_than_the_screen(self):
+        self.write_settings(width=800)
+        self.prompter = self.start_tessaline(self.write_script("# Hello"))
+        window = self.desktop.wait_for_window(pid=self.prompter.pid)
+        wait_until(
+            lambda: self.desktop.geometry(window) == (0, 0, 800, HEIGHT), "it starts at the left edge"
+        )
+
+
+if __name__ == "__main__":
+    unittest.main()

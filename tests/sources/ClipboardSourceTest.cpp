@@ -1,0 +1,159 @@
+#include "sources/ClipboardSource.h"
+
+#include "settings/SupportFolder.h"
+#include "support/FakePasteboard.h"
+#include "support/NotAFile.h"
+#include "support/PrintQt.h"
+#include "support/TestFiles.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::ElementsAre;
+
+namespace tessaline {
+namespace {
+
+class ClipboardSourceTest : public ::testing::Test {
+protected:
+    void watch(ClipboardSource& watched) {
+        watched.startWatching([this](const QString& text) { delivered.push_back(text); });
+    }
+
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"missing/folders/clipboard-content.md"_s);
+    FakePasteboard pasteboard;
+    ClipboardSource source{pasteboard, path};
+    std::vector<QString> delivered;
+};
+
+TEST_F(ClipboardSourceTest, KeepsItsFileInTheSupportFolder) {
+    EXPECT_EQ(ClipboardSource::contentFilePath(),
+              homeFolderPath() + "/Library/Application Support/Tessaline/clipboard-content.md"_L1);
+}
+
+TEST_F(ClipboardSourceTest, DeliversThePlaceholderWithoutAFile) {
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s));
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(ClipboardSourceTest, DeliversThePlaceholderForAnEmptyFile) {
+    source.pasteText(u"abc"_s);
+    putFile(path, "");
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s));
+    EXPECT_EQ(source.currentContent(), u"abc"_s);
+}
+
+TEST_F(ClipboardSourceTest, DeliversThePlaceholderForInvalidUtf8) {
+    source.pasteText(u"abc"_s);
+    putFile(path, "ab\xFF");
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s));
+    EXPECT_EQ(source.currentContent(), u"abc"_s);
+}
+
+TEST_F(ClipboardSourceTest, DeliversThePastedTextAgainAfterARestart) {
+    pasteboard.text = u"abc"_s;
+    EXPECT_EQ(source.pasteFromClipboard(), u"abc"_s);
+    ClipboardSource restarted(pasteboard, path);
+    watch(restarted);
+    EXPECT_THAT(delivered, ElementsAre(u"abc"_s));
+    EXPECT_EQ(restarted.currentContent(), u"abc"_s);
+}
+
+TEST_F(ClipboardSourceTest, KeepsTheTextByteForByte) {
+    const auto text = u"\uFEFF# Grüße\r\n\tend \0 👋 \n\n"_s;
+    source.pasteText(text);
+    EXPECT_EQ(fileBytes(path), "\xEF\xBB\xBF# Gr\xC3\xBC\xC3\x9F"
+                               "e\r\n\tend \0 \xF0\x9F\x91\x8B \n\n"_ba);
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(text));
+}
+
+TEST_F(ClipboardSourceTest, DeliversAPasteWhileWatching) {
+    watch(source);
+    pasteboard.text = u"abc"_s;
+    EXPECT_EQ(source.pasteFromClipboard(), u"abc"_s);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s, u"abc"_s));
+}
+
+TEST_F(ClipboardSourceTest, KeepsAPasteWhileNotWatchingWithoutCalling) {
+    watch(source);
+    source.stopWatching();
+    delivered.clear();
+    EXPECT_EQ(source.pasteText(u"abc"_s), u"abc"_s);
+    EXPECT_THAT(delivered, ElementsAre());
+    EXPECT_EQ(source.currentContent(), u"abc"_s);
+    EXPECT_EQ(fileBytes(path), "abc");
+}
+
+class ClipboardSourceNothingToPaste : public ClipboardSourceTest,
+                                      public ::testing::WithParamInterface<std::optional<QString>> {
+};
+
+TEST_P(ClipboardSourceNothingToPaste, ChangesNothing) {
+    source.pasteText(u"abc"_s);
+    watch(source);
+    delivered.clear();
+    putFile(path, "written by someone else");
+    pasteboard.text = GetParam();
+    EXPECT_EQ(source.pasteFromClipboard(), std::nullopt);
+    EXPECT_THAT(delivered, ElementsAre());
+    EXPECT_EQ(source.currentContent(), u"abc"_s);
+    EXPECT_EQ(fileBytes(path), "written by someone else");
+}
+
+INSTANTIATE_TEST_SUITE_P(Pasteboards, ClipboardSourceNothingToPaste,
+                         ::testing::Values(std::nullopt, u""_s));
+
+TEST_F(ClipboardSourceTest, DropsThePreviousCallbackAtANewStart) {
+    watch(source);
+    std::vector<QString> second;
+    source.startWatching([&](const QString& text) { second.push_back(text); });
+    source.pasteText(u"abc"_s);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s));
+    EXPECT_THAT(second, ElementsAre(u"PLACEHOLDER"_s, u"abc"_s));
+}
+
+TEST_F(ClipboardSourceTest, ShowsAPasteThatCannotBeSaved) {
+    putFile(folder.filePath(u"missing"_s), "a file where a folder should be");
+    watch(source);
+    EXPECT_EQ(source.pasteText(u"abc"_s), u"abc"_s);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s, u"abc"_s));
+}
+
+TEST_F(ClipboardSourceTest, LetsTheCallbackStopTheWatching) {
+    QString last;
+    source.startWatching([this, &last, text = QString()](const QString& delivery) mutable {
+        text = delivery;
+        if (text == "abc"_L1) source.stopWatching();
+        last = text;
+    });
+    source.pasteText(u"abc"_s);
+    source.pasteText(u"def"_s);
+    EXPECT_EQ(last, u"abc"_s);
+}
+
+class ClipboardSourceReplacedFile : public ClipboardSourceTest,
+                                    public ::testing::WithParamInterface<NotAFile> {};
+
+TEST_P(ClipboardSourceReplacedFile, IsNoText) {
+    source.pasteText(u"abc"_s);
+    placeNotAFile(GetParam(), path);
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s));
+    EXPECT_EQ(source.pasteText(u"def"_s), u"def"_s);
+    EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s, u"def"_s));
+}
+
+INSTANTIATE_TEST_SUITE_P(By, ClipboardSourceReplacedFile, ::testing::ValuesIn(allNotAFile));
+
+} // namespace
+} // namespace tessaline
