@@ -77,10 +77,12 @@ class FirstStart(PrompterTestCase):
 
     def test_keeps_the_opened_text_as_if_it_had_been_pasted(self):
         text = "# Hello\r\n\r\nThis is *a talk*.\n"
-        self.start(self.write_script(text))
+        path = self.write_script("")
+        path.write_bytes(text.encode())
+        self.start(path)
         self.wait_for_text()
         kept = self.support_folder() / "clipboard-content.md"
-        self.assertEqual(kept.read_text(newline=""), text)
+        self.assertEqual(kept.read_bytes(), text.encode())
         self.assertEqual(self.settings()["activeSourceType"], "clipboard")
 
     def test_makes_the_clipboard_the_active_source_when_a_file_is_opened(self):
@@ -289,7 +291,7 @@ class Monitors(PrompterTestCase):
         self.start(self.write_script("Some text\n\n" * 200))
         self.wait_for_centre(640)
         self.desktop.set_monitors(self.PROJECTOR)
-        self.wait_for_centre(512)
+        self.wait_for_centre(1280 + 512)
         self.desktop.set_monitors({**self.NOTEBOOK, **self.PROJECTOR})
         self.wait_for_centre(640)
         self.assertTrue(self.prompter.running)

@@ -10,10 +10,11 @@ namespace tessaline {
 namespace {
 
 constexpr std::uint32_t maxManagedWindows = 4096;
+constexpr std::uint8_t sentEventBit = 0x80;
 
 xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name) {
     const auto cookie =
-        xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(name.size()), name.data());
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
     const XcbReply<xcb_intern_atom_reply_t> reply(
         xcb_intern_atom_reply(connection, cookie, nullptr));
     if (!reply) return XCB_ATOM_NONE;
@@ -23,7 +24,34 @@ xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name) {
 } // namespace
 
 X11Stacking::X11Stacking(xcb_connection_t* serverConnection, XWindow rootWindow)
-    : connection(serverConnection), root(rootWindow) {}
+    : connection(serverConnection)
+    , root(rootWindow)
+    , managedWindowList(atomNamed(serverConnection, "_NET_CLIENT_LIST_STACKING")) {}
+
+void X11Stacking::listen() const {
+    const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+        connection, xcb_get_window_attributes(connection, root), nullptr));
+    if (!attributes) return;
+    const std::uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY |
+                               XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &mask);
+    xcb_flush(connection);
+}
+
+bool X11Stacking::isChange(const void* event) const {
+    switch (static_cast<const xcb_generic_event_t*>(event)->response_type & ~sentEventBit) {
+    case XCB_CONFIGURE_NOTIFY:
+        return static_cast<const xcb_configure_notify_event_t*>(event)->event == root;
+    case XCB_MAP_NOTIFY:
+        return static_cast<const xcb_map_notify_event_t*>(event)->event == root;
+    case XCB_PROPERTY_NOTIFY: {
+        const auto* property = static_cast<const xcb_property_notify_event_t*>(event);
+        return property->window == root && property->atom == managedWindowList;
+    }
+    default:
+        return false;
+    }
+}
 
 void X11Stacking::raiseAboveManagedWindows(XWindow window) const {
     const auto bottomToTop = topLevelWindows();
@@ -53,9 +81,8 @@ std::vector<X11Stacking::XWindow> X11Stacking::topLevelWindows() const {
 }
 
 std::vector<X11Stacking::XWindow> X11Stacking::managedWindows() const {
-    const auto cookie =
-        xcb_get_property(connection, 0, root, atomNamed(connection, "_NET_CLIENT_LIST_STACKING"),
-                         XCB_ATOM_WINDOW, 0, maxManagedWindows);
+    const auto cookie = xcb_get_property(connection, 0, root, managedWindowList, XCB_ATOM_WINDOW, 0,
+                                         maxManagedWindows);
     const XcbReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection, cookie, nullptr));
     if (!reply || reply->format != 32) return {};

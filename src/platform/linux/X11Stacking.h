@@ -7,13 +7,21 @@ struct xcb_connection_t;
 
 namespace tessaline {
 
-/// Reads and mends the order of the top-level windows of a screen. Asks the server each time.
+/// Reads, watches and mends the order of the top-level windows of a screen.
 class X11Stacking {
 public:
     using XWindow = std::uint32_t;
 
-    /// Borrows the connection.
+    /// Borrows the connection, which must work.
     X11Stacking(xcb_connection_t* connection, XWindow root);
+
+    /// Has the server report changes of the order to this connection, besides what it reports
+    /// already.
+    void listen() const;
+
+    /// Whether an event of xcb's says that windows may be in another order now, or that the
+    /// window manager knows other windows now: it may tell after it has raised one.
+    bool isChange(const void* event) const;
 
     /// Puts a top-level window directly above the topmost window of the window manager's, if that
     /// one is above it. Menus and tooltips, which the window manager does not know, stay on top.
@@ -26,6 +34,7 @@ private:
 
     xcb_connection_t* connection;
     XWindow root;
+    std::uint32_t managedWindowList; ///< the atom that names the window manager's list
 };
 
 } // namespace tessaline

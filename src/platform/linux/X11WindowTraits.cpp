@@ -1,6 +1,5 @@
 #include "platform/linux/X11WindowTraits.h"
 
-#include "platform/linux/X11Stacking.h"
 #include "platform/linux/XcbReply.h"
 
 #include <QCoreApplication>
@@ -13,8 +12,6 @@ namespace tessaline {
 namespace {
 
 Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
-
-constexpr std::uint8_t sentEventBit = 0x80;
 
 /// The atom by which compositors of the first screen make themselves known.
 xcb_atom_t internCompositorSelection(xcb_connection_t* connection) {
@@ -60,7 +57,7 @@ bool X11WindowTraits::excludeFromCapture(NativeWindow /*window*/) {
 
 void X11WindowTraits::floatAboveEverything(NativeWindow window) {
     floating = static_cast<XWindow>(window);
-    listenToRestacking();
+    stacking.listen();
     raiseSoon();
 }
 
@@ -84,33 +81,9 @@ void X11WindowTraits::giveKeyboardBack(NativeWindow window) {
 
 bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
                                         qintptr* /*result*/) {
-    if (floating != XCB_NONE && type == "xcb_generic_event_t" && isRestackOfOthers(message)) {
-        raiseSoon();
-    }
+    if (floating == XCB_NONE || type != "xcb_generic_event_t") return false;
+    if (stacking.isChange(message)) raiseSoon();
     return false;
-}
-
-bool X11WindowTraits::isRestackOfOthers(const void* event) const {
-    switch (static_cast<const xcb_generic_event_t*>(event)->response_type & ~sentEventBit) {
-    case XCB_CONFIGURE_NOTIFY: {
-        const auto* configured = static_cast<const xcb_configure_notify_event_t*>(event);
-        return configured->event == root && configured->window != floating;
-    }
-    case XCB_MAP_NOTIFY:
-        return static_cast<const xcb_map_notify_event_t*>(event)->event == root;
-    default:
-        return false;
-    }
-}
-
-void X11WindowTraits::listenToRestacking() {
-    const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-        connection, xcb_get_window_attributes(connection, root), nullptr));
-    if (!attributes) return;
-    // Qt listens to the root window through the same connection: its events are kept.
-    const std::uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
-    xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &mask);
-    xcb_flush(connection);
 }
 
 /// Restacking comes as a series of events, which one look at the result answers.
@@ -118,7 +91,7 @@ void X11WindowTraits::raiseSoon() {
     if (std::exchange(raiseIsPending, true)) return;
     const auto raise = [this] {
         raiseIsPending = false;
-        X11Stacking(connection, root).raiseAboveManagedWindows(floating);
+        stacking.raiseAboveManagedWindows(floating);
     };
     QMetaObject::invokeMethod(&context, raise, Qt::QueuedConnection);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/WindowTraits.h"
+#include "platform/linux/X11Stacking.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QObject>
@@ -42,14 +43,13 @@ private:
     using XWindow = std::uint32_t;
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    bool isRestackOfOthers(const void* event) const;
-    void listenToRestacking();
     void raiseSoon();
     std::optional<XWindow> focusedWindow() const;
     bool focus(XWindow window) const;
 
     xcb_connection_t* connection;
     XWindow root;
+    X11Stacking stacking;
     std::uint32_t compositorSelection; ///< owned by the compositor while there is one
     XWindow floating = 0;
     XWindow previousFocus = 0;

@@ -14,11 +14,24 @@ constexpr double tabStopDistance = 28.0;
 /// However deep the indent, this share of the column is left for the text.
 constexpr double leastTextShare = 0.25;
 
+/// The run that a paragraph begins in; for an empty one that of its newline. Null at the text's
+/// end.
+const StyledText::Run* runOf(const Script& script, const Script::Paragraph& paragraph) {
+    if (paragraph.start == script.styled.text.size()) return nullptr;
+    return &script.styled.runs[std::size_t(paragraph.firstRun)];
+}
+
+const FormatTable::Entry& entryOf(const Script& script, const Script::Paragraph& paragraph,
+                                  const FormatTable& formats) {
+    const StyledText::Run* run = runOf(script, paragraph);
+    return run ? formats[run->style] : formats.plain();
+}
+
 /// A paragraph's style as it holds for one of its pieces.
 ParagraphStyle styleOf(const Script& script, const Script::Paragraph& paragraph) {
-    if (paragraph.length == 0) return {};
-    const auto& run = script.styled.runs[std::size_t(paragraph.firstRun)];
-    ParagraphStyle style = script.styled.attributes(run).paragraph.value_or(ParagraphStyle{});
+    const StyledText::Run* run = runOf(script, paragraph);
+    if (!run) return {};
+    ParagraphStyle style = script.styled.attributes(*run).paragraph.value_or(ParagraphStyle{});
     if (paragraph.continuesPrevious) {
         style.firstLineHeadIndent = style.headIndent;
         style.spacingBefore = 0;
@@ -46,11 +59,11 @@ formatRanges(const Script& script, const Script::Paragraph& paragraph, const For
 /// pen. Text that is not split into formats is laid out in half the time.
 const FormatTable::Entry* singleEntry(const Script& script, const Script::Paragraph& paragraph,
                                       const FormatTable& formats) {
-    if (paragraph.length == 0) return &formats.plain();
-    const auto& run = script.styled.runs[std::size_t(paragraph.firstRun)];
-    const bool single = run.start + run.length >= paragraph.start + paragraph.length;
-    if (!single || script.styled.attributes(run).background) return nullptr;
-    return &formats[run.style];
+    const StyledText::Run* run = runOf(script, paragraph);
+    if (!run || paragraph.length == 0) return &entryOf(script, paragraph, formats);
+    const bool single = run->start + run->length >= paragraph.start + paragraph.length;
+    if (!single || script.styled.attributes(*run).background) return nullptr;
+    return &formats[run->style];
 }
 
 double fittingIndent(double indent, double tail, double textWidth) {
@@ -109,13 +122,11 @@ ParagraphLayout layOutParagraph(const Script& script, std::size_t index, const F
 double estimatedHeight(const Script& script, std::size_t index, const FormatTable& formats,
                        double textWidth) {
     const Script::Paragraph& paragraph = script.paragraphs[index];
-    if (paragraph.length == 0) return formats.plain().lineHeight;
     const ParagraphStyle style = styleOf(script, paragraph);
-    const auto& run = script.styled.runs[std::size_t(paragraph.firstRun)];
-    const FormatTable::Entry& entry = formats[run.style];
+    const FormatTable::Entry& entry = entryOf(script, paragraph, formats);
     const double width = std::max(textWidth - style.headIndent, textWidth * leastTextShare);
     const double lines = std::ceil(double(paragraph.length) * entry.averageAdvance / width);
-    return style.spacingBefore + lines * entry.lineHeight + style.spacingAfter;
+    return style.spacingBefore + std::max(lines, 1.0) * entry.lineHeight + style.spacingAfter;
 }
 
 } // namespace tessaline

@@ -72,7 +72,10 @@ bool Script::hasSameParagraph(std::size_t index, const Script& other,
     if (mine.continuesPrevious != its.continuesPrevious ||
         mine.continuesInNext != its.continuesInNext || textOf(mine) != other.textOf(its))
         return false;
-    if (mine.length == 0) return true;
+
+    const bool isLast = mine.start == styled.text.size();
+    const bool itsIsLast = its.start == other.styled.text.size();
+    if (isLast || itsIsLast) return isLast && itsIsLast;
 
     const auto endOf = [](const StyledText::Run& run, const Paragraph& paragraph) {
         return std::min(run.start + run.length - paragraph.start, paragraph.length);

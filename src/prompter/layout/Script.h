@@ -15,7 +15,7 @@ struct Script {
     struct Paragraph {
         qsizetype start = 0;
         qsizetype length = 0;
-        qsizetype firstRun = 0;         ///< the run that `start` lies in, if there is any text
+        qsizetype firstRun = 0;         ///< the run that `start` lies in, if that is not the end
         bool continuesPrevious = false; ///< belongs to the same line as the paragraph before
         bool continuesInNext = false;   ///< belongs to the same line as the paragraph behind
     };

@@ -20,7 +20,7 @@ class Desktop:
     """Starts everything on construction; close() ends it. Use it as a context manager."""
 
     def __init__(self, size=(1280, 800), panel=True, compositor=False, monitors=None):
-        session.require("xdotool", "xprop", "xrandr", "xwininfo", "import")
+        session.require("xdotool", "xprop", "xrandr", "import")
         self.size = size
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
         self.processes = []
@@ -119,13 +119,6 @@ class Desktop:
     def _root_windows(self, name):
         text = session.root_property(self.env, name)
         return [int(word, 16) for word in text.replace(",", " ").split() if word.startswith("0x")]
-
-    def frame_of(self, window):
-        """The window manager's outermost window around a window, or the window itself."""
-        tree = self.run("xwininfo", "-id", window, "-tree")
-        root = int(re.search(r"Root window id: (0x[0-9a-f]+)", tree).group(1), 16)
-        parent = int(re.search(r"Parent window id: (0x[0-9a-f]+)", tree).group(1), 16)
-        return window if parent == root else self.frame_of(parent)
 
     def managed_windows(self):
         """What taskbars and pagers know, lowest first."""

@@ -10,7 +10,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-Script scriptOf(const QString& markdown) { return Script(MarkdownRenderer(16).render(markdown)); }
+Script scriptOf(const QString& markdown) {
+    return Script(MarkdownRenderer(16).render(markdown));
+}
 
 struct Case {
     QString before;

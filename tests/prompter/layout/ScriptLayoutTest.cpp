@@ -17,7 +17,9 @@ namespace {
 
 constexpr auto everything = std::numeric_limits<qsizetype>::max();
 
-Script scriptOf(const QString& markdown) { return Script(MarkdownRenderer(16).render(markdown)); }
+Script scriptOf(const QString& markdown) {
+    return Script(MarkdownRenderer(16).render(markdown));
+}
 
 ScriptLayout layoutOf(const QString& markdown) {
     ScriptLayout layout;
@@ -27,7 +29,9 @@ ScriptLayout layoutOf(const QString& markdown) {
     return layout;
 }
 
-double lineHeight() { return layoutOf(u"x"_s).height(); }
+double lineHeight() {
+    return layoutOf(u"x"_s).height();
+}
 
 /// The leftmost and rightmost columns with anything drawn, for a script in a column of 400 points.
 std::pair<int, int> inkOf(const QString& markdown) {
@@ -80,6 +84,13 @@ TEST(ScriptLayout, LaysEveryLineOfACodeBlockOutAsAParagraph) {
     const double two = layoutOf(u"```\nx\nx\n```"_s).height();
     const double blank = layoutOf(u""_s).height();
     EXPECT_DOUBLE_EQ(two - one, one - blank);
+}
+
+TEST(ScriptLayout, GivesBlankLinesInACodeBlockTheHeightOfItsOthers) {
+    const double two = layoutOf(u"```\nx\nx\n```"_s).height();
+    const double three = layoutOf(u"```\nx\n\nx\n```"_s).height();
+    const double one = layoutOf(u"```\nx\n```"_s).height();
+    EXPECT_DOUBLE_EQ(three - two, two - one);
 }
 
 TEST(ScriptLayout, IndentsListItemsAndTheirFurtherLines) {
@@ -136,8 +147,9 @@ TEST(ScriptLayout, TellsHowFarMeasuringMovedTheReadersPlace) {
 }
 
 TEST(ScriptLayout, EstimatesHeightsWithinAReasonableFactor) {
-    const QString text = (u"A sentence of quite ordinary words, as people speak them. "_s.repeated(8) +
-                          u"\n\n"_s).repeated(50);
+    const QString text =
+        (u"A sentence of quite ordinary words, as people speak them. "_s.repeated(8) + u"\n\n"_s)
+            .repeated(50);
     ScriptLayout layout;
     Script script = scriptOf(text);
     layout.exchangeScript(script);
@@ -148,7 +160,8 @@ TEST(ScriptLayout, EstimatesHeightsWithinAReasonableFactor) {
 }
 
 TEST(ScriptLayout, FindsTheOffsetWhereItDrawsTheCaret) {
-    ScriptLayout layout = layoutOf(u"# Title\n\nSome words in a line. "_s + u"And more. "_s.repeated(30));
+    ScriptLayout layout =
+        layoutOf(u"# Title\n\nSome words in a line. "_s + u"And more. "_s.repeated(30));
     const qsizetype length = layout.script().styled.text.size();
     for (qsizetype offset = 0; offset < length; offset += 7) {
         const QRectF caret = layout.caretRect(offset);

@@ -13,7 +13,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-Script scriptOf(const QString& markdown) { return Script(MarkdownRenderer(16).render(markdown)); }
+Script scriptOf(const QString& markdown) {
+    return Script(MarkdownRenderer(16).render(markdown));
+}
 
 QStringList linesOf(const Script& script) {
     QStringList lines;
@@ -28,7 +30,8 @@ TEST(Script, HasOneEmptyParagraphWithoutText) {
 }
 
 TEST(Script, CutsTheTextAtNewlines) {
-    EXPECT_EQ(linesOf(scriptOf(u"one\n\ntwo\n"_s)), (QStringList{u"one"_s, u""_s, u"two"_s, u""_s}));
+    EXPECT_EQ(linesOf(scriptOf(u"one\n\ntwo\n"_s)),
+              (QStringList{u"one"_s, u""_s, u"two"_s, u""_s}));
 }
 
 TEST(Script, LeavesCarriageReturnsOut) {
