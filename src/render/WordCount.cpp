@@ -3,6 +3,7 @@
 #include "render/CharacterClasses.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -38,7 +39,20 @@ private:
     qsizetype read = 0;
 };
 
+constexpr qsizetype stretch = 32;
+
+/// Whether one of the next `stretch` characters ends a line. The loop has a fixed length and no
+/// exit, so that the compiler vectorises it.
+bool stretchEndsLine(const char16_t* characters) {
+    std::uint16_t found = 0; // as wide as the characters, for the same reason
+    for (qsizetype i = 0; i < stretch; ++i)
+        found |= std::uint16_t(isLineTerminator(characters[i]));
+    return found != 0;
+}
+
 qsizetype nextLineStart(QStringView text, qsizetype position) {
+    while (position + stretch <= text.size() && !stretchEndsLine(text.utf16() + position))
+        position += stretch;
     while (position < text.size() && !isLineTerminator(text[position].unicode()))
         ++position;
     return position + 1;
