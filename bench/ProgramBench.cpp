@@ -1,5 +1,5 @@
 #include "SampleTalk.h"
-#include "Verdict.h"
+#include "Verdicts.h"
 #include "WatchedScreen.h"
 
 #include <QCoreApplication>
@@ -19,7 +19,7 @@
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using tessaline::verdict;
+using tessaline::Verdicts;
 using tessaline::WatchedScreen;
 
 constexpr int settleMs = 3000;
@@ -100,7 +100,7 @@ double shareOfACore(const Program& program, int seconds) {
     return (program.processorSeconds() - before) / (double(clock.elapsed()) / 1000) * 100;
 }
 
-void measureScrolling(const QString& binary, qsizetype words) {
+void measureScrolling(const QString& binary, qsizetype words, Verdicts& verdicts) {
     const Home home(words, true);
     const Program program(binary, home);
     QThread::msleep(settleMs);
@@ -108,22 +108,22 @@ void measureScrolling(const QString& binary, qsizetype words) {
     screen.takeDamage();
     const double share = shareOfACore(program, 20);
     const auto what = u"Scrolling %1 words: processor"_s.arg(words);
-    verdict(what, share, 3.0, "% of a core");
+    verdicts.judge(what, share, 3.0, "% of a core");
     std::printf("    with %d pictures changed in these 20 s\n", screen.takeDamage());
 }
 
-void measurePause(const QString& binary) {
+void measurePause(const QString& binary, Verdicts& verdicts) {
     const Home home(10'000, false);
     const Program program(binary, home);
     QThread::msleep(settleMs);
     WatchedScreen screen;
     screen.takeDamage();
-    verdict(u"Paused: processor"_s, shareOfACore(program, 20), 0.3, "% of a core");
-    verdict(u"Paused: frames painted in 20 s"_s, screen.takeDamage(), 0, "");
-    verdict(u"Resident memory with 10,000 words"_s, program.residentMebibytes(), 70, "MiB");
+    verdicts.judge(u"Paused: processor"_s, shareOfACore(program, 20), 0.3, "% of a core");
+    verdicts.judge(u"Paused: frames painted in 20 s"_s, screen.takeDamage(), 0, "");
+    verdicts.judge(u"Resident memory with 10,000 words"_s, program.residentMebibytes(), 70, "MiB");
 }
 
-void measureStart(const QString& binary) {
+void measureStart(const QString& binary, Verdicts& verdicts) {
     const Home home(10'000, false);
     std::vector<double> times;
     for (int run = 0; run < 11; ++run) {
@@ -136,8 +136,8 @@ void measureStart(const QString& binary) {
         if (run > 0) times.push_back(double(clock.nsecsElapsed()) / 1e6); // the first warms up
     }
     std::sort(times.begin(), times.end());
-    verdict(u"Start to the first painted frame, warm (median)"_s, times[times.size() / 2], 250,
-            "ms");
+    verdicts.judge(u"Start to the first painted frame, warm (median)"_s, times[times.size() / 2],
+                   250, "ms");
 }
 
 } // namespace
@@ -150,9 +150,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: bench_program BINARY\n");
         return 2;
     }
-    measureStart(arguments[1]);
-    measurePause(arguments[1]);
-    measureScrolling(arguments[1], 1'000);
-    measureScrolling(arguments[1], 100'000);
-    return 0;
+    Verdicts verdicts;
+    measureStart(arguments[1], verdicts);
+    measurePause(arguments[1], verdicts);
+    measureScrolling(arguments[1], 1'000, verdicts);
+    measureScrolling(arguments[1], 100'000, verdicts);
+    return verdicts.exitStatus();
 }

@@ -1,6 +1,6 @@
 #include "MedianReporter.h"
 #include "SampleTalk.h"
-#include "Verdict.h"
+#include "Verdicts.h"
 
 #include "platform/qt/QtTimerMaker.h"
 #include "prompter/view/ScriptView.h"
@@ -25,7 +25,7 @@ using namespace Qt::Literals::StringLiterals;
 using tessaline::MarkdownRenderer;
 using tessaline::Script;
 using tessaline::ScriptView;
-using tessaline::verdict;
+using tessaline::Verdicts;
 
 constexpr double fontSize = 16;
 constexpr double columnWidth = 400;
@@ -113,7 +113,7 @@ double threadMilliseconds() {
 }
 
 /// Scrolls through a text frame by frame and tells how long the painting of a frame takes.
-void measureFrames(qsizetype words) {
+void measureFrames(qsizetype words, Verdicts& verdicts) {
     ShownView shown;
     shown.show(talk(words));
     shown.view.completeLayout();
@@ -127,8 +127,8 @@ void measureFrames(qsizetype words) {
     }
     std::sort(times.begin(), times.end());
     std::printf("Frames of a script of %lld words:\n", static_cast<long long>(words));
-    verdict(u"  median"_s, times[times.size() / 2], 0.4, "ms");
-    verdict(u"  99th percentile"_s, times[times.size() * 99 / 100], 1.0, "ms");
+    verdicts.judge(u"  median"_s, times[times.size() / 2], 0.4, "ms");
+    verdicts.judge(u"  99th percentile"_s, times[times.size() * 99 / 100], 1.0, "ms");
 }
 
 } // namespace
@@ -142,11 +142,13 @@ int main(int argc, char** argv) {
     tessaline::MedianReporter medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
     std::printf("\n");
-    verdict(u"Arrival of 10,000 words, share of setMarkdown's"_s,
-            medians.milliseconds("arrival") / medians.milliseconds("setMarkdownAndLayOut"), 0.6,
-            "");
-    verdict(u"One edited line in 100,000 words"_s, medians.milliseconds("editOfOneLine"), 10, "ms");
+    Verdicts verdicts;
+    verdicts.judge(u"Arrival of 10,000 words, share of setMarkdown's"_s,
+                   medians.milliseconds("arrival") / medians.milliseconds("setMarkdownAndLayOut"),
+                   0.6, "");
+    verdicts.judge(u"One edited line in 100,000 words"_s, medians.milliseconds("editOfOneLine"), 10,
+                   "ms");
     for (const qsizetype words : {1'000, 10'000, 100'000})
-        measureFrames(words);
-    return 0;
+        measureFrames(words, verdicts);
+    return verdicts.exitStatus();
 }
