@@ -74,10 +74,13 @@ PrompterWindow::~PrompterWindow() = default;
 
 void PrompterWindow::setupUI() {
     strip = new ControlStrip(this);
-    view = new ScriptView(ports.timers, this);
+    scrollArea = new QWidget(this);
+    scrollArea->setObjectName(u"prompter_scrollView"_s);
+    view = new ScriptView(ports.timers, scrollArea);
     view->setObjectName(u"prompter_textView"_s);
     view->setAccessibleName(u"Script"_s);
     setFocusProxy(view);
+    view->setFocus();
     connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
     updateSourceModeIndicator(SourceMode::file);
 }
@@ -144,7 +147,8 @@ void PrompterWindow::arrangeContent() {
     strip->setGeometry(0, 0, width(), std::max(textTop, int(std::ceil(stripHeight))));
     strip->setStripHeight(stripHeight);
     const int textHeight = collapsed ? 0 : std::max(height() - textTop - textMargin, 0);
-    view->setGeometry(textMargin, textTop, std::max(width() - 2 * textMargin, 0), textHeight);
+    scrollArea->setGeometry(textMargin, textTop, std::max(width() - 2 * textMargin, 0), textHeight);
+    view->resize(scrollArea->size());
 }
 
 void PrompterWindow::resizeEvent(QResizeEvent*) {

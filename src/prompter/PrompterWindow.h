@@ -99,6 +99,7 @@ private:
     PrompterPorts ports;
     const ScreenManager* screenManager = nullptr;
     ControlStrip* strip = nullptr;
+    QWidget* scrollArea = nullptr; ///< what of the text is seen
     ScriptView* view = nullptr;
     bool watchesClicks = false;
     bool collapsed = false;

@@ -118,10 +118,17 @@ TEST_F(PrompterWindowTest, AsksForItsTraitsWhenItIsShown) {
 
 TEST_F(PrompterWindowTest, KeepsTheTextBelowTheStripOfControls) {
     window();
-    EXPECT_EQ(window().textView().geometry(), QRect(10, 44, 430, 202));
+    const auto* scrollArea = window().findChild<QWidget*>(u"prompter_scrollView"_s);
+    ASSERT_TRUE(scrollArea);
+    EXPECT_EQ(scrollArea->geometry(), QRect(10, 44, 430, 202));
+    EXPECT_EQ(window().textView().geometry(), scrollArea->rect());
     EXPECT_EQ(window().menuBarHeight(), 32);
     const auto* quit = window().controls().quitButton;
     EXPECT_EQ(quit->geometry(), QRect(10, 10, 12, 12));
+}
+
+TEST_F(PrompterWindowTest, DirectsTheKeysToTheText) {
+    EXPECT_EQ(window().focusWidget(), &window().textView());
 }
 
 TEST_F(PrompterWindowTest, CollapsesIntoTheStripAndComesBack) {
@@ -153,6 +160,14 @@ TEST_F(PrompterWindowTest, KeepsTheReadersPlaceWhileCollapsed) {
     window().toggleCollapsed();
     finishResizing(256);
     EXPECT_EQ(window().textView().scrollPosition(), 400);
+}
+
+TEST_F(PrompterWindowTest, KeepsTheStatisticsWhileCollapsed) {
+    show(u"line\n"_s.repeated(100));
+    const QString before = statistics();
+    window().toggleCollapsed();
+    finishResizing(32);
+    EXPECT_EQ(statistics(), before);
 }
 
 TEST_F(PrompterWindowTest, ShowsTextsOnlyOnceTheMainQueueComesToThem) {

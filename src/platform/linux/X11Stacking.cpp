@@ -1,10 +1,10 @@
 #include "platform/linux/X11Stacking.h"
 
+#include "platform/linux/XcbAtom.h"
 #include "platform/linux/XcbReply.h"
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace tessaline {
 namespace {
@@ -12,21 +12,13 @@ namespace {
 constexpr std::uint32_t maxManagedWindows = 4096;
 constexpr std::uint8_t sentEventBit = 0x80;
 
-xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name) {
-    const auto cookie =
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const XcbReply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr));
-    if (!reply) return XCB_ATOM_NONE;
-    return reply->atom;
-}
-
 } // namespace
 
 X11Stacking::X11Stacking(xcb_connection_t* serverConnection, XWindow rootWindow)
     : connection(serverConnection)
     , root(rootWindow)
-    , managedWindowList(atomNamed(serverConnection, "_NET_CLIENT_LIST_STACKING")) {}
+    , managedWindowLists{xcbAtom(serverConnection, "_NET_CLIENT_LIST"),
+                         xcbAtom(serverConnection, "_NET_ACTIVE_WINDOW")} {}
 
 void X11Stacking::listen() const {
     const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
@@ -46,7 +38,8 @@ bool X11Stacking::isChange(const void* event) const {
         return static_cast<const xcb_map_notify_event_t*>(event)->event == root;
     case XCB_PROPERTY_NOTIFY: {
         const auto* property = static_cast<const xcb_property_notify_event_t*>(event);
-        return property->window == root && property->atom == managedWindowList;
+        return property->window == root &&
+               std::ranges::count(managedWindowLists, property->atom) > 0;
     }
     default:
         return false;
@@ -56,12 +49,14 @@ bool X11Stacking::isChange(const void* event) const {
 void X11Stacking::raiseAboveManagedWindows(XWindow window) const {
     const auto bottomToTop = topLevelWindows();
     const auto own = std::ranges::find(bottomToTop, window);
-    if (own == bottomToTop.end() || own + 1 == bottomToTop.end()) return;
+    if (own == bottomToTop.end()) return;
+    const auto next = own + 1;
+    if (next == bottomToTop.end()) return;
 
     const auto frames = framesOf(managedWindows());
-    const auto topmost = std::find_first_of(bottomToTop.rbegin(), std::make_reverse_iterator(own),
+    const auto topmost = std::find_first_of(bottomToTop.rbegin(), std::make_reverse_iterator(next),
                                             frames.begin(), frames.end());
-    if (topmost.base() == own) return;
+    if (topmost.base() == next) return;
 
     const std::array<std::uint32_t, 2> values{*topmost, XCB_STACK_MODE_ABOVE};
     const auto cookie = xcb_configure_window_checked(
@@ -81,8 +76,17 @@ std::vector<X11Stacking::XWindow> X11Stacking::topLevelWindows() const {
 }
 
 std::vector<X11Stacking::XWindow> X11Stacking::managedWindows() const {
-    const auto cookie = xcb_get_property(connection, 0, root, managedWindowList, XCB_ATOM_WINDOW, 0,
-                                         maxManagedWindows);
+    std::vector<XWindow> windows;
+    for (const auto list : managedWindowLists) {
+        const auto listed = windowsIn(list);
+        windows.insert(windows.end(), listed.begin(), listed.end());
+    }
+    return windows;
+}
+
+std::vector<X11Stacking::XWindow> X11Stacking::windowsIn(std::uint32_t property) const {
+    const auto cookie =
+        xcb_get_property(connection, 0, root, property, XCB_ATOM_WINDOW, 0, maxManagedWindows);
     const XcbReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection, cookie, nullptr));
     if (!reply || reply->format != 32) return {};

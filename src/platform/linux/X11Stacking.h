@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -30,11 +31,14 @@ public:
 private:
     std::vector<XWindow> topLevelWindows() const;
     std::vector<XWindow> managedWindows() const;
+    std::vector<XWindow> windowsIn(std::uint32_t property) const;
     std::vector<XWindow> framesOf(std::vector<XWindow> windows) const;
 
     xcb_connection_t* connection;
     XWindow root;
-    std::uint32_t managedWindowList; ///< the atom that names the window manager's list
+    /// The atoms under which the window manager tells the windows that it knows: some add a window
+    /// to their list late, but say at once that it is the active one.
+    std::array<std::uint32_t, 2> managedWindowLists;
 };
 
 } // namespace tessaline

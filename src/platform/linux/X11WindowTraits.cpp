@@ -1,11 +1,11 @@
 #include "platform/linux/X11WindowTraits.h"
 
+#include "platform/linux/XcbAtom.h"
 #include "platform/linux/XcbReply.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
-#include <string_view>
 #include <utility>
 
 namespace tessaline {
@@ -13,21 +13,17 @@ namespace {
 
 Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
 
-/// The atom by which compositors of the first screen make themselves known.
-xcb_atom_t internCompositorSelection(xcb_connection_t* connection) {
-    constexpr std::string_view name = "_NET_WM_CM_S0";
-    const auto cookie = xcb_intern_atom(connection, 0, std::uint16_t(name.size()), name.data());
-    const XcbReply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
 } // namespace
 
 X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
     : connection(serverConnection)
     , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
-    , compositorSelection(internCompositorSelection(serverConnection)) {
+    , stacking(serverConnection, root)
+    , compositorSelection(xcbAtom(serverConnection, "_NET_WM_CM_S0")) {
+    // Restacking comes as a series of events, which one look at the result answers.
+    raiseTimer.setSingleShot(true);
+    QObject::connect(&raiseTimer, &QTimer::timeout, &raiseTimer,
+                     [this] { stacking.raiseAboveManagedWindows(floating); });
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
@@ -58,7 +54,7 @@ bool X11WindowTraits::excludeFromCapture(NativeWindow /*window*/) {
 void X11WindowTraits::floatAboveEverything(NativeWindow window) {
     floating = static_cast<XWindow>(window);
     stacking.listen();
-    raiseSoon();
+    raiseTimer.start();
 }
 
 void X11WindowTraits::takeKeyboard(NativeWindow window) {
@@ -82,18 +78,8 @@ void X11WindowTraits::giveKeyboardBack(NativeWindow window) {
 bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
                                         qintptr* /*result*/) {
     if (floating == XCB_NONE || type != "xcb_generic_event_t") return false;
-    if (stacking.isChange(message)) raiseSoon();
+    if (stacking.isChange(message)) raiseTimer.start();
     return false;
-}
-
-/// Restacking comes as a series of events, which one look at the result answers.
-void X11WindowTraits::raiseSoon() {
-    if (std::exchange(raiseIsPending, true)) return;
-    const auto raise = [this] {
-        raiseIsPending = false;
-        stacking.raiseAboveManagedWindows(floating);
-    };
-    QMetaObject::invokeMethod(&context, raise, Qt::QueuedConnection);
 }
 
 std::optional<X11WindowTraits::XWindow> X11WindowTraits::focusedWindow() const {

@@ -4,7 +4,7 @@
 #include "platform/linux/X11Stacking.h"
 
 #include <QAbstractNativeEventFilter>
-#include <QObject>
+#include <QTimer>
 
 #include <cstdint>
 #include <optional>
@@ -17,8 +17,7 @@ namespace tessaline {
 /// (override-redirect). A managed window, whatever its type and states, ends up below the
 /// full-screen window that has the keyboard, may be moved away from panels, and is listed. What the
 /// window manager would do is done here instead:
-/// - it may raise a managed window above ours, so ours is put on top again when windows are
-/// restacked;
+/// - it may raise a managed window above ours, so ours is put back on top after restacking;
 /// - it never directs the keyboard to our window, so a click has to: see `FocusOnClick`.
 /// X11 has no way to keep a window out of captures.
 class X11WindowTraits final : public WindowTraits, private QAbstractNativeEventFilter {
@@ -43,19 +42,17 @@ private:
     using XWindow = std::uint32_t;
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    void raiseSoon();
     std::optional<XWindow> focusedWindow() const;
     bool focus(XWindow window) const;
 
     xcb_connection_t* connection;
     XWindow root;
     X11Stacking stacking;
-    std::uint32_t compositorSelection; ///< owned by the compositor while there is one
+    std::uint32_t compositorSelection; ///< names the running compositor
     XWindow floating = 0;
     XWindow previousFocus = 0;
-    bool raiseIsPending = false;
     bool reportedCapture = false;
-    QObject context; ///< ends the queued calls together with this object
+    QTimer raiseTimer;
 };
 
 } // namespace tessaline

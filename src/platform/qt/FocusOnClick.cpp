@@ -7,7 +7,21 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace tessaline {
+
+namespace {
+
+/// A menu lies over the window that it belongs to, and closes when that one loses the keyboard.
+bool showsPopup() {
+    const auto windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.begin(), windows.end(), [](const QWindow* window) {
+        return window->type() == Qt::Popup && window->isVisible();
+    });
+}
+
+} // namespace
 
 FocusOnClick::FocusOnClick(QWindow& watchedWindow, WindowTraits& windowTraits)
     : QObject(&watchedWindow), window(watchedWindow), traits(windowTraits) {
@@ -24,7 +38,7 @@ bool FocusOnClick::eventFilter(QObject* watched, QEvent* event) {
         giveBack = releasedOutside(static_cast<const QMouseEvent&>(*event));
         break;
     case QEvent::Leave:
-        giveBack = QGuiApplication::mouseButtons() == Qt::NoButton;
+        giveBack = QGuiApplication::mouseButtons() == Qt::NoButton && !showsPopup();
         break;
     case QEvent::KeyPress:
         giveBack = static_cast<const QKeyEvent&>(*event).key() == Qt::Key_Escape;

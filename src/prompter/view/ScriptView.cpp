@@ -182,17 +182,18 @@ void ScriptView::updateScroller() {
 
 void ScriptView::resizeEvent(QResizeEvent*) {
     const Place place = placeAtTop();
-    const double textWidth = std::max(width() - 2 * horizontalInset, 1.0);
-    const bool rewraps = textWidth != layout.textWidth();
     scroller->setGeometry(width() - scroller->sizeHint().width(), 0, scroller->sizeHint().width(),
                           height());
     sizeFrame();
-    if (rewraps) {
-        layout.setTextWidth(textWidth);
-        if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
-            layout.measureMore(unitsLaidOutAtOnce + 1, 0);
-        restorePlace(place);
+    const double textWidth = std::max(width() - 2 * horizontalInset, 1.0);
+    if (textWidth == layout.textWidth()) {
+        scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
+        return updateScroller();
     }
+    layout.setTextWidth(textWidth);
+    if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
+        layout.measureMore(unitsLaidOutAtOnce + 1, 0);
+    restorePlace(place);
     layoutChanged();
 }
 
