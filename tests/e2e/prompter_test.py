@@ -234,6 +234,12 @@ class Use(PrompterTestCase):
         kept = self.support_folder() / "clipboard-content.md"
         wait_until(lambda: kept.read_text() == "Line number 0 of the talk", "the line is kept")
 
+    def test_opens_its_menu_and_keeps_it_open(self):
+        self.desktop.click(LEFT + 200, 150, button=3)
+        wait_until(lambda: len(self.desktop.windows(pid=self.prompter.pid)) == 2, "a menu is open")
+        self.desktop.key("Escape")
+        wait_until(lambda: len(self.desktop.windows(pid=self.prompter.pid)) == 1, "it is closed")
+
     def test_quits_with_its_close_button(self):
         self.desktop.click(*CLOSE)
         self.assertEqual(self.prompter.wait(), 0)

@@ -4,8 +4,8 @@
 
 namespace tessaline {
 
-/// Keeps a test program apart from the machine it runs on: a home folder of its own, which goes away
-/// with this object, no usage reports, and one locale. Make it before the application object.
+/// Keeps a test program apart from the machine it runs on: a home folder of its own, which goes
+/// away with this object, no usage reports, and one locale. Make it before the application object.
 class TestEnvironment {
 public:
     TestEnvironment();

@@ -28,10 +28,11 @@ QFont::Weight resolvedWeight(TextFont::Weight weight) {
 FormatTable::Entry makeEntry(const TextAttributes& attributes) {
     const QFont font = attributes.font ? resolvedFont(*attributes.font) : defaultTextFont();
     FormatTable::Entry entry;
-    entry.format.setFont(font);
+    entry.font = font;
+    entry.font.setStrikeOut(attributes.strikethrough != 0);
+    entry.format.setFont(entry.font);
     entry.format.setForeground(resolvedColor(attributes.foreground.value_or(TextColor{})));
     if (attributes.background) entry.format.setBackground(resolvedColor(*attributes.background));
-    if (attributes.strikethrough != 0) entry.format.setFontStrikeOut(true);
     const QFontMetricsF metrics(font);
     entry.lineHeight = std::ceil(metrics.height() + std::max(metrics.leading(), 0.0));
     entry.averageAdvance = metrics.averageCharWidth();

@@ -25,6 +25,7 @@ public:
     /// A set as Qt draws it, with the measures by which unseen text is estimated, in points.
     struct Entry {
         QTextCharFormat format;
+        QFont font; ///< the format's, kept because its copies share what was looked up for it
         double lineHeight = 0.0;
         double averageAdvance = 0.0;
     };

@@ -93,11 +93,11 @@ ParagraphLayout layOutParagraph(const Script& script, std::size_t index, const F
     const double tail = std::max(-style.tailIndent, 0.0);
 
     const FormatTable::Entry* single = singleEntry(script, paragraph, formats);
-    const QTextCharFormat& base = (single ? *single : formats.plain()).format;
+    const FormatTable::Entry& base = single ? *single : formats.plain();
 
     ParagraphLayout result;
-    result.lines = std::make_unique<QTextLayout>(text, base.font());
-    result.pen = base.foreground().color();
+    result.lines = std::make_unique<QTextLayout>(text, base.font);
+    result.pen = base.format.foreground().color();
     QTextLayout& layout = *result.lines;
     layout.setCacheEnabled(true);
     layout.setTextOption(textOption(style, rightToLeft));
