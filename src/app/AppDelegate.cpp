@@ -54,6 +54,7 @@ void AppDelegate::createPrompter() {
             [this] { prompterWindow->toggleCollapsed(); });
     connect(controls.pasteButton, &QAbstractButton::clicked, this,
             [this] { sourceManager->cycleSource(); });
+    controls.configButton->setEnabled(false); // there is no settings window to open so far
     connect(controls.quitButton, &QAbstractButton::clicked, qApp, &QCoreApplication::quit);
 
     const auto shortcut = [this](const QKeySequence& keys, auto action) {

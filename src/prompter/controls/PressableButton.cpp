@@ -56,7 +56,7 @@ void PressableButton::setGlyph(const QString& glyph, double points, QFont::Weigh
 }
 
 double PressableButton::alpha() const {
-    if (isPressed()) return pressedAlpha;
+    if (isPressed() || !isEnabled()) return pressedAlpha;
     return isHovered() ? hoverAlpha : normalAlpha;
 }
 

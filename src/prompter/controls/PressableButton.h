@@ -32,8 +32,8 @@ public:
 
     QSize sizeHint() const override;
 
-    // Opacity of everything drawn: at rest, with the pointer inside, while pressed. Whoever changes
-    // these or the colours on a visible button calls update().
+    // Opacity of everything drawn: at rest, with the pointer inside, while pressed or disabled.
+    // Whoever changes these or the colours on a visible button calls update().
     double normalAlpha = 0.6;
     double hoverAlpha = 1.0;
     double pressedAlpha = 0.3;

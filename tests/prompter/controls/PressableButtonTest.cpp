@@ -53,6 +53,12 @@ TEST_F(PressableButtonTest, StartsWithTheUsualLook) {
     EXPECT_FALSE(button.isPressed());
 }
 
+TEST_F(PressableButtonTest, IsDarkWhileItIsDisabled) {
+    button.setEnabled(false);
+    pointerEnters(button);
+    EXPECT_NEAR(strongestAlpha(pictureOf(button)), 0.3 * 255, 1);
+}
+
 TEST_F(PressableButtonTest, DrawsInTheAlphaOfItsState) {
     EXPECT_NEAR(strongestAlpha(pictureOf(button)), 0.6 * 255, 1);
 
