@@ -10,6 +10,7 @@
 #include "prompter/PrompterGeometry.h"
 #include "prompter/ReadingStatistics.h"
 #include "prompter/WindowShape.h"
+#include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ScriptView.h"
 #include "render/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
@@ -62,8 +63,14 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
     resizing.setEasingCurve(QEasingCurve::InOutSine);
-    connect(&resizing, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant& value) { setGeometry(value.toRect()); });
+    connect(&resizing, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        // It also tells values while it is being set up.
+        if (isResizing()) setGeometry(value.toRect());
+    });
+    connect(&resizing, &QVariantAnimation::finished, this, [this] {
+        squareCorners = collapsed;
+        shape();
+    });
     setupUI();
     updateFrame();
     autoScroll.emplace(settings, ports.displayLinks, ports.timers, ports.mainQueue,
@@ -95,7 +102,8 @@ void PrompterWindow::updateFrame() {
         return;
     }
     arrangeContent();
-    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
+    squareCorners = collapsed;
+    shape();
     if (const auto screen = currentScreen()) ports.displayLinks.setRefreshRate(screen->refreshRate);
 }
 
@@ -121,15 +129,24 @@ double PrompterWindow::menuBarHeight() const {
 }
 
 void PrompterWindow::toggleCollapsed() {
-    const Rect frame = fromQtCoordinates(geometry(), primaryGeometry());
+    const QRect settled = isResizing() ? resizing.endValue().toRect() : geometry();
+    const Rect frame = fromQtCoordinates(settled, primaryGeometry());
     if (!collapsed) expandedHeight = frame.height;
     collapsed = !collapsed;
     const Rect target =
         collapsed ? collapsedFrame(frame, menuBarHeight()) : expandedFrame(frame, expandedHeight);
+    if (!collapsed) squareCorners = false;
     arrangeContent();
     animateTo(target);
-    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
     updateMinimizeButtonAppearance();
+}
+
+bool PrompterWindow::isResizing() const {
+    return resizing.state() == QAbstractAnimation::Running;
+}
+
+void PrompterWindow::shape() {
+    updateShape(*this, squareCorners, ports.windowTraits.showsTranslucency());
 }
 
 void PrompterWindow::animateTo(const Rect& frame) {
@@ -153,14 +170,14 @@ void PrompterWindow::arrangeContent() {
 
 void PrompterWindow::resizeEvent(QResizeEvent*) {
     arrangeContent();
-    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
+    shape();
 }
 
 void PrompterWindow::showEvent(QShowEvent* event) {
     ports.windowTraits.floatAboveEverything(winId());
     ports.windowTraits.excludeFromCapture(winId());
     if (!std::exchange(watchesClicks, true)) new FocusOnClick(*windowHandle(), ports.windowTraits);
-    updateShape(*this, collapsed, ports.windowTraits.showsTranslucency());
+    shape();
     QWidget::showEvent(event);
 }
 
@@ -171,7 +188,7 @@ void PrompterWindow::makeKeyAndOrderFront() {
 }
 
 void PrompterWindow::paintEvent(QPaintEvent*) {
-    paintShape(*this, collapsed);
+    paintShape(*this, squareCorners);
 }
 
 void PrompterWindow::updateText(const QString& content) {
@@ -257,10 +274,8 @@ void PrompterWindow::updateMinimizeButtonAppearance() {
 
 void PrompterWindow::wheelEvent(QWheelEvent* event) {
     if (!event->modifiers().testFlag(Qt::ControlModifier)) return QWidget::wheelEvent(event);
-    const double points = event->hasPixelDelta()
-                              ? event->pixelDelta().y()
-                              : event->angleDelta().y() / unitsPerWheelStep * pointsPerWheelLine;
-    performScroll(points);
+    const double points = event->angleDelta().y() / unitsPerWheelStep * pointsPerWheelLine;
+    performScroll(preciseScrolling(*event).value_or(points));
 }
 
 } // namespace tessaline

@@ -93,7 +93,9 @@ private:
     std::optional<Screen> currentScreen() const;
     void setFrame(const Rect& frame);
     void animateTo(const Rect& frame);
+    bool isResizing() const;
     void arrangeContent();
+    void shape();
 
     AppSettings& settings;
     PrompterPorts ports;
@@ -103,6 +105,7 @@ private:
     ScriptView* view = nullptr;
     bool watchesClicks = false;
     bool collapsed = false;
+    bool squareCorners = false; ///< follows `collapsed` once the window has its height
     double expandedHeight = 0.0;
     QString lastRawContent;
     qsizetype wordCount = 0;

@@ -11,10 +11,10 @@ namespace {
 
 constexpr double expandedCornerRadius = 16.0;
 
-QPainterPath shapeOf(const QWidget& window, bool collapsed) {
+QPainterPath shapeOf(const QWidget& window, bool square) {
     const QRectF bounds = window.rect();
     QPainterPath path;
-    if (collapsed) {
+    if (square) {
         path.addRect(bounds);
         return path;
     }
@@ -24,29 +24,29 @@ QPainterPath shapeOf(const QWidget& window, bool collapsed) {
     return path;
 }
 
-QRegion maskOf(const QWidget& window, bool collapsed) {
+QRegion maskOf(const QWidget& window, bool square) {
     QBitmap mask(window.size());
     mask.clear();
     QPainter painter(&mask);
-    painter.fillPath(shapeOf(window, collapsed), Qt::color1);
+    painter.fillPath(shapeOf(window, square), Qt::color1);
     painter.end();
     return QRegion(mask);
 }
 
 } // namespace
 
-void updateShape(QWidget& window, bool collapsed, bool showsTranslucency) {
+void updateShape(QWidget& window, bool square, bool showsTranslucency) {
     if (showsTranslucency)
         window.clearMask();
     else
-        window.setMask(maskOf(window, collapsed));
+        window.setMask(maskOf(window, square));
     window.update();
 }
 
-void paintShape(QWidget& window, bool collapsed) {
+void paintShape(QWidget& window, bool square) {
     QPainter painter(&window);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(shapeOf(window, collapsed), Qt::black);
+    painter.fillPath(shapeOf(window, square), Qt::black);
 }
 
 } // namespace tessaline

@@ -152,6 +152,38 @@ TEST_F(PrompterWindowTest, ExpandsToAHundredPointsAtLeast) {
     finishResizing(100);
 }
 
+TEST_F(PrompterWindowTest, KeepsItsHeightWhenItIsToggledInMidAnimation) {
+    window().toggleCollapsed();
+    finishResizing(32);
+    window().toggleCollapsed();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window().height() > 60; }, 3000));
+    window().toggleCollapsed();
+    finishResizing(32);
+    window().toggleCollapsed();
+    finishResizing(256);
+}
+
+TEST_F(PrompterWindowTest, TakesALongTextWhileItIsHidden) {
+    window().hide();
+    auto hidden = std::make_unique<PrompterWindow>(
+        settings, PrompterPorts{queue, tasks, timers, links, screens, traits});
+    hidden->updateText(u"line\n"_s.repeated(20000));
+    queue.runAll();
+    hidden->performScroll(-100);
+    while (!hidden->textView().isLayoutComplete())
+        QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(hidden->textView().scrollPosition(), 100);
+}
+
+TEST_F(PrompterWindowTest, ScrollsByNotchesWhereAWheelTellsPixelsToo) {
+    show(u"line\n"_s.repeated(100));
+    QWheelEvent event({10, 10}, window().mapToGlobal(QPointF(10, 10)), {0, -15}, {0, -120},
+                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&window(), &event);
+    EXPECT_EQ(window().textView().scrollPosition(), 80);
+}
+
 TEST_F(PrompterWindowTest, KeepsTheReadersPlaceWhileCollapsed) {
     show(u"line\n"_s.repeated(100));
     window().performScroll(-400);

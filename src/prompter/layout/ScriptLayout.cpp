@@ -124,7 +124,6 @@ void ScriptLayout::forgetLayoutsOutside(std::size_t first, std::size_t last) {
 void ScriptLayout::draw(QPainter& painter, double top, double bottom, const TextRange& selection) {
     const std::size_t first = paragraphAt(top);
     std::size_t index = first;
-    const QRectF clip(0, top, columnWidth, bottom - top);
     for (double y = topOf(first); y < bottom && index < measured.size(); ++index) {
         const ParagraphLayout& layout = laidOut(index);
         const Script::Paragraph& paragraph = currentScript.paragraphs[index];
@@ -137,8 +136,12 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
             highlights.push_back(
                 {int(selected.begin - paragraph.start), int(selected.length()), highlight});
         }
+        // Lines are placed in fixed point, which does not reach the end of very long documents.
+        painter.translate(0, y);
         painter.setPen(layout.pen);
-        layout.lines->draw(&painter, {0, y}, highlights, clip);
+        layout.lines->draw(&painter, {0, 0}, highlights,
+                           QRectF(0, top - y, columnWidth, bottom - top));
+        painter.translate(0, -y);
         y += layout.height;
     }
     forgetLayoutsOutside(first, index);

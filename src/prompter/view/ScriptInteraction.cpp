@@ -120,7 +120,9 @@ void ScriptInteraction::selectUnitAt(const QPointF& point, TextSelection::Unit u
 
 void ScriptInteraction::mousePress(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) return;
-    const bool third = sinceDoubleClick.isValid() &&
+    const bool isNear =
+        (event.position() - doubleClickPoint).manhattanLength() < QApplication::startDragDistance();
+    const bool third = isNear && sinceDoubleClick.isValid() &&
                        sinceDoubleClick.elapsed() < QApplication::doubleClickInterval();
     sinceDoubleClick.invalidate();
     if (third) return selectUnitAt(event.position(), TextSelection::Unit::paragraph);
@@ -136,6 +138,7 @@ void ScriptInteraction::mouseDoubleClick(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) return;
     selectUnitAt(event.position(), TextSelection::Unit::word);
     sinceDoubleClick.start();
+    doubleClickPoint = event.position();
 }
 
 void ScriptInteraction::mouseMove(const QMouseEvent& event) {
@@ -154,6 +157,7 @@ void ScriptInteraction::dragTo(const QPointF& point) {
 
 void ScriptInteraction::timerEvent(QTimerEvent* event) {
     if (event->timerId() != dragTimer.timerId()) return QObject::timerEvent(event);
+    if (!QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) return dragTimer.stop();
     const double beyond = dragPoint.y() < 0 ? dragPoint.y() : dragPoint.y() - view.height();
     view.scrollByHand(view.scrollPosition() + beyond * dragShare);
     dragTo(dragPoint);

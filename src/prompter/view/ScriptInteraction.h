@@ -47,6 +47,7 @@ private:
     QPointF dragPoint;
     QBasicTimer dragTimer; ///< goes on scrolling while the mouse is held outside of the view
     QElapsedTimer sinceDoubleClick;
+    QPointF doubleClickPoint;
 };
 
 } // namespace tessaline

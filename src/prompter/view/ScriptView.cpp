@@ -1,6 +1,7 @@
 #include "prompter/view/ScriptView.h"
 
 #include "prompter/controls/ThemedScroller.h"
+#include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/RowBlending.h"
 #include "prompter/view/ScriptViewAccessible.h"
 
@@ -145,17 +146,41 @@ void ScriptView::layoutChanged() {
         idleTimer.start(0, this);
 }
 
-void ScriptView::continueLayout() {
-    const double moved = layout.measureMore(unitsLaidOutPerSlice, scrollTop - verticalInset);
-    if (scrollTop > 0.0 && moved != 0.0) {
-        scrollTop += moved;
-        strips.invalidate();
-        update();
+/// Does something that may lay paragraphs out, and keeps what is seen in its place when that
+/// changes heights. Returns whether it did.
+template <typename Action>
+bool ScriptView::keepPlaceDuring(Action action) {
+    const double height = layout.height();
+    const bool atEnd = scrollTop > 0.0 && scrollTop == maximumScrollPosition();
+    const std::size_t anchor = layout.paragraphAt(scrollTop - verticalInset);
+    const double before = layout.topOf(anchor);
+    action();
+    const double moved = layout.topOf(anchor) - before;
+    if (moved == 0.0 && layout.height() == height) return false;
+    if (scrollTop > 0.0) scrollTop += moved;
+    const double maximum = maximumScrollPosition();
+    scrollTop = atEnd ? maximum : std::clamp(scrollTop, 0.0, maximum);
+    strips.invalidate();
+    update();
+    return true;
+}
+
+/// Lays out all that the strips of the next frame show, so that drawing them changes no height.
+void ScriptView::measureVisible() {
+    constexpr int mostPasses = 4; // each may bring unmeasured paragraphs into sight
+    const double ratio = frame.devicePixelRatio();
+    const double strip = StripCache::rowsPerStrip / ratio;
+    for (int pass = 0; pass < mostPasses && !layout.isMeasured(); ++pass) {
+        const double top = std::floor(scrollTop / strip) * strip - verticalInset;
+        const double bottom = top + height() + 2 * strip;
+        if (!keepPlaceDuring([&] { layout.measureBetween(top, bottom); })) return;
     }
-    scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
-    if (!layout.isMeasured()) return;
+}
+
+void ScriptView::continueLayout() {
+    keepPlaceDuring([this] { layout.measureMore(unitsLaidOutPerSlice, 0); });
     updateScroller();
-    Q_EMIT layoutCompleted();
+    if (layout.isMeasured()) Q_EMIT layoutCompleted();
 }
 
 void ScriptView::prepareStrips() {
@@ -214,8 +239,7 @@ void ScriptView::paintEvent(QPaintEvent*) {
 }
 
 void ScriptView::composeFrame() {
-    const double top = scrollTop - verticalInset;
-    layout.measureBetween(top, top + height() + StripCache::rowsPerStrip);
+    measureVisible();
     const double firstRow = scrollTop * frame.devicePixelRatio();
     auto row = qsizetype(std::floor(firstRow));
     const auto lowerWeight = unsigned(std::lround((firstRow - double(row)) * wholeRow));
@@ -234,7 +258,8 @@ void ScriptView::setSelection(const TextSelection& selection) {
     currentSelection = selection;
     const TextRange after = selection.range();
     if (after != before) {
-        strips.invalidate();
+        invalidateBetween(before.begin, after.begin);
+        invalidateBetween(before.end, after.end);
         update();
         QAccessibleTextSelectionEvent event(this, int(after.begin), int(after.end));
         QAccessible::updateAccessibility(&event);
@@ -242,6 +267,15 @@ void ScriptView::setSelection(const TextSelection& selection) {
         QAccessibleTextCursorEvent event(this, int(selection.caret()));
         QAccessible::updateAccessibility(&event);
     }
+}
+
+/// Has what lies between two offsets drawn anew.
+void ScriptView::invalidateBetween(qsizetype offset, qsizetype other) {
+    if (offset == other) return;
+    const double top = caretRect(std::min(offset, other)).top() + scrollTop;
+    const double bottom = caretRect(std::max(offset, other)).bottom() + scrollTop;
+    const double ratio = frame.devicePixelRatio();
+    strips.invalidateRows(qsizetype(std::floor(top * ratio)), qsizetype(std::ceil(bottom * ratio)));
 }
 
 QString ScriptView::selectedText() const {
@@ -253,12 +287,17 @@ void ScriptView::copySelection() const {
     if (!currentSelection.range().isEmpty()) QApplication::clipboard()->setText(selectedText());
 }
 
-QRectF ScriptView::caretRect(qsizetype offset) const {
-    return layout.caretRect(offset).translated(horizontalInset, verticalInset - scrollTop);
+QRectF ScriptView::caretRect(qsizetype offset) {
+    QRectF rect;
+    keepPlaceDuring([&] { rect = layout.caretRect(offset); });
+    return rect.translated(horizontalInset, verticalInset - scrollTop);
 }
 
-qsizetype ScriptView::offsetAt(const QPointF& point) const {
-    return layout.offsetAt({point.x() - horizontalInset, point.y() + scrollTop - verticalInset});
+qsizetype ScriptView::offsetAt(const QPointF& point) {
+    qsizetype offset = 0;
+    const QPointF place(point.x() - horizontalInset, point.y() + scrollTop - verticalInset);
+    keepPlaceDuring([&] { offset = layout.offsetAt(place); });
+    return offset;
 }
 
 void ScriptView::reveal(qsizetype offset) {
@@ -270,10 +309,8 @@ void ScriptView::reveal(qsizetype offset) {
 void ScriptView::wheelEvent(QWheelEvent* event) {
     if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
     const double steps = event->angleDelta().y() / unitsPerWheelStep;
-    const double points = event->hasPixelDelta()
-                              ? event->pixelDelta().y()
-                              : steps * QApplication::wheelScrollLines() * pointsPerWheelLine;
-    scrollByHand(scrollTop - points);
+    const double points = steps * QApplication::wheelScrollLines() * pointsPerWheelLine;
+    scrollByHand(scrollTop - preciseScrolling(*event).value_or(points));
 }
 
 void ScriptView::keyPressEvent(QKeyEvent* event) {

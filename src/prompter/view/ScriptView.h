@@ -61,10 +61,10 @@ public:
     void reveal(qsizetype offset);
 
     /// Where the caret before an offset is drawn, in the view's coordinates.
-    QRectF caretRect(qsizetype offset) const;
+    QRectF caretRect(qsizetype offset);
 
     /// The offset nearest to a point in the view's coordinates.
-    qsizetype offsetAt(const QPointF& point) const;
+    qsizetype offsetAt(const QPointF& point);
 
 Q_SIGNALS:
     /// The whole document has been laid out: its height is exact now.
@@ -93,14 +93,18 @@ private:
     void restorePlace(const Place& place);
     void keepPlaceAcross(const ScriptChange& change, std::size_t oldCount, const Place& place);
     void moveSelectionAcross(const ScriptChange& change, const Script& before);
+    template <typename Action>
+    bool keepPlaceDuring(Action action);
+    void measureVisible();
     void layoutChanged();
     void continueLayout();
     void prepareStrips();
     void sizeFrame();
     void composeFrame();
     void updateScroller();
+    void invalidateBetween(qsizetype offset, qsizetype other);
 
-    mutable ScriptLayout layout; ///< asking about a place may have to lay it out
+    ScriptLayout layout;
     StripCache strips;
     QImage frame;
     ThemedScroller* scroller;

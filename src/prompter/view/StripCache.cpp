@@ -39,7 +39,7 @@ const std::uint8_t* StripCache::row(qsizetype index) {
 
 bool StripCache::prepare(qsizetype row) {
     const qsizetype strip = row / rowsPerStrip;
-    if (row < 0 || find(strip)) return false;
+    if (row < 0 || kept.empty() || find(strip)) return false;
     slotOf(strip);
     return true;
 }

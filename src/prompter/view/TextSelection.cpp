@@ -16,6 +16,12 @@ TextRange lineAround(const QString& text, qsizetype offset) {
     return {begin, newline < 0 ? text.size() : newline};
 }
 
+/// As much of a line around an offset as any word takes, for lines that are whole books.
+TextRange vicinity(const TextRange& line, qsizetype offset) {
+    constexpr qsizetype longestWord = 4096;
+    return line.intersected({offset - longestWord, offset + longestWord});
+}
+
 QTextBoundaryFinder finderFor(const QString& text, const TextRange& line,
                               TextSelection::Unit unit) {
     const auto type = unit == TextSelection::Unit::word ? QTextBoundaryFinder::Word
@@ -30,8 +36,9 @@ bool startsWord(const QTextBoundaryFinder& finder) {
 } // namespace
 
 TextRange unitAround(const QString& text, qsizetype offset, TextSelection::Unit unit) {
-    const TextRange line = lineAround(text, offset);
-    if (unit == TextSelection::Unit::paragraph || line.isEmpty()) return line;
+    const TextRange whole = lineAround(text, offset);
+    if (unit == TextSelection::Unit::paragraph || whole.isEmpty()) return whole;
+    const TextRange line = vicinity(whole, offset);
     auto finder = finderFor(text, line, unit);
     const qsizetype inLine = std::min(offset, line.end - 1) - line.begin;
     finder.setPosition(inLine);
@@ -61,9 +68,10 @@ void TextSelection::extendByUnit(const QString& text, qsizetype offset, Unit uni
 }
 
 qsizetype TextSelection::neighbour(const QString& text, Unit unit, bool forward) const {
-    const TextRange line = lineAround(text, caretOffset);
-    if (forward && caretOffset == line.end) return std::min(line.end + 1, text.size());
-    if (!forward && caretOffset == line.begin) return std::max<qsizetype>(line.begin - 1, 0);
+    const TextRange whole = lineAround(text, caretOffset);
+    if (forward && caretOffset == whole.end) return std::min(whole.end + 1, text.size());
+    if (!forward && caretOffset == whole.begin) return std::max<qsizetype>(whole.begin - 1, 0);
+    const TextRange line = vicinity(whole, caretOffset);
     auto finder = finderFor(text, line, unit);
     finder.setPosition(caretOffset - line.begin);
     qsizetype found = forward ? finder.toNextBoundary() : finder.toPreviousBoundary();

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,6 +33,16 @@ protected:
         return moment / light;
     }
 };
+
+/// The mean brightness of a picture, 0 to 255.
+double brightness(const QImage& picture) {
+    double sum = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            sum += qGray(picture.pixel(x, y));
+    }
+    return sum / (picture.width() * picture.height());
+}
 
 TEST_F(ScriptViewTest, StartsAtTheTop) {
     show(lines(100));
@@ -147,6 +159,44 @@ TEST_F(ScriptViewTest, DoesNotMoveTheReaderWhileALongTextIsLaidOut) {
     while (!view.isLayoutComplete())
         QCoreApplication::processEvents();
     EXPECT_NEAR(double(view.offsetAt({20, 100})), double(before), 60);
+}
+
+TEST_F(ScriptViewTest, DrawsTheSamePageWhetherOrNotTheTextAboveHasBeenLaidOut) {
+    QString text;
+    for (int i = 0; i < 3000; ++i)
+        text += u"Paragraph %1 "_s.arg(i) + u"words "_s.repeated(i % 90) + u"\n"_s;
+    view.setScript(Script(MarkdownRenderer(16).render(text)));
+    view.scrollTo(1e9);
+    view.grab();
+    for (int page = 0; page < 5; ++page) {
+        view.scrollTo(view.scrollPosition() - 150);
+        view.grab();
+    }
+    ASSERT_FALSE(view.isLayoutComplete());
+    const QString line = topLine();
+    const QImage before = view.grab().toImage();
+    view.completeLayout();
+    EXPECT_EQ(topLine(), line);
+    view.scrollTo(std::round(view.scrollPosition()));
+    const QImage after = view.grab().toImage();
+    // The place may differ by a fraction of a pixel, which the rounding has taken away.
+    EXPECT_LT(std::abs(brightness(before) - brightness(after)), 2.0);
+}
+
+TEST_F(ScriptViewTest, StaysAtTheEndWhileHeightsAreMeasured) {
+    view.setScript(
+        Script(MarkdownRenderer(16).render((u"words "_s.repeated(70) + u"\n"_s).repeated(2000))));
+    view.scrollTo(1e9);
+    while (!view.isLayoutComplete())
+        QCoreApplication::processEvents();
+    EXPECT_EQ(view.scrollPosition(), view.maximumScrollPosition());
+}
+
+TEST_F(ScriptViewTest, DrawsTheEndOfAVeryTallDocument) {
+    view.setScript(Script(MarkdownRenderer(16).render(u"line\n"_s.repeated(2'500'000))));
+    ASSERT_GT(view.documentHeight(), 4e7);
+    view.scrollTo(view.documentHeight() - 300);
+    EXPECT_GT(brightness(view.grab().toImage()), 1.0);
 }
 
 TEST_F(ScriptViewTest, ShowsTheScrollerOnlyForTheReadersHand) {
