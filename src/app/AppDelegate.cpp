@@ -23,7 +23,7 @@ void AppDelegate::applicationDidFinishLaunching(const std::optional<QString>& te
     const PrompterPorts& ports = environment.prompter;
     sourceManager = std::make_unique<SourceManager>(
         settings, environment.recorder, environment.notifications,
-        std::make_unique<ObsidianSource>(ports.mainQueue, ports.tasks, ports.timers),
+        std::make_unique<ObsidianSource>(ports.mainQueue, environment.fileTasks, ports.timers),
         std::make_unique<ClipboardSource>(environment.pasteboard));
     screenManager.preferredDisplayID = settings.preferredDisplayID;
     createPrompter();
@@ -67,15 +67,9 @@ void AppDelegate::createPrompter() {
 
 void AppDelegate::startApp(const std::optional<QString>& text) {
     prompterWindow->makeKeyAndOrderFront();
-    if (text)
-        openText(*text);
-    else
-        sourceManager->startWatching();
-}
-
-void AppDelegate::openText(const QString& text) {
-    makeClipboardActive();
-    sourceManager->pasteText(text);
+    if (text && !text->isEmpty()) makeClipboardActive();
+    sourceManager->startWatching();
+    if (text) sourceManager->pasteText(*text);
 }
 
 void AppDelegate::pasteFromClipboard() {

@@ -25,6 +25,7 @@ public:
     /// What the delegate borrows for its whole life.
     struct Environment {
         PrompterPorts prompter;
+        TaskRunner& fileTasks; ///< apart from the prompter's: a hanging read must not hold it up
         Pasteboard& pasteboard;
         UsageRecorder& recorder;
         NotificationCenter& notifications;
@@ -41,7 +42,6 @@ public:
 private:
     void createPrompter();
     void startApp(const std::optional<QString>& text);
-    void openText(const QString& text);
     void pasteFromClipboard();
     void makeClipboardActive();
     void toggleScroll();

@@ -32,7 +32,8 @@ int runPrompter(int argc, char** argv, const std::optional<QString>& text) {
 
     // In the order of need: whoever is destroyed first may still use those above.
     QtMainQueue mainQueue;
-    ThreadTaskRunner tasks;
+    ThreadTaskRunner renderTasks;
+    ThreadTaskRunner fileTasks;
     QtTimerMaker timers;
     NotificationCenter notifications;
     QtPasteboard pasteboard;
@@ -41,7 +42,8 @@ int runPrompter(int argc, char** argv, const std::optional<QString>& text) {
     const auto windowTraits = makeWindowTraits();
     QtScreens screens(notifications, mainQueue, identifyScreen);
     AppDelegate delegate(
-        {.prompter = {mainQueue, tasks, timers, *displayLinks, screens, *windowTraits},
+        {.prompter = {mainQueue, renderTasks, timers, *displayLinks, screens, *windowTraits},
+         .fileTasks = fileTasks,
          .pasteboard = pasteboard,
          .recorder = recorder,
          .notifications = notifications});

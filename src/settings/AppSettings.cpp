@@ -46,6 +46,8 @@ void AppSettings::loadSettings() {
     const auto loaded = bytes ? decodeSettings(*bytes, &error) : std::nullopt;
     if (!loaded) {
         printLine(u"⚠️ Failed to load config: "_s + error);
+        // The next save replaces the file: what somebody wrote by hand is kept beside it.
+        if (bytes) writeWholeFile(path + ".unreadable"_L1, *bytes);
         return;
     }
     PersistedSettings::operator=(*loaded);

@@ -26,7 +26,8 @@ public:
 
     /// Reads the configuration file into this instance and repairs the resume speed. Writes the
     /// present values where there is no file. A file that cannot be read or decoded is reported on
-    /// standard output, stays as it is, and changes nothing here.
+    /// standard output, stays as it is, and changes nothing here; a copy that later saves do not
+    /// touch is made beside it, named ".unreadable".
     void loadSettings();
 
     /// Writes every persisted field, whole or not at all. A failure is reported on standard output.

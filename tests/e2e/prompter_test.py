@@ -91,6 +91,14 @@ class FirstStart(PrompterTestCase):
         self.wait_for_text()
         self.assertEqual(self.settings()["activeSourceType"], "clipboard")
 
+    def test_changes_no_text_when_the_opened_file_is_empty(self):
+        self.start(self.write_script("# Hello"))
+        self.wait_for_text()
+        before = self.text_pixels()
+        self.prompter.end()
+        self.start(self.write_script(""))
+        wait_until(lambda: self.text_pixels() == before, "the same text is shown")
+
     def test_shows_the_last_text_again_at_the_next_start(self):
         self.start(self.write_script("# Hello"))
         self.wait_for_text()

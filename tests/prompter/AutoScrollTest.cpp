@@ -55,6 +55,17 @@ TEST_F(AutoScrollTest, MovesAtTheSpeedOfTheRate) {
     EXPECT_DOUBLE_EQ(steps[1], -0.32);
 }
 
+TEST_F(AutoScrollTest, StandsStillAtSpeedZeroAtEveryRate) {
+    settings.autoScrollEnabled = true;
+    settings.scrollSpeed = 0;
+    for (const ScrollRate rate : allScrollRates) {
+        settings.scrollRate = rate;
+        const auto scroll = make();
+        refresh(10);
+        EXPECT_TRUE(steps.empty());
+    }
+}
+
 TEST_F(AutoScrollTest, TakesANewSpeedOver) {
     settings.autoScrollEnabled = true;
     settings.scrollRate = ScrollRate::fast;

@@ -87,6 +87,17 @@ INSTANTIATE_TEST_SUITE_P(
                      "The file is larger than 16777216 bytes"}),
     [](const auto& test) { return std::string(test.param.name); });
 
+TEST_F(AppSettingsFile, KeepsACopyOfWhatItCouldNotDecodeWhenItIsSavedOver) {
+    const QByteArray typo = R"({"fontSize": 20,, "width": 500})";
+    putFile(path, typo);
+    testing::internal::CaptureStdout();
+    AppSettings settings(path);
+    settings.save();
+    testing::internal::GetCapturedStdout();
+    EXPECT_NE(fileBytes(path), typo);
+    EXPECT_EQ(fileBytes(path + u".unreadable"_s), typo);
+}
+
 TEST_F(AppSettingsFile, LoadsAFileOfTheGreatestSize) {
     const QByteArray json = R"({"fontSize": 20})";
     putFile(path, json + QByteArray(16'777'216 - json.size(), ' '));
