@@ -119,6 +119,7 @@ void ControlStrip::showSourceMode(SourceMode mode) {
 void ControlStrip::showSource(SourceType source) {
     const QSize size(sourceIconSide, sourceIconSide);
     sourceIconView->setPixmap(sourceIcon(source).pixmap(size, devicePixelRatioF()));
+    sourceIconView->setAccessibleName(displayName(source));
     sourceIconView->show();
     pasteButton->setGlyph(source == SourceType::clipboard ? u"📄"_s : u"📋"_s, sourceGlyphSize);
     pasteButton->setToolTip(u"Cycle content source (current: %1)"_s.arg(displayName(source)));

@@ -325,6 +325,7 @@ TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {
     EXPECT_EQ(color(), QColor::fromRgbF(0.49F, 0.23F, 0.93F));
     EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Obsidian)"_s);
     EXPECT_TRUE(strip.sourceIconView->isVisible());
+    EXPECT_EQ(strip.sourceIconView->accessibleName(), u"Obsidian"_s);
     window().updateSourceIndicator(SourceType::appleNotes);
     EXPECT_EQ(strip.sourceLabel->text(), u"APPLE NOTES"_s);
     EXPECT_EQ(color(), SystemPalette::yellow);

@@ -53,6 +53,8 @@ ScriptView::ScriptView(TimerMaker& timers, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
+    scroller->setCursor(Qt::ArrowCursor);
+    scroller->setAccessibleName(tr("Scroll position"));
     connect(scroller, &QScrollBar::valueChanged, this,
             [this](int value) { scrollTo(value / scrollerScale(maximumScrollPosition())); });
 }
