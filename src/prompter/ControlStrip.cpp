@@ -127,10 +127,11 @@ void ControlStrip::showSource(SourceType source) {
 }
 
 void ControlStrip::showCollapsed(bool collapsed) {
-    if (collapsed)
+    if (collapsed) {
         minimizeButton->setGlyph(u"□"_s, 14, QFont::DemiBold);
-    else
+    } else {
         minimizeButton->setGlyph(u"—"_s, 14, QFont::Bold);
+    }
     arrange();
 }
 

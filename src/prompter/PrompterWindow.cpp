@@ -205,10 +205,11 @@ void PrompterWindow::rerender() {
 }
 
 void PrompterWindow::renderContent() {
-    if (lastRawContent == placeholderContent)
+    if (lastRawContent == placeholderContent) {
         renderPlaceholder();
-    else
+    } else {
         renderMarkdown(lastRawContent);
+    }
 }
 
 void PrompterWindow::renderMarkdown(const QString& content) {

@@ -36,10 +36,11 @@ QRegion maskOf(const QWidget& window, bool square) {
 } // namespace
 
 void updateShape(QWidget& window, bool square, bool showsTranslucency) {
-    if (showsTranslucency)
+    if (showsTranslucency) {
         window.clearMask();
-    else
+    } else {
         window.setMask(maskOf(window, square));
+    }
     window.update();
 }
 

@@ -75,10 +75,11 @@ QTextOption textOption(const ParagraphStyle& style, bool rightToLeft) {
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTabStopDistance(tabStopDistance);
     option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    if (style.alignment == ParagraphStyle::Alignment::center)
+    if (style.alignment == ParagraphStyle::Alignment::center) {
         option.setAlignment(Qt::AlignHCenter);
-    else
+    } else {
         option.setAlignment(rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    }
     return option;
 }
 

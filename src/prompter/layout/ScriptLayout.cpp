@@ -46,9 +46,11 @@ void ScriptLayout::keepMeasured(const ScriptChange& change, const Script& before
     }
     std::map<std::size_t, ParagraphLayout> keptOnes;
     for (auto& [index, layout] : layouts) {
-        if (index < change.first) keptOnes.emplace(index, std::move(layout));
-        if (index >= change.first + change.oldCount)
+        if (index < change.first) {
+            keptOnes.emplace(index, std::move(layout));
+        } else if (index >= change.first + change.oldCount) {
             keptOnes.emplace(index + count - before.paragraphs.size(), std::move(layout));
+        }
     }
     layouts = std::move(keptOnes);
     heights.assign(std::move(newHeights));

@@ -142,10 +142,11 @@ void ScriptView::layoutChanged() {
     strips.invalidate();
     updateScroller();
     update();
-    if (layout.isMeasured())
+    if (layout.isMeasured()) {
         Q_EMIT layoutCompleted();
-    else
+    } else {
         idleTimer.start(0, this);
+    }
 }
 
 /// Does something that may lay paragraphs out, and keeps what is seen in its place when that
