@@ -1,18 +1,43 @@
 #pragma once
 
+#include "analytics/AnalyticsEvent.h"
+#include "settings/PermissionType.h"
+#include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
 
+#include <QString>
 #include <QtGlobal>
 
 namespace tessaline {
 
-/// Receives usage events. Any thread.
+class AppSettings;
+
+/// Receives usage events. Any thread, unless a function says otherwise.
 class UsageRecorder {
 public:
     virtual ~UsageRecorder() = default;
 
-    /// A source delivered a text of so many words: the event "content_loaded".
-    virtual void trackContentLoaded(SourceType source, qsizetype wordCount) = 0;
+    /// The one entry that all operations below use.
+    virtual void record(const AnalyticsEvent& event) = 0;
+
+    /// "app_launch" and "app_terminate"; the latter also writes the history. Main thread.
+    virtual void trackAppLaunch() = 0;
+    virtual void trackAppTerminate() = 0;
+
+    /// "environment_snapshot": the state of the integrations and the settings. Main thread.
+    virtual void trackEnvironmentSnapshot(const AppSettings& settings) = 0;
+
+    // Each records the event of its name.
+    virtual void trackOnboardingStarted();
+    virtual void trackOnboardingCompleted(bool accessibilityGranted, bool obsidianEnabled);
+    virtual void trackSourceChanged(SourceType to);
+    virtual void trackContentLoaded(SourceType source, qsizetype wordCount);
+    virtual void trackContentPasted(qsizetype wordCount);
+    virtual void trackAutoScrollToggled(bool enabled, ScrollRate rate);
+    virtual void trackSettingChanged(const QString& name, const QString& value);
+    virtual void trackScreenChanged(int screenIndex);
+    virtual void trackObsidianPluginInstalled(bool success);
+    virtual void trackPermissionStatus(PermissionType type, bool granted);
 };
 
 } // namespace tessaline

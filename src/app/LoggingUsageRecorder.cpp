@@ -10,9 +10,8 @@ Q_LOGGING_CATEGORY(analyticsLog, "app.tessaline.Tessaline.analytics", QtInfoMsg)
 
 } // namespace
 
-void LoggingUsageRecorder::trackContentLoaded(SourceType source, qsizetype wordCount) {
-    qCDebug(analyticsLog).noquote().nospace()
-        << "[content_loaded] source_type=" << rawValue(source) << ", word_count=" << wordCount;
+void LoggingUsageRecorder::record(const AnalyticsEvent& event) {
+    qCDebug(analyticsLog) << event.name << event.properties;
 }
 
 } // namespace tessaline

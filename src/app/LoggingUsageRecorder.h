@@ -7,7 +7,10 @@ namespace tessaline {
 /// Writes usage events to the log, in the category "analytics" at debug level, and keeps nothing.
 class LoggingUsageRecorder final : public UsageRecorder {
 public:
-    void trackContentLoaded(SourceType source, qsizetype wordCount) override;
+    void record(const AnalyticsEvent& event) override;
+    void trackAppLaunch() override {}
+    void trackAppTerminate() override {}
+    void trackEnvironmentSnapshot(const AppSettings&) override {}
 };
 
 } // namespace tessaline

@@ -7,11 +7,19 @@
 #include <memory>
 #include <optional>
 
+class QImage;
 class QScreen;
 
 namespace tessaline {
 
+class AccessibilityTrust;
+class ActivationPolicy;
+class ApplicationLookup;
+class BundleInformation;
 class DisplayLinkMaker;
+class EventTapMaker;
+class FileIcons;
+class GlobalKeyMonitor;
 class WindowTraits;
 
 // The adapters of the system that the program was built for: each system defines these functions in
@@ -29,5 +37,23 @@ std::unique_ptr<WindowTraits> makeWindowTraits();
 
 /// What tells a screen from others, in every session.
 ScreenIdentity identifyScreen(const QScreen& screen);
+
+/// What the program says about itself. Needs a QCoreApplication only.
+std::unique_ptr<BundleInformation> makeBundleInformation();
+
+/// Whether input of other applications may be seen, and what sees it.
+std::unique_ptr<AccessibilityTrust> makeAccessibilityTrust();
+std::unique_ptr<GlobalKeyMonitor> makeGlobalKeyMonitor();
+std::unique_ptr<EventTapMaker> makeEventTapMaker();
+
+/// How the program presents itself to this desktop.
+std::unique_ptr<ActivationPolicy> makeActivationPolicy();
+
+/// Where other applications are, and what they look like.
+std::unique_ptr<ApplicationLookup> makeApplicationLookup();
+std::unique_ptr<FileIcons> makeFileIcons();
+
+/// The system's own drawing of this name, described for screen readers; null where it has none.
+QImage systemSymbol(const QString& name, const QString& description);
 
 } // namespace tessaline

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDateTime>
+#include <QMap>
+#include <QString>
+
+namespace tessaline {
+
+/// Something that the user did or that happened to the program.
+struct AnalyticsEvent {
+    QString name; ///< such as "content_loaded"
+    QDateTime timestamp = QDateTime::currentDateTimeUtc();
+    QMap<QString, QString> properties;
+
+    bool operator==(const AnalyticsEvent&) const = default;
+};
+
+} // namespace tessaline

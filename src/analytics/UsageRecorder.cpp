@@ -1,0 +1,68 @@
+#include "analytics/UsageRecorder.h"
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString text(bool value) {
+    return value ? u"true"_s : u"false"_s;
+}
+
+QString text(PermissionType type) {
+    return type == PermissionType::accessibility ? u"accessibility"_s : u"automation"_s;
+}
+
+} // namespace
+
+void UsageRecorder::trackOnboardingStarted() {
+    record({.name = u"onboarding_started"_s});
+}
+
+void UsageRecorder::trackOnboardingCompleted(bool accessibilityGranted, bool obsidianEnabled) {
+    record({.name = u"onboarding_completed"_s,
+            .properties = {{u"accessibility_granted"_s, text(accessibilityGranted)},
+                           {u"obsidian_enabled"_s, text(obsidianEnabled)}}});
+}
+
+void UsageRecorder::trackSourceChanged(SourceType to) {
+    record({.name = u"source_changed"_s, .properties = {{u"source_type"_s, rawValue(to)}}});
+}
+
+void UsageRecorder::trackContentLoaded(SourceType source, qsizetype wordCount) {
+    record({.name = u"content_loaded"_s,
+            .properties = {{u"source_type"_s, rawValue(source)},
+                           {u"word_count"_s, QString::number(wordCount)}}});
+}
+
+void UsageRecorder::trackContentPasted(qsizetype wordCount) {
+    record({.name = u"content_pasted"_s,
+            .properties = {{u"word_count"_s, QString::number(wordCount)}}});
+}
+
+void UsageRecorder::trackAutoScrollToggled(bool enabled, ScrollRate rate) {
+    record({.name = u"auto_scroll_toggled"_s,
+            .properties = {{u"enabled"_s, text(enabled)}, {u"scroll_rate"_s, rawValue(rate)}}});
+}
+
+void UsageRecorder::trackSettingChanged(const QString& name, const QString& value) {
+    record({.name = u"setting_changed"_s,
+            .properties = {{u"setting_name"_s, name}, {u"setting_value"_s, value}}});
+}
+
+void UsageRecorder::trackScreenChanged(int screenIndex) {
+    record({.name = u"screen_changed"_s,
+            .properties = {{u"screen_index"_s, QString::number(screenIndex)}}});
+}
+
+void UsageRecorder::trackObsidianPluginInstalled(bool success) {
+    record({.name = u"obsidian_plugin_installed"_s, .properties = {{u"success"_s, text(success)}}});
+}
+
+void UsageRecorder::trackPermissionStatus(PermissionType type, bool granted) {
+    record({.name = u"permission_status"_s,
+            .properties = {{u"permission_type"_s, text(type)}, {u"granted"_s, text(granted)}}});
+}
+
+} // namespace tessaline

@@ -1,0 +1,63 @@
+#include "permissions/PermissionManager.h"
+
+#include "platform/AccessibilityTrust.h"
+#include "platform/BundleInformation.h"
+#include "platform/MainQueue.h"
+#include "platform/NotificationCenter.h"
+#include "platform/ProcessRunner.h"
+#include "settings/PermissionType.h"
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+QString PermissionManager::permissionStatusDidChangeNotification() {
+    return u"PermissionManagerStatusDidChange"_s;
+}
+
+PermissionManager::PermissionManager(const PermissionPorts& borrowed)
+    : ports(borrowed), self(std::make_shared<PermissionManager*>(this)) {}
+
+PermissionManager::~PermissionManager() = default;
+
+bool PermissionManager::isAccessibilityGranted() const {
+    return ports.trust.isTrusted();
+}
+
+void PermissionManager::startPolling(double interval) {
+    stopPolling();
+    lastAccessibilityStatus = isAccessibilityGranted();
+    pollTimer =
+        ports.timers.every(TimerMaker::Interval(interval), [this] { checkForPermissionChanges(); });
+}
+
+void PermissionManager::stopPolling() {
+    pollTimer.reset();
+}
+
+void PermissionManager::checkForPermissionChanges() {
+    const bool granted = isAccessibilityGranted();
+    if (lastAccessibilityStatus == granted) return;
+    lastAccessibilityStatus = granted;
+    ports.mainQueue.post([weak = std::weak_ptr(self), granted] {
+        const auto manager = weak.lock();
+        if (!manager) return;
+        (*manager)->ports.notifications.post(
+            {permissionStatusDidChangeNotification(),
+             *manager,
+             {{u"permission"_s, PermissionType::accessibility}, {u"granted"_s, granted}}});
+    });
+}
+
+void PermissionManager::resetStaleEntry() {
+    if (isAccessibilityGranted()) return;
+    if (const auto identifier = ports.bundle.identifier())
+        ports.processes.run(u"/usr/bin/tccutil"_s, {u"reset"_s, u"Accessibility"_s, *identifier});
+}
+
+void PermissionManager::resetAndRequestAccessibility() {
+    resetStaleEntry();
+    ports.trust.requestWithPrompt();
+}
+
+} // namespace tessaline

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/TimerMaker.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace tessaline {
+
+class AccessibilityTrust;
+class BundleInformation;
+class MainQueue;
+class NotificationCenter;
+class ProcessRunner;
+
+/// What the permission manager needs of the platform. All of it must outlive the manager.
+struct PermissionPorts {
+    AccessibilityTrust& trust;
+    ProcessRunner& processes;
+    const BundleInformation& bundle;
+    TimerMaker& timers;
+    MainQueue& mainQueue;
+    NotificationCenter& notifications;
+};
+
+/// Watches the Accessibility permission, tells when it changes, and repairs it. Main thread only.
+class PermissionManager {
+public:
+    /// Posted with the manager as sender; user info "permission" holds the `PermissionType`,
+    /// "granted" a bool.
+    static QString permissionStatusDidChangeNotification();
+
+    explicit PermissionManager(const PermissionPorts& ports);
+    ~PermissionManager();
+    PermissionManager(const PermissionManager&) = delete;
+    PermissionManager& operator=(const PermissionManager&) = delete;
+
+    /// The state at this moment.
+    bool isAccessibilityGranted() const;
+
+    /// Looks every so many seconds from now on, in place of any earlier rhythm. The present state
+    /// is where changes are counted from.
+    void startPolling(double interval);
+    void stopPolling();
+
+    /// Clears an entry of the program's that no longer counts, unless the permission is granted.
+    /// Waits for the system's tool; its failure does not matter.
+    void resetStaleEntry();
+
+    /// The above, then asks the system to prompt for the permission.
+    void resetAndRequestAccessibility();
+
+private:
+    void checkForPermissionChanges();
+
+    PermissionPorts ports;
+    std::unique_ptr<RepeatingTimer> pollTimer;
+    std::optional<bool> lastAccessibilityStatus;
+    std::shared_ptr<PermissionManager*> self; ///< what callbacks hold weakly
+};
+
+} // namespace tessaline

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/TapEvent.h"
+
+#include <functional>
+#include <memory>
+
+namespace tessaline {
+
+/// Sees scroll, right-button and other-button events of the whole session before other applications
+/// do, for as long as it lives. Main thread only.
+class EventTap {
+public:
+    enum class Verdict { passOn, swallow };
+    using Handler = std::function<Verdict(const TapEvent&)>;
+
+    virtual ~EventTap() = default;
+
+    /// Switches the tap on again after the system switched it off.
+    virtual void enable() = 0;
+};
+
+/// Makes event taps. Main thread only.
+class EventTapMaker {
+public:
+    virtual ~EventTapMaker() = default;
+
+    /// A tap that is on, or null where the system does not allow one now. The handler must return
+    /// quickly: input waits for it.
+    virtual std::unique_ptr<EventTap> create(EventTap::Handler handler) = 0;
+};
+
+} // namespace tessaline

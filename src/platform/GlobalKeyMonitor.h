@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/KeyEvent.h"
+
+#include <functional>
+#include <memory>
+
+namespace tessaline {
+
+/// Hears keys that are pressed while other applications have the keyboard. Main thread only.
+class GlobalKeyMonitor {
+public:
+    using Handler = std::function<void(const KeyEvent&)>;
+
+    /// A chord to listen for.
+    struct Chord {
+        ModifierFlags modifiers = 0;
+        QString characters; ///< one lower-case letter
+    };
+
+    /// Listens for as long as it lives.
+    class Registration {
+    public:
+        virtual ~Registration() = default;
+    };
+
+    virtual ~GlobalKeyMonitor() = default;
+
+    /// Delivers at least every press of the chord to the handler; which other keys it delivers is
+    /// up to the system. Null where that is not possible now, for instance because another program
+    /// holds the chord; this is logged.
+    virtual std::unique_ptr<Registration> start(const Chord& chord, Handler handler) = 0;
+};
+
+} // namespace tessaline
