@@ -1,5 +1,7 @@
 #include "render/DocumentRenderer.h"
 
+#include "render/HeaderParagraph.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -99,7 +101,7 @@ DocumentRenderer::LineStyle DocumentRenderer::makeStyle(const MarkdownLine& line
         style = {.font = systemFont(renderer.fontSize + headerSizeIncrease(line.headerLevel),
                                     TextFont::Weight::bold),
                  .color = color,
-                 .paragraph = ParagraphStyle{.spacingBefore = 12, .spacingAfter = 6}};
+                 .paragraph = headerParagraph};
         break;
     case Kind::bullet:
         style = listStyle(16, line.indentWidth);

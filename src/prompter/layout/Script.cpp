@@ -1,6 +1,7 @@
 #include "prompter/layout/Script.h"
 
 #include "render/CharacterClasses.h"
+#include "render/HeaderParagraph.h"
 
 #include <algorithm>
 #include <utility>
@@ -63,6 +64,13 @@ qsizetype Script::pieceEnd(qsizetype start, qsizetype lineEnd) const {
         if (isWhitespace(text[end - 1].unicode())) return end;
     }
     return text[latest].isLowSurrogate() ? latest - 1 : latest;
+}
+
+bool Script::isHeader(std::size_t index) const {
+    const Paragraph& paragraph = paragraphs[index];
+    if (paragraph.length == 0 || paragraph.continuesPrevious) return false;
+    return styled.attributes(styled.runs[std::size_t(paragraph.firstRun)]).paragraph ==
+           headerParagraph;
 }
 
 bool Script::hasSameParagraph(std::size_t index, const Script& other,

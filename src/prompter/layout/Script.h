@@ -36,6 +36,9 @@ struct Script {
     /// Whether a paragraph of this script and one of another have the same text and attributes.
     bool hasSameParagraph(std::size_t index, const Script& other, std::size_t otherIndex) const;
 
+    /// Whether a paragraph begins a header's line.
+    bool isHeader(std::size_t index) const;
+
     StyledText styled;
     std::vector<Paragraph> paragraphs; ///< at least one
 

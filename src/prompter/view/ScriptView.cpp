@@ -31,6 +31,9 @@ constexpr double unitsPerWheelStep = 120.0; // as mice report one notch
 constexpr qsizetype unitsLaidOutAtOnce = 12000;
 constexpr qsizetype unitsLaidOutPerSlice = 3000;
 
+/// Positions less than so many points apart count as the same.
+constexpr double samePlace = 0.5;
+
 /// The scroller counts in whole steps; so many make a point, unless the document is too long.
 constexpr double scrollerStepsPerPoint = 8.0;
 constexpr double mostScrollerSteps = 1e9;
@@ -81,6 +84,38 @@ void ScriptView::scrollTo(double position) {
 void ScriptView::scrollByHand(double position) {
     scroller->reveal();
     scrollTo(position);
+}
+
+/// The scroll position that shows a paragraph, and nothing of those before it, at the view's top.
+double ScriptView::positionOf(std::size_t paragraph) const {
+    return paragraph == 0 ? 0.0 : layout.topOf(paragraph) + verticalInset;
+}
+
+void ScriptView::scrollToParagraph(std::size_t paragraph) {
+    scrollByHand(positionOf(paragraph));
+    measureVisible();
+    scrollByHand(positionOf(paragraph));
+}
+
+bool ScriptView::scrollToNextHeader() {
+    const Script& script = layout.script();
+    if (scrollTop >= maximumScrollPosition()) return false;
+    for (std::size_t i = layout.paragraphAt(scrollTop); i < script.paragraphs.size(); ++i) {
+        if (!script.isHeader(i) || positionOf(i) < scrollTop + samePlace) continue;
+        scrollToParagraph(i);
+        return true;
+    }
+    return false;
+}
+
+bool ScriptView::scrollToPreviousHeader() {
+    const Script& script = layout.script();
+    for (std::size_t i = layout.paragraphAt(scrollTop) + 1; i-- > 0;) {
+        if (!script.isHeader(i) || positionOf(i) > scrollTop - samePlace) continue;
+        scrollToParagraph(i);
+        return true;
+    }
+    return false;
 }
 
 void ScriptView::setScript(Script script) {

@@ -47,6 +47,11 @@ public:
     /// As above for a movement of the reader's hand: it shows the scroller for a moment.
     void scrollByHand(double position);
 
+    /// Moves the next header below the view's top edge, or the last one above it, to the top. False
+    /// when there is none.
+    bool scrollToNextHeader();
+    bool scrollToPreviousHeader();
+
     bool isLayoutComplete() const { return layout.isMeasured(); }
 
     /// Lays out all that has not been laid out so far, at once.
@@ -98,6 +103,8 @@ private:
     void measureVisible();
     void layoutChanged();
     void continueLayout();
+    double positionOf(std::size_t paragraph) const;
+    void scrollToParagraph(std::size_t paragraph);
     void prepareStrips();
     void sizeFrame();
     void composeFrame();

@@ -79,6 +79,23 @@ TEST(Script, NeverCutsThroughASurrogatePair) {
     }
 }
 
+TEST(Script, KnowsHeaders) {
+    const Script script =
+        scriptOf(u"# One\ntext\n- item\n###### **Six**\n\n```\n# code\n```\n---"_s);
+    QStringList headers;
+    for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
+        if (script.isHeader(i)) headers += script.textOf(script.paragraphs[i]).toString();
+    }
+    EXPECT_EQ(headers, (QStringList{u"One"_s, u"Six"_s}));
+}
+
+TEST(Script, CountsAVeryLongHeaderOnce) {
+    const Script script = scriptOf(u"# "_s + u"word "_s.repeated(5000));
+    ASSERT_GT(script.paragraphs.size(), 1U);
+    EXPECT_TRUE(script.isHeader(0));
+    EXPECT_FALSE(script.isHeader(1));
+}
+
 TEST(Script, TellsParagraphsApartByTextAndAttributes) {
     const Script one = scriptOf(u"same\n**same**\nother"_s);
     const Script two = scriptOf(u"# title\nsame\nsame"_s);

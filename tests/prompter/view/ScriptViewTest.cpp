@@ -66,6 +66,53 @@ TEST_F(ScriptViewTest, CannotScrollWhatFits) {
     EXPECT_EQ(view.scrollPosition(), 0);
 }
 
+TEST_F(ScriptViewTest, GoesFromHeaderToHeader) {
+    show(u"# First\n"_s + lines(30) + u"## Second\n"_s + lines(30) + u"# Third\n"_s + lines(30));
+    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_EQ(topLine(), u"Second"_s);
+    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_EQ(topLine(), u"Third"_s);
+    EXPECT_FALSE(view.scrollToNextHeader());
+    EXPECT_TRUE(view.scrollToPreviousHeader());
+    EXPECT_EQ(topLine(), u"Second"_s);
+    EXPECT_TRUE(view.scrollToPreviousHeader());
+    EXPECT_EQ(view.scrollPosition(), 0);
+    EXPECT_FALSE(view.scrollToPreviousHeader());
+}
+
+TEST_F(ScriptViewTest, ReturnsToTheHeaderOfTheTextBeingRead) {
+    show(u"# First\n"_s + lines(30) + u"## Second\n"_s + lines(60));
+    view.scrollToNextHeader();
+    const double header = view.scrollPosition();
+    view.scrollTo(header + 100);
+    EXPECT_TRUE(view.scrollToPreviousHeader());
+    EXPECT_DOUBLE_EQ(view.scrollPosition(), header);
+}
+
+TEST_F(ScriptViewTest, FindsHeadersInTextThatIsNotLaidOutYet) {
+    view.setScript(Script(MarkdownRenderer(16).render(
+        lines(20000) + u"# Far away\n"_s + u"a much longer line than any other "_s.repeated(200) +
+        u"\n"_s + lines(100))));
+    ASSERT_FALSE(view.isLayoutComplete());
+    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_EQ(topLine(), u"Far away"_s);
+}
+
+TEST_F(ScriptViewTest, HasNoHeaderToGoToInPlainText) {
+    show(lines(100));
+    view.scrollTo(200);
+    EXPECT_FALSE(view.scrollToNextHeader());
+    EXPECT_FALSE(view.scrollToPreviousHeader());
+    EXPECT_EQ(view.scrollPosition(), 200);
+}
+
+TEST_F(ScriptViewTest, GoesToTheEndForAHeaderThatCannotReachTheTop) {
+    show(lines(60) + u"# Last\nend"_s);
+    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_EQ(view.scrollPosition(), view.maximumScrollPosition());
+    EXPECT_FALSE(view.scrollToNextHeader());
+}
+
 TEST_F(ScriptViewTest, MovesWhatItDrawsByFractionsOfAPixel) {
     show(u"\n\n\nOne line of text\n"_s + u"\n"_s.repeated(40));
     double before = centreOfLight();
