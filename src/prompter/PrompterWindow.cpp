@@ -74,7 +74,10 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
     setupUI();
     updateFrame();
     autoScroll.emplace(settings, ports.displayLinks, ports.timers, ports.mainQueue,
-                       [this](double deltaY) { performScroll(deltaY); });
+                       [this](double deltaY) {
+                           frames.add(std::chrono::steady_clock::now());
+                           performScroll(deltaY);
+                       });
 }
 
 PrompterWindow::~PrompterWindow() = default;
@@ -230,10 +233,20 @@ void PrompterWindow::showContent(RenderedContent content) {
 }
 
 void PrompterWindow::updateStats() {
-    const double seconds =
-        ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
-    strip->showStatistics(ReadingStatistics::labelText(wordCount, seconds),
+    strip->showStatistics(ReadingStatistics::labelText(wordCount, remainingSeconds()),
                           ReadingStatistics::labelColor(settings.scrollRate));
+}
+
+double PrompterWindow::remainingSeconds() const {
+    return ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
+}
+
+QString PrompterWindow::remainingTime() const {
+    return ReadingStatistics::timeText(remainingSeconds());
+}
+
+int PrompterWindow::framesPerSecond() const {
+    return frames.framesPerSecond(std::chrono::steady_clock::now());
 }
 
 void PrompterWindow::performScroll(double deltaY) {

@@ -3,6 +3,7 @@
 #include "platform/Screen.h"
 #include "prompter/AutoScroll.h"
 #include "prompter/ContentRenderer.h"
+#include "prompter/FrameRate.h"
 #include "prompter/PrompterPorts.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
@@ -57,6 +58,13 @@ public:
     /// Tells the words and the reading time of the text.
     void updateStats();
 
+    /// The words of the text, and how long the rest of it takes, as the controls tell it.
+    qsizetype words() const { return wordCount; }
+    QString remainingTime() const;
+
+    /// How many times auto-scroll moved the text in the last second.
+    int framesPerSecond() const;
+
     /// Moves the text by so many points; negative is forward.
     void performScroll(double deltaY);
 
@@ -96,6 +104,7 @@ private:
     bool isResizing() const;
     void arrangeContent();
     void shape();
+    double remainingSeconds() const;
 
     AppSettings& settings;
     PrompterPorts ports;
@@ -111,6 +120,7 @@ private:
     qsizetype wordCount = 0;
     ContentRenderer renderer;
     std::optional<AutoScroll> autoScroll;
+    FrameRate frames;
     QVariantAnimation resizing;
     std::shared_ptr<PrompterWindow*> self; ///< what posted tasks hold weakly
 };
