@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tessaline {
 
@@ -56,6 +57,23 @@ bool writeAll(QSaveFile& file, const QByteArray& bytes) {
     return true;
 }
 
+/// QSaveFile commits what did not reach the disk. Some file systems learn only here that they are
+/// full; those that cannot synchronise at all say EINVAL.
+QString synchronise(const QSaveFile& file) {
+    while (::fsync(file.handle()) != 0) {
+        if (errno == EINVAL) break;
+        if (errno != EINTR) return qt_error_string(errno);
+    }
+    return {};
+}
+
+/// Writes the file, all but putting it in its place. Returns why not.
+QString writeNew(QSaveFile& file, const QByteArray& bytes) {
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes);
+    return isWritten ? synchronise(file) : file.errorString();
+}
+
 } // namespace
 
 std::optional<QByteArray> readWholeFile(const QString& path, QString* error, qint64 limit) {
@@ -80,18 +98,15 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error, qin
 
 bool writeWholeFile(const QString& path, const QByteArray& bytes, QString* error) {
     bool missing = false;
-    const QString problem = objection(QFile::encodeName(path), missing);
-    if (!problem.isEmpty() && !missing) {
-        report(error, problem);
-        return false;
+    QString problem = objection(QFile::encodeName(path), missing);
+    if (problem.isEmpty() || missing) {
+        QSaveFile file(path);
+        file.setDirectWriteFallback(true);
+        problem = writeNew(file, bytes);
+        if (problem.isEmpty() && !file.commit()) problem = file.errorString();
     }
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes) &&
-        file.commit())
-        return true;
-    report(error, file.errorString());
-    return false;
+    report(error, problem);
+    return problem.isEmpty();
 }
 
 } // namespace tessaline
