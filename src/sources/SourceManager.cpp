@@ -5,6 +5,7 @@
 #include "render/MarkdownRenderer.h"
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"
+#include "sources/notes/AppleNotesSource.h"
 
 #include <algorithm>
 #include <utility>
@@ -37,6 +38,10 @@ SourceManager::SourceManager(AppSettings& sharedSettings, UsageRecorder& usageRe
 }
 
 SourceManager::~SourceManager() = default;
+
+void SourceManager::registerSource(SourceType type, std::unique_ptr<ContentSource> source) {
+    sources.emplace(type, std::move(source));
+}
 
 void SourceManager::startWatching() {
     if (!active) return;
@@ -80,6 +85,9 @@ void SourceManager::pasteText(const QString& text) {
 }
 
 void SourceManager::updateAppleNotesConfig(const std::optional<AppleNotesConfiguration>& config) {
+    const auto registered = sources.find(SourceType::appleNotes);
+    auto* source = registered == sources.end() ? nullptr : registered->second.get();
+    if (auto* notes = dynamic_cast<AppleNotesSource*>(source)) notes->configuration = config;
     settings.appleNotesConfig = config;
     settings.save();
 }

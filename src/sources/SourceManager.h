@@ -37,6 +37,10 @@ public:
     SourceManager(const SourceManager&) = delete;
     SourceManager& operator=(const SourceManager&) = delete;
 
+    /// Adds a source for a type that has none; a type that has one keeps it. The program itself
+    /// registers none for Apple Notes, which is not offered to the user.
+    void registerSource(SourceType type, std::unique_ptr<ContentSource> source);
+
     /// Starts the active source, if there is one.
     void startWatching();
 
@@ -59,7 +63,8 @@ public:
     /// As above, with `text` in the clipboard's place.
     void pasteText(const QString& text);
 
-    /// Stores the picked note in the settings and saves them.
+    /// Stores the picked note in the settings and saves them; a source for Apple Notes, if one is
+    /// registered, reads it from now on.
     void updateAppleNotesConfig(const std::optional<AppleNotesConfiguration>& config);
 
     /// The source that delivers, or null.

@@ -1,11 +1,12 @@
 #include "settings/AppSettings.h"
 #include "settings/WholeFile.h"
 
+#include "support/OrdinaryUser.h"
+#include "support/SmallDisk.h"
 #include "support/TestFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -28,11 +29,6 @@ protected:
 
     /// Ends the child process of a death test.
     [[noreturn]] static void endWith(bool success) { ::_exit(success ? 0 : 1); }
-
-    static void becomeOrdinaryUser() {
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() == 0 && ::setuid(nobody) != 0) ::_exit(2);
-    }
 
     /// Longer files fail halfway through, as on a disk that fills up.
     static void limitFileSizes(rlim_t bytes) {
@@ -117,34 +113,6 @@ TEST_F(WholeFileFailure, AWriteThatStopsHalfwayKeepsTheOldFileAndLeavesNothingBe
     EXPECT_EQ(fileBytes(path), "old");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"file"_s});
 }
-
-/// A disk of 64 KiB.
-class SmallDisk {
-public:
-    explicit SmallDisk(const QString& mountPoint) : folder(mountPoint) {
-        mounted = QProcess::execute(u"mount"_s, {u"-t"_s, u"tmpfs"_s, u"-o"_s, u"size=64k"_s,
-                                                 u"tmpfs"_s, folder}) == 0;
-    }
-    ~SmallDisk() {
-        if (mounted) QProcess::execute(u"umount"_s, {folder});
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-    bool exists() const { return mounted; }
-
-    /// Uses up what is left.
-    void fill() const {
-        QFile file(folder + u"/filler"_s);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-        while (file.write(QByteArray(4096, 'x')) > 0) {
-        }
-    }
-
-private:
-    QString folder;
-    bool mounted = false;
-};
 
 TEST_F(WholeFileFailure, AFullDiskIsReportedAndKeepsTheOldSettings) {
     const SmallDisk disk(folder.path());

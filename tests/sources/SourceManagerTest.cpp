@@ -3,8 +3,13 @@
 #include "platform/NotificationCenter.h"
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"
+#include "sources/notes/AppleNotesSource.h"
 #include "support/FakeContentSource.h"
+#include "support/FakeMainQueue.h"
 #include "support/FakePasteboard.h"
+#include "support/FakeProcessRunner.h"
+#include "support/FakeTaskRunner.h"
+#include "support/FakeTimerMaker.h"
 #include "support/PrintQt.h"
 #include "support/RecordingUsageRecorder.h"
 #include "support/TestFiles.h"
@@ -303,6 +308,41 @@ TEST_F(SourceManagerTest, StoresAndClearsTheAppleNotesConfiguration) {
     manager->updateAppleNotesConfig(std::nullopt);
     EXPECT_EQ(settings.appleNotesConfig, std::nullopt);
     EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig, std::nullopt);
+}
+
+TEST_F(SourceManagerTest, GivesTheAppleNotesConfigurationToARegisteredSource) {
+    build();
+    FakeMainQueue queue;
+    FakeTaskRunner tasks;
+    FakeTimerMaker timers;
+    FakeProcessRunner processes;
+    auto source = std::make_unique<AppleNotesSource>(queue, tasks, timers, processes);
+    auto* const notes = source.get();
+    manager->registerSource(SourceType::appleNotes, std::move(source));
+    const AppleNotesConfiguration note{u"id"_s, u"name"_s};
+    manager->updateAppleNotesConfig(note);
+    EXPECT_EQ(notes->configuration, note);
+    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig, note);
+    manager->updateAppleNotesConfig(std::nullopt);
+    EXPECT_EQ(notes->configuration, std::nullopt);
+    manager->setActiveSource(SourceType::appleNotes);
+    EXPECT_EQ(manager->activeSource(), notes);
+    manager.reset();
+}
+
+TEST_F(SourceManagerTest, LeavesAnotherKindOfSourceAloneThatStandsForAppleNotes) {
+    build();
+    manager->registerSource(SourceType::appleNotes, std::make_unique<FakeContentSource>());
+    const AppleNotesConfiguration note{u"id"_s, u"name"_s};
+    manager->updateAppleNotesConfig(note);
+    EXPECT_EQ(settings.appleNotesConfig, note);
+}
+
+TEST_F(SourceManagerTest, KeepsASourceThatIsRegisteredAlready) {
+    build();
+    manager->registerSource(SourceType::obsidian, std::make_unique<FakeContentSource>());
+    manager->setActiveSource(SourceType::obsidian);
+    EXPECT_EQ(manager->activeSource(), obsidian);
 }
 
 TEST_F(SourceManagerTest, HandsAPasteOnTwiceWhileTheClipboardIsWatched) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/ProcessRunner.h"
+
+#include <atomic>
+
+namespace tessaline {
+
+/// Runs programs as child processes with empty standard input. Output of any length is taken in
+/// while they run. Any thread.
+class QtProcessRunner final : public ProcessRunner {
+public:
+    ProcessResult run(const QString& program, const QStringList& arguments) override;
+
+    /// Kills the programs that run, within a moment, and starts no others: for the end of our own
+    /// program, which should not wait for theirs.
+    void stop() { stopping = true; }
+
+private:
+    std::atomic<bool> stopping = false;
+};
+
+} // namespace tessaline

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "sources/NoteLibrary.h"
+
+#include <memory>
+
+namespace tessaline {
+
+class MainQueue;
+class ProcessRunner;
+class TaskRunner;
+class UrlOpener;
+
+/// The notes in Apple Notes. Main thread only; the script runs in the background.
+class AppleNotesLibrary final : public NoteLibrary {
+public:
+    /// What is borrowed must outlive this. A script may wait for the user: give the task runner no
+    /// other tasks that are in a hurry.
+    AppleNotesLibrary(MainQueue& mainQueue, TaskRunner& taskRunner, ProcessRunner& processRunner,
+                      UrlOpener& urlOpener);
+
+    /// The answer is dropped when this is gone by then.
+    void listNotes(std::function<void(const Answer&)> completion) override;
+
+    void openAutomationPreferences() override;
+
+private:
+    MainQueue& mainQueue;
+    TaskRunner& taskRunner;
+    ProcessRunner& processRunner;
+    UrlOpener& urlOpener;
+    const std::shared_ptr<AppleNotesLibrary*> self; ///< what tasks hold weakly
+};
+
+} // namespace tessaline

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "sources/obsidian/VaultInfo.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace tessaline {
+
+/// The vaults that Obsidian's own file names, in the file's order; none when the bytes are anything
+/// but a JSON object with a "vaults" object. Vaults without a path are left out. Any thread.
+std::optional<std::vector<VaultInfo>> parseVaultRegistry(const QByteArray& bytes);
+
+/// The folder of the first open vault, else of the one used last, if there is any.
+std::optional<QString> preferredVault(const std::vector<VaultInfo>& vaults);
+
+/// Obsidian's list of vaults, read anew at each question. Main thread only.
+class VaultRegistry {
+public:
+    /// Looks below this home folder, in all places where an installation of Obsidian may keep its
+    /// list: the first of them that names a vault counts.
+    explicit VaultRegistry(const QString& homeFolder);
+
+    /// The vault that the user works with, if there is any.
+    std::optional<QString> findVault() const;
+
+private:
+    QStringList places;
+};
+
+} // namespace tessaline
