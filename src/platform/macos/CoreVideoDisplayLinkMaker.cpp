@@ -1,0 +1,29 @@
+#include "platform/SystemAdapters.h"
+#include "platform/macos/CoreVideoDisplayLink.h"
+
+#include <utility>
+
+namespace tessaline {
+
+namespace {
+
+class CoreVideoDisplayLinkMaker final : public DisplayLinkMaker {
+public:
+    std::unique_ptr<DisplayLink> make(DisplayLink::Callback callback) override {
+        CVDisplayLinkRef created = nullptr;
+        const CVReturn status = CVDisplayLinkCreateWithActiveCGDisplays(&created);
+        CfHolder<CVDisplayLinkRef> link(created);
+        if (status != kCVReturnSuccess || !link) return nullptr;
+        return std::make_unique<CoreVideoDisplayLink>(std::move(link), std::move(callback));
+    }
+
+    void setRefreshRate(double /*hertz*/) override {}
+};
+
+} // namespace
+
+std::unique_ptr<DisplayLinkMaker> makeDisplayLinkMaker() {
+    return std::make_unique<CoreVideoDisplayLinkMaker>();
+}
+
+} // namespace tessaline

@@ -1,0 +1,12 @@
+#include "platform/SystemAdapters.h"
+
+#import <AppKit/AppKit.h>
+
+namespace tessaline {
+
+bool showNativeDarkAppearance() {
+    NSApp.appearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
+    return true;
+}
+
+} // namespace tessaline

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tessaline {
+
+/// Core Video as far as the adapter uses it, with refreshes that a test makes. One link at a time.
+namespace FakeCoreVideo {
+
+enum class Creation { succeeds, fails, yieldsNothing };
+
+/// What the real one leaves open: whether stopping waits for a refresh that has begun already. Here
+/// it makes one, on another thread.
+enum class Stopping { returnsAtOnce, waitsForRefresh };
+
+/// Forgets everything and behaves like this from now on.
+void reset(Creation creation = Creation::succeeds, Stopping stopping = Stopping::returnsAtOnce);
+
+/// A refresh, on the calling thread. It reaches the callback even when the link is stopped.
+void refresh(std::uint64_t hostTime);
+
+bool isRunning();
+int starts();
+int stops();
+int releases();
+
+} // namespace FakeCoreVideo
+
+} // namespace tessaline

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <CoreGraphics/CoreGraphics.h>
+
+#if !__has_feature(objc_arc)
+#error "The adapters leave counting references to the compiler."
+#endif
+
+#define NS_ENUM(_type, _name) CF_ENUM(_type, _name)
+#define NS_OPTIONS(_type, _name) CF_OPTIONS(_type, _name)
+
+typedef bool BOOL;
+#define YES __objc_yes
+#define NO __objc_no
+#define nil nullptr
+
+typedef long NSInteger;
+typedef unsigned long NSUInteger;
+typedef CGPoint NSPoint;
+typedef CGSize NSSize;
+typedef CGRect NSRect;
+NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat w, CGFloat h);
+
+#pragma clang assume_nonnull begin
+
+__attribute__((objc_root_class))
+@interface NSObject
+- (BOOL)isEqual:(nullable id)object;
+@end
+
+@interface NSString : NSObject
+@end
+
+@interface NSURL : NSObject
+@property(nullable, readonly, copy) NSString* path;
+@end
+
+typedef struct {
+    unsigned long state;
+    id __unsafe_unretained _Nullable* _Nullable itemsPtr;
+    unsigned long* _Nullable mutationsPtr;
+    unsigned long extra[5];
+} NSFastEnumerationState;
+
+@interface NSArray<__covariant ObjectType> : NSObject
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState*)state
+                                  objects:(ObjectType __unsafe_unretained _Nullable[_Nonnull])buffer
+                                    count:(NSUInteger)len;
+@end
+
+@interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
+@end
+
+extern "C" id _Nullable CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) _Nullable X);
+
+#pragma clang assume_nonnull end
