@@ -15,6 +15,7 @@ struct KeyEvent {
     QString characters; ///< what the key means on the present layout without Control and Command
     int keyCode = -1;   ///< one of the above, or anything else
     ModifierFlags modifiers = 0;
+    bool isRepeat = false; ///< the key was down already and is being held
 };
 
 } // namespace tessaline

@@ -20,6 +20,7 @@ class DisplayLinkMaker;
 class EventTapMaker;
 class FileIcons;
 class GlobalKeyMonitor;
+class LocalKeyMonitor;
 class WindowTraits;
 
 // The adapters of the system that the program was built for: each system defines these functions in
@@ -46,6 +47,9 @@ std::unique_ptr<AccessibilityTrust> makeAccessibilityTrust();
 std::unique_ptr<GlobalKeyMonitor> makeGlobalKeyMonitor();
 std::unique_ptr<EventTapMaker> makeEventTapMaker();
 
+/// Keys in windows of ours, with the meaning that the modifiers have on this system.
+std::unique_ptr<LocalKeyMonitor> makeLocalKeyMonitor();
+
 /// How the program presents itself to this desktop.
 std::unique_ptr<ActivationPolicy> makeActivationPolicy();
 
@@ -53,7 +57,15 @@ std::unique_ptr<ActivationPolicy> makeActivationPolicy();
 std::unique_ptr<ApplicationLookup> makeApplicationLookup();
 std::unique_ptr<FileIcons> makeFileIcons();
 
+/// Gives the system's own widgets their dark look. False where windows are drawn without those: the
+/// program has to bring the look along.
+bool showNativeDarkAppearance();
+
 /// The system's own drawing of this name, described for screen readers; null where it has none.
 QImage systemSymbol(const QString& name, const QString& description);
+
+/// Whether a click with the first button on a status item opens its menu. Elsewhere the second
+/// button does.
+bool statusItemOpensItsMenu();
 
 } // namespace tessaline

@@ -40,4 +40,8 @@ ScreenIdentity identifyScreen(const QScreen& screen) {
     return connectorIdentity(screen);
 }
 
+bool showNativeDarkAppearance() {
+    return false;
+}
+
 } // namespace tessaline

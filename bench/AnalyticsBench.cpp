@@ -1,0 +1,181 @@
+#include "Verdicts.h"
+
+#include "analytics/Analytics.h"
+#include "analytics/EnvironmentProbe.h"
+#include "platform/BundleInformation.h"
+#include "platform/ThreadTaskRunner.h"
+#include "platform/qt/QtTimerMaker.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <future>
+
+namespace {
+
+using namespace tessaline;
+using namespace Qt::Literals::StringLiterals;
+
+constexpr int historyLength = 100'000;
+
+class NoBundle final : public BundleInformation {
+public:
+    std::optional<QString> identifier() const override { return std::nullopt; }
+    std::optional<QString> value(const QString&) const override { return std::nullopt; }
+    std::optional<QString> resourceFolder() const override { return std::nullopt; }
+};
+
+class BareEnvironment final : public EnvironmentProbe {
+public:
+    bool isObsidianAppInstalled() const override { return false; }
+    bool isObsidianVaultFound() const override { return false; }
+    bool isObsidianPluginInstalled() const override { return false; }
+    bool isObsidianPluginActive() const override { return false; }
+    bool isAccessibilityGranted() const override { return false; }
+    int screenCount() const override { return 1; }
+};
+
+/// Processor time of this thread, in milliseconds. The writer's thread, which a flush wakes, may
+/// get this one's core for a while when the machine is busy: that is not counted.
+template <typename Action>
+double ownMilliseconds(Action action) {
+    const auto now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+    };
+    const double start = now();
+    action();
+    return now() - start;
+}
+
+/// Wall time, in milliseconds; waiting for locks and files is counted.
+template <typename Action>
+double milliseconds(Action action) {
+    const auto start = std::chrono::steady_clock::now();
+    action();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+        .count();
+}
+
+/// A recorder with what surrounds it in the program, and a history file of its own.
+class Stage {
+public:
+    std::unique_ptr<Analytics> makeRecorder() {
+        return std::make_unique<Analytics>(
+            Analytics::Ports{.timers = timers,
+                             .fileTasks = fileTasks,
+                             .bundle = bundle,
+                             .environment = environment,
+                             .signal = [](const QString&, const Analytics::Properties&) {},
+                             .historyPath = path});
+    }
+
+    void waitForFileTasks() {
+        std::promise<void> done;
+        fileTasks.run([&done] { done.set_value(); });
+        done.get_future().wait();
+    }
+
+    static void recordSome(Analytics& recorder, int count) {
+        for (int i = 0; i < count; ++i)
+            recorder.trackContentLoaded(SourceType::obsidian, i);
+    }
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"analytics.json"_s);
+
+private:
+    QtTimerMaker timers;
+    ThreadTaskRunner fileTasks;
+    NoBundle bundle;
+    BareEnvironment environment;
+};
+
+constexpr std::size_t runs = 9;
+
+/// Other programs that get their turn in between lengthen single runs; hence medians.
+double median(std::array<double, runs> values) {
+    std::nth_element(values.begin(), values.begin() + runs / 2, values.end());
+    return values[runs / 2];
+}
+
+/// How long flushes, and recording beside their writing, keep the main thread.
+void measureFlushes(Stage& stage, Verdicts& verdicts) {
+    std::array<double, runs> firstFlush{};
+    std::array<double, runs> nextFlush{};
+    std::array<double, runs> recording{};
+    std::array<double, runs> lastFlush{};
+    for (std::size_t run = 0; run < runs; ++run) {
+        QFile::remove(stage.path);
+        const auto recorder = stage.makeRecorder();
+        Stage::recordSome(*recorder, historyLength);
+        firstFlush[run] = ownMilliseconds([&] { recorder->flush(); });
+        recording[run] = milliseconds([&] { Stage::recordSome(*recorder, 1000); });
+        stage.waitForFileTasks();
+        nextFlush[run] = ownMilliseconds([&] { recorder->flush(); });
+        lastFlush[run] = milliseconds([&] { recorder->trackAppTerminate(); });
+    }
+    verdicts.judge(u"Flush of 100,000 new events, processor time"_s, median(firstFlush), 4, "ms");
+    verdicts.judge(u"1,000 events recorded while that is written, wall time"_s, median(recording),
+                   40, "ms");
+    verdicts.judge(u"Flush with 100,000 old events, processor time"_s, median(nextFlush), 4, "ms");
+    verdicts.judge(u"Last flush of that history, waited for"_s, median(lastFlush), 250, "ms");
+}
+
+/// What a history costs that is there at the start.
+void measureStart(Stage& stage, Verdicts& verdicts, double longest) {
+    const qint64 megabytes = QFileInfo(stage.path).size() / 1'000'000;
+    std::array<double, runs> start{};
+    std::array<double, runs> reading{};
+    std::array<double, runs> ending{};
+    for (std::size_t run = 0; run < runs; ++run) {
+        {
+            std::unique_ptr<Analytics> recorder;
+            start[run] = ownMilliseconds([&] { recorder = stage.makeRecorder(); });
+            reading[run] = milliseconds([&] { stage.waitForFileTasks(); });
+        }
+        const auto recorder = stage.makeRecorder();
+        ending[run] = milliseconds([&] { recorder->trackAppTerminate(); });
+        stage.waitForFileTasks();
+    }
+    const QString history = u" a history of %1 MB"_s.arg(megabytes);
+    verdicts.judge(u"Start with"_s + history + u", processor time"_s, median(start), 4, "ms");
+    verdicts.judge(u"Reading"_s + history + u" in the background"_s, median(reading), longest,
+                   "ms");
+    verdicts.judge(u"End right after starting with"_s + history, median(ending), longest, "ms");
+}
+
+/// Makes the history file at least this long by repeating its events.
+void lengthen(const QString& path, qint64 size) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) qFatal("There is no history");
+    const QByteArray events = file.readAll().mid(2).chopped(3);
+    QByteArray longer = "[\n" + events;
+    while (longer.size() < size)
+        longer += ",\n" + events;
+    file.close();
+    if (!file.open(QIODevice::WriteOnly) || file.write(longer + "\n]\n") < size)
+        qFatal("There is no room for a long history");
+}
+
+} // namespace
+
+/// Measures what recording usage costs with a long history. Exits with 1 when something takes
+/// longer than wanted.
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    Verdicts verdicts;
+    Stage stage;
+    measureFlushes(stage, verdicts);
+    measureStart(stage, verdicts, 1000);
+    lengthen(stage.path, 100'000'000);
+    measureStart(stage, verdicts, 5000);
+    return verdicts.exitStatus();
+}

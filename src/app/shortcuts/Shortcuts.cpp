@@ -1,0 +1,155 @@
+#include "app/shortcuts/Shortcuts.h"
+
+#include "analytics/UsageRecorder.h"
+#include "platform/AccessibilityTrust.h"
+#include "platform/MainQueue.h"
+
+#include <iostream>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr TimerMaker::Interval accessibilityPollInterval{2.0};
+constexpr int middleButton = 2;
+constexpr int fourthButton = 3;
+
+const GlobalKeyMonitor::Chord& toggleChord() {
+    static const GlobalKeyMonitor::Chord chord{
+        .modifiers = Modifier::control | Modifier::shift | Modifier::command, .characters = u"t"_s};
+    return chord;
+}
+
+bool isToggle(const KeyEvent& key) {
+    return key.modifiers == toggleChord().modifiers &&
+           key.characters.toLower() == toggleChord().characters;
+}
+
+bool isPaste(const KeyEvent& key) {
+    return key.modifiers == Modifier::command && key.characters.toLower() == "v"_L1;
+}
+
+bool hasControl(ModifierFlags modifiers) {
+    return (modifiers & Modifier::control) != 0;
+}
+
+} // namespace
+
+Shortcuts::Shortcuts(const Ports& borrowedPorts, Actions givenActions)
+    : ports(borrowedPorts), actions(std::make_shared<const Actions>(std::move(givenActions))) {}
+
+Shortcuts::~Shortcuts() = default;
+
+void Shortcuts::setupShortcuts() {
+    localMonitor =
+        ports.localKeys.start([this, alive = std::weak_ptr(actions)](const KeyEvent& key) {
+            return !alive.expired() && handleKeyDown(key);
+        });
+    lastKnownAccessibilityState = ports.trust.isTrusted();
+    trySetupGlobalShortcuts();
+    accessibilityPollTimer =
+        ports.timers.every(accessibilityPollInterval, [this] { pollAccessibility(); });
+}
+
+void Shortcuts::pollAccessibility() {
+    const bool trusted = ports.trust.isTrusted();
+    if (trusted != lastKnownAccessibilityState) {
+        lastKnownAccessibilityState = trusted;
+        tapFailureReported = false;
+        ports.recorder.trackPermissionStatus(PermissionType::accessibility, trusted);
+    }
+    // Also without a change: what another program held before may be free by now.
+    trySetupGlobalShortcuts();
+}
+
+void Shortcuts::trySetupGlobalShortcuts() {
+    if (!ports.trust.isTrusted()) return;
+    if (!globalMonitor) {
+        globalMonitor = ports.globalKeys.start(
+            toggleChord(), [this, alive = std::weak_ptr(actions)](const KeyEvent& key) {
+                if (!alive.expired()) handleGlobalKeyDown(key);
+            });
+    }
+    setupGlobalScrollEventTap();
+}
+
+void Shortcuts::handleGlobalKeyDown(const KeyEvent& key) {
+    if (isToggle(key)) toggleScroll(key);
+}
+
+bool Shortcuts::handleKeyDown(const KeyEvent& key) {
+    if (isPaste(key)) {
+        actions->paste();
+        return true;
+    }
+    if (hasControl(key.modifiers) && key.keyCode == KeyEvent::upArrow) {
+        actions->performScroll(shortcutScrollStep);
+        return true;
+    }
+    if (hasControl(key.modifiers) && key.keyCode == KeyEvent::downArrow) {
+        actions->performScroll(-shortcutScrollStep);
+        return true;
+    }
+    if (isToggle(key)) {
+        toggleScroll(key);
+        return true;
+    }
+    return false;
+}
+
+/// A key that is held repeats, but is one press.
+void Shortcuts::toggleScroll(const KeyEvent& key) {
+    if (!key.isRepeat) actions->toggleScroll();
+}
+
+void Shortcuts::setupGlobalScrollEventTap() {
+    if (scrollEventTap) return;
+    scrollEventTap =
+        ports.eventTaps.create([this, alive = std::weak_ptr(actions)](const TapEvent& event) {
+            return alive.expired() ? EventTap::Verdict::passOn : handleScrollEventTap(event);
+        });
+    if (scrollEventTap || std::exchange(tapFailureReported, true)) return;
+    std::cout << "Failed to create scroll event tap" << std::endl;
+}
+
+EventTap::Verdict Shortcuts::handleScrollEventTap(const TapEvent& event) {
+    const bool control = hasControl(event.modifiers);
+    switch (event.type) {
+    case TapEvent::Type::tapDisabled:
+        if (scrollEventTap) scrollEventTap->enable();
+        return EventTap::Verdict::passOn;
+    case TapEvent::Type::scrollWheel:
+        return control && event.isReadable ? scrollLater(event) : EventTap::Verdict::passOn;
+    case TapEvent::Type::otherMouseDown: {
+        const bool toggles =
+            event.buttonNumber == middleButton || event.buttonNumber == fourthButton;
+        return control && toggles ? toggleLater() : EventTap::Verdict::passOn;
+    }
+    case TapEvent::Type::rightMouseDown:
+        return control ? toggleLater() : EventTap::Verdict::passOn;
+    case TapEvent::Type::other:
+        break;
+    }
+    return EventTap::Verdict::passOn;
+}
+
+EventTap::Verdict Shortcuts::scrollLater(const TapEvent& event) {
+    const double delta = event.hasPreciseDeltas ? event.scrollingDeltaY
+                                                : event.scrollingDeltaY * shortcutScrollMultiplier;
+    ports.mainQueue.post([weakActions = std::weak_ptr(actions), delta] {
+        if (const auto live = weakActions.lock()) live->performScroll(delta);
+    });
+    return EventTap::Verdict::swallow;
+}
+
+EventTap::Verdict Shortcuts::toggleLater() {
+    ports.mainQueue.post([weakActions = std::weak_ptr(actions)] {
+        if (const auto live = weakActions.lock()) live->toggleScroll();
+    });
+    return EventTap::Verdict::swallow;
+}
+
+} // namespace tessaline

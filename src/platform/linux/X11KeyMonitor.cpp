@@ -1,0 +1,33 @@
+#include "platform/linux/X11KeyMonitor.h"
+
+#include "platform/linux/X11KeyGrab.h"
+
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace tessaline {
+
+namespace {
+
+Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
+
+} // namespace
+
+std::unique_ptr<GlobalKeyMonitor::Registration> X11KeyMonitor::start(const Chord& chord,
+                                                                     Handler handler) {
+    auto connection = X11Connection::open();
+    if (!connection) return nullptr;
+    auto grab = std::make_unique<X11KeyGrab>(std::move(connection), chord, std::move(handler));
+    if (grab->take()) {
+        reportedRefusal = false;
+        return grab;
+    }
+    if (!std::exchange(reportedRefusal, true)) {
+        qCWarning(inputLog, "Another program holds the shortcut for other applications, or no key "
+                            "types it; it stays with that program until it ends.");
+    }
+    return nullptr;
+}
+
+} // namespace tessaline

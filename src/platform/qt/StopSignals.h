@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QSocketNotifier>
+
+#include <functional>
+
+namespace tessaline {
+
+/// Turns the signals that ask a program to stop (SIGTERM, SIGINT, SIGHUP) into a call on the main
+/// thread. The second one of a kind ends the program at once. One at a time; main thread only.
+class StopSignals {
+public:
+    /// Calls `stop` for every signal from now on.
+    explicit StopSignals(std::function<void()> stop);
+    /// Gives the signals their usual effect back.
+    ~StopSignals();
+    StopSignals(const StopSignals&) = delete;
+    StopSignals& operator=(const StopSignals&) = delete;
+
+private:
+    QSocketNotifier arrived;
+};
+
+} // namespace tessaline

@@ -1,0 +1,415 @@
+"""Control with the wheel and the buttons, and the shortcut, from any application: what the prompter
+gets, and what other applications get."""
+
+import ctypes
+import json
+import os
+import re
+import signal
+import time
+import unittest
+
+from harness import DesktopTestCase, wait_until
+from harness.waiting import holds_for
+
+XEV_AREA = "400x300+100+100"
+OVER_XEV = (300, 250)
+WHEEL_UP, WHEEL_DOWN = 4, 5
+TOGGLE = "ctrl+shift+super+t"
+A_MOMENT = 0.5
+
+CONTROL, SHIFT, SUPER = 37, 50, 133  # keys by their numbers
+CORE_KEYBOARD = 0x100
+
+
+class Keyboard:
+    """Layouts and keys by their numbers. xdotool goes back to the first layout for every key."""
+
+    def __init__(self, display):
+        self.x11, self.xtest = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXtst.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
+
+    def close(self):
+        self.x11.XCloseDisplay(self.display)
+
+    def switch_to_layout(self, number):
+        self.x11.XkbLockGroup(self.display, CORE_KEYBOARD, number)
+        self.x11.XSync(self.display, 0)
+
+    def press(self, *keys):
+        """All of them together."""
+        for key, down in [(key, 1) for key in keys] + [(key, 0) for key in reversed(keys)]:
+            self.xtest.XTestFakeKeyEvent(self.display, key, down, 0)
+            self.x11.XSync(self.display, 0)
+
+
+class Application:
+    """A probe, whose output tells what it received."""
+
+    def __init__(self, desktop, *arguments, name=None):
+        name = name or arguments[0]
+        self.process = desktop.start(name, [os.environ["TESSALINE_INPUT_PROBE"], *arguments])
+        self.process.wait_for_output('"event":"ready"')
+
+    def events(self, *names):
+        lines = self.process.stdout().splitlines()
+        events = [json.loads(line) for line in lines if line.startswith("{")]
+        return [event for event in events if event["event"] in names]
+
+    def scrolled(self):
+        return [event["delta"] for event in self.events("scroll")]
+
+    def toggles(self):
+        return len(self.events("toggle"))
+
+
+class Xev:
+    """Another application, by the oldest means that there are."""
+
+    def __init__(self, desktop):
+        command = ["xev", "-geometry", XEV_AREA, "-event", "button", "-event", "keyboard"]
+        self.process = desktop.start("xev", command)
+        window = desktop.wait_for_window("Event Tester", None)
+        wait_until(lambda: desktop.focused_window() == window, "xev has the keyboard")
+        desktop.move_mouse(*OVER_XEV)
+
+    def buttons(self):
+        """("Press" or "Release", button) in the order of their arrival."""
+        pattern = r"^Button(Press|Release) event.*?button (\d+)"
+        found = re.findall(pattern, self.process.stdout(), re.MULTILINE | re.DOTALL)
+        return [(kind, int(button)) for kind, button in found]
+
+    def keys(self):
+        return re.findall(r"^KeyPress event.*?keysym 0x\w+, (\w+)", self.process.stdout(),
+                          re.MULTILINE | re.DOTALL)
+
+
+def click(*buttons):
+    return [(kind, button) for button in buttons for kind in ("Press", "Release")]
+
+
+class EventTapCase(DesktopTestCase):
+    desktop_options = {"panel": False}
+
+    def start_tap(self, *arguments):
+        return Application(self.desktop, "tap", *arguments)
+
+    def click(self, *buttons, keys=("ctrl",)):
+        for key in keys:
+            self.desktop.run("xdotool", "keydown", key)
+        for button in buttons:
+            self.desktop.run("xdotool", "click", button)
+        for key in reversed(keys):
+            self.desktop.run("xdotool", "keyup", key)
+
+    def open_keyboard(self):
+        keyboard = Keyboard(self.desktop.env["DISPLAY"])
+        self.addCleanup(keyboard.close)
+        return keyboard
+
+    def wait_for_scrolls(self, tap, deltas):
+        wait_until(lambda: tap.scrolled() == deltas, f"the prompter scrolls by {deltas}")
+
+    def wait_for_toggles(self, tap, number):
+        wait_until(lambda: tap.toggles() == number, f"the prompter toggles {number} times")
+
+    def wait_for_buttons(self, xev, buttons):
+        wait_until(lambda: xev.buttons() == buttons, f"xev gets {buttons}")
+
+    def assert_nothing_more(self, *counts):
+        before = [count() for count in counts]
+        self.assertTrue(holds_for(lambda: [count() for count in counts] == before, A_MOMENT))
+
+
+class AnotherApplication(EventTapCase):
+    def setUp(self):
+        super().setUp()
+        self.tap = self.start_tap()
+        self.xev = Xev(self.desktop)
+
+    def assert_swallows_everything(self):
+        """Everything that is ours with Control, and nothing that is not."""
+        scrolls, toggles = self.tap.scrolled(), self.tap.toggles()
+        buttons = self.xev.buttons()
+        self.click(WHEEL_UP, WHEEL_DOWN, WHEEL_DOWN, 2, 3, 8)
+        self.wait_for_scrolls(self.tap, scrolls + [80, -80, -80])
+        self.wait_for_toggles(self.tap, toggles + 3)
+        self.click(WHEEL_UP, keys=())
+        # In order of arrival: whatever came through would be before it.
+        self.wait_for_buttons(self.xev, buttons + click(WHEEL_UP))
+
+    def test_does_not_get_what_is_ours(self):
+        self.assert_swallows_everything()
+
+    def test_gets_every_button_without_control(self):
+        self.click(1, 2, 3, 4, 5, 6, 7, 8, 9, keys=())
+        self.wait_for_buttons(self.xev, click(1, 2, 3, 4, 5, 6, 7, 8, 9))
+        self.assertEqual((self.tap.scrolled(), self.tap.toggles()), ([], 0))
+
+    def test_gets_every_button_with_other_modifiers(self):
+        self.click(2, 3, 4, 5, 8, keys=("shift", "super"))
+        self.wait_for_buttons(self.xev, click(2, 3, 4, 5, 8))
+        self.assertEqual((self.tap.scrolled(), self.tap.toggles()), ([], 0))
+
+    def test_gets_first_and_fifth_button_and_sideways_wheel_with_control(self):
+        self.click(1, 6, 7, 9)
+        self.wait_for_buttons(self.xev, click(1, 6, 7, 9))
+        self.assertEqual((self.tap.scrolled(), self.tap.toggles()), ([], 0))
+
+    def test_does_not_get_what_is_ours_with_further_modifiers(self):
+        for keys in (("ctrl", "shift"), ("ctrl", "alt"), ("ctrl", "super"),
+                     ("ctrl", "shift", "alt", "super")):
+            with self.subTest(keys=keys):
+                before = self.tap.scrolled()
+                self.click(WHEEL_UP, keys=keys)
+                self.wait_for_scrolls(self.tap, before + [80])
+        self.assertEqual(self.xev.buttons(), [])
+
+    def test_does_not_get_what_is_ours_with_lock_keys_on(self):
+        for lock in ("Num_Lock", "Caps_Lock", "Num_Lock"):  # Num, both, Caps
+            self.desktop.key(lock)
+            with self.subTest(pressed=lock):
+                self.assert_swallows_everything()
+
+    def test_does_not_get_what_is_ours_on_another_layout(self):
+        self.desktop.run("setxkbmap", "us,ru")
+        self.assert_swallows_everything()
+        self.open_keyboard().switch_to_layout(1)
+        self.assert_swallows_everything()
+
+    def test_does_not_get_the_release_when_control_goes_up_first(self):
+        self.desktop.run("xdotool", "keydown", "ctrl", "mousedown", "2", "keyup", "ctrl")
+        self.desktop.run("xdotool", "mouseup", "2")
+        self.wait_for_toggles(self.tap, 1)
+        self.click(1, 2, keys=())
+        self.wait_for_buttons(self.xev, click(1, 2))
+
+    def test_gets_the_release_when_control_goes_down_last(self):
+        self.desktop.run("xdotool", "mousedown", "2", "keydown", "ctrl")
+        self.desktop.run("xdotool", "mouseup", "2", "keyup", "ctrl")
+        self.wait_for_buttons(self.xev, click(2))
+        self.assertEqual(self.tap.toggles(), 0)
+
+    def test_gets_a_wheel_while_its_own_button_is_held(self):
+        # A drag with Control belongs to it, the wheel included.
+        self.desktop.run("xdotool", "keydown", "ctrl", "mousedown", "1")
+        self.desktop.run("xdotool", "click", WHEEL_UP)
+        self.desktop.run("xdotool", "mouseup", "1")
+        self.wait_for_buttons(self.xev, [("Press", 1), *click(WHEEL_UP), ("Release", 1)])
+        # Afterwards the wheel is ours again.
+        self.desktop.run("xdotool", "click", WHEEL_UP, "keyup", "ctrl")
+        self.wait_for_scrolls(self.tap, [80])
+        self.assert_nothing_more(self.xev.buttons)
+
+    def test_gets_many_clicks_with_control_one_for_one(self):
+        self.desktop.run("xdotool", "keydown", "ctrl")
+        self.desktop.run("xdotool", "click", "--repeat", 50, "--delay", 5, 1)
+        self.desktop.run("xdotool", "keyup", "ctrl")
+        self.wait_for_buttons(self.xev, click(1) * 50)
+
+    def test_gets_its_wheel_back_when_we_are_killed(self):
+        self.click(WHEEL_UP)
+        self.wait_for_scrolls(self.tap, [80])
+        self.tap.process.send(signal.SIGKILL)
+        self.tap.process.wait()
+        self.click(WHEEL_UP, 2, 3, 8)
+        self.wait_for_buttons(self.xev, click(WHEEL_UP, 2, 3, 8))
+
+    def test_gets_its_wheel_back_when_we_are_killed_while_control_is_held(self):
+        self.desktop.run("xdotool", "keydown", "ctrl", "click", WHEEL_UP)
+        self.wait_for_scrolls(self.tap, [80])
+        self.tap.process.send(signal.SIGKILL)
+        self.tap.process.wait()
+        self.desktop.run("xdotool", "click", WHEEL_UP, "click", "1", "keyup", "ctrl")
+        self.wait_for_buttons(self.xev, click(WHEEL_UP, 1))
+
+
+class TheShortcut(EventTapCase):
+    def setUp(self):
+        super().setUp()
+        self.tap = self.start_tap()
+        self.xev = Xev(self.desktop)
+        self.keyboard = self.open_keyboard()
+
+    def press(self):
+        self.desktop.key(TOGGLE)
+
+    def test_toggles_once_for_a_press_in_another_application(self):
+        self.press()
+        self.wait_for_toggles(self.tap, 1)
+        self.assert_nothing_more(self.tap.toggles)
+        self.assertNotIn("T", self.xev.keys())
+
+    def test_toggles_with_lock_keys_on(self):
+        for number, lock in enumerate(("Num_Lock", "Caps_Lock", "Num_Lock"), 1):
+            self.desktop.key(lock)
+            self.press()
+            self.wait_for_toggles(self.tap, number)
+        self.assert_nothing_more(self.tap.toggles)
+
+    def press_key_number(self, code):
+        self.keyboard.press(CONTROL, SHIFT, SUPER, code)
+
+    def test_is_where_the_layout_has_the_letter(self):
+        qwerty_t, dvorak_t = 28, 45
+        self.press_key_number(qwerty_t)
+        self.wait_for_toggles(self.tap, 1)
+        self.desktop.run("setxkbmap", "dvorak")
+        time.sleep(A_MOMENT)
+        self.press_key_number(qwerty_t)
+        self.press_key_number(dvorak_t)
+        self.wait_for_toggles(self.tap, 2)
+        self.assert_nothing_more(self.tap.toggles)
+
+    def test_follows_a_layout_that_is_switched_to(self):
+        qwerty_t, dvorak_t = 28, 45
+        self.desktop.run("setxkbmap", "us,us,ru", "-variant", ",dvorak,")
+        time.sleep(A_MOMENT)
+        self.press_key_number(qwerty_t)
+        self.wait_for_toggles(self.tap, 1)
+        self.press_key_number(dvorak_t)
+        self.assert_nothing_more(self.tap.toggles)
+        self.keyboard.switch_to_layout(1)
+        time.sleep(A_MOMENT)
+        self.press_key_number(dvorak_t)
+        self.wait_for_toggles(self.tap, 2)
+        self.press_key_number(qwerty_t)
+        self.assert_nothing_more(self.tap.toggles)
+        self.keyboard.switch_to_layout(2)  # without Latin letters: as on the first
+        time.sleep(A_MOMENT)
+        self.press_key_number(qwerty_t)
+        self.wait_for_toggles(self.tap, 3)
+
+    def test_toggles_once_however_long_it_is_held(self):
+        self.desktop.run("xset", "r", "rate", "100", "50")
+        self.desktop.run("xdotool", "keydown", "ctrl", "keydown", "shift", "keydown", "super",
+                         "keydown", "t")
+        self.wait_for_toggles(self.tap, 1)
+        self.assert_nothing_more(self.tap.toggles)
+        self.desktop.run("xdotool", "keyup", "t", "keyup", "super", "keyup", "shift", "keyup",
+                         "ctrl")
+
+    def test_is_not_taken_with_alt_or_without_shift(self):
+        self.desktop.key("ctrl+shift+super+alt+t", "ctrl+super+t", "t")
+        wait_until(lambda: self.xev.keys()[-1:] == ["t"], "xev gets the last key")
+        self.assertEqual([key for key in self.xev.keys() if key in "tT"], ["T", "t", "t"])
+        self.assertEqual(self.tap.toggles(), 0)
+
+
+class OurOwnWindow(EventTapCase):
+    def start_with_window(self, *arguments):
+        tap = self.start_tap("--window", "100,100,400,300", *arguments)
+        window = self.desktop.wait_for_window(pid=tap.process.pid)
+        wait_until(lambda: self.desktop.focused_window() == window, "it has the keyboard")
+        self.desktop.move_mouse(*OVER_XEV)
+        return tap
+
+    def test_scrolls_once_for_control_and_the_wheel(self):
+        tap = self.start_with_window()
+        self.click(WHEEL_UP)
+        self.wait_for_scrolls(tap, [80])
+        self.assert_nothing_more(tap.scrolled)
+        self.assertEqual(tap.events("wheel"), [])
+        self.click(WHEEL_UP, keys=())
+        wait_until(lambda: len(tap.events("wheel")) == 1, "the window gets a plain wheel")
+        self.assertEqual(tap.scrolled(), [80])
+
+    def test_toggles_once_for_the_shortcut(self):
+        tap = self.start_with_window()
+        self.desktop.key(TOGGLE)
+        self.wait_for_toggles(tap, 1)
+        self.assert_nothing_more(tap.toggles)
+
+    def test_toggles_by_itself_when_another_program_holds_the_shortcut(self):
+        holder = Application(self.desktop, "tap", name="holder")
+        tap = self.start_with_window()
+        self.desktop.key(TOGGLE)
+        self.wait_for_toggles(holder, 1)
+        self.assertEqual(tap.toggles(), 0)
+        holder.process.end()
+        self.desktop.key(TOGGLE)
+        self.wait_for_toggles(tap, 1)
+
+    def test_pastes_and_scrolls_by_keys(self):
+        tap = self.start_with_window()
+        self.desktop.key("ctrl+v", "super+v", "ctrl+shift+v", "ctrl+Up", "ctrl+shift+Down", "a")
+        wait_until(lambda: ord("A") in [key["code"] for key in tap.events("key")], "a key arrives")
+        self.assertEqual(len(tap.events("paste")), 2)
+        self.assertEqual(tap.scrolled(), [40, -40])
+        self.assertEqual([key["code"] for key in tap.events("key") if key["code"] < 0x1000000],
+                         [ord("V"), ord("A")])
+
+    def test_leaves_pasting_with_control_to_a_text_field(self):
+        tap = self.start_with_window("--field")
+        self.desktop.type("word")
+        self.desktop.key("ctrl+a", "ctrl+c", "End", "ctrl+v")
+        wait_until(lambda: tap.events("field")[-1:] == [{"event": "field", "text": "wordword"}],
+                   "the text is pasted into the field")
+        self.assertEqual(tap.events("paste"), [])
+        self.desktop.key("super+v")
+        wait_until(lambda: tap.events("paste"), "Super + V pastes all the same")
+
+
+class AnotherHolder(EventTapCase):
+    def test_of_one_button_leaves_us_the_others(self):
+        holder = Application(self.desktop, "hold", str(WHEEL_UP))
+        tap = self.start_tap()
+        tap.process.wait_for_output("Another program holds Control with 1 of the pointer's buttons")
+        xev = Xev(self.desktop)
+        self.click(WHEEL_UP, WHEEL_DOWN, 2)
+        self.wait_for_scrolls(tap, [-80])
+        self.wait_for_toggles(tap, 1)
+        self.assertEqual(xev.buttons(), [])
+
+        holder.process.end()
+
+        def scrolls_up():
+            self.click(WHEEL_UP)
+            return 80 in tap.scrolled()
+
+        wait_until(scrolls_up, "the button is ours")
+        self.assertEqual(tap.process.stderr().count("Another program"), 1)
+
+    def test_of_everything_leaves_us_running_until_it_is_gone(self):
+        holder = Application(self.desktop, "tap", name="holder")
+        tap = self.start_tap()
+        tap.process.wait_for_output("Failed to create scroll event tap")
+        self.assertEqual(tap.process.stdout().count("Failed to create"), 1)
+        xev = Xev(self.desktop)
+        self.click(WHEEL_UP)
+        self.wait_for_scrolls(holder, [80])
+        self.assertEqual(tap.scrolled(), [])
+
+        holder.process.send(signal.SIGKILL)
+        holder.process.wait()
+
+        def scrolls_up():
+            self.click(WHEEL_UP)
+            return tap.scrolled()
+
+        wait_until(scrolls_up, "the wheel is ours")
+        self.desktop.key(TOGGLE)
+        self.wait_for_toggles(tap, 1)
+        lost = xev.buttons()
+        self.click(WHEEL_UP)
+        self.assert_nothing_more(xev.buttons)
+        self.assertEqual(xev.buttons(), lost)
+
+
+class ABusyMainThread(EventTapCase):
+    def test_holds_nobody_up(self):
+        seconds = 4
+        tap = self.start_tap("--busy", str(seconds))
+        started = time.monotonic()
+        xev = Xev(self.desktop)
+        self.click(1, WHEEL_UP, 1, 2, 1)
+        self.wait_for_buttons(xev, click(1, 1, 1))
+        self.assertLess(time.monotonic() - started, seconds, "it took until the thread was idle")
+        self.assertEqual(tap.events("idle again"), [])
+        self.wait_for_scrolls(tap, [80])
+        self.wait_for_toggles(tap, 1)
+
+
+if __name__ == "__main__":
+    unittest.main()
