@@ -1,14 +1,12 @@
 #include "analytics/UsageRecorder.h"
 
+#include "analytics/BooleanText.h"
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QString text(bool value) {
-    return value ? u"true"_s : u"false"_s;
-}
 
 QString text(PermissionType type) {
     return type == PermissionType::accessibility ? u"accessibility"_s : u"automation"_s;
@@ -22,8 +20,8 @@ void UsageRecorder::trackOnboardingStarted() {
 
 void UsageRecorder::trackOnboardingCompleted(bool accessibilityGranted, bool obsidianEnabled) {
     record({.name = u"onboarding_completed"_s,
-            .properties = {{u"accessibility_granted"_s, text(accessibilityGranted)},
-                           {u"obsidian_enabled"_s, text(obsidianEnabled)}}});
+            .properties = {{u"accessibility_granted"_s, booleanText(accessibilityGranted)},
+                           {u"obsidian_enabled"_s, booleanText(obsidianEnabled)}}});
 }
 
 void UsageRecorder::trackSourceChanged(SourceType to) {
@@ -42,8 +40,9 @@ void UsageRecorder::trackContentPasted(qsizetype wordCount) {
 }
 
 void UsageRecorder::trackAutoScrollToggled(bool enabled, ScrollRate rate) {
-    record({.name = u"auto_scroll_toggled"_s,
-            .properties = {{u"enabled"_s, text(enabled)}, {u"scroll_rate"_s, rawValue(rate)}}});
+    record(
+        {.name = u"auto_scroll_toggled"_s,
+         .properties = {{u"enabled"_s, booleanText(enabled)}, {u"scroll_rate"_s, rawValue(rate)}}});
 }
 
 void UsageRecorder::trackSettingChanged(const QString& name, const QString& value) {
@@ -57,12 +56,14 @@ void UsageRecorder::trackScreenChanged(int screenIndex) {
 }
 
 void UsageRecorder::trackObsidianPluginInstalled(bool success) {
-    record({.name = u"obsidian_plugin_installed"_s, .properties = {{u"success"_s, text(success)}}});
+    record({.name = u"obsidian_plugin_installed"_s,
+            .properties = {{u"success"_s, booleanText(success)}}});
 }
 
 void UsageRecorder::trackPermissionStatus(PermissionType type, bool granted) {
-    record({.name = u"permission_status"_s,
-            .properties = {{u"permission_type"_s, text(type)}, {u"granted"_s, text(granted)}}});
+    record(
+        {.name = u"permission_status"_s,
+         .properties = {{u"permission_type"_s, text(type)}, {u"granted"_s, booleanText(granted)}}});
 }
 
 } // namespace tessaline

@@ -17,7 +17,8 @@ class UsageRecorder {
 public:
     virtual ~UsageRecorder() = default;
 
-    /// The one entry that all operations below use.
+    /// The one entry that all operations below use. An event without a timestamp gets the present
+    /// one.
     virtual void record(const AnalyticsEvent& event) = 0;
 
     /// "app_launch" and "app_terminate"; the latter also writes the history. Main thread.

@@ -1,0 +1,115 @@
+#include "analytics/EventHistory.h"
+
+#include "analytics/AnalyticsLog.h"
+#include "analytics/EventDecoder.h"
+#include "settings/WholeFile.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A million events, far above any month's. Keeps a damaged file from filling the memory.
+constexpr qint64 historyFileLimit = qint64{256} << 20;
+
+} // namespace
+
+EventHistory::EventHistory(QString historyPath, const QDateTime& oldestMoment)
+    : path(std::move(historyPath)), oldest(oldestMoment.toUTC()) {}
+
+void EventHistory::add(const AnalyticsEvent& event) {
+    const std::scoped_lock guard(bufferLock);
+    newEvents.push_back(event);
+    ++added;
+}
+
+qint64 EventHistory::addedCount() const {
+    const std::scoped_lock guard(bufferLock);
+    return added;
+}
+
+void EventHistory::load() {
+    const std::scoped_lock guard(fileLock);
+    loadFile();
+}
+
+void EventHistory::flush() {
+    const std::scoped_lock guard(fileLock);
+    loadFile();
+    takeNewEvents();
+    if (text.isEmpty() || (isUpToDate && QFileInfo::exists(path))) return;
+    QElapsedTimer time;
+    time.start();
+    qCDebug(intervalLog, "flush: begin");
+    QString error;
+    isUpToDate = write(&error);
+    if (!isUpToDate)
+        qCCritical(analyticsLog, "Failed to flush analytics: %s", qUtf8Printable(error));
+    qCDebug(intervalLog, "flush: end");
+    qCDebug(perfLog, "Flush of %lld bytes took %lld ms",
+            static_cast<long long>(text.bytes().size()), static_cast<long long>(time.elapsed()));
+}
+
+void EventHistory::loadFile() {
+    if (std::exchange(isLoaded, true) || !QFileInfo::exists(path)) return;
+    QString error;
+    HistoryText loaded;
+    bool leftOut = false;
+    const auto keepRecent = [&](const AnalyticsEvent& event) {
+        if (event.timestamp > oldest) {
+            loaded.append(event);
+        } else {
+            leftOut = true;
+        }
+    };
+    const auto bytes = readWholeFile(path, &error, historyFileLimit);
+    if (bytes && decodeEvents(*bytes, keepRecent, &error)) {
+        text = std::move(loaded);
+        isUpToDate = !leftOut;
+    } else {
+        isForeign = true;
+        qCCritical(analyticsLog, "Failed to load analytics history: %s", qUtf8Printable(error));
+    }
+}
+
+void EventHistory::takeNewEvents() {
+    std::vector<AnalyticsEvent> events;
+    {
+        const std::scoped_lock guard(bufferLock);
+        events.swap(newEvents);
+    }
+    for (const AnalyticsEvent& event : events)
+        text.append(event);
+    if (!events.empty()) isUpToDate = false;
+}
+
+bool EventHistory::write(QString* error) {
+    // Where this fails, writing the file fails next and says so.
+    QDir().mkpath(QFileInfo(path).path());
+    if (isForeign && !putAside(error)) return false;
+    return writeWholeFile(path, text.bytes(), error);
+}
+
+bool EventHistory::putAside(QString* error) {
+    // Renaming needs no room on the disk, and replaces what was put aside before. What is no file
+    // stays in its place: the write refuses it.
+    const QByteArray from = QFile::encodeName(path);
+    if (QFileInfo(path).isFile() && std::rename(from, from + ".unreadable") != 0) {
+        *error = qt_error_string(errno);
+        return false;
+    }
+    isForeign = false;
+    return true;
+}
+
+} // namespace tessaline

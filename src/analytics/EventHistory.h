@@ -1,0 +1,57 @@
+#pragma once
+
+#include "analytics/AnalyticsEvent.h"
+#include "analytics/HistoryText.h"
+
+#include <QString>
+
+#include <mutex>
+#include <vector>
+
+namespace tessaline {
+
+/// The events of the last weeks, in memory and in a file. New ones are kept apart until a flush
+/// encodes them, so that recording never waits for a file. Any thread.
+class EventHistory {
+public:
+    /// A history in the file at `path`, which is not read yet. Of its events those count that are
+    /// later than `oldest`.
+    EventHistory(QString path, const QDateTime& oldest);
+
+    void add(const AnalyticsEvent& event);
+
+    /// How many events were added.
+    qint64 addedCount() const;
+
+    /// Reads the file unless that was done. What cannot be read or decoded is logged and counts as
+    /// no events.
+    void load();
+
+    /// Writes all events, those of the file first, over the file, whole or not at all, and returns
+    /// when it is done. Does nothing without events, nor when the file is there and up to date. A
+    /// file that could not be understood is renamed first, to a name that ends with ".unreadable";
+    /// while that is not possible, it stays. A failure is logged, and everything is written by the
+    /// next flush.
+    void flush();
+
+private:
+    void loadFile();
+    void takeNewEvents();
+    bool write(QString* error);
+    bool putAside(QString* error);
+
+    const QString path;
+    const QDateTime oldest; ///< in UTC, in which comparing is cheap
+
+    mutable std::mutex bufferLock; ///< guards the next two; never held for longer than an append
+    std::vector<AnalyticsEvent> newEvents;
+    qint64 added = 0;
+
+    std::mutex fileLock; ///< guards the file and what follows; taken before `bufferLock`
+    HistoryText text;
+    bool isLoaded = false;
+    bool isForeign = false; ///< the file holds what we do not understand
+    bool isUpToDate = false;
+};
+
+} // namespace tessaline

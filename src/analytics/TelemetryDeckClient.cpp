@@ -1,0 +1,198 @@
+#include "analytics/TelemetryDeckClient.h"
+
+#include "analytics/AnalyticsLog.h"
+#include "analytics/BooleanText.h"
+#include "analytics/SharedInstance.h"
+#include "analytics/TDSignal.h"
+#include "platform/BundleInformation.h"
+#include "platform/TimerMaker.h"
+#include "platform/UserDefaults.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QTimer>
+#include <QUuid>
+
+#include <iterator>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr TimerMaker::Interval flushInterval{10.0};
+
+QString newIdentifier() {
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+}
+
+QString sha256(const QString& text) {
+    const QByteArray hash = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.toHex());
+}
+
+} // namespace
+
+TelemetryDeckClient& TelemetryDeckClient::shared() {
+    return SharedInstance<TelemetryDeckClient>::get();
+}
+
+TelemetryDeckClient::TelemetryDeckClient(Ports clientPorts, TelemetryOptions clientOptions)
+    : ports(std::move(clientPorts))
+    , options(std::move(clientOptions))
+    , sessionID(newIdentifier())
+    , everySignalsPayload(defaultPayload()) {
+    if (options.isAllowed) flushTimer = ports.timers.every(flushInterval, [this] { flush(); });
+}
+
+TelemetryDeckClient::~TelemetryDeckClient() {
+    if (!reply) return;
+    reply->disconnect(&replyContext);
+    reply->abort();
+    reply->deleteLater();
+}
+
+void TelemetryDeckClient::setAppID(const QString& id) {
+    const std::scoped_lock guard(bufferLock);
+    appID = id;
+}
+
+void TelemetryDeckClient::signal(const QString& name, const Parameters& parameters) {
+    if (!options.isAllowed) return;
+    TDSignal signal{.receivedAt = ports.now(),
+                    .clientUser = clientUser(),
+                    .sessionID = sessionID,
+                    .type = name,
+                    .payload = everySignalsPayload,
+                    .isTestMode = booleanText(options.testMode)};
+    signal.payload.insert(parameters);
+    {
+        const std::scoped_lock guard(bufferLock);
+        signal.appID = appID;
+    }
+    auto encoded = encode(signal);
+    if (!encoded) return;
+    const std::scoped_lock guard(bufferLock);
+    buffer.push_back(std::move(*encoded));
+}
+
+void TelemetryDeckClient::flush() {
+    if (reply) {
+        flushAgain = true;
+        return;
+    }
+    Batch batch;
+    {
+        const std::scoped_lock guard(bufferLock);
+        batch.swap(buffer);
+    }
+    if (!batch.empty()) send(std::move(batch));
+}
+
+void TelemetryDeckClient::appWillTerminate() {
+    flush();
+}
+
+bool TelemetryDeckClient::waitForRequests(std::chrono::milliseconds longest) {
+    QEventLoop loop;
+    bool isOver = false;
+    QTimer timer;
+    timer.setSingleShot(true);
+    timer.callOnTimeout([&isOver] { isOver = true; });
+    timer.start(longest);
+    while (reply && !isOver)
+        loop.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
+    return !reply;
+}
+
+TelemetryDeckClient::Parameters TelemetryDeckClient::defaultPayload() const {
+    const auto bundleValue = [this](const QString& key) {
+        return ports.bundle.value(key).value_or(u"unknown"_s);
+    };
+    return {
+        {u"TelemetryDeck.AppInfo.version"_s, bundleValue(u"CFBundleShortVersionString"_s)},
+        {u"TelemetryDeck.AppInfo.buildNumber"_s, bundleValue(u"CFBundleVersion"_s)},
+        {u"TelemetryDeck.Device.operatingSystem"_s, ports.system.name},
+        {u"TelemetryDeck.Device.platform"_s, ports.system.name},
+        {u"TelemetryDeck.Device.systemVersion"_s, ports.system.version()},
+        {u"TelemetryDeck.Device.systemMajorVersion"_s, QString::number(ports.system.majorVersion)},
+        {u"TelemetryDeck.RunContext.isDebug"_s, booleanText(options.testMode)},
+        {u"TelemetryDeck.RunContext.isTestFlight"_s, booleanText(false)},
+        {u"TelemetryDeck.RunContext.isAppStore"_s, booleanText(false)},
+        {u"TelemetryDeck.SDK.name"_s, u"TessalineCustomClient"_s},
+        {u"TelemetryDeck.SDK.version"_s, u"1.0.0"_s},
+    };
+}
+
+QString TelemetryDeckClient::clientUser() {
+    std::call_once(identified, [this] { hashedUser = sha256(userIdentifier()); });
+    return hashedUser;
+}
+
+QString TelemetryDeckClient::userIdentifier() {
+    const QString identifier = ports.bundle.identifier().value_or(u"app.tessaline.Tessaline"_s);
+    const QString key = identifier + u".telemetry.userId"_s;
+    QString known = ports.defaults.string(key).value_or(QString());
+    if (!known.isEmpty()) return known;
+    QString created = newIdentifier();
+    ports.defaults.setString(key, created);
+    return created;
+}
+
+QNetworkRequest TelemetryDeckClient::request() const {
+    QNetworkRequest request(options.baseURL);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
+    request.setTransferTimeout(static_cast<int>(options.timeout.count()));
+    // A redirected POST would arrive elsewhere, as a GET without its signals.
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::ManualRedirectPolicy);
+    // Nothing that the service says is remembered, least of all who it thinks we are.
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    return request;
+}
+
+void TelemetryDeckClient::send(Batch signalsToSend) {
+    inFlight = std::move(signalsToSend);
+    QByteArray body = "[";
+    for (const QByteArray& encoded : inFlight)
+        body += encoded + ',';
+    body.back() = ']';
+    reply = ports.network.post(request(), body);
+    QObject::connect(reply, &QNetworkReply::finished, &replyContext, [this] { requestFinished(); });
+    // Only the answer's status matters: its text is not to fill the memory.
+    QObject::connect(reply, &QNetworkReply::readyRead, &replyContext,
+                     [incoming = reply] { incoming->skip(incoming->bytesAvailable()); });
+}
+
+void TelemetryDeckClient::requestFinished() {
+    QNetworkReply* const finished = std::exchange(reply, nullptr);
+    finished->deleteLater();
+    Batch batch = std::exchange(inFlight, {});
+    // With a status the service has judged the batch, whatever became of the rest of its answer:
+    // sending the batch again would count it twice.
+    const int status = finished->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (status == 0) {
+        putBack(std::move(batch));
+        qCWarning(telemetryLog, "[TelemetryDeck] Send failed: %s",
+                  qUtf8Printable(finished->errorString()));
+    } else if (status < 200 || status > 299) {
+        qCWarning(telemetryLog, "[TelemetryDeck] Server returned %d", status);
+    }
+    if (std::exchange(flushAgain, false)) flush();
+}
+
+void TelemetryDeckClient::putBack(Batch unsent) {
+    const std::scoped_lock guard(bufferLock);
+    unsent.insert(unsent.end(), std::make_move_iterator(buffer.begin()),
+                  std::make_move_iterator(buffer.end()));
+    buffer = std::move(unsent);
+}
+
+} // namespace tessaline

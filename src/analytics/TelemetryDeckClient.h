@@ -1,0 +1,105 @@
+#pragma once
+
+#include "analytics/SystemDescription.h"
+#include "analytics/TelemetryOptions.h"
+
+#include <QDateTime>
+#include <QMap>
+#include <QObject>
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+class QByteArray;
+class QNetworkAccessManager;
+class QNetworkReply;
+class QNetworkRequest;
+
+namespace tessaline {
+
+class BundleInformation;
+class RepeatingTimer;
+class TimerMaker;
+class UserDefaults;
+
+/// Sends usage signals to the telemetry service: collects them in memory and posts a batch every 10
+/// seconds. One batch is under way at a time, so that signals arrive in order. A batch that no
+/// answer came to is sent again, ahead of newer signals; one that the service refuses is dropped,
+/// and so is one that it wants to have sent elsewhere. Main thread, except for `signal`.
+class TelemetryDeckClient {
+public:
+    using Parameters = QMap<QString, QString>;
+
+    /// Everything it needs. References are borrowed.
+    struct Ports {
+        TimerMaker& timers;
+        QNetworkAccessManager& network;
+        UserDefaults& defaults;
+        const BundleInformation& bundle;
+        /// The time, asked for from any thread.
+        std::function<QDateTime()> now = &QDateTime::currentDateTimeUtc;
+        SystemDescription system = SystemDescription::current();
+    };
+
+    /// The process's client. The application says how it is made, in a SharedInstance.
+    static TelemetryDeckClient& shared();
+
+    explicit TelemetryDeckClient(Ports ports,
+                                 TelemetryOptions options = TelemetryOptions::fromEnvironment());
+    ~TelemetryDeckClient();
+    TelemetryDeckClient(const TelemetryDeckClient&) = delete;
+    TelemetryDeckClient& operator=(const TelemetryDeckClient&) = delete;
+
+    /// The application that later signals name; empty at first.
+    void setAppID(const QString& id);
+
+    /// Collects a signal, to be sent later; where signals are not allowed, does nothing at all. A
+    /// parameter replaces what every signal says under the same key. Any thread.
+    void signal(const QString& name, const Parameters& parameters);
+
+    /// Starts to send what was collected. With a batch under way this happens right after that one.
+    void flush();
+
+    /// To be called when the program ends: starts the last flush.
+    void appWillTerminate();
+
+    /// Runs an event loop, without user input, until no request is under way any more, at most for
+    /// this long. Whether that was achieved. A clean end of the program calls it after
+    /// `appWillTerminate`, with a second at most; what has not left by then is lost.
+    bool waitForRequests(std::chrono::milliseconds longest);
+
+private:
+    using Batch = std::vector<QByteArray>; ///< encoded signals
+
+    Parameters defaultPayload() const;
+    QString clientUser();
+    QString userIdentifier();
+    QNetworkRequest request() const;
+    void send(Batch signalsToSend);
+    void requestFinished();
+    void putBack(Batch unsent);
+
+    const Ports ports;
+    const TelemetryOptions options;
+    const QString sessionID;
+    const Parameters everySignalsPayload;
+
+    std::once_flag identified;
+    QString hashedUser; ///< once identified
+
+    std::mutex bufferLock; ///< guards the next two
+    QString appID;
+    Batch buffer;
+
+    Batch inFlight;
+    QNetworkReply* reply = nullptr; ///< of the batch in flight; owned by the network
+    bool flushAgain = false;
+    QObject replyContext; ///< ends with the client: a late answer then finds nobody
+    std::unique_ptr<RepeatingTimer> flushTimer;
+};
+
+} // namespace tessaline
