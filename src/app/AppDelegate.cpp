@@ -1,89 +1,364 @@
 #include "app/AppDelegate.h"
 
+#include "analytics/UsageRecorder.h"
+#include "app/ConfigWindowPlacement.h"
+#include "app/StatusItem.h"
+#include "app/shortcuts/Shortcuts.h"
+#include "platform/AccessibilityTrust.h"
+#include "platform/ActivationPolicy.h"
+#include "platform/BundleInformation.h"
+#include "platform/MainQueue.h"
+#include "platform/ScreenCoordinates.h"
+#include "platform/WindowTraits.h"
+#include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
+#include "render/MarkdownRenderer.h"
 #include "sources/ClipboardSource.h"
+#include "sources/FollowedFile.h"
 #include "sources/ObsidianSource.h"
+#include "sources/SourceManager.h"
+#include "ui/ConfigWindow.h"
+#include "ui/OnboardingWindow.h"
 
-#include <QCoreApplication>
-#include <QKeySequence>
-#include <QShortcut>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
 
 namespace tessaline {
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The object, which the launch must have made by now.
+template <typename Object>
+Object& required(const std::unique_ptr<Object>& object, const char* name) {
+    if (!object) qFatal("The application delegate has no %s: it was not launched", name);
+    return *object;
+}
+
+void makeKeyAndOrderFront(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
 AppDelegate::AppDelegate(const Environment& borrowed)
     : environment(borrowed)
-    , screenManager(environment.prompter.screens, environment.notifications) {}
+    , screenManager(environment.prompter.screens, environment.notifications)
+    , permissionManager(permissionPorts())
+    , self(std::make_shared<AppDelegate*>(this)) {}
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::applicationDidFinishLaunching(const std::optional<QString>& text) {
+PermissionPorts AppDelegate::permissionPorts() const {
+    return {environment.trust,           environment.processes,          environment.bundle,
+            environment.prompter.timers, environment.prompter.mainQueue, environment.notifications};
+}
+
+WindowPorts AppDelegate::windowPorts() const {
+    return {permissionPorts(),    environment.prompter.screens,
+            environment.recorder, environment.obsidian,
+            environment.notes,    environment.icons};
+}
+
+PrompterWindow& AppDelegate::prompter() const {
+    return required(prompterWindow, "prompter window");
+}
+
+ConfigWindow& AppDelegate::config() const {
+    return required(configWindow, "settings window");
+}
+
+SourceManager& AppDelegate::sources() const {
+    return required(sourceManager, "source manager");
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    environment.recorder.trackAppLaunch();
+    createSourceManager();
+    screenManager.preferredDisplayID = settings.preferredDisplayID;
+    createPrompterWindow();
+    createConfigWindow();
+    connectButtons();
+    setupStatusItem();
+    screenManager.onScreenChange = weakly(&AppDelegate::screensChanged);
+    sourceManager->onContentUpdate = weakly(&AppDelegate::showContent);
+    sourceChangeObserver =
+        environment.notifications.observe(SourceManager::activeSourceDidChangeNotification(),
+                                          weakly(&AppDelegate::activeSourceChanged));
+    prompterWindow->updateSourceIndicator(settings.activeSourceType);
+    configureTelemetry();
+    environment.recorder.trackPermissionStatus(PermissionType::accessibility,
+                                               environment.trust.isTrusted());
+    environment.recorder.trackEnvironmentSnapshot(settings);
+    if (settings.hasCompletedOnboarding) {
+        startApp();
+    } else {
+        showOnboarding();
+    }
+}
+
+void AppDelegate::applicationWillTerminate() {
+    environment.recorder.trackAppTerminate();
+}
+
+void AppDelegate::createSourceManager() {
     const PrompterPorts& ports = environment.prompter;
     sourceManager = std::make_unique<SourceManager>(
         settings, environment.recorder, environment.notifications,
         std::make_unique<ObsidianSource>(ports.mainQueue, environment.fileTasks, ports.timers),
         std::make_unique<ClipboardSource>(environment.pasteboard));
-    screenManager.preferredDisplayID = settings.preferredDisplayID;
-    createPrompter();
-    screenManager.onScreenChange = [this] {
-        prompterWindow->updateFrame();
-        prompterWindow->rerender();
-    };
-    sourceManager->onContentUpdate = [this](const QString& content) {
-        prompterWindow->updateText(content);
-    };
-    sourceChangeObserver = environment.notifications.observe(
-        SourceManager::activeSourceDidChangeNotification(), [this](const Notification& change) {
-            if (const auto* source = change.value<SourceType>(QStringLiteral("sourceType")))
-                prompterWindow->updateSourceIndicator(*source);
-        });
-    prompterWindow->updateSourceIndicator(settings.activeSourceType);
-    startApp(text);
 }
 
-void AppDelegate::createPrompter() {
+void AppDelegate::createPrompterWindow() {
     prompterWindow = std::make_unique<PrompterWindow>(settings, environment.prompter);
     prompterWindow->setScreenManager(&screenManager);
     prompterWindow->updateFrame();
+}
 
+void AppDelegate::createConfigWindow() {
+    configWindow = std::make_unique<ConfigWindow>(settings, sourceManager.get(), windowPorts());
+    configWindow->setScreenManager(&screenManager);
+    configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
+    configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
+    configWindow->winId(); // makes the native window
+    new FrameMarginsWatch(*configWindow->windowHandle(),
+                          weakly(&AppDelegate::repositionConfigWindow));
+}
+
+void AppDelegate::connectButtons() {
     const ControlStrip& controls = prompterWindow->controls();
-    connect(controls.autoScrollButton, &QAbstractButton::clicked, this, [this] { toggleScroll(); });
-    connect(controls.minimizeButton, &QAbstractButton::clicked, this,
-            [this] { prompterWindow->toggleCollapsed(); });
-    connect(controls.pasteButton, &QAbstractButton::clicked, this,
-            [this] { sourceManager->cycleSource(); });
-    controls.configButton->setEnabled(false); // there is no settings window to open so far
-    connect(controls.quitButton, &QAbstractButton::clicked, qApp, &QCoreApplication::quit);
-
-    const auto shortcut = [this](const QKeySequence& keys, auto action) {
-        connect(new QShortcut(keys, prompterWindow.get()), &QShortcut::activated, this, action);
+    const auto wire = [this](QAbstractButton* button, void (AppDelegate::*action)()) {
+        QObject::connect(button, &QAbstractButton::clicked, button, weakly(action));
     };
-    shortcut(Qt::CTRL | Qt::Key_V, [this] { pasteFromClipboard(); });
-    shortcut(Qt::META | Qt::Key_V, [this] { pasteFromClipboard(); });
-    shortcut(QKeySequence::Quit, [] { QCoreApplication::quit(); });
+    wire(controls.configButton, &AppDelegate::showConfig);
+    wire(controls.autoScrollButton, &AppDelegate::toggleScroll);
+    wire(controls.minimizeButton, &AppDelegate::toggleMinimize);
+    wire(controls.pasteButton, &AppDelegate::cycleSource);
+    // It hides only: the program ends from the status menu.
+    wire(controls.quitButton, &AppDelegate::hidePrompterWindow);
 }
 
-void AppDelegate::startApp(const std::optional<QString>& text) {
-    prompterWindow->makeKeyAndOrderFront();
-    if (text && !text->isEmpty()) makeClipboardActive();
-    sourceManager->startWatching();
-    if (text) sourceManager->pasteText(*text);
+void AppDelegate::setupStatusItem() {
+    StatusItem::Actions actions;
+    actions.showPrompter = weakly(&AppDelegate::showPrompterWindow);
+    actions.showConfig = weakly(&AppDelegate::showConfig);
+    actions.quit = weakly(&AppDelegate::quitApp);
+    statusItem = std::make_unique<StatusItem>(environment.systemSymbol, std::move(actions));
+    if (!environment.statusItemOpensItsMenu) statusItem->showPrompterOnClick();
+    // The keys that the menu names work in the prompter as well.
+    prompterWindow->addActions(statusItem->actions());
 }
 
-void AppDelegate::pasteFromClipboard() {
-    makeClipboardActive();
-    sourceManager->pasteFromClipboard();
+void AppDelegate::configureTelemetry() {
+    const auto appID = environment.bundle.value(u"TelemetryDeckAppID"_s);
+    if (appID && !appID->isEmpty()) environment.setTelemetryAppID(*appID);
 }
 
-void AppDelegate::makeClipboardActive() {
-    if (settings.activeSourceType != SourceType::clipboard)
-        sourceManager->setActiveSource(SourceType::clipboard);
+void AppDelegate::startApp() {
+    prompter().makeKeyAndOrderFront();
+    setupShortcuts();
+    sources().startWatching();
+    if (textToOpen) showText(*std::exchange(textToOpen, std::nullopt));
+}
+
+void AppDelegate::setupShortcuts() {
+    const Shortcuts::Ports ports{
+        environment.trust,     environment.prompter.timers, environment.prompter.mainQueue,
+        environment.localKeys, environment.globalKeys,      environment.eventTaps,
+        environment.recorder};
+    Shortcuts::Actions actions;
+    actions.performScroll = weakly(&AppDelegate::performScroll);
+    actions.toggleScroll = weakly(&AppDelegate::toggleScroll);
+    actions.paste = weakly(&AppDelegate::pasteFromClipboard);
+    shortcuts = std::make_unique<Shortcuts>(ports, std::move(actions));
+    shortcuts->setupShortcuts();
+}
+
+void AppDelegate::showOnboarding() {
+    environment.activationPolicy.set(ActivationPolicy::Kind::regular);
+    environment.recorder.trackOnboardingStarted();
+    onboardingWindow = std::make_unique<OnboardingWindow>(permissionManager, settings,
+                                                          sourceManager.get(), windowPorts());
+    onboardingWindow->onComplete = weakly(&AppDelegate::finishOnboarding);
+    onboardingWindow->onSkip = weakly(&AppDelegate::finishOnboarding);
+    bringToFront(*onboardingWindow);
+}
+
+void AppDelegate::finishOnboarding() {
+    if (!onboardingWindow) return;
+    // The window is calling: it goes once that call is over.
+    finishedOnboardingWindow = std::move(onboardingWindow);
+    finishedOnboardingWindow->hide();
+    environment.prompter.mainQueue.post(weakly(&AppDelegate::dropFinishedOnboarding));
+    environment.activationPolicy.set(ActivationPolicy::Kind::accessory);
+    startApp();
+}
+
+void AppDelegate::dropFinishedOnboarding() {
+    finishedOnboardingWindow.reset();
+}
+
+void AppDelegate::showPrompterWindow() {
+    prompter().makeKeyAndOrderFront();
+    prompter().updateFrame();
+    environment.recorder.record({.name = u"window_shown"_s});
+}
+
+void AppDelegate::hidePrompterWindow() {
+    prompter().hide();
+    environment.recorder.record({.name = u"window_hidden"_s});
+}
+
+void AppDelegate::toggleMinimize() {
+    prompter().toggleCollapsed();
+    environment.recorder.record(
+        {.name = prompter().isCollapsed() ? u"window_minimized"_s : u"window_expanded"_s});
 }
 
 void AppDelegate::toggleScroll() {
-    prompterWindow->toggleAutoScroll();
+    prompter().toggleAutoScroll();
+    config().refreshUI();
+    environment.recorder.trackAutoScrollToggled(settings.autoScrollEnabled, settings.scrollRate);
+}
+
+void AppDelegate::cycleSource() {
+    sources().cycleSource();
+}
+
+void AppDelegate::showConfig() {
+    config().refreshUI();
+    repositionConfigWindow();
+    makeKeyAndOrderFront(config());
+    config().startPeriodicRefresh();
+    environment.activationPolicy.activateIgnoringOtherApps();
+    environment.recorder.record({.name = u"settings_opened"_s});
+}
+
+void AppDelegate::quitApp() {
+    environment.terminate();
+}
+
+void AppDelegate::reveal() {
+    if (onboardingWindow) {
+        bringToFront(*onboardingWindow);
+    } else {
+        showPrompterWindow();
+    }
+}
+
+void AppDelegate::bringToFront(QWidget& window) {
+    makeKeyAndOrderFront(window);
+    environment.activationPolicy.activateIgnoringOtherApps();
+}
+
+void AppDelegate::openText(const QString& text) {
+    followedFile.reset();
+    showText(text);
+}
+
+void AppDelegate::showText(const QString& text) {
+    if (!hasStarted()) {
+        textToOpen = text;
+    } else if (!text.isEmpty()) {
+        makeClipboardActive();
+        sources().pasteText(text);
+        trackPaste();
+    }
+}
+
+void AppDelegate::followFile(const QString& path, const QString& text) {
+    const PrompterPorts& ports = environment.prompter;
+    showText(text);
+    followedFile =
+        std::make_unique<FollowedFile>(path, text, ports.mainQueue, environment.fileTasks,
+                                       ports.timers, weakly(&AppDelegate::showText));
+}
+
+void AppDelegate::pasteFromClipboard() {
+    followedFile.reset();
+    makeClipboardActive();
+    sources().pasteFromClipboard();
+    trackPaste();
+}
+
+void AppDelegate::makeClipboardActive() {
+    if (settings.activeSourceType == SourceType::clipboard) return;
+    sources().setActiveSource(SourceType::clipboard);
+    prompter().updateSourceIndicator(SourceType::clipboard);
+    config().refreshUI();
+}
+
+void AppDelegate::trackPaste() {
+    environment.recorder.trackContentPasted(
+        MarkdownRenderer::wordCount(sources().currentContent()));
+}
+
+void AppDelegate::setScrollSpeed(double speed) {
+    settings.scrollSpeed = speed;
+    if (speed > 0) settings.lastNonZeroScrollSpeed = speed;
+    settings.save();
+    prompter().updateScrollParameters();
+    environment.recorder.trackSettingChanged(u"scrollSpeed"_s, QString::number(speed));
+}
+
+void AppDelegate::chooseScrollRate(ScrollRate rate) {
+    config().chooseScrollRate(rate);
+}
+
+bool AppDelegate::chooseSource(SourceType source) {
+    return config().chooseSource(source);
+}
+
+void AppDelegate::performScroll(double deltaY) {
+    prompter().performScroll(deltaY);
+}
+
+void AppDelegate::showContent(const QString& content) {
+    prompter().updateText(content);
+}
+
+void AppDelegate::settingsChanged() {
+    prompter().updateFrame();
+    prompter().rerender();
+    prompter().updateScrollParameters();
+    repositionConfigWindow();
+}
+
+void AppDelegate::screensChanged() {
+    prompter().updateFrame();
+    prompter().rerender();
+    config().rebuildScreenPopup();
+}
+
+void AppDelegate::handleSourceChange(SourceType source) {
+    prompter().updateSourceIndicator(source);
+    sources().startWatching();
+    environment.recorder.trackSourceChanged(source);
+}
+
+void AppDelegate::activeSourceChanged(const Notification& change) {
+    const auto* source = change.value<SourceType>(u"sourceType"_s);
+    if (!source) return;
+    prompter().updateSourceIndicator(*source);
+    if (*source != SourceType::clipboard) followedFile.reset();
+}
+
+void AppDelegate::repositionConfigWindow() {
+    const Rect screen = prompter().currentScreen().value_or(screenManager.preferredScreen()).frame;
+    const QScreen* primaryScreen = QGuiApplication::primaryScreen();
+    const QRect primary = primaryScreen ? primaryScreen->geometry() : QRect();
+    const QMargins frame = config().windowHandle()->frameMargins();
+    const QRect now = config().geometry().marginsAdded(frame);
+    const Rect target = configWindowFrame(fromQtCoordinates(now, primary), screen, settings.height);
+    config().setGeometry(toQtCoordinates(target, primary).marginsRemoved(frame));
 }
 
 } // namespace tessaline

@@ -1,57 +1,133 @@
 #pragma once
 
+#include "app/Environment.h"
+#include "permissions/PermissionManager.h"
 #include "platform/NotificationCenter.h"
-#include "prompter/PrompterPorts.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
-#include "sources/SourceManager.h"
+#include "settings/SourceType.h"
+#include "ui/WindowPorts.h"
 
-#include <QObject>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
+
+class QWidget;
 
 namespace tessaline {
 
-class Pasteboard;
+class ConfigWindow;
+class FollowedFile;
+class OnboardingWindow;
 class PrompterWindow;
-class UsageRecorder;
+class Shortcuts;
+class SourceManager;
+class StatusItem;
 
 /// The root of the running program: owns the settings, the managers and the windows, and wires them
-/// to one another. Main thread only.
-class AppDelegate : public QObject {
+/// to one another. An action before the launch is a programming error and ends the program. Main
+/// thread only.
+class AppDelegate {
 public:
-    /// What the delegate borrows for its whole life.
-    struct Environment {
-        PrompterPorts prompter;
-        TaskRunner& fileTasks; ///< apart from the prompter's: a hanging read must not hold it up
-        Pasteboard& pasteboard;
-        UsageRecorder& recorder;
-        NotificationCenter& notifications;
-    };
-
     /// Loads the settings; shows nothing yet.
     explicit AppDelegate(const Environment& environment);
-    ~AppDelegate() override;
+    ~AppDelegate();
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
 
-    /// Builds everything and shows the prompter, with this text as if it had been pasted or, if
-    /// there is none, with what the active source has.
-    void applicationDidFinishLaunching(const std::optional<QString>& text);
+    /// Builds everything and shows the prompter or, the first time, the first-run window.
+    void applicationDidFinishLaunching();
+    /// Records the end of the program.
+    void applicationWillTerminate();
+    /// The program goes on without a window.
+    static constexpr bool applicationShouldTerminateAfterLastWindowClosed() { return false; }
+
+    // What the status menu and the prompter's buttons do.
+    void showPrompterWindow();
+    void hidePrompterWindow();
+    void toggleMinimize();
+    void toggleScroll();
+    void cycleSource();
+    void showConfig();
+    void quitApp();
+
+    // What the shortcuts and remote control do besides.
+    void performScroll(double deltaY);
+    void pasteFromClipboard();
+    void setScrollSpeed(double speed);
+    void chooseScrollRate(ScrollRate rate);
+    bool chooseSource(SourceType source); ///< false: it is not enabled
+
+    /// Whether the normal start has happened: the first-run window is done with.
+    bool hasStarted() const { return shortcuts != nullptr; }
+    const AppSettings& currentSettings() const { return settings; }
+    PrompterWindow& prompter() const;
+
+    /// Shows a text as if it had been pasted. Before the normal start and while the first-run
+    /// window is up, keeps the last one until then. An empty text changes nothing.
+    void openText(const QString& text);
+    /// The same with the text of a file, which is shown again whenever it changes on disk, until
+    /// something else is shown.
+    void followFile(const QString& path, const QString& text);
+    /// Brings to the front what the user works with: the prompter or the first-run window.
+    void reveal();
 
 private:
-    void createPrompter();
-    void startApp(const std::optional<QString>& text);
-    void pasteFromClipboard();
+    void createSourceManager();
+    void createPrompterWindow();
+    void createConfigWindow();
+    void connectButtons();
+    void setupStatusItem();
+    void configureTelemetry();
+    void startApp();
+    void setupShortcuts();
+    void showOnboarding();
+    void finishOnboarding();
+    void dropFinishedOnboarding();
+
+    void showText(const QString& text);
     void makeClipboardActive();
-    void toggleScroll();
+    void trackPaste();
+    void showContent(const QString& content);
+    void settingsChanged();
+    void screensChanged();
+    void handleSourceChange(SourceType source);
+    void activeSourceChanged(const Notification& change);
+    void repositionConfigWindow();
+    void bringToFront(QWidget& window);
+
+    PermissionPorts permissionPorts() const;
+    WindowPorts windowPorts() const;
+    ConfigWindow& config() const;
+    SourceManager& sources() const;
+
+    /// A call of the member function that does nothing once the delegate is gone.
+    template <typename... Arguments>
+    std::function<void(Arguments...)> weakly(void (AppDelegate::*action)(Arguments...)) {
+        return [weak = std::weak_ptr(self), action](Arguments... arguments) {
+            if (const auto delegate = weak.lock())
+                ((*delegate)->*action)(std::forward<Arguments>(arguments)...);
+        };
+    }
 
     Environment environment;
     AppSettings settings;
     ScreenManager screenManager;
+    PermissionManager permissionManager;
     std::unique_ptr<SourceManager> sourceManager;
     std::unique_ptr<PrompterWindow> prompterWindow;
+    std::unique_ptr<ConfigWindow> configWindow;
+    std::unique_ptr<OnboardingWindow> onboardingWindow;
+    std::unique_ptr<OnboardingWindow> finishedOnboardingWindow; ///< until its call has returned
+    std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<Shortcuts> shortcuts;
     NotificationCenter::Observation sourceChangeObserver;
+    std::unique_ptr<FollowedFile> followedFile;
+    std::optional<QString> textToOpen;  ///< waits for the normal start
+    std::shared_ptr<AppDelegate*> self; ///< what callbacks hold weakly
 };
 
 } // namespace tessaline

@@ -2,12 +2,22 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace tessaline {
 
-/// Runs the prompter until the user quits, with a text as if it had been pasted, if there is one.
-/// Returns the exit status. Where there is no display, says so on standard error at once.
-int runPrompter(int argc, char** argv, const std::optional<QString>& text);
+/// What the program is started with.
+struct PrompterStart {
+    int& argc;
+    char** argv;
+    std::optional<QString> text; ///< shown as if it had been pasted
+    QString followed;            ///< the file that the text is of, if it is to be followed
+    QString socketPath;          ///< where later command lines are heard; empty: nowhere
+};
+
+/// Runs the prompter until the user or the session ends it. Returns the exit status. Where there is
+/// no display, says so on standard error at once.
+int runPrompter(const PrompterStart& start);
 
 } // namespace tessaline

@@ -1,9 +1,9 @@
-#include "app/PrompterApplication.h"
+#include "app/ControlCall.h"
+#include "app/ShowCommand.h"
 #include "app/cli/CommandLine.h"
 #include "app/cli/Console.h"
 #include "app/cli/ExitStatus.h"
 #include "app/cli/RenderCommand.h"
-#include "app/cli/TextInput.h"
 
 #include <QStringList>
 
@@ -32,14 +32,9 @@ struct Dispatch {
 
     int operator()(const RenderRequest& request) const { return runRender(request); }
 
-    int operator()(const CommandLine::Show& request) const {
-        if (!request.input) return runPrompter(argc, argv, std::nullopt);
-        QString error;
-        const std::optional<QString> text = readTextInput(*request.input, &error);
-        if (text) return runPrompter(argc, argv, text);
-        reportError(error);
-        return ExitStatus::usage;
-    }
+    int operator()(const ControlRequest& request) const { return runControl(request); }
+
+    int operator()(const CommandLine::Show& request) const { return runShow(argc, argv, request); }
 };
 
 } // namespace

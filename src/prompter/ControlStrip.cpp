@@ -1,11 +1,12 @@
 #include "prompter/ControlStrip.h"
 
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
 #include "prompter/ElidingLabel.h"
+#include "prompter/PrompterGeometry.h"
 #include "prompter/SourceIcon.h"
 #include "prompter/controls/PressableButton.h"
-#include "prompter/controls/SystemPalette.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
-#include "prompter/fonts/PointFont.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,7 +65,6 @@ ControlStrip::ControlStrip(QWidget* parent)
     sourceLabel->setAlignment(Qt::AlignCenter);
     sourceIconView->hide();
     statsLabel->setFont(systemFont(11, QFont::Medium));
-    showCollapsed(false);
     showSourceMode(SourceMode::file);
 }
 
@@ -82,8 +82,9 @@ void ControlStrip::arrange() {
     const auto control = [&](QWidget& widget, int x) {
         return place(widget, x, centre, widget.sizeHint());
     };
-    int x = place(*quitButton, margin, centre, {closeButtonSide, closeButtonSide});
-    x = control(*minimizeButton, x);
+    quitButton->setGeometry(margin, int(std::lround(closeButtonTop(stripHeight))), closeButtonSide,
+                            closeButtonSide);
+    int x = control(*minimizeButton, margin + closeButtonSide + gap);
     x = control(*configButton, x);
     x = control(*autoScrollButton, x);
     if (!sourceIconView->isHidden())

@@ -167,7 +167,8 @@ void PrompterWindow::arrangeContent() {
     strip->setGeometry(0, 0, width(), std::max(textTop, int(std::ceil(stripHeight))));
     strip->setStripHeight(stripHeight);
     const int textHeight = collapsed ? 0 : std::max(height() - textTop - textMargin, 0);
-    scrollArea->setGeometry(textMargin, textTop, std::max(width() - 2 * textMargin, 0), textHeight);
+    const int textWidth = std::max(int(textLayoutWidth(width())), 0);
+    scrollArea->setGeometry(textMargin, textTop, textWidth, textHeight);
     view->resize(scrollArea->size());
 }
 

@@ -42,6 +42,9 @@ public:
     /// Places and sizes the window as the settings say.
     void updateFrame();
 
+    /// The screen that most of the window is on, or should be while it is on none.
+    std::optional<Screen> currentScreen() const;
+
     /// The height of the strip that a menu bar takes on the window's screen, in points.
     double menuBarHeight() const;
 
@@ -98,7 +101,6 @@ private:
     void renderMarkdown(const QString& content);
     void renderPlaceholder();
     void showContent(RenderedContent content);
-    std::optional<Screen> currentScreen() const;
     void setFrame(const Rect& frame);
     void animateTo(const Rect& frame);
     bool isResizing() const;

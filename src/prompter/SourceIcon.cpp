@@ -1,6 +1,6 @@
 #include "prompter/SourceIcon.h"
 
-#include "prompter/controls/SystemPalette.h"
+#include "appearance/SystemPalette.h"
 
 #include <QIconEngine>
 #include <QPainter>

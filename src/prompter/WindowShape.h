@@ -5,8 +5,7 @@ class QWidget;
 namespace tessaline {
 
 /// Cuts the window to its shape where the desktop cannot show translucent ones: square at the top,
-/// round at the bottom unless it is to be
-/// square there too. Call it when any of this changes.
+/// round at the bottom unless it is to be square there too. Call it when any of this changes.
 void updateShape(QWidget& window, bool square, bool showsTranslucency);
 
 /// Fills the window's shape with black, with smooth corners. For paint events.

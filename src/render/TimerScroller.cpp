@@ -42,7 +42,7 @@ void TimerScroller::updatePixelsPerSecond(double value) {
 }
 
 void TimerScroller::tick() {
-    if (pixelsPerSecond <= 0.0) return;
+    if (!(pixelsPerSecond > 0.0)) return; // nor when it is not a number
     // The frame time is fixed: how late the timer fires is not measured.
     scrollRemainder += pixelsPerSecond / framesPerSecond;
     if (scrollRemainder < smallestScroll) return;

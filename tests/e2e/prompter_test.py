@@ -1,10 +1,9 @@
 """The prompter as its user meets it: scripts, sources, scrolling, the strip of controls."""
 
-import json
 import os
 import unittest
 
-from harness import DesktopTestCase, wait_until
+from harness import TessalineTestCase, wait_until
 from harness.session import PANEL_COLOR, PANEL_HEIGHT
 from harness.waiting import holds_for
 
@@ -19,26 +18,9 @@ ELSEWHERE = (200, 600)
 BLACK = (0, 0, 0)
 
 
-class PrompterTestCase(DesktopTestCase):
-    def support_folder(self):
-        folder = self.desktop.home / "Library/Application Support/Tessaline"
-        folder.mkdir(parents=True, exist_ok=True)
-        return folder
-
-    def settings(self):
-        return json.loads((self.support_folder() / "config.json").read_text())
-
-    def write_settings(self, **values):
-        (self.support_folder() / "config.json").write_text(json.dumps(values))
-
-    def write_script(self, text):
-        path = self.desktop.home / "talk.md"
-        path.write_text(text)
-        return path
-
+class PrompterTestCase(TessalineTestCase):
     def start(self, *arguments):
-        self.prompter = self.start_tessaline(*arguments)
-        self.window = self.desktop.wait_for_window(pid=self.prompter.pid)
+        super().start(*arguments)
         wait_until(lambda: self.desktop.pixel(LEFT + 5, 100) == BLACK, "the prompter is black")
 
     def text_pixels(self):
@@ -65,7 +47,7 @@ class PrompterTestCase(DesktopTestCase):
         wait_until(lambda: self.text_pixels() != before, "the text has changed", 3)
 
 
-class FirstStart(PrompterTestCase):
+class Start(PrompterTestCase):
     def test_hangs_from_the_top_centre_above_the_panel(self):
         self.start(self.write_script("# Hello\n\nThis is a talk."))
         self.assertEqual(self.desktop.geometry(self.window), (LEFT, 0, WIDTH, HEIGHT))
@@ -120,7 +102,9 @@ class FirstStart(PrompterTestCase):
             self.assertEqual(program.wait(), 2)
             self.assertEqual(len(program.stderr().strip().splitlines()), 1, program.stderr())
             self.assertTrue(program.stderr().startswith("tessaline: "))
-        self.assertFalse((self.desktop.home / "Library").exists())
+        files = [path.name for path in self.support_folder().iterdir()]
+        self.assertEqual(files, ["config.json"])
+        self.assertEqual(self.settings(), {"hasCompletedOnboarding": True})
 
     def test_says_so_without_a_display(self):
         program = self.start_tessaline(DISPLAY="", QT_QPA_PLATFORM="")
@@ -247,10 +231,6 @@ class Use(PrompterTestCase):
         wait_until(lambda: len(self.desktop.windows(pid=self.prompter.pid)) == 2, "a menu is open")
         self.desktop.key("Escape")
         wait_until(lambda: len(self.desktop.windows(pid=self.prompter.pid)) == 1, "it is closed")
-
-    def test_quits_with_its_close_button(self):
-        self.desktop.click(*CLOSE)
-        self.assertEqual(self.prompter.wait(), 0)
 
     def test_gives_the_keyboard_back_to_who_had_it(self):
         probe = self.desktop.start("normal", [os.environ["TESSALINE_PROBE"], "normal", "#0000ff"])

@@ -44,6 +44,13 @@ TEST_F(AutoScrollTest, RunsFromTheStartWhenTheSettingsSaySo) {
     EXPECT_FALSE(make()->running());
 }
 
+TEST_F(AutoScrollTest, RunsNoTimerWhereThereIsADisplayLink) {
+    settings.autoScrollEnabled = true;
+    const auto scroll = make();
+    EXPECT_TRUE(timers.liveIntervals().empty());
+    EXPECT_EQ(links.living.size(), 1u);
+}
+
 TEST_F(AutoScrollTest, MovesAtTheSpeedOfTheRate) {
     settings.autoScrollEnabled = true;
     settings.scrollRate = ScrollRate::fast;

@@ -1,23 +1,14 @@
 #include "prompter/PrompterWindow.h"
 
+#include "appearance/SystemPalette.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/ElidingLabel.h"
+#include "prompter/PrompterWindowFixture.h"
 #include "prompter/controls/PressableButton.h"
-#include "prompter/controls/SystemPalette.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "prompter/view/ScriptView.h"
-#include "settings/AppSettings.h"
-#include "support/FakeDisplayLinkMaker.h"
-#include "support/FakeMainQueue.h"
-#include "support/FakeScreens.h"
-#include "support/FakeTaskRunner.h"
-#include "support/FakeTimerMaker.h"
-#include "support/FakeWindowTraits.h"
 
 #include <QApplication>
-#include <QScreen>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -29,54 +20,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// A prompter on one screen, the offscreen platform's, with a panel of 32 points at its top.
-class PrompterWindowTest : public testing::Test {
-protected:
-    PrompterWindowTest() {
-        const QSize size = QApplication::primaryScreen()->size();
-        Screen screen{.id = 1, .name = u"screen"_s};
-        screen.frame = {0, 0, double(size.width()), double(size.height())};
-        screen.visibleFrame = screen.frame;
-        screen.visibleFrame.height -= 32;
-        screen.refreshRate = 144;
-        screens.attached = {screen};
-        screens.main = screen;
-    }
-
-    PrompterWindow& window() {
-        if (!prompter) {
-            prompter = std::make_unique<PrompterWindow>(
-                settings, PrompterPorts{queue, tasks, timers, links, screens, traits});
-            prompter->show();
-        }
-        return *prompter;
-    }
-
-    void show(const QString& markdown) {
-        window().updateText(markdown);
-        queue.runAll();
-        window().textView().completeLayout();
-    }
-
-    QString statistics() { return window().controls().statsLabel->text(); }
-
-    /// Lets the resize animation run to its end.
-    void finishResizing(int height) {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window().height() == height; }, 3000))
-            << window().height();
-    }
-
-    QTemporaryDir folder;
-    AppSettings settings{folder.filePath(u"config.json"_s)};
-    FakeMainQueue queue;
-    FakeTaskRunner tasks;
-    FakeTimerMaker timers;
-    FakeDisplayLinkMaker links;
-    FakeScreens screens;
-    FakeWindowTraits traits;
-    std::unique_ptr<PrompterWindow> prompter;
-};
 
 TEST_F(PrompterWindowTest, HangsFromTheTopCentreOfTheScreen) {
     const int screenWidth = QApplication::primaryScreen()->size().width();
@@ -239,6 +182,24 @@ TEST_F(PrompterWindowTest, RerendersNothingBeforeTheFirstText) {
     EXPECT_TRUE(statistics().isEmpty());
 }
 
+TEST_F(PrompterWindowTest, RerendersThePlaceholderAsItsHint) {
+    show(u"PLACEHOLDER"_s);
+    settings.fontSize = 30;
+    window().rerender();
+    EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
+    EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
+}
+
+TEST_F(PrompterWindowTest, KeepsThePlaceWhenAnEditedTextArrives) {
+    const QString text = u"line\n"_s.repeated(100);
+    show(text);
+    window().performScroll(-400);
+    show(text + u"one more"_s);
+    EXPECT_EQ(window().textView().scrollPosition(), 400);
+    show(u"all gone"_s);
+    EXPECT_EQ(window().textView().scrollPosition(), 0);
+}
+
 TEST_F(PrompterWindowTest, TellsWordsAndTime) {
     show(u"one two three"_s);
     EXPECT_EQ(statistics(), u"3 words • ~5s"_s);
@@ -301,6 +262,26 @@ TEST_F(PrompterWindowTest, ResumesAutoScrollAtTheDefaultSpeedWhenThereIsNone) {
     EXPECT_EQ(saved.scrollSpeed, 2.0);
 }
 
+TEST_F(PrompterWindowTest, ResumesAutoScrollAtTheLastSpeed) {
+    settings.scrollSpeed = 0;
+    settings.lastNonZeroScrollSpeed = 3;
+    window().toggleAutoScroll();
+    EXPECT_EQ(settings.scrollSpeed, 3.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 3.0);
+}
+
+TEST_F(PrompterWindowTest, KeepsItsSpeedWhenAutoScrollIsSwitchedOffAndOn) {
+    settings.scrollSpeed = 1.5;
+    settings.lastNonZeroScrollSpeed = 3;
+    window().toggleAutoScroll();
+    window().toggleAutoScroll();
+    EXPECT_FALSE(AppSettings(*settings.testConfigURL).autoScrollEnabled);
+    EXPECT_EQ(settings.scrollSpeed, 1.5);
+    window().toggleAutoScroll();
+    EXPECT_EQ(settings.scrollSpeed, 1.5);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 3.0);
+}
+
 TEST_F(PrompterWindowTest, MovesTheTextWithEveryFrameWhileAutoScrollIsOn) {
     show(u"line\n"_s.repeated(100));
     settings.scrollRate = ScrollRate::fast;
@@ -349,10 +330,11 @@ TEST_F(PrompterWindowTest, NamesTheSourceMode) {
 TEST_F(PrompterWindowTest, ShowsWhatTheMinimizeButtonDoesNext) {
     const auto* button = window().controls().minimizeButton;
     EXPECT_EQ(button->text(), u"—"_s);
-    EXPECT_EQ(button->font().weight(), QFont::Bold);
     window().toggleCollapsed();
     EXPECT_EQ(button->text(), u"□"_s);
-    EXPECT_EQ(button->font().weight(), QFont::DemiBold);
+    window().toggleCollapsed();
+    EXPECT_EQ(button->text(), u"—"_s);
+    EXPECT_EQ(button->font().weight(), QFont::Bold);
 }
 
 struct Control {

@@ -1,6 +1,6 @@
 #include "prompter/ReadingStatistics.h"
 
-#include "prompter/controls/SystemPalette.h"
+#include "appearance/SystemPalette.h"
 
 #include <gtest/gtest.h>
 

@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <memory>
 #include <string>
 
@@ -99,6 +100,15 @@ TEST_F(TimerScrollerTest, DoesNotJumpAfterAStretchAtSpeedZero) {
     EXPECT_THAT(delegate->deltas, IsEmpty());
     EXPECT_TRUE(engine->running());
     engine->updatePixelsPerSecond(-20.0);
+    fire(10);
+    EXPECT_THAT(delegate->deltas, IsEmpty());
+    engine->updatePixelsPerSecond(19.2);
+    fire(1);
+    EXPECT_THAT(delegate->deltas, ElementsAre(DoubleEq(-0.32)));
+}
+
+TEST_F(TimerScrollerTest, DeliversNothingAtASpeedThatIsNotANumber) {
+    startAt(std::nan(""));
     fire(10);
     EXPECT_THAT(delegate->deltas, IsEmpty());
     engine->updatePixelsPerSecond(19.2);

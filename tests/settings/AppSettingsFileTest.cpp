@@ -1,6 +1,7 @@
 #include "settings/AppSettings.h"
 
 #include "settings/TemporaryHome.h"
+#include "support/OrdinaryUser.h"
 #include "support/TestFiles.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <ostream>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tessaline {
 namespace {
@@ -102,6 +104,29 @@ TEST_F(AppSettingsFile, LoadsAFileOfTheGreatestSize) {
     const QByteArray json = R"({"fontSize": 20})";
     putFile(path, json + QByteArray(16'777'216 - json.size(), ' '));
     EXPECT_EQ(AppSettings(path).fontSize, 20.0);
+}
+
+constexpr auto openToAll = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                           QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                           QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+
+// Permissions do not bind the superuser, hence the child process that gives such powers up.
+TEST_F(AppSettingsFile, AFileThatMustNotBeReadIsReportedAndKept) {
+    const QByteArray json = R"({"fontSize": 20})";
+    putFile(path, json);
+    ASSERT_TRUE(QFile::setPermissions(home.path(), openToAll));
+    ASSERT_TRUE(QFile::setPermissions(path, {}));
+    EXPECT_EXIT(
+        {
+            becomeOrdinaryUser();
+            const bool isReported =
+                printedByLoading() == "⚠️ Failed to load config: Permission denied\n";
+            ::_exit(isReported && !HasFailure() ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner));
+    EXPECT_EQ(fileBytes(path), json);
+    EXPECT_FALSE(QFileInfo::exists(path + u".unreadable"_s));
 }
 
 TEST_F(AppSettingsFile, AFolderInItsPlaceIsReportedAndKept) {

@@ -30,6 +30,12 @@ const CommandOption* findOption(const CommandSpec& spec, QStringView name) {
     return found == spec.options.end() ? nullptr : &*found;
 }
 
+/// Where numbers are expected, a negative one is no option: what is wrong with it can then be told.
+bool isOption(const CommandSpec& spec, const QString& argument) {
+    if (argument.size() < 2 || !argument.startsWith(u'-')) return false;
+    return spec.actions.empty() || !argument[1].isDigit();
+}
+
 } // namespace
 
 CommandArguments CommandArguments::parse(const CommandSpec& spec, const QStringList& arguments) {
@@ -39,7 +45,7 @@ CommandArguments CommandArguments::parse(const CommandSpec& spec, const QStringL
         if (argument == "--"_L1) {
             for (; next != arguments.end(); ++next)
                 result.operands.push_back(*next);
-        } else if (argument.startsWith(u'-') && argument != "-"_L1) {
+        } else if (isOption(spec, argument)) {
             result.addOption(spec, argument, next, arguments.end());
         } else {
             result.operands.push_back(argument);
@@ -55,7 +61,7 @@ void CommandArguments::addOption(const CommandSpec& spec, const QString& argumen
                                  QStringList::const_iterator end) {
     const auto [name, attachedValue] = splitOption(argument);
     const CommandOption* option = findOption(spec, name);
-    const bool takesValue = option && !option->valueName.isEmpty();
+    const bool takesValue = option && option->value.isTaken();
     const bool isLong = argument.startsWith("--"_L1);
     if (!option || (attachedValue && !takesValue && !isLong)) {
         error = u"unknown option '%1'"_s.arg(isLong ? name : argument);

@@ -55,13 +55,27 @@ CommandLine::Request parseRender(const CommandSpec& spec, const CommandArguments
     return request;
 }
 
-CommandLine::Request parseShow(const CommandArguments& arguments) {
-    CommandLine::Show show;
+CommandLine::Request parseControl(const CommandSpec& spec, const CommandArguments& arguments) {
+    QString error;
+    const auto request = ControlRequest::parse(arguments.operands, &error);
+    if (!request) return mistake(spec, error);
+    return *request;
+}
+
+CommandLine::Request parseShow(const CommandSpec& spec, const CommandArguments& arguments) {
+    CommandLine::Show show{.follow = arguments.has(u"follow")};
     if (!arguments.operands.isEmpty()) show.input = arguments.operands.first();
+    if (show.follow && !show.input) return mistake(spec, u"option '--follow' needs a FILE"_s);
+    if (show.follow && *show.input == "-"_L1)
+        return mistake(spec, u"standard input cannot be followed"_s);
     return show;
 }
 
 } // namespace
+
+QString CommandLine::version() {
+    return u"" TESSALINE_VERSION ""_s;
+}
 
 CommandLine::Request CommandLine::parse(const QStringList& arguments) {
     const CommandSpec* command = arguments.isEmpty() ? nullptr : commandNamed(arguments.first());
@@ -70,9 +84,9 @@ CommandLine::Request CommandLine::parse(const QStringList& arguments) {
 
     if (!parsed.error.isEmpty()) return mistake(spec, parsed.error);
     if (parsed.has(u"help")) return Print{helpText(spec)};
-    if (parsed.has(u"version")) return Print{u"tessaline " TESSALINE_VERSION "\n"_s};
-    if (command) return parseRender(spec, parsed);
-    return parseShow(parsed);
+    if (parsed.has(u"version")) return Print{u"tessaline "_s + version() + u'\n'};
+    if (!command) return parseShow(spec, parsed);
+    return spec.actions.empty() ? parseRender(spec, parsed) : parseControl(spec, parsed);
 }
 
 } // namespace tessaline

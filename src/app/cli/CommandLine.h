@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/cli/ControlRequest.h"
 #include "app/cli/RenderRequest.h"
 
 #include <QStringList>
@@ -26,13 +27,17 @@ struct CommandLine {
     /// Show the prompter, with a script if there is a path ("-" for standard input).
     struct Show {
         std::optional<QString> input;
+        bool follow = false; ///< show the file, of which there is one, again whenever it changes
         bool operator==(const Show&) const = default;
     };
 
-    using Request = std::variant<Show, RenderRequest, Print, Mistake>;
+    using Request = std::variant<Show, RenderRequest, ControlRequest, Print, Mistake>;
 
     /// Reads the arguments, without the program's name. Needs no application object; any thread.
     static Request parse(const QStringList& arguments);
+
+    /// The program's version, such as "1.2.3".
+    static QString version();
 };
 
 } // namespace tessaline

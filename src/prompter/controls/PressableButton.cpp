@@ -1,8 +1,8 @@
 #include "prompter/controls/PressableButton.h"
 
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
 #include "prompter/controls/GlyphOutline.h"
-#include "prompter/controls/SystemPalette.h"
-#include "prompter/fonts/PointFont.h"
 
 #include <QIcon>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "prompter/controls/TrackedButton.h"
 
-#include "prompter/controls/SystemPalette.h"
+#include "appearance/SystemPalette.h"
 
 #include <QFocusEvent>
 #include <QPainter>

@@ -1,6 +1,7 @@
 #include "prompter/layout/FormatTable.h"
 
-#include "prompter/fonts/PointFont.h"
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
 
 #include <QFontMetricsF>
 
@@ -44,12 +45,11 @@ FormatTable::Entry makeEntry(const TextAttributes& attributes) {
 QColor resolvedColor(const TextColor& color) {
     switch (color.base) {
     case TextColor::Base::text:
-        return QColor::fromRgbF(float(AmberComponents::red), float(AmberComponents::green),
-                                float(AmberComponents::blue), float(color.alpha));
+        return SystemPalette::withAlpha(SystemPalette::amber(), color.alpha);
     case TextColor::Base::systemGreen:
-        return QColor::fromRgb(48, 209, 88, qRound(color.alpha * 255));
+        return SystemPalette::withAlpha(SystemPalette::green, color.alpha);
     case TextColor::Base::white:
-        return QColor::fromRgbF(1, 1, 1, float(color.alpha));
+        return SystemPalette::withAlpha(SystemPalette::white, color.alpha);
     }
     Q_UNREACHABLE();
 }

@@ -49,6 +49,27 @@ INSTANTIATE_TEST_SUITE_P(Arguments, CommandLineShow,
                                          Shown{{u"./render"_s}, u"./render"_s},
                                          Shown{{u"Render"_s}, u"Render"_s}, Shown{{u""_s}, u""_s}));
 
+class CommandLineFollow : public testing::TestWithParam<QStringList> {};
+
+TEST_P(CommandLineFollow, ShowsTheFileAndItsChanges) {
+    EXPECT_EQ(CommandLine::parse(GetParam()),
+              CommandLine::Request(CommandLine::Show{.input = u"talk.md"_s, .follow = true}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Arguments, CommandLineFollow,
+                         testing::Values(QStringList{u"--follow"_s, u"talk.md"_s},
+                                         QStringList{u"talk.md"_s, u"--follow"_s},
+                                         QStringList{u"--follow"_s, u"--"_s, u"talk.md"_s}));
+
+TEST(CommandLine, TellsTheRunningPrompterWhatToDo) {
+    EXPECT_EQ(CommandLine::parse({u"ctl"_s, u"next-heading"_s}),
+              CommandLine::Request(ControlRequest{ControlCommand::nextHeading, {}}));
+    EXPECT_EQ(CommandLine::parse({u"ctl"_s, u"speed"_s, u"2.50"_s}),
+              CommandLine::Request(ControlRequest{ControlCommand::speed, u"2.5"_s}));
+    EXPECT_EQ(CommandLine::parse({u"ctl"_s, u"--"_s, u"rate"_s, u"fast"_s}),
+              CommandLine::Request(ControlRequest{ControlCommand::rate, u"fast"_s}));
+}
+
 TEST(CommandLine, PrintsTheHelpOfTheProgram) {
     const CommandLine::Request help = CommandLine::Print{helpText(programSpec())};
     EXPECT_EQ(CommandLine::parse({u"--help"_s}), help);
@@ -60,6 +81,12 @@ TEST(CommandLine, PrintsTheHelpOfACommandWhateverElseIsMissing) {
     const CommandLine::Request help = CommandLine::Print{helpText(*commandNamed(u"render"))};
     EXPECT_EQ(CommandLine::parse({u"render"_s, u"--help"_s}), help);
     EXPECT_EQ(CommandLine::parse({u"render"_s, u"a.md"_s, u"--width"_s, u"1"_s, u"-h"_s}), help);
+}
+
+TEST(CommandLine, PrintsTheHelpOfControlWhateverElseIsWrong) {
+    const CommandLine::Request help = CommandLine::Print{helpText(*commandNamed(u"ctl"))};
+    EXPECT_EQ(CommandLine::parse({u"ctl"_s, u"--help"_s}), help);
+    EXPECT_EQ(CommandLine::parse({u"ctl"_s, u"speed"_s, u"-h"_s}), help);
 }
 
 TEST(CommandLine, PrintsTheVersion) {
@@ -107,9 +134,8 @@ class CommandLineMistake : public testing::TestWithParam<Mistaken> {};
 
 TEST_P(CommandLineMistake, IsNamedWithAHint) {
     const auto& [arguments, message] = GetParam();
-    const bool isCommand = arguments.first() == "render"_L1;
-    EXPECT_EQ(mistakeIn(arguments), message + (isCommand ? u". Try 'tessaline render --help'."_s
-                                                         : u". Try 'tessaline --help'."_s));
+    const QString command = commandNamed(arguments.first()) ? u' ' + arguments.first() : QString();
+    EXPECT_EQ(mistakeIn(arguments), message + u". Try 'tessaline%1 --help'."_s.arg(command));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -127,6 +153,22 @@ INSTANTIATE_TEST_SUITE_P(
         Mistaken{{u"--format"_s, u"json"_s}, u"unknown option '--format'"_s},
         Mistaken{{u"a.md"_s, u"b.md"_s}, u"unexpected argument 'b.md'"_s},
         Mistaken{{u"--"_s, u"a.md"_s, u"--"_s}, u"unexpected argument '--'"_s},
+        Mistaken{{u"--follow"_s}, u"option '--follow' needs a FILE"_s},
+        Mistaken{{u"--follow"_s, u"-"_s}, u"standard input cannot be followed"_s},
+        Mistaken{{u"--follow=talk.md"_s}, u"option '--follow' takes no value"_s},
+        Mistaken{{u"-5"_s}, u"unknown option '-5'"_s},
+        Mistaken{{u"ctl"_s}, u"ctl needs a COMMAND"_s},
+        Mistaken{{u"ctl"_s, u"jump"_s}, u"unknown command 'jump'"_s},
+        Mistaken{{u"ctl"_s, u"Play"_s}, u"unknown command 'Play'"_s},
+        Mistaken{{u"ctl"_s, u""_s}, u"unknown command ''"_s},
+        Mistaken{{u"ctl"_s, u"play"_s, u"now"_s}, u"unexpected argument 'now'"_s},
+        Mistaken{{u"ctl"_s, u"speed"_s, u"1"_s, u"2"_s}, u"unexpected argument '2'"_s},
+        Mistaken{{u"ctl"_s, u"speed"_s}, u"speed needs a number from 0 to 5"_s},
+        Mistaken{{u"ctl"_s, u"speed"_s, u"-1"_s}, u"speed '-1' is not a number from 0 to 5"_s},
+        Mistaken{{u"ctl"_s, u"rate"_s}, u"rate needs slow, medium or fast"_s},
+        Mistaken{{u"ctl"_s, u"source"_s}, u"source needs obsidian or clipboard"_s},
+        Mistaken{{u"ctl"_s, u"play"_s, u"--version"_s}, u"unknown option '--version'"_s},
+        Mistaken{{u"ctl"_s, u"speed"_s, u"-x"_s}, u"unknown option '-x'"_s},
         Mistaken{{u"render"_s}, u"render needs a FILE, or '-' for standard input"_s},
         Mistaken{{u"render"_s, u"--"_s}, u"render needs a FILE, or '-' for standard input"_s},
         Mistaken{{u"render"_s, u"a.md"_s, u"b.md"_s}, u"unexpected argument 'b.md'"_s},

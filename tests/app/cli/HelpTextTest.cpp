@@ -58,6 +58,21 @@ TEST(HelpText, OfTheProgramNamesEveryCommand) {
     }
 }
 
+TEST(HelpText, OfControlNamesEveryActionWithItsExplanation) {
+    const QString help = helpText(*commandNamed(u"ctl"));
+    for (const ControlAction& action : controlActions()) {
+        EXPECT_TRUE(help.contains("\n  "_L1 + action.name.toString() + u' '));
+        EXPECT_TRUE(help.contains("  "_L1 + action.help.toString() + u'\n'));
+    }
+}
+
+TEST(HelpText, PutsAnExplanationBelowATermThatIsTooWide) {
+    EXPECT_TRUE(
+        helpText(programSpec())
+            .contains(u"\n  pandoc talk.odt -t markdown | tessaline -\n"
+                      u"                              Show what another program writes.\n"_s));
+}
+
 TEST(HelpText, OfRenderTellsTheDefaultsAndLimitsThatHold) {
     const QString help = helpText(*commandNamed(u"render")).simplified();
     const RenderRequest defaults;
@@ -74,7 +89,7 @@ TEST(HelpText, OfRenderTellsTheDefaultsAndLimitsThatHold) {
 TEST(HelpText, BeginsWithTheUsage) {
     EXPECT_TRUE(helpText(*commandNamed(u"render"))
                     .startsWith(u"Usage: tessaline render FILE|- [OPTION]...\n\n"_s));
-    EXPECT_TRUE(helpText(programSpec()).startsWith(u"Usage: tessaline [FILE|-]\n"_s));
+    EXPECT_TRUE(helpText(programSpec()).startsWith(u"Usage: tessaline [--follow] [FILE|-]\n"_s));
 }
 
 } // namespace

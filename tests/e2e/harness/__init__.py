@@ -5,6 +5,7 @@ from .case import DesktopTestCase
 from .desktop import Desktop
 from .picture import Picture
 from .process import Process
+from .tessaline import TessalineTestCase
 from .waiting import wait_until
 
-__all__ = ["Desktop", "DesktopTestCase", "Picture", "Process", "wait_until"]
+__all__ = ["Desktop", "DesktopTestCase", "Picture", "Process", "TessalineTestCase", "wait_until"]

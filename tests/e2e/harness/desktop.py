@@ -17,9 +17,12 @@ OUTPUT = "screen"  # as Xvfb calls its only one
 
 
 class Desktop:
-    """Starts everything on construction; close() ends it. Use it as a context manager."""
+    """Starts everything on construction; close() ends it. Use it as a context manager. The panel has
+    a tray if this is the colour to paint it with, such as "#202020"."""
 
-    def __init__(self, size=(1280, 800), panel=True, compositor=False, monitors=None):
+    def __init__(
+        self, size=(1280, 800), panel=True, compositor=False, monitors=None, tray=None
+    ):
         session.require("xdotool", "xprop", "xrandr", "import")
         self.size = size
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
@@ -34,7 +37,7 @@ class Desktop:
             if compositor:
                 session.start_compositor(self.start, self.env)
             if panel:
-                session.start_panel(self.start, self.env, size[1])
+                self.start_panel(tray)
         except BaseException:
             print(self.logs(), file=sys.stderr)
             self.close()
@@ -50,6 +53,9 @@ class Desktop:
         while self.processes:
             self.processes.pop().end()
         shutil.rmtree(self.folder, ignore_errors=True)
+
+    def start_panel(self, tray=None):
+        session.start_panel(self.start, self.env, self.size[1], tray)
 
     @property
     def home(self):
@@ -96,10 +102,14 @@ class Desktop:
 
     def windows(self, title=None, pid=None):
         """The visible windows with a title (a regular expression) or of a process."""
-        criteria = ["--name", title] if title is not None else []
-        criteria += ["--pid", pid] if pid is not None else []
-        found = self.run("xdotool", "search", "--all", "--onlyvisible", *criteria, check=False)
-        return [int(line) for line in found.split()]
+        # One search for both finds nothing.
+        criteria = [["--name", title]] if title is not None else []
+        criteria += [["--pid", pid]] if pid is not None else []
+        searches = [
+            self.run("xdotool", "search", "--onlyvisible", *criterion, check=False).split()
+            for criterion in criteria
+        ]
+        return [int(window) for window in searches[0] if all(window in found for found in searches)]
 
     def wait_for_window(self, title=None, pid=None):
         return wait_until(

@@ -55,6 +55,25 @@ TEST_F(TrafficLightCloseButtonTest, FillsTwelveByTwelveWithACircle) {
     EXPECT_EQ(picture.pixelColor(fine, fine).alpha(), 0) << "the corners are empty";
 }
 
+TEST_F(TrafficLightCloseButtonTest, DrawsAThinRimAroundTheCircle) {
+    button.resize(20, 12);
+    // Half of the rim lies outside of the circle, over nothing.
+    const QColor rim = pictureOf(button, fine).pixelColor(4 * fine - 2, 6 * fine);
+    EXPECT_NEAR(rim.redF(), 0.85, 0.01);
+    EXPECT_NEAR(rim.greenF(), 0.28, 0.01);
+    EXPECT_NEAR(rim.blueF(), 0.24, 0.01);
+    EXPECT_NEAR(rim.alphaF(), 0.6, 0.01);
+}
+
+TEST_F(TrafficLightCloseButtonTest, DrawsTheCrossDarkOverTheCircle) {
+    pointerEnters(button);
+    // On one of its arms; in the very middle both diagonals cover each other.
+    const QColor cross = pictureOf(button, fine).pixelColor(6 * fine + 30, 6 * fine + 30);
+    EXPECT_NEAR(cross.redF(), 0.9 * 0.3 + 0.1 * 1.0, 0.01);
+    EXPECT_NEAR(cross.greenF(), 0.1 * 0.373, 0.01);
+    EXPECT_NEAR(cross.blueF(), 0.1 * 0.341, 0.01);
+}
+
 TEST_F(TrafficLightCloseButtonTest, CentresTheCircleInAWiderButton) {
     button.resize(20, 12);
 

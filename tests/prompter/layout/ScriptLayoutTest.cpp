@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
+#include <utility>
+#include <vector>
 
 namespace tessaline {
 
@@ -100,6 +103,86 @@ TEST(ScriptLayout, IndentsListItemsAndTheirFurtherLines) {
     EXPECT_NEAR(left - plainLeft, 16, 4);
     EXPECT_LE(right, 400);
     EXPECT_LE(plainRight, 400);
+}
+
+/// Where a paragraph's lines begin, in points from the column's left.
+std::vector<double> lineBeginnings(ScriptLayout layout) {
+    std::vector<double> beginnings;
+    double y = -1;
+    for (qsizetype offset = 0; offset < layout.script().styled.text.size(); ++offset) {
+        const QRectF caret = layout.caretRect(offset);
+        if (caret.top() > y) beginnings.push_back(caret.left());
+        y = caret.top();
+    }
+    return beginnings;
+}
+
+struct Indents {
+    QString prefix;
+    double first;
+    double further;
+};
+
+void PrintTo(const Indents& indents, std::ostream* out) {
+    *out << indents.prefix.toStdString();
+}
+
+class ScriptLayoutIndents : public testing::TestWithParam<Indents> {};
+
+TEST_P(ScriptLayoutIndents, SetTheFirstAndTheFurtherLinesIn) {
+    const QString text = GetParam().prefix + u"word "_s.repeated(60).trimmed();
+    const auto beginnings = lineBeginnings(layoutOf(text));
+    ASSERT_GT(beginnings.size(), 2u);
+    EXPECT_DOUBLE_EQ(beginnings[0], GetParam().first);
+    for (std::size_t line = 1; line < beginnings.size(); ++line)
+        EXPECT_DOUBLE_EQ(beginnings[line], GetParam().further) << line;
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, ScriptLayoutIndents,
+                         testing::Values(Indents{u""_s, 0, 0}, Indents{u"# "_s, 0, 0},
+                                         Indents{u"- "_s, 0, 16}, Indents{u"\t- "_s, 16, 32},
+                                         Indents{u"  - [ ] "_s, 8, 28}, Indents{u"1. "_s, 0, 20},
+                                         Indents{u"> "_s, 16, 16}, Indents{u"```\n"_s, 8, 8}));
+
+TEST(ScriptLayout, KeepsCodeAwayFromTheRightEdge) {
+    ScriptLayout layout = layoutOf(u"```\n"_s + u"x"_s.repeated(200));
+    const double advance = layout.caretRect(1).left() - layout.caretRect(0).left();
+    qsizetype fitting = 1;
+    while (layout.caretRect(fitting).top() == layout.caretRect(0).top())
+        ++fitting;
+    EXPECT_LE(8 + double(fitting) * advance, 392 + 0.1);
+    EXPECT_GT(8 + double(fitting + 1) * advance, 392);
+}
+
+TEST(ScriptLayout, PutsSpacingAboveAndBelow) {
+    const auto spacing = [](const QString& markdown) {
+        ScriptLayout layout = layoutOf(markdown);
+        const QRectF line = layout.caretRect(0);
+        return std::pair{line.top(), layout.heightOf(0) - line.bottom()};
+    };
+    EXPECT_EQ(spacing(u"text"_s), (std::pair{0.0, 0.0}));
+    EXPECT_EQ(spacing(u"# header"_s), (std::pair{12.0, 6.0}));
+    EXPECT_EQ(spacing(u"- item"_s), (std::pair{0.0, 2.0}));
+    EXPECT_EQ(spacing(u"> quote"_s), (std::pair{0.0, 4.0}));
+    EXPECT_EQ(spacing(u"---"_s), (std::pair{8.0, 8.0}));
+    EXPECT_EQ(spacing(u"```\ncode\n```"_s), (std::pair{8.0, 8.0}));
+}
+
+/// How bright it is over black beside the first letter, an x, at the top of its line.
+int groundOf(const QString& markdown) {
+    ScriptLayout layout = layoutOf(markdown);
+    QImage image(400, int(layout.height()), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    layout.draw(painter, 0, layout.height(), {});
+    painter.end();
+    return qGray(image.pixel(layout.caretRect(0).topLeft().toPoint() + QPoint(2, 2)));
+}
+
+TEST(ScriptLayout, BrightensTheGroundOfCodeALittle) {
+    EXPECT_EQ(groundOf(u"xxx"_s), 0);
+    EXPECT_NEAR(groundOf(u"`xxx`"_s), 0.08 * 255, 1);
+    EXPECT_NEAR(groundOf(u"```\nxxx\n```"_s), 0.05 * 255, 1);
 }
 
 TEST(ScriptLayout, KeepsTextInSightHoweverDeepItIsIndented) {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tessaline {
@@ -48,6 +49,18 @@ TEST_F(ScriptViewTest, StartsAtTheTop) {
     show(lines(100));
     EXPECT_EQ(view.scrollPosition(), 0);
     EXPECT_GT(view.maximumScrollPosition(), 1000);
+}
+
+TEST_F(ScriptViewTest, LeavesAMarginAroundTheText) {
+    show(u"word "_s.repeated(200));
+    EXPECT_EQ(view.caretRect(0).topLeft(), QPointF(15, 10));
+    const qsizetype last = view.script().styled.text.size();
+    EXPECT_DOUBLE_EQ(view.caretRect(last).bottom() + 10, view.documentHeight());
+    double rightmost = 0;
+    for (qsizetype offset = 0; offset < last; ++offset)
+        rightmost = std::max(rightmost, view.caretRect(offset).left());
+    EXPECT_LE(rightmost, view.width() - 15);
+    EXPECT_GT(rightmost, view.width() - 100);
 }
 
 TEST_F(ScriptViewTest, StaysWithinTheDocument) {

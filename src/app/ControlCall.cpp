@@ -1,0 +1,47 @@
+#include "app/ControlCall.h"
+
+#include "app/RemoteCommands.h"
+#include "app/cli/Console.h"
+#include "app/cli/ExitStatus.h"
+#include "app/remote/SingleInstance.h"
+
+#include <QDir>
+
+#include <chrono>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds longestWait{5};
+
+QString environmentVariable(const char* name) {
+    return qEnvironmentVariable(name);
+}
+
+int fail(const QString& reason) {
+    reportError(reason);
+    return ExitStatus::failure;
+}
+
+} // namespace
+
+int runControl(const ControlRequest& request) {
+    QString problem;
+    const auto address =
+        InstanceAddress::ofSession(&environmentVariable, QDir::tempPath(), &problem);
+    if (!address) return fail(u"no prompter can be reached: "_s + problem);
+    const auto outcome = SingleInstance::join(
+        *address, [&] { return RemoteCommands::control(request); },
+        InstanceClient::Clock::now() + longestWait);
+    if (std::holds_alternative<SingleInstance::IsUs>(outcome))
+        return fail(u"no prompter is running"_s);
+    const auto* answer = std::get_if<QJsonObject>(&outcome);
+    if (!answer) return fail(u"the prompter does not answer"_s);
+    if (!answer->value("ok"_L1).toBool()) return fail(answer->value("error"_L1).toString());
+    return printText(answer->value("text"_L1).toString() + u'\n');
+}
+
+} // namespace tessaline

@@ -1,0 +1,60 @@
+#include "app/StatusItem.h"
+
+#include "app/StatusIcon.h"
+
+#include <QKeySequence>
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
+
+QAction* addItem(QMenu& menu, const QString& title, const QKeySequence& keys,
+                 const std::function<void()>& action) {
+    QAction* item = menu.addAction(title);
+    item->setShortcut(keys);
+    item->setShortcutVisibleInContextMenu(true);
+    item->setShortcutContext(Qt::ApplicationShortcut);
+    // The titles must not make the system move them into a menu of its own.
+    item->setMenuRole(QAction::NoRole);
+    QObject::connect(item, &QAction::triggered, &menu, action);
+    return item;
+}
+
+} // namespace
+
+StatusItem::StatusItem(const Symbols& symbols, Actions actions)
+    : act(std::move(actions)), image(statusIcon(symbols)) {
+    fillMenu();
+    item.setIcon(image);
+    item.setToolTip(statusIconDescription());
+    item.setContextMenu(&menu);
+    item.show();
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        qCInfo(shellLog, "This desktop shows no tray now: start Tessaline again to get its "
+                         "prompter back, or press Ctrl+Q in it to quit");
+    }
+}
+
+void StatusItem::fillMenu() {
+    addItem(menu, u"Show Tessaline"_s, {}, act.showPrompter);
+    menu.addSeparator();
+    addItem(menu, u"Settings…"_s, Qt::CTRL | Qt::Key_Comma, act.showConfig);
+    menu.addSeparator();
+    addItem(menu, u"Quit Tessaline"_s, Qt::CTRL | Qt::Key_Q, act.quit);
+}
+
+void StatusItem::showPrompterOnClick() {
+    QObject::connect(&item, &QSystemTrayIcon::activated, &menu,
+                     [this](QSystemTrayIcon::ActivationReason reason) {
+                         if (reason == QSystemTrayIcon::Trigger) act.showPrompter();
+                     });
+}
+
+} // namespace tessaline

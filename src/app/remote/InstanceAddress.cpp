@@ -1,0 +1,72 @@
+#include "app/remote/InstanceAddress.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QFile>
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Whether the path is a folder of ours that nobody else can enter. A symbolic link is none.
+bool isPrivateFolder(const QString& path) {
+    struct stat status {};
+    if (::lstat(QFile::encodeName(path).constData(), &status) != 0) return false;
+    return S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() && (status.st_mode & 077) == 0;
+}
+
+bool makePrivateFolder(const QString& path) {
+    constexpr mode_t ownerOnly = 0700;
+    const bool made = ::mkdir(QFile::encodeName(path).constData(), ownerOnly) == 0;
+    return (made || errno == EEXIST) && isPrivateFolder(path);
+}
+
+/// A file name for the display. Screens of one X display share it.
+QString displayName(const InstanceAddress::Variable& variable) {
+    QString display = variable("DISPLAY");
+    if (display.isEmpty()) {
+        display = variable("WAYLAND_DISPLAY");
+    } else if (const auto dot = display.indexOf(u'.', display.lastIndexOf(u':')); dot > 0) {
+        display.truncate(dot);
+    }
+    if (display.isEmpty()) return u"main"_s;
+    const QByteArray name = display.toUtf8().toPercentEncoding(":");
+    constexpr qsizetype longestReadable = 32;
+    if (name.size() <= longestReadable) return QString::fromLatin1(name);
+    return QString::fromLatin1(
+        QCryptographicHash::hash(name, QCryptographicHash::Sha1).toHex().first(longestReadable));
+}
+
+bool fitsSocketAddress(const QString& path) {
+    // While it is made, the socket has a longer name of Qt's own in the same folder.
+    constexpr qsizetype reserve = 24;
+    return QFile::encodeName(path).size() + reserve < qsizetype(sizeof(sockaddr_un::sun_path));
+}
+
+} // namespace
+
+std::optional<InstanceAddress> InstanceAddress::ofSession(const Variable& variable,
+                                                          const QString& temporaryFolder,
+                                                          QString* problem) {
+    InstanceAddress address{.display = displayName(variable)};
+    const QString runtimeFolder = variable("XDG_RUNTIME_DIR");
+    if (runtimeFolder.startsWith(u'/') && isPrivateFolder(runtimeFolder)) {
+        address.folder = runtimeFolder + u"/tessaline"_s;
+        if (fitsSocketAddress(address.socketPath()) && makePrivateFolder(address.folder))
+            return address;
+    }
+    address.folder = temporaryFolder + u"/tessaline-%1"_s.arg(::geteuid());
+    if (fitsSocketAddress(address.socketPath()) && makePrivateFolder(address.folder))
+        return address;
+    *problem = u"%1 cannot be used as a private folder"_s.arg(address.folder);
+    return std::nullopt;
+}
+
+} // namespace tessaline

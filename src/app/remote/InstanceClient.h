@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+#include <chrono>
+#include <optional>
+
+namespace tessaline {
+
+/// Talks to the running instance. Waits; needs no application object. Makes the process ignore
+/// SIGPIPE.
+class InstanceClient {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    explicit InstanceClient(QString socketPath);
+
+    /// Sends the message and waits for the answer until the deadline. None where nobody listens,
+    /// and where the instance hangs, goes away or does not speak our language.
+    std::optional<QJsonObject> ask(const QJsonObject& message, Clock::time_point deadline) const;
+
+private:
+    const QString path;
+};
+
+} // namespace tessaline

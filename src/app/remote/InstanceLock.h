@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace tessaline {
+
+/// Says that this process is the one instance. The system releases it when the process ends,
+/// however that happens.
+class InstanceLock {
+public:
+    /// The lock on the file, which is made if need be; null while another process holds it, or
+    /// where the file cannot be opened. Any thread.
+    static std::unique_ptr<InstanceLock> take(const QString& path);
+
+    ~InstanceLock();
+    InstanceLock(const InstanceLock&) = delete;
+    InstanceLock& operator=(const InstanceLock&) = delete;
+
+private:
+    explicit InstanceLock(int file) : descriptor(file) {}
+
+    const int descriptor;
+};
+
+} // namespace tessaline

@@ -1,0 +1,90 @@
+#include "app/remote/InstanceServer.h"
+
+#include "app/remote/RemoteMessage.h"
+#include "platform/TimerMaker.h"
+
+#include <QFile>
+#include <QLocalSocket>
+
+#include <iterator>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+InstanceServer::InstanceServer(TimerMaker& timerMaker, Handler messageHandler)
+    : timers(timerMaker), handler(std::move(messageHandler)) {
+    server.setSocketOptions(QLocalServer::UserAccessOption);
+    QObject::connect(&server, &QLocalServer::newConnection, &server, [this] { acceptAll(); });
+}
+
+InstanceServer::~InstanceServer() {
+    server.close();
+    for (Connection& connection : connections)
+        connection.socket->disconnect();
+}
+
+bool InstanceServer::listen(const QString& path, QString* problem) {
+    QFile::remove(path);
+    if (server.listen(path)) return true;
+    *problem = server.errorString();
+    return false;
+}
+
+void InstanceServer::acceptAll() {
+    while (QLocalSocket* socket = server.nextPendingConnection()) {
+        if (connections.size() == mostConnections) drop(connections.begin());
+        socket->setParent(nullptr);
+        socket->setReadBufferSize(remoteMessage::mostBytes);
+        connections.push_back({.socket = std::unique_ptr<QLocalSocket>(socket)});
+        const auto connection = std::prev(connections.end());
+        connection->timeout = timers.every(TimerMaker::Interval(secondsPerConnection),
+                                           [this, connection] { drop(connection); });
+        QObject::connect(socket, &QLocalSocket::disconnected, &server,
+                         [this, connection] { drop(connection); });
+        QObject::connect(socket, &QLocalSocket::readyRead, &server,
+                         [this, connection] { read(connection); });
+        // Either may have happened before somebody listened.
+        if (socket->state() == QLocalSocket::UnconnectedState) {
+            drop(connection);
+        } else if (socket->bytesAvailable() > 0) {
+            read(connection);
+        }
+    }
+}
+
+void InstanceServer::read(Connections::iterator connection) {
+    if (connection->answered) return;
+    QLocalSocket& socket = *connection->socket;
+    if (socket.canReadLine()) {
+        QByteArray line = socket.readLine();
+        line.chop(1);
+        answer(*connection, line);
+    } else if (socket.bytesAvailable() >= remoteMessage::mostBytes) {
+        answer(*connection, {});
+    }
+}
+
+void InstanceServer::answer(Connection& connection, const QByteArray& line) {
+    connection.answered = true;
+    QLocalSocket& socket = *connection.socket;
+    const auto message = remoteMessage::decode(line);
+    const QJsonObject reply =
+        message ? handler(*message)
+                : QJsonObject{{u"ok"_s, false}, {u"error"_s, u"this is no message"_s}};
+    socket.write(remoteMessage::encode(reply));
+    socket.flush(); // the message may have ended the program
+    socket.disconnectFromServer();
+}
+
+void InstanceServer::drop(Connections::iterator connection) {
+    connection->socket->disconnect();
+    // Its own signal or timer may be what brings us here.
+    QLocalSocket* socket = connection->socket.release();
+    socket->abort();
+    socket->deleteLater();
+    connections.erase(connection);
+}
+
+} // namespace tessaline

@@ -1,0 +1,48 @@
+#include "appearance/PointFont.h"
+
+#include <QFontDatabase>
+#include <QImage>
+
+namespace tessaline {
+
+namespace {
+
+constexpr double typographicPointsPerInch = 72.0;
+
+// A new image carries exactly the dots per inch that Qt sizes fonts with, also while no screen is
+// connected.
+double fontDotsPerInch() {
+    return QImage(1, 1, QImage::Format_Mono).logicalDpiY();
+}
+
+QFont sized(QFontDatabase::SystemFont role, double points, QFont::Weight weight) {
+    QFont font = withPoints(QFontDatabase::systemFont(role), points);
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+QFont systemFont(double points, QFont::Weight weight) {
+    return sized(QFontDatabase::GeneralFont, points, weight);
+}
+
+QFont monospacedFont(double points, QFont::Weight weight) {
+    QFont font = sized(QFontDatabase::FixedFont, points, weight);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    return font;
+}
+
+// QFont::setPixelSize would say it directly, but only in whole pixels.
+QFont withPoints(QFont font, double points) {
+    font.setPointSizeF(points * typographicPointsPerInch / fontDotsPerInch());
+    return font;
+}
+
+double pointsOf(const QFont& font) {
+    if (font.pixelSize() > 0) return font.pixelSize();
+    return font.pointSizeF() * fontDotsPerInch() / typographicPointsPerInch;
+}
+
+} // namespace tessaline

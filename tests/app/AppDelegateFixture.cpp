@@ -1,0 +1,97 @@
+#include "AppDelegateFixture.h"
+
+#include "prompter/ControlStrip.h"
+#include "prompter/PrompterWindow.h"
+#include "ui/ConfigWindow.h"
+#include "ui/OnboardingWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace tessaline {
+
+namespace {
+
+template <typename Window>
+Window* topLevelWindow() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* window = qobject_cast<Window*>(widget)) return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+AppDelegateFixture::AppDelegateFixture() {
+    QDir(supportFolderPath()).removeRecursively();
+    const QSize size = QApplication::primaryScreen()->size();
+    Screen screen{.id = 1, .name = QStringLiteral("screen"), .refreshRate = 60};
+    screen.frame = {0, 0, double(size.width()), double(size.height())};
+    screen.visibleFrame = screen.frame;
+    screens.attached = {screen};
+    screens.main = screen;
+    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = true; });
+}
+
+AppDelegateFixture::~AppDelegateFixture() = default;
+
+void AppDelegateFixture::configure(const std::function<void(AppSettings&)>& change) {
+    AppSettings settings;
+    change(settings);
+    settings.save();
+}
+
+Environment AppDelegateFixture::environment() {
+    return {
+        .prompter = {mainQueue, renderTasks, timers, displayLinks, screens, windowTraits},
+        .fileTasks = fileTasks,
+        .notifications = notifications,
+        .pasteboard = pasteboard,
+        .trust = trust,
+        .processes = processes,
+        .bundle = bundle,
+        .localKeys = localKeys,
+        .globalKeys = globalKeys,
+        .eventTaps = eventTaps,
+        .activationPolicy = activationPolicy,
+        .icons = icons,
+        .obsidian = obsidian,
+        .notes = notes,
+        .recorder = recorder,
+        .setTelemetryAppID = [this](const QString& id) { telemetryAppIDs.push_back(id); },
+        .systemSymbol = [](const QString&, const QString&) { return QImage(); },
+        .terminate = [this] { ++terminations; },
+    };
+}
+
+AppDelegate& AppDelegateFixture::launch() {
+    if (!delegate) delegate = std::make_unique<AppDelegate>(environment());
+    delegate->applicationDidFinishLaunching();
+    return *delegate;
+}
+
+PrompterWindow* AppDelegateFixture::prompter() const {
+    return topLevelWindow<PrompterWindow>();
+}
+
+ConfigWindow* AppDelegateFixture::config() const {
+    return topLevelWindow<ConfigWindow>();
+}
+
+OnboardingWindow* AppDelegateFixture::onboarding() const {
+    return topLevelWindow<OnboardingWindow>();
+}
+
+QString AppDelegateFixture::shownSource() const {
+    return prompter()->controls().sourceLabel->text();
+}
+
+bool AppDelegateFixture::recorded(const QString& name) const {
+    const auto names = recorder.names();
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+} // namespace tessaline

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "app/Environment.h"
+#include "settings/AppSettings.h"
+#include "settings/SupportFolder.h"
+
+#include "support/FakeAccessibilityTrust.h"
+#include "support/FakeActivationPolicy.h"
+#include "support/FakeBundleInformation.h"
+#include "support/FakeDisplayLinkMaker.h"
+#include "support/FakeEventTapMaker.h"
+#include "support/FakeFileIcons.h"
+#include "support/FakeGlobalKeyMonitor.h"
+#include "support/FakeLocalKeyMonitor.h"
+#include "support/FakeMainQueue.h"
+#include "support/FakeNoteLibrary.h"
+#include "support/FakeObsidianIntegration.h"
+#include "support/FakePasteboard.h"
+#include "support/FakeProcessRunner.h"
+#include "support/FakeScreens.h"
+#include "support/FakeTaskRunner.h"
+#include "support/FakeTimerMaker.h"
+#include "support/FakeWindowTraits.h"
+#include "support/RecordingUsageRecorder.h"
+
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <vector>
+
+class QAbstractButton;
+class QWidget;
+
+namespace tessaline {
+
+class ConfigWindow;
+class OnboardingWindow;
+class PrompterWindow;
+
+/// A delegate among fakes, in an empty home folder.
+class AppDelegateFixture : public ::testing::Test {
+protected:
+    AppDelegateFixture();
+    ~AppDelegateFixture() override;
+
+    /// Writes the configuration file that the delegate will find.
+    void configure(const std::function<void(AppSettings&)>& change);
+    /// Constructs the delegate, if that was not done, and launches it.
+    AppDelegate& launch();
+
+    /// The windows, null while there are none.
+    PrompterWindow* prompter() const;
+    ConfigWindow* config() const;
+    OnboardingWindow* onboarding() const;
+
+    /// What the settings file says now.
+    static AppSettings savedSettings() { return {}; }
+    /// What the prompter's label of the source says.
+    QString shownSource() const;
+    std::vector<QString> recordedNames() const { return recorder.names(); }
+    bool recorded(const QString& name) const;
+
+    FakeMainQueue mainQueue;
+    FakeTaskRunner renderTasks;
+    FakeTaskRunner fileTasks;
+    FakeTimerMaker timers;
+    FakeDisplayLinkMaker displayLinks;
+    FakeScreens screens;
+    FakeWindowTraits windowTraits;
+    NotificationCenter notifications;
+    FakePasteboard pasteboard;
+    FakeAccessibilityTrust trust;
+    FakeProcessRunner processes;
+    FakeBundleInformation bundle;
+    FakeLocalKeyMonitor localKeys;
+    FakeGlobalKeyMonitor globalKeys;
+    FakeEventTapMaker eventTaps;
+    FakeActivationPolicy activationPolicy;
+    FakeFileIcons icons;
+    FakeObsidianIntegration obsidian;
+    FakeNoteLibrary notes;
+    RecordingUsageRecorder recorder;
+    std::vector<QString> telemetryAppIDs;
+    int terminations = 0;
+
+    Environment environment();
+    std::unique_ptr<AppDelegate> delegate;
+};
+
+} // namespace tessaline

@@ -1,0 +1,385 @@
+#include "AppDelegateFixture.h"
+
+#include "prompter/ControlStrip.h"
+#include "prompter/PrompterWindow.h"
+#include "prompter/controls/PressableButton.h"
+#include "prompter/controls/TrafficLightCloseButton.h"
+#include "sources/ClipboardSource.h"
+#include "sources/SourceManager.h"
+#include "ui/ConfigWindow.h"
+#include "ui/OnboardingWindow.h"
+
+#include <QFile>
+#include <QWindow>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+using AppDelegateTest = AppDelegateFixture;
+using AppDelegateDeathTest = AppDelegateFixture;
+
+QString keptScript() {
+    QFile file(ClipboardSource::contentFilePath());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void notifyOfSource(NotificationCenter& center, std::map<QString, std::any> info) {
+    center.post({SourceManager::activeSourceDidChangeNotification(), nullptr, std::move(info)});
+}
+
+/// Starts for the first time.
+class FirstRun : public AppDelegateFixture {
+protected:
+    FirstRun() {
+        configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    }
+};
+
+TEST_F(AppDelegateTest, BuildsNoWindowBeforeTheLaunch) {
+    delegate = std::make_unique<AppDelegate>(environment());
+    EXPECT_FALSE(prompter());
+    EXPECT_FALSE(config());
+    EXPECT_THAT(recorder.events, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, ShowsThePrompterAtANormalStart) {
+    launch();
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_FALSE(config()->isVisible());
+    EXPECT_FALSE(onboarding());
+    EXPECT_THAT(activationPolicy.kinds, IsEmpty());
+    EXPECT_EQ(localKeys.starts, 1);
+}
+
+TEST_F(AppDelegateTest, StartsWithTheClipboardWhenTheActiveSourceIsNotEnabled) {
+    configure([](AppSettings& settings) {
+        settings.activeSourceType = SourceType::obsidian;
+        settings.enabledSourceTypes = {SourceType::clipboard};
+    });
+    launch();
+    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
+}
+
+TEST_F(AppDelegateTest, WatchesTheActiveSourceFromTheStart) {
+    configure([](AppSettings& settings) {
+        settings.activeSourceType = SourceType::obsidian;
+        settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
+    });
+    launch();
+    EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
+    EXPECT_THAT(timers.liveIntervals(), Contains(1.0)); // how often the file is read
+}
+
+TEST_F(AppDelegateTest, TellsTheTelemetryItsIdentifier) {
+    bundle.values[u"TelemetryDeckAppID"_s] = u"an id"_s;
+    launch();
+    EXPECT_THAT(telemetryAppIDs, ElementsAre(u"an id"_s));
+}
+
+TEST_F(AppDelegateTest, LeavesTheTelemetryWithoutIdentifierWhenTheBundleHasNone) {
+    launch();
+    EXPECT_THAT(telemetryAppIDs, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, LeavesTheTelemetryWithoutIdentifierWhenItIsEmpty) {
+    bundle.values[u"TelemetryDeckAppID"_s] = QString();
+    launch();
+    EXPECT_THAT(telemetryAppIDs, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, RecordsWhetherThePermissionIsGranted) {
+    trust.trusted = true;
+    launch();
+    const auto event = std::find_if(recorder.events.begin(), recorder.events.end(),
+                                    [](const auto& e) { return e.name == u"permission_status"; });
+    ASSERT_NE(event, recorder.events.end());
+    EXPECT_EQ(event->properties.value(u"permission_type"_s), u"accessibility"_s);
+    EXPECT_EQ(event->properties.value(u"granted"_s), u"true"_s);
+}
+
+TEST_F(AppDelegateTest, HidesThePrompterByItsQuitButtonAndShowsItAgainInItsPlace) {
+    launch();
+    const QRect place = prompter()->geometry();
+    prompter()->controls().quitButton->click();
+    EXPECT_FALSE(prompter()->isVisible());
+    EXPECT_EQ(terminations, 0);
+    EXPECT_TRUE(recorded(u"window_hidden"_s));
+
+    prompter()->move(3, 4);
+    delegate->showPrompterWindow();
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(prompter()->geometry(), place);
+    EXPECT_EQ(recorder.events.back().name, u"window_shown"_s);
+    EXPECT_THAT(recorder.events.back().properties, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, FoldsAndUnfoldsThePrompterByItsMinimizeButton) {
+    launch();
+    prompter()->controls().minimizeButton->click();
+    EXPECT_TRUE(prompter()->isCollapsed());
+    EXPECT_EQ(recorder.events.back().name, u"window_minimized"_s);
+    prompter()->controls().minimizeButton->click();
+    EXPECT_FALSE(prompter()->isCollapsed());
+    EXPECT_EQ(recorder.events.back().name, u"window_expanded"_s);
+}
+
+TEST_F(AppDelegateTest, TogglesAutoScrollByItsButtonAndRecordsTheNewState) {
+    configure([](AppSettings& settings) { settings.scrollRate = ScrollRate::fast; });
+    launch();
+    prompter()->controls().autoScrollButton->click();
+    EXPECT_TRUE(savedSettings().autoScrollEnabled);
+    EXPECT_EQ(recorder.events.back().name, u"auto_scroll_toggled"_s);
+    EXPECT_EQ(recorder.events.back().properties,
+              (QMap<QString, QString>{{u"enabled"_s, u"true"_s}, {u"scroll_rate"_s, u"fast"_s}}));
+    prompter()->controls().autoScrollButton->click();
+    EXPECT_FALSE(savedSettings().autoScrollEnabled);
+}
+
+TEST_F(AppDelegateTest, CyclesTheSourceByThePasteButton) {
+    configure([](AppSettings& settings) {
+        settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
+    });
+    launch();
+    const QString before = shownSource();
+    prompter()->controls().pasteButton->click();
+    EXPECT_NE(shownSource(), before);
+}
+
+TEST_F(AppDelegateTest, OpensTheSettingsByTheirButton) {
+    launch();
+    prompter()->controls().configButton->click();
+    EXPECT_TRUE(config()->isVisible());
+    EXPECT_EQ(activationPolicy.activations, 1);
+    EXPECT_THAT(timers.liveIntervals(), Contains(2.0)); // its periodic refresh
+    EXPECT_EQ(recorder.events.back().name, u"settings_opened"_s);
+}
+
+TEST_F(AppDelegateTest, OpensTheSettingsRightBelowThePrompterWhateverItsOffset) {
+    configure([](AppSettings& settings) {
+        settings.height = 300;
+        settings.xOffset = 100;
+    });
+    launch();
+    delegate->showConfig();
+    const QRect frame = config()->windowHandle()->frameGeometry();
+    EXPECT_EQ(frame.top(), 300);
+    EXPECT_NEAR(frame.left() + frame.width() / 2.0, screens.attached[0].frame.midX(), 0.5);
+}
+
+TEST_F(AppDelegateTest, ShowsChangedSettingsInThePrompterAndMovesTheirWindowAlong) {
+    launch();
+    delegate->showConfig();
+    ASSERT_TRUE(config()->onSettingsChanged);
+    const QSize before = prompter()->size();
+    config()->move(1, 1);
+    config()->onSettingsChanged();
+    EXPECT_EQ(config()->windowHandle()->frameGeometry().top(), 256);
+    EXPECT_EQ(prompter()->size(), before);
+}
+
+TEST_F(AppDelegateTest, WatchesTheSourceThatWasChosenInTheSettings) {
+    launch();
+    config()->onSourceChanged(SourceType::clipboard);
+    EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
+    EXPECT_EQ(recorder.events.back().name, u"source_changed"_s);
+    EXPECT_EQ(recorder.events.back().properties.value(u"source_type"_s), u"clipboard"_s);
+}
+
+TEST_F(AppDelegateTest, ShowsWhichSourceANotificationNames) {
+    launch();
+    notifyOfSource(notifications, {{u"sourceType"_s, SourceType::obsidian}});
+    EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
+}
+
+TEST_F(AppDelegateTest, IgnoresANotificationWithoutASource) {
+    launch();
+    const QString before = shownSource();
+    notifyOfSource(notifications, {});
+    EXPECT_EQ(shownSource(), before);
+}
+
+TEST_F(AppDelegateTest, IgnoresANotificationWithSomethingElseInTheSourcesPlace) {
+    launch();
+    const QString before = shownSource();
+    notifyOfSource(notifications, {{u"sourceType"_s, u"obsidian"_s}});
+    notifyOfSource(notifications, {{u"sourceType"_s, 0}});
+    EXPECT_EQ(shownSource(), before);
+}
+
+TEST_F(AppDelegateTest, FollowsItsScreenWhenTheScreensChange) {
+    launch();
+    prompter()->move(3, 4);
+    notifications.post({Screens::parametersDidChangeNotification(), nullptr, {}});
+    EXPECT_EQ(prompter()->y(), 0);
+}
+
+TEST_F(AppDelegateTest, HangsFromTheChosenScreenFromTheStart) {
+    Screen other = screens.attached[0];
+    other.id = 2;
+    other.frame.x = other.frame.width;
+    screens.attached.push_back(other);
+    configure([](AppSettings& settings) { settings.preferredDisplayID = 2; });
+    launch();
+    EXPECT_GE(prompter()->x(), int(other.frame.x));
+}
+
+TEST_F(AppDelegateTest, EndsOnRequestAndNotWithItsLastWindow) {
+    launch();
+    delegate->hidePrompterWindow();
+    EXPECT_EQ(terminations, 0);
+    EXPECT_FALSE(AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    delegate->quitApp();
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(AppDelegateTest, RecordsNothingButTheTerminationWhenItEnds) {
+    launch();
+    QFile::remove(supportFolderPath() + u"/config.json"_s);
+    const auto before = recorder.events.size();
+    delegate->applicationWillTerminate();
+    EXPECT_EQ(recorder.events.size(), before + 1);
+    EXPECT_EQ(recorder.events.back().name, u"app_terminate"_s);
+    EXPECT_FALSE(QFile::exists(supportFolderPath() + u"/config.json"_s));
+}
+
+TEST_F(AppDelegateTest, CallbacksDoNothingOnceItIsGone) {
+    launch();
+    const auto settingsChanged = config()->onSettingsChanged;
+    const auto sourceChanged = config()->onSourceChanged;
+    const auto key = localKeys.handler;
+    delegate.reset();
+    const auto before = recorder.events.size();
+    settingsChanged();
+    sourceChanged(SourceType::clipboard);
+    notifyOfSource(notifications, {{u"sourceType"_s, SourceType::obsidian}});
+    notifications.post({Screens::parametersDidChangeNotification(), nullptr, {}});
+    key({.characters = u"v"_s, .modifiers = Modifier::command});
+    mainQueue.runAll();
+    EXPECT_EQ(recorder.events.size(), before);
+}
+
+TEST_F(AppDelegateTest, PastesWithCommandV) {
+    launch();
+    pasteboard.text = u"# Three words here"_s;
+    EXPECT_TRUE(localKeys.press({.characters = u"v"_s, .modifiers = Modifier::command}));
+    EXPECT_EQ(keptScript(), u"# Three words here"_s);
+    EXPECT_EQ(recorder.events.back().name, u"content_pasted"_s);
+    EXPECT_EQ(recorder.events.back().properties.value(u"word_count"_s), u"3"_s);
+}
+
+TEST_F(AppDelegateTest, PastesIntoTheClipboardSourceWhateverIsActive) {
+    configure([](AppSettings& settings) {
+        settings.activeSourceType = SourceType::obsidian;
+        settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
+    });
+    launch();
+    pasteboard.text = u"Hello"_s;
+    localKeys.press({.characters = u"v"_s, .modifiers = Modifier::command});
+    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
+}
+
+TEST_F(AppDelegateTest, ShowsAnOpenedTextAsIfItHadBeenPasted) {
+    launch().openText(u"# Opened"_s);
+    EXPECT_EQ(keptScript(), u"# Opened"_s);
+    EXPECT_TRUE(recorded(u"content_pasted"_s));
+}
+
+TEST_F(AppDelegateTest, ChangesNothingForAnOpenedTextThatIsEmpty) {
+    configure([](AppSettings& settings) {
+        settings.activeSourceType = SourceType::obsidian;
+        settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
+    });
+    launch().openText({});
+    EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
+    EXPECT_FALSE(recorded(u"content_pasted"_s));
+}
+
+TEST_F(AppDelegateTest, RevealsTheHiddenPrompter) {
+    launch().hidePrompterWindow();
+    delegate->reveal();
+    EXPECT_TRUE(prompter()->isVisible());
+}
+
+TEST_F(FirstRun, ShowsTheFirstRunWindowAndNothingElse) {
+    launch();
+    ASSERT_TRUE(onboarding());
+    EXPECT_TRUE(onboarding()->isVisible());
+    EXPECT_FALSE(prompter()->isVisible());
+    EXPECT_THAT(activationPolicy.kinds, ElementsAre(ActivationPolicy::Kind::regular));
+    EXPECT_EQ(activationPolicy.activations, 1);
+    EXPECT_EQ(localKeys.starts, 0);
+    EXPECT_EQ(eventTaps.attempts, 0);
+    EXPECT_TRUE(recorded(u"onboarding_started"_s));
+    EXPECT_FALSE(recorded(u"content_loaded"_s));
+}
+
+TEST_F(FirstRun, StartsNormallyOnceItIsCompleted) {
+    launch();
+    onboarding()->onComplete();
+    EXPECT_THAT(activationPolicy.kinds,
+                ElementsAre(ActivationPolicy::Kind::regular, ActivationPolicy::Kind::accessory));
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(localKeys.starts, 1);
+    EXPECT_TRUE(recorded(u"content_loaded"_s));
+}
+
+TEST_F(FirstRun, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
+    launch();
+    onboarding()->onSkip();
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
+}
+
+TEST_F(FirstRun, DropsItsWindowOnlyAfterThatHasCalled) {
+    launch();
+    onboarding()->onComplete();
+    ASSERT_TRUE(onboarding());
+    EXPECT_FALSE(onboarding()->isVisible());
+    mainQueue.runAll();
+    EXPECT_FALSE(onboarding());
+}
+
+TEST_F(FirstRun, StartsOnceHoweverOftenItsWindowCalls) {
+    launch();
+    onboarding()->onComplete();
+    onboarding()->onSkip();
+    EXPECT_EQ(localKeys.starts, 1);
+    EXPECT_EQ(activationPolicy.kinds.size(), 2u);
+}
+
+TEST_F(FirstRun, KeepsAnOpenedTextUntilItIsDone) {
+    launch().openText(u"# Opened"_s);
+    EXPECT_EQ(keptScript(), QString());
+    onboarding()->onComplete();
+    EXPECT_EQ(keptScript(), u"# Opened"_s);
+}
+
+TEST_F(FirstRun, RevealsTheFirstRunWindow) {
+    launch();
+    onboarding()->showMinimized();
+    delegate->reveal();
+    EXPECT_FALSE(onboarding()->isMinimized());
+    EXPECT_FALSE(prompter()->isVisible());
+    EXPECT_EQ(activationPolicy.activations, 2);
+}
+
+TEST_F(AppDelegateDeathTest, AnActionBeforeTheLaunchEndsTheProgram) {
+    delegate = std::make_unique<AppDelegate>(environment());
+    EXPECT_DEATH(delegate->showPrompterWindow(), "no prompter window: it was not launched");
+    EXPECT_DEATH(delegate->hidePrompterWindow(), "no prompter window");
+    EXPECT_DEATH(delegate->toggleMinimize(), "no prompter window");
+    EXPECT_DEATH(delegate->toggleScroll(), "no prompter window");
+    EXPECT_DEATH(delegate->cycleSource(), "no source manager");
+    EXPECT_DEATH(delegate->showConfig(), "no settings window");
+}
+
+} // namespace
+} // namespace tessaline

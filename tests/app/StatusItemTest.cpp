@@ -1,0 +1,102 @@
+#include "app/StatusItem.h"
+
+#include "app/StatusIcon.h"
+#include "support/RecordedLog.h"
+
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+QImage noSymbol(const QString&, const QString&) {
+    return {};
+}
+
+/// The pixel that covers a point, counted from the bottom left corner.
+QColor colorAt(const QImage& image, double x, double y) {
+    const double scale = image.width() / 18.0;
+    return image.pixelColor(int(x * scale), image.height() - 1 - int(y * scale));
+}
+
+TEST(StatusItem, HasTheMenuWithItsTitlesAndKeys) {
+    StatusItem item(noSymbol, {});
+    const auto actions = item.actions();
+    ASSERT_EQ(actions.size(), 5);
+    EXPECT_EQ(actions[0]->text(), u"Show Tessaline"_s);
+    EXPECT_TRUE(actions[0]->shortcut().isEmpty());
+    EXPECT_TRUE(actions[1]->isSeparator());
+    EXPECT_EQ(actions[2]->text(), u"Settings\u2026"_s);
+    EXPECT_EQ(actions[2]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    EXPECT_TRUE(actions[3]->isSeparator());
+    EXPECT_EQ(actions[4]->text(), u"Quit Tessaline"_s);
+    EXPECT_EQ(actions[4]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    for (const int shown : {2, 4})
+        EXPECT_TRUE(actions[shown]->isShortcutVisibleInContextMenu());
+}
+
+TEST(StatusItem, CarriesOutWhatIsChosen) {
+    QStringList done;
+    StatusItem item(noSymbol, {.showPrompter = [&] { done << u"show"_s; },
+                               .showConfig = [&] { done << u"config"_s; },
+                               .quit = [&] { done << u"quit"_s; }});
+    for (QAction* action : item.actions())
+        action->trigger();
+    EXPECT_EQ(done, (QStringList{u"show"_s, u"config"_s, u"quit"_s}));
+}
+
+TEST(StatusItem, SaysOnceThatThereIsNoTray) {
+    const RecordedLog log;
+    const StatusItem item(noSymbol, {});
+    EXPECT_EQ(log.entries().filter(u"no tray"_s).size(), 1)
+        << log.entries().join(u'\n').toStdString();
+}
+
+TEST(StatusIcon, PrefersTheSystemsSymbol) {
+    QStringList asked;
+    QImage symbol(36, 36, QImage::Format_ARGB32);
+    symbol.fill(Qt::red);
+    const QIcon icon = statusIcon([&](const QString& name, const QString& description) {
+        asked << name << description;
+        return symbol;
+    });
+    EXPECT_EQ(asked, (QStringList{u"rectangle.topthird.inset.filled"_s, u"Tessaline"_s}));
+    EXPECT_EQ(icon.pixmap(18).toImage().pixelColor(9, 9), QColor(Qt::red));
+    EXPECT_TRUE(icon.isMask());
+}
+
+TEST(StatusIcon, IsDrawnWhereTheSystemHasNoSymbol) {
+    const QIcon icon = statusIcon(noSymbol);
+    EXPECT_TRUE(icon.isMask());
+    for (const int size : {16, 18, 22, 24, 32, 36, 48})
+        EXPECT_EQ(icon.actualSize(QSize(size, size)), QSize(size, size));
+}
+
+class StatusIconDrawing : public testing::TestWithParam<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Sizes, StatusIconDrawing, testing::Values(18, 36, 54));
+
+TEST_P(StatusIconDrawing, IsARoundedBodyWithAnInsetAtItsTop) {
+    const QImage image = drawStatusIcon(GetParam());
+    const QColor body = colorAt(image, 4.5, 8.5);
+    EXPECT_EQ(body.alpha(), 255);
+    EXPECT_EQ(colorAt(image, 14.5, 8.5), body);
+    EXPECT_EQ(colorAt(image, 9, 4.5), body);
+    EXPECT_EQ(colorAt(image, 9, 12), QColor(Qt::white));
+    EXPECT_EQ(colorAt(image, 9, 9.4), body);
+    EXPECT_EQ(colorAt(image, 9, 16), QColor(Qt::transparent));
+    EXPECT_EQ(colorAt(image, 1, 8), QColor(Qt::transparent));
+    EXPECT_LT(colorAt(image, 2.2, 4.2).alpha(), 128); // the corner is round
+}
+
+TEST(StatusIcon, CanBeToldFromBlackAndFromWhite) {
+    const int grey = qGray(colorAt(drawStatusIcon(18), 9, 6).rgb());
+    EXPECT_GT(grey, 90);
+    EXPECT_LT(grey, 165);
+}
+
+} // namespace
+} // namespace tessaline

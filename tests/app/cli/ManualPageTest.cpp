@@ -1,0 +1,52 @@
+#include "app/cli/documents/ManualPage.h"
+
+#include "app/cli/CommandTable.h"
+#include "app/cli/documents/Roff.h"
+#include "support/PrintQt.h"
+
+#include <gmock/gmock.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(Roff, LeavesNothingThatMeansSomethingElse) {
+    EXPECT_EQ(roffText(u"a-b \\ 'c' ~d"), u"a\\-b \\e \\(aqc\\(aq \\(tid"_s);
+    EXPECT_EQ(roffText(u".SH no. request"), u"\\&.SH no. request"_s);
+    EXPECT_EQ(roffBold(u"-o"), u"\\fB\\-o\\fP"_s);
+}
+
+TEST(Roff, SeparatesParagraphsAtEmptyLines) {
+    EXPECT_EQ(roffParagraphs(u"a\nb\n\n.c\n"), u"a\nb\n.PP\n\\&.c\n"_s);
+}
+
+TEST(ManualPage, NamesEverythingInTheCommandTable) {
+    const QString page = manualPage(u"1.2.3"_s, u"2026-01-02"_s);
+    EXPECT_TRUE(page.startsWith(
+        u".TH TESSALINE 1 2026-01-02 \"tessaline 1.2.3\" \"User Commands\"\n.SH NAME\n"_s));
+    std::vector<const CommandSpec*> specs{&programSpec()};
+    for (const CommandSpec& spec : commandSpecs()) {
+        specs.push_back(&spec);
+        EXPECT_TRUE(page.contains("\n.SH "_L1 + spec.name.toString().toUpper() + u'\n'));
+    }
+    for (const CommandSpec* spec : specs) {
+        EXPECT_TRUE(page.contains(roffParagraphs(spec->description)));
+        EXPECT_TRUE(page.contains(roffParagraphs(spec->notes)));
+        for (const CommandOption& option : spec->options) {
+            EXPECT_TRUE(page.contains(roffBold(u"--"_s + option.name.toString())));
+            EXPECT_TRUE(page.contains(roffParagraphs(option.help)));
+        }
+        for (const ControlAction& action : spec->actions)
+            EXPECT_TRUE(page.contains("\n.TP\n"_L1 + roffBold(action.name)));
+        for (const HelpSection& section : spec->sections) {
+            for (const HelpEntry& entry : section.entries) {
+                EXPECT_TRUE(page.contains(roffBold(entry.term)));
+                EXPECT_TRUE(page.contains(roffParagraphs(entry.text)));
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace tessaline

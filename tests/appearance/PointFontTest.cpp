@@ -1,0 +1,71 @@
+#include "appearance/PointFont.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QRawFont>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+double renderedPixels(const QFont& font) {
+    return QRawFont::fromFont(font).pixelSize();
+}
+
+class PointFontSize : public ::testing::TestWithParam<double> {};
+
+TEST_P(PointFontSize, IsKeptWithItsFraction) {
+    EXPECT_NEAR(pointsOf(systemFont(GetParam())), GetParam(), 1e-9);
+    EXPECT_NEAR(pointsOf(monospacedFont(GetParam())), GetParam(), 1e-9);
+}
+
+TEST_P(PointFontSize, IsDrawnInLogicalPixelsToTheNearestPixelAtLeast) {
+    EXPECT_NEAR(renderedPixels(systemFont(GetParam())), GetParam(), 0.5);
+    EXPECT_NEAR(renderedPixels(monospacedFont(GetParam())), GetParam(), 0.5);
+}
+
+TEST_P(PointFontSize, IsDrawnToTheEighthOfAPixelWhenLaidOutEightTimesAsLarge) {
+    EXPECT_NEAR(renderedPixels(systemFont(8 * GetParam())) / 8, GetParam(), 0.5 / 8);
+}
+
+INSTANTIATE_TEST_SUITE_P(WholeAndFractional, PointFontSize,
+                         ::testing::Values(9.0, 11.0, 12.0, 13.6, 16.0, 18.9, 28.0));
+
+TEST(PointFont, ReadsTheSizeOfAFontThatWasSetInPixels) {
+    QFont font;
+    font.setPixelSize(17);
+
+    EXPECT_DOUBLE_EQ(pointsOf(font), 17.0);
+}
+
+TEST(PointFont, CarriesTheAskedWeight) {
+    EXPECT_EQ(systemFont(12.0).weight(), QFont::Normal);
+    EXPECT_EQ(systemFont(12.0, QFont::DemiBold).weight(), QFont::DemiBold);
+    EXPECT_EQ(monospacedFont(12.0, QFont::Medium).weight(), QFont::Medium);
+}
+
+TEST(PointFont, TheMonospacedFontGivesEveryLetterTheSameWidth) {
+    const QFontMetricsF metrics(monospacedFont(14.0));
+
+    EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(u"iiii"_s), metrics.horizontalAdvance(u"MMMM"_s));
+    EXPECT_NE(QFontInfo(monospacedFont(14.0)).family(), QFontInfo(systemFont(14.0)).family());
+}
+
+TEST(PointFont, ResizingKeepsTheRestOfTheFont) {
+    QFont font = monospacedFont(12.0, QFont::Bold);
+    font.setItalic(true);
+
+    const QFont larger = withPoints(font, 18.5);
+
+    EXPECT_EQ(larger.families(), font.families());
+    EXPECT_EQ(larger.weight(), QFont::Bold);
+    EXPECT_TRUE(larger.italic());
+    EXPECT_NEAR(pointsOf(larger), 18.5, 1e-9);
+}
+
+} // namespace
+} // namespace tessaline

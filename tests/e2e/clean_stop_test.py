@@ -1,0 +1,73 @@
+"""Every usual way to end the program ends it well."""
+
+import json
+import signal
+import unittest
+
+from harness import TessalineTestCase
+
+
+class CleanStop(TessalineTestCase):
+    def event_names(self):
+        """What the usage history says, the latest last; empty while there is none."""
+        path = self.support_folder() / "analytics.json"
+        if not path.exists():
+            return []
+        return [event["name"] for event in json.loads(path.read_text())]
+
+    def socket_files(self):
+        return list((self.desktop.folder / "runtime/tessaline").glob("*.socket"))
+
+    def assert_ended_well(self, seconds=5):
+        self.assertEqual(self.prompter.wait(seconds), 0)
+        names = self.event_names()
+        self.assertEqual(names[-1], "app_terminate", names)
+        self.assertIn("app_launch", names)
+        self.assertEqual(self.socket_files(), [])
+
+    def test_signals_end_it(self):
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(number):
+                self.start()
+                self.prompter.send(number)
+                self.assert_ended_well()
+
+    def test_its_own_key_ends_it(self):
+        self.start()
+        self.desktop.click(640, 150)
+        self.desktop.key("ctrl+q")
+        self.assert_ended_well()
+
+    def test_a_signal_ends_it_during_the_first_start(self):
+        self.write_settings(hasCompletedOnboarding=False)
+        self.prompter = self.start_tessaline()
+        self.desktop.wait_for_window("Welcome", self.prompter.pid)
+        self.prompter.send(signal.SIGTERM)
+        self.assert_ended_well()
+        self.assertNotIn("content_loaded", self.event_names(), "the normal start never came")
+        self.assertFalse(self.settings()["hasCompletedOnboarding"])
+
+    def test_a_signal_ends_it_while_it_scrolls(self):
+        self.write_settings(autoScrollEnabled=True, scrollSpeed=5.0)
+        self.start(self.write_script("Some text\n\n" * 2000))
+        self.prompter.send(signal.SIGTERM)
+        self.assert_ended_well()
+
+    def test_the_settings_stay_as_they_were_saved(self):
+        self.start()
+        before = self.settings()
+        self.prompter.send(signal.SIGTERM)
+        self.assert_ended_well()
+        self.assertEqual(self.settings(), before)
+
+    def test_two_signals_at_once_end_it_no_worse_than_one(self):
+        self.start()
+        self.prompter.send(signal.SIGSTOP)
+        self.prompter.send(signal.SIGTERM)
+        self.prompter.send(signal.SIGINT)
+        self.prompter.send(signal.SIGCONT)
+        self.assert_ended_well()
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,129 @@
+#include "prompter/ControlStrip.h"
+
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "prompter/ElidingLabel.h"
+#include "prompter/controls/PressableButton.h"
+#include "prompter/controls/TrafficLightCloseButton.h"
+#include "support/WidgetPicture.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class ControlStripTest : public testing::Test {
+protected:
+    ControlStripTest() { strip.resize(450, 44); }
+
+    QColor sourceLabelColor() const {
+        return strip.sourceLabel->palette().color(QPalette::WindowText);
+    }
+
+    ControlStrip strip;
+};
+
+void expectGlyph(const PressableButton& button, const QString& glyph, double points,
+                 QFont::Weight weight) {
+    EXPECT_EQ(button.text(), glyph);
+    EXPECT_NEAR(pointsOf(button.font()), points, 0.01) << glyph.toStdString();
+    EXPECT_EQ(button.font().weight(), weight) << glyph.toStdString();
+}
+
+TEST_F(ControlStripTest, StartsWithTheGlyphsInTheirSizes) {
+    expectGlyph(*strip.minimizeButton, u"—"_s, 12, QFont::Normal);
+    expectGlyph(*strip.configButton, u"⚙\uFE0E"_s, 16, QFont::Normal);
+    expectGlyph(*strip.autoScrollButton, u"⏯"_s, 16, QFont::Normal);
+}
+
+TEST_F(ControlStripTest, StartsInFileModeWithoutASourceIcon) {
+    EXPECT_EQ(strip.sourceLabel->text(), u"FILE"_s);
+    EXPECT_EQ(sourceLabelColor(), SystemPalette::blue);
+    expectGlyph(*strip.pasteButton, u"📋"_s, 14, QFont::Normal);
+    EXPECT_TRUE(strip.sourceIconView->isHidden());
+}
+
+TEST_F(ControlStripTest, ShowsClipboardMode) {
+    strip.showSourceMode(SourceMode::clipboard);
+    EXPECT_EQ(strip.sourceLabel->text(), u"CLIP"_s);
+    EXPECT_EQ(sourceLabelColor(), SystemPalette::orange);
+    expectGlyph(*strip.pasteButton, u"📄"_s, 14, QFont::Normal);
+}
+
+TEST_F(ControlStripTest, DrawsTheSquareLighterThanTheDash) {
+    strip.showCollapsed(true);
+    expectGlyph(*strip.minimizeButton, u"□"_s, 14, QFont::DemiBold);
+    strip.showCollapsed(false);
+    expectGlyph(*strip.minimizeButton, u"—"_s, 14, QFont::Bold);
+}
+
+TEST_F(ControlStripTest, SetsItsLabelsSmall) {
+    EXPECT_NEAR(pointsOf(strip.sourceLabel->font()), 9, 0.01);
+    EXPECT_EQ(strip.sourceLabel->font().weight(), QFont::Bold);
+    EXPECT_EQ(strip.sourceLabel->alignment(), Qt::AlignCenter);
+    EXPECT_NEAR(pointsOf(strip.statsLabel->font()), 11, 0.01);
+    EXPECT_EQ(strip.statsLabel->font().weight(), QFont::Medium);
+}
+
+TEST_F(ControlStripTest, CentresTheCloseButtonInTheStrip) {
+    for (const auto& [height, top] : {std::pair{24.0, 6}, {32.0, 10}, {38.0, 13}}) {
+        strip.setStripHeight(height);
+        EXPECT_EQ(strip.quitButton->geometry(), QRect(10, top, 12, 12)) << height;
+    }
+}
+
+TEST_F(ControlStripTest, LinesTheOthersUpWithTheCloseButtonSideBySide) {
+    strip.setStripHeight(32);
+    strip.showSource(SourceType::obsidian);
+    const std::vector<QWidget*> controls{
+        strip.quitButton,     strip.minimizeButton, strip.configButton, strip.autoScrollButton,
+        strip.sourceIconView, strip.sourceLabel,    strip.pasteButton,  strip.statsLabel};
+    const QRectF closeButton = strip.quitButton->geometry();
+    for (std::size_t i = 1; i < controls.size(); ++i) {
+        const QRectF geometry = controls[i]->geometry();
+        EXPECT_NEAR(geometry.center().y(), closeButton.center().y(), 0.5) << i;
+        const double space = geometry.left() - QRectF(controls[i - 1]->geometry()).right();
+        EXPECT_GE(space, 2) << i;
+        EXPECT_LE(space, 4) << i;
+    }
+    EXPECT_EQ(QRectF(strip.statsLabel->geometry()).right(), 440);
+}
+
+TEST_F(ControlStripTest, SetsTheStatisticsInTheirColorAtTheRight) {
+    strip.setStripHeight(32);
+    strip.showStatistics(u"1 words"_s, SystemPalette::red);
+    ElidingLabel& label = *strip.statsLabel;
+    const QImage picture = pictureOf(label, 4);
+    const QRectF ink = inkOf(picture);
+    EXPECT_NEAR(ink.right(), label.width(), 2);
+    EXPECT_GT(ink.left(), label.width() / 2.0);
+    const QRectF red = boundsOf(
+        picture, [&](int x, int y) { return picture.pixelColor(x, y) == SystemPalette::red; });
+    EXPECT_FALSE(red.isEmpty());
+}
+
+TEST(ElidingLabel, CutsATextThatDoesNotFitAtItsBeginning) {
+    ElidingLabel label;
+    label.setFont(systemFont(11));
+    label.resize(60, 16);
+    const auto pictureWith = [&](const QString& text) {
+        label.setText(text);
+        return pictureOf(label, 4);
+    };
+    const QImage picture = pictureWith(u"123456 words • ~2m30s"_s);
+    EXPECT_GT(inkOf(picture).left(), 0);
+    EXPECT_NEAR(inkOf(picture).right(), 60, 2);
+    EXPECT_EQ(pictureWith(u"987 words • ~2m30s"_s), picture);
+    EXPECT_NE(pictureWith(u"123456 words • ~2m35s"_s), picture);
+    EXPECT_EQ(label.text(), u"123456 words • ~2m35s"_s);
+}
+
+} // namespace
+} // namespace tessaline

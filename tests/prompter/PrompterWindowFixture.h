@@ -1,0 +1,74 @@
+#pragma once
+
+#include "prompter/ControlStrip.h"
+#include "prompter/ElidingLabel.h"
+#include "prompter/PrompterWindow.h"
+#include "prompter/view/ScriptView.h"
+#include "settings/AppSettings.h"
+#include "support/FakeDisplayLinkMaker.h"
+#include "support/FakeMainQueue.h"
+#include "support/FakeScreens.h"
+#include "support/FakeTaskRunner.h"
+#include "support/FakeTimerMaker.h"
+#include "support/FakeWindowTraits.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tessaline {
+
+/// A prompter on one screen, the offscreen platform's, with a panel of 32 points at its top.
+class PrompterWindowTest : public testing::Test {
+protected:
+    PrompterWindowTest() {
+        const QSize size = QApplication::primaryScreen()->size();
+        Screen screen{.id = 1, .name = QStringLiteral("screen")};
+        screen.frame = {0, 0, double(size.width()), double(size.height())};
+        screen.visibleFrame = screen.frame;
+        screen.visibleFrame.height -= 32;
+        screen.refreshRate = 144;
+        screens.attached = {screen};
+        screens.main = screen;
+    }
+
+    PrompterWindow& window() {
+        if (!prompter) {
+            prompter = std::make_unique<PrompterWindow>(
+                settings, PrompterPorts{queue, tasks, timers, links, screens, traits});
+            prompter->show();
+        }
+        return *prompter;
+    }
+
+    void show(const QString& markdown) {
+        window().updateText(markdown);
+        queue.runAll();
+        window().textView().completeLayout();
+    }
+
+    QString statistics() { return window().controls().statsLabel->text(); }
+
+    /// Lets the resize animation run to its end.
+    void finishResizing(int height) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window().height() == height; }, 3000))
+            << window().height();
+    }
+
+    QTemporaryDir folder;
+    AppSettings settings{folder.filePath(QStringLiteral("config.json"))};
+    FakeMainQueue queue;
+    FakeTaskRunner tasks;
+    FakeTimerMaker timers;
+    FakeDisplayLinkMaker links;
+    FakeScreens screens;
+    FakeWindowTraits traits;
+    std::unique_ptr<PrompterWindow> prompter;
+};
+
+} // namespace tessaline

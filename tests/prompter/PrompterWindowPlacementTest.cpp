@@ -1,0 +1,98 @@
+#include "platform/NotificationCenter.h"
+#include "prompter/PrompterWindowFixture.h"
+#include "screens/ScreenManager.h"
+
+#include <optional>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::uint32_t projectorID = 2;
+
+/// A prompter beside whose screen there is a projector, to the left.
+class PrompterWindowPlacement : public PrompterWindowTest {
+protected:
+    PrompterWindowPlacement() {
+        Screen projector{.id = projectorID, .name = u"projector"_s};
+        projector.frame = {-1000, 0, 1000, 600};
+        projector.visibleFrame = {-1000, 0, 1000, 560};
+        screens.attached.push_back(projector);
+    }
+
+    void choose(std::optional<std::uint32_t> screen) {
+        window().setScreenManager(&manager);
+        manager.preferredDisplayID = screen;
+    }
+
+    static QSize primarySize() { return QApplication::primaryScreen()->size(); }
+
+    NotificationCenter notifications;
+    ScreenManager manager{screens, notifications};
+};
+
+TEST_F(PrompterWindowPlacement, HangsFromTheTopOfTheChosenScreen) {
+    choose(projectorID);
+    window().updateFrame();
+    EXPECT_EQ(window().geometry(), QRect(-725, primarySize().height() - 600, 450, 256));
+    EXPECT_EQ(window().menuBarHeight(), 40);
+}
+
+TEST_F(PrompterWindowPlacement, StaysWithinTheSidesOfTheChosenScreen) {
+    choose(projectorID);
+    settings.xOffset = 2000;
+    window().updateFrame();
+    EXPECT_EQ(window().geometry().left(), -450);
+    settings.xOffset = -2000;
+    window().updateFrame();
+    EXPECT_EQ(window().geometry().left(), -1000);
+}
+
+TEST_F(PrompterWindowPlacement, IsNotHeldWithinTheMainScreenWithoutAChoice) {
+    settings.xOffset = 2000;
+    window().updateFrame();
+    EXPECT_EQ(window().geometry().left(), (primarySize().width() - 450) / 2 + 2000);
+}
+
+TEST_F(PrompterWindowPlacement, MeasuresTheStripOnThePreferredScreenWhileItIsOnNone) {
+    settings.xOffset = 20'000;
+    window().updateFrame();
+    EXPECT_EQ(window().menuBarHeight(), 32) << "of the main screen, for want of a choice";
+    choose(projectorID);
+    EXPECT_EQ(window().menuBarHeight(), 40);
+}
+
+TEST_F(PrompterWindowPlacement, TakesTheHeightOfTheSettingsAlsoWhileCollapsed) {
+    window().toggleCollapsed();
+    finishResizing(32);
+    settings.height = 300;
+    window().updateFrame();
+    EXPECT_EQ(window().height(), 300);
+    EXPECT_TRUE(window().isCollapsed());
+    EXPECT_EQ(window().textView().height(), 0);
+    window().toggleCollapsed();
+    EXPECT_FALSE(window().isCollapsed());
+    finishResizing(256);
+}
+
+TEST_F(PrompterWindowPlacement, IsSquareAllAroundWhileCollapsed) {
+    window().toggleCollapsed();
+    finishResizing(32);
+    const auto cornersAre = [this](int alpha) {
+        const QImage picture = window().grab().toImage();
+        const int bottom = window().height() - 1;
+        return picture.pixelColor(0, 0).alpha() == 255 &&
+               picture.pixelColor(449, 0).alpha() == 255 &&
+               picture.pixelColor(0, bottom).alpha() == alpha &&
+               picture.pixelColor(449, bottom).alpha() == alpha;
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return cornersAre(255); }, 3000));
+    window().toggleCollapsed();
+    finishResizing(256);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return cornersAre(0); }, 3000));
+}
+
+} // namespace
+} // namespace tessaline
