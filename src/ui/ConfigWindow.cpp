@@ -1,19 +1,159 @@
 #include "ui/ConfigWindow.h"
 
+#include "analytics/UsageRecorder.h"
+#include "appearance/SystemPalette.h"
+#include "platform/AccessibilityTrust.h"
+#include "settings/AppSettings.h"
+#include "sources/ObsidianIntegration.h"
+#include "sources/SourceManager.h"
+#include "ui/WindowLook.h"
+#include "ui/config/AccessibilityRow.h"
+#include "ui/config/DisplaySection.h"
+#include "ui/config/IntegrationsSection.h"
+#include "ui/config/ShortcutsGrid.h"
+#include "ui/config/SourceSection.h"
+#include "ui/controls/Rows.h"
+#include "ui/controls/SectionTitle.h"
+#include "ui/controls/Separator.h"
+
+#include <QCloseEvent>
+#include <QPushButton>
+
+#include <initializer_list>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr QSize leastContent{320, 380};
+constexpr int margin = 20;
+constexpr int spacing = 10;
+constexpr TimerMaker::Interval refreshInterval{2.0};
+
+} // namespace
+
 ConfigWindow::ConfigWindow(AppSettings& edited, SourceManager* manager, const WindowPorts& borrowed)
-    : settings(edited), sourceManager(manager), ports(borrowed) {
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                           Qt::WindowCloseButtonHint)
+    , settings(edited)
+    , sourceManager(manager)
+    , ports(borrowed)
+    , permissionManager(borrowed.permissions) {
     setWindowTitle(u"Settings"_s);
+    setDarkLook(*this, SystemPalette::settingsBackground);
+    layOut();
 }
 
 ConfigWindow::~ConfigWindow() = default;
 
-void ConfigWindow::refreshUI() {}
-void ConfigWindow::startPeriodicRefresh() {}
-void ConfigWindow::rebuildScreenPopup() {}
-void ConfigWindow::updateAccessibilityStatus() {}
+void ConfigWindow::layOut() {
+    fillWithContent(*this, createContent(), leastContent);
+    rebuildScreenPopup();
+    display->updateValueLabels();
+    sources->updateSourceConfigVisibility();
+    updateAccessibilityStatus();
+}
+
+QWidget* ConfigWindow::createContent() {
+    integrations = new IntegrationsSection(settings, ports);
+    connect(integrations, &IntegrationsSection::obsidianToggled, this,
+            &ConfigWindow::obsidianToggleChanged);
+    sources = new SourceSection(settings, sourceManager, ports);
+    sources->onSourceChanged = [this](SourceType source) { announceSource(source); };
+    display = new DisplaySection(settings, ports.screens, ports.recorder);
+    display->onSettingsChanged = [this] {
+        if (onSettingsChanged) onSettingsChanged();
+    };
+    accessibility = new AccessibilityRow;
+    connect(accessibility->accessibilityFixButton, &QPushButton::clicked, this,
+            &ConfigWindow::fixAccessibility);
+
+    auto* content = new QWidget;
+    QVBoxLayout* column = layOutColumn(*content, spacing);
+    column->setContentsMargins(margin, margin, margin, margin);
+    for (QWidget* part : std::initializer_list<QWidget*>{
+             new SectionTitle(u"Enabled Integrations"_s), integrations,
+             new Separator(settingsColumnWidth), new SectionTitle(u"Active Source"_s), sources,
+             new Separator(settingsColumnWidth), new SectionTitle(u"Display"_s), display,
+             new Separator(settingsColumnWidth), new SectionTitle(u"Shortcuts"_s),
+             new ShortcutsGrid, accessibility})
+        column->addWidget(part);
+    column->addStretch();
+    return content;
+}
+
+void ConfigWindow::setScreenManager(ScreenManager* manager) {
+    display->setScreenManager(manager);
+}
+
+void ConfigWindow::refreshUI() {
+    display->showSettings();
+    integrations->showSettings();
+    integrations->updateObsidianStatus();
+    sources->rebuildSourcePopup();
+    rebuildScreenPopup();
+    updateAccessibilityStatus();
+    fitToContent(*this);
+}
+
+void ConfigWindow::chooseScrollRate(ScrollRate rate) {
+    display->chooseScrollRate(rate);
+}
+
+bool ConfigWindow::chooseSource(SourceType source) {
+    return sources->chooseSource(source);
+}
+
+void ConfigWindow::startPeriodicRefresh() {
+    refreshTimer.reset();
+    refreshTimer = ports.permissions.timers.every(refreshInterval, [this] {
+        integrations->updateObsidianStatus();
+        updateAccessibilityStatus();
+    });
+}
+
+void ConfigWindow::rebuildScreenPopup() {
+    display->rebuildScreenPopup();
+}
+
+void ConfigWindow::updateAccessibilityStatus() {
+    accessibility->updateStatus(ports.permissions.trust.isTrusted());
+}
+
+void ConfigWindow::obsidianToggleChanged(bool on) {
+    if (sourceManager) sourceManager->setSourceEnabled(SourceType::obsidian, on);
+    ports.recorder.record({.name = on ? u"source_enabled"_s : u"source_disabled"_s,
+                           .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});
+    integrations->updateObsidianStatus();
+    sources->rebuildSourcePopup();
+    if (on) {
+        if (!ports.obsidian.isPluginInstalled()) integrations->reinstallObsidianPlugin();
+        return;
+    }
+    sources->selectActiveSource();
+    sources->updateSourceConfigVisibility();
+    announceSource(settings.activeSourceType);
+}
+
+void ConfigWindow::announceSource(SourceType source) const {
+    if (onSourceChanged) onSourceChanged(source);
+}
+
+void ConfigWindow::fixAccessibility() {
+    permissionManager.resetAndRequestAccessibility();
+}
+
+bool ConfigWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) updateAccessibilityStatus();
+    return QWidget::event(event);
+}
+
+void ConfigWindow::closeEvent(QCloseEvent* event) {
+    refreshTimer.reset();
+    QWidget::closeEvent(event);
+}
 
 } // namespace tessaline

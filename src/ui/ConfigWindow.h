@@ -1,20 +1,27 @@
 #pragma once
 
+#include "permissions/PermissionManager.h"
+#include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
 #include "ui/WindowPorts.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace tessaline {
 
+class AccessibilityRow;
 class AppSettings;
+class DisplaySection;
+class IntegrationsSection;
 class ScreenManager;
 class SourceManager;
+class SourceSection;
 
 /// The settings window. Edits the shared settings live: every change is saved and announced at
-/// once. Main thread only.
+/// once. Closing hides it; it can be shown again. Main thread only.
 class ConfigWindow : public QWidget {
     Q_OBJECT
 
@@ -23,14 +30,20 @@ public:
     ConfigWindow(AppSettings& settings, SourceManager* sourceManager, const WindowPorts& ports);
     ~ConfigWindow() override;
 
-    /// The displays to choose from; null: only the automatic choice is offered. Borrowed.
-    void setScreenManager(ScreenManager* manager) { screenManager = manager; }
+    /// The displays to choose from; null: only the automatic choice is offered. Borrowed. Shows at
+    /// the next refresh.
+    void setScreenManager(ScreenManager* manager);
 
-    /// Shows in all controls what the settings say now.
+    /// Shows in all controls what the settings say now. The window has its right size afterwards.
     void refreshUI();
 
     /// Looks every 2 seconds after the plug-in and the permission, until the window closes.
     void startPeriodicRefresh();
+
+    /// What happens when the user picks this scroll rate, or this source; the latter is false when
+    /// the source is not on offer.
+    void chooseScrollRate(ScrollRate rate);
+    bool chooseSource(SourceType source);
 
     /// Lists the displays that are attached now.
     void rebuildScreenPopup();
@@ -44,11 +57,27 @@ public:
     /// Called with the new source after the user chose another one.
     std::function<void(SourceType)> onSourceChanged;
 
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
 private:
+    void layOut();
+    QWidget* createContent();
+    void obsidianToggleChanged(bool on);
+    void fixAccessibility();
+    void announceSource(SourceType source) const;
+
     AppSettings& settings;
     SourceManager* sourceManager;
     WindowPorts ports;
-    ScreenManager* screenManager = nullptr;
+    PermissionManager permissionManager;
+    std::unique_ptr<RepeatingTimer> refreshTimer;
+
+    IntegrationsSection* integrations = nullptr;
+    SourceSection* sources = nullptr;
+    DisplaySection* display = nullptr;
+    AccessibilityRow* accessibility = nullptr;
 };
 
 } // namespace tessaline

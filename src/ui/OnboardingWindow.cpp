@@ -1,15 +1,230 @@
 #include "ui/OnboardingWindow.h"
 
+#include "analytics/UsageRecorder.h"
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "platform/AccessibilityTrust.h"
+#include "settings/AppSettings.h"
+#include "sources/ObsidianIntegration.h"
+#include "sources/SourceManager.h"
+#include "ui/Alert.h"
+#include "ui/ObsidianIcon.h"
+#include "ui/WindowLook.h"
+#include "ui/controls/DefaultButton.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/Rows.h"
+#include "ui/controls/Switch.h"
+#include "ui/onboarding/IntegrationToggleView.h"
+#include "ui/onboarding/ObsidianStatusText.h"
+#include "ui/onboarding/PermissionStatusView.h"
+
+#include <QCloseEvent>
+#include <QPointer>
+#include <QScreen>
+
+#include <utility>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr QSize leastContent{520, 520};
+constexpr double pollInterval = 1.0;
+constexpr int sideMargin = 30;
+
+} // namespace
+
 OnboardingWindow::OnboardingWindow(PermissionManager& manager, AppSettings& shared,
                                    SourceManager* sources, const WindowPorts& borrowed)
-    : permissionManager(manager), settings(shared), sourceManager(sources), ports(borrowed) {
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint)
+    , permissionManager(manager)
+    , settings(shared)
+    , sourceManager(sources)
+    , ports(borrowed) {
+    // A fresh start, whatever was chosen in an earlier one.
+    settings.enabledSourceTypes = {SourceType::clipboard};
+    settings.activeSourceType = SourceType::clipboard;
+    settings.save();
+    permissionManager.resetStaleEntry();
+
     setWindowTitle(u"Welcome to Tessaline"_s);
+    setDarkLook(*this, SystemPalette::windowBackground);
+    setupUI();
+    setupPermissionObserver();
+    permissionManager.startPolling(pollInterval);
 }
 
-OnboardingWindow::~OnboardingWindow() = default;
+OnboardingWindow::~OnboardingWindow() {
+    permissionManager.stopPolling();
+}
+
+void OnboardingWindow::setupUI() {
+    fillWithContent(*this, createContent(), leastContent);
+    centerOnScreen();
+}
+
+QWidget* OnboardingWindow::createContent() {
+    titleLabel =
+        makeLabel(u"Welcome to Tessaline"_s, systemFont(24, QFont::Bold), SystemPalette::label);
+    titleLabel->setObjectName(u"onboarding_title"_s);
+    titleLabel->setAlignment(Qt::AlignCenter);
+    subtitleLabel = makeWrappingLabel(
+        u"Turn your Mac's notch into a teleprompter. Read scripts, notes, or any text right from the top of your screen."_s,
+        systemFont(13), SystemPalette::secondaryLabel);
+    subtitleLabel->setObjectName(u"onboarding_subtitle"_s);
+    subtitleLabel->setAlignment(Qt::AlignCenter);
+    subtitleLabel->setContentsMargins(10, 0, 10, 0);
+    accessibilityStatusView = createAccessibilityStatusView();
+    continueButton = new DefaultButton(u"Get Started"_s, *this);
+    continueButton->setObjectName(u"onboarding_continueButton"_s);
+    continueButton->setMinimumWidth(120);
+    connect(continueButton, &QPushButton::clicked, this, &OnboardingWindow::continueClicked);
+
+    auto* content = new QWidget;
+    QVBoxLayout* column = layOutColumn(*content, 0);
+    column->setContentsMargins(sideMargin, 30, sideMargin, 20);
+    column->addWidget(titleLabel);
+    column->addSpacing(10);
+    column->addWidget(subtitleLabel);
+    column->addSpacing(20);
+    column->addWidget(createSectionLabel(u"Optional Permissions"_s));
+    column->addSpacing(8);
+    column->addWidget(accessibilityStatusView);
+    column->addSpacing(20);
+    column->addWidget(createSectionLabel(u"Content Sources"_s));
+    column->addSpacing(8);
+    column->addWidget(createIntegrationsSection());
+    column->addSpacing(20);
+    column->addWidget(continueButton, 0, Qt::AlignHCenter);
+    column->addStretch();
+    return content;
+}
+
+QLabel* OnboardingWindow::createSectionLabel(const QString& text) {
+    return makeLabel(text, systemFont(12, QFont::DemiBold), SystemPalette::secondaryLabel);
+}
+
+PermissionStatusView* OnboardingWindow::createAccessibilityStatusView() {
+    auto* view = new PermissionStatusView(
+        u"Accessibility Access"_s,
+        u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s,
+        ports.permissions.trust.isTrusted());
+    view->setObjectName(u"accessibilityStatusView"_s);
+    view->onGrantButtonClicked = [this] { permissionManager.resetAndRequestAccessibility(); };
+    return view;
+}
+
+QWidget* OnboardingWindow::createIntegrationsSection() {
+    auto* clipboard = new IntegrationToggleView(SourceType::clipboard, true);
+    clipboard->setupUI(true, u"Default — paste any text"_s, {});
+    const ObsidianStatusText status = obsidianStatus();
+    const bool usable = status.appFound && status.vaultFound;
+    auto* obsidian = new IntegrationToggleView(SourceType::obsidian, !usable);
+    obsidian->setupUI(usable && status.sourceEnabled, status.text(), obsidianIcon(ports));
+    obsidian->onToggleChanged = [this](bool on) { toggleObsidian(on); };
+
+    auto* section = new QWidget;
+    QVBoxLayout* column = layOutColumn(*section, 8);
+    for (IntegrationToggleView* row : {clipboard, obsidian}) {
+        row->setObjectName(rawValue(row->sourceType) + u"ToggleView"_s);
+        integrationToggles.emplace(row->sourceType, row);
+        column->addWidget(row);
+    }
+    return section;
+}
+
+bool OnboardingWindow::isObsidianEnabled() const {
+    return settings.enabledSourceTypes.contains(SourceType::obsidian);
+}
+
+ObsidianStatusText OnboardingWindow::obsidianStatus() const {
+    ObsidianStatusText status;
+    status.appFound = ports.obsidian.obsidianAppPath().has_value();
+    status.vaultFound = status.appFound && ports.obsidian.findObsidianVault().has_value();
+    status.sourceEnabled = isObsidianEnabled();
+    status.pluginInstalled = status.sourceEnabled && ports.obsidian.isPluginInstalled();
+    status.pluginEnabled = status.pluginInstalled && ports.obsidian.isPluginEnabled();
+    return status;
+}
+
+void OnboardingWindow::centerOnScreen() {
+    adjustSize();
+    const QRect room = screen()->availableGeometry();
+    move(room.center() - QPoint(width(), height()) / 2);
+}
+
+void OnboardingWindow::setupPermissionObserver() {
+    permissionObserver = ports.permissions.notifications.observe(
+        PermissionManager::permissionStatusDidChangeNotification(),
+        [this](const Notification&) { updatePermissionStatus(); });
+}
+
+void OnboardingWindow::updatePermissionStatus() {
+    accessibilityStatusView->updateStatus(ports.permissions.trust.isTrusted());
+}
+
+void OnboardingWindow::toggleObsidian(bool enabled) {
+    settings.setSourceEnabled(SourceType::obsidian, enabled);
+    if (sourceManager) sourceManager->setSourceEnabled(SourceType::obsidian, enabled);
+    if (enabled) {
+        ports.recorder.record({.name = u"source_enabled"_s,
+                               .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});
+        installObsidianPlugin();
+    }
+    updateIntegrationStatuses();
+}
+
+void OnboardingWindow::installObsidianPlugin() {
+    const auto [success, message] = ports.obsidian.installPlugin();
+    ports.recorder.trackObsidianPluginInstalled(success);
+    AlertContent content;
+    if (success) {
+        content.messageText = u"Notes Bridge Installed"_s;
+        content.informativeText =
+            u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press ⌘P and type \"tessaline\"."_s;
+        content.icon = obsidianIcon(ports);
+    } else {
+        content.messageText = u"Plugin Installation"_s;
+        content.informativeText = message;
+        content.style = AlertContent::Style::warning;
+    }
+    Alert::beginSheet(*this, content);
+}
+
+void OnboardingWindow::updateIntegrationStatuses() {
+    const auto found = integrationToggles.find(SourceType::obsidian);
+    if (found == integrationToggles.end()) return;
+    const ObsidianStatusText status = obsidianStatus();
+    found->second->toggleSwitch->setChecked(status.sourceEnabled);
+    found->second->statusLabel->setText(status.textWithVault());
+}
+
+void OnboardingWindow::continueClicked() {
+    if (finished) return;
+    finished = true;
+    settings.hasCompletedOnboarding = true;
+    settings.save();
+    permissionManager.stopPolling();
+    ports.recorder.trackOnboardingCompleted(ports.permissions.trust.isTrusted(),
+                                            isObsidianEnabled());
+    // Whoever is called may drop the window.
+    const QPointer<OnboardingWindow> window(this);
+    if (const auto complete = onComplete) complete();
+    if (window) close();
+}
+
+bool OnboardingWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) updatePermissionStatus();
+    return QWidget::event(event);
+}
+
+void OnboardingWindow::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+    if (std::exchange(finished, true)) return;
+    if (const auto skip = onSkip) skip();
+}
 
 } // namespace tessaline

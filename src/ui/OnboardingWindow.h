@@ -1,16 +1,25 @@
 #pragma once
 
+#include "platform/NotificationCenter.h"
+#include "settings/SourceType.h"
 #include "ui/WindowPorts.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <map>
+
+class QLabel;
+class QPushButton;
 
 namespace tessaline {
 
 class AppSettings;
+class IntegrationToggleView;
 class PermissionManager;
+class PermissionStatusView;
 class SourceManager;
+struct ObsidianStatusText;
 
 /// The first-run window: greets the user, offers the one optional permission and the Obsidian
 /// integration, and ends with "Get Started". Main thread only.
@@ -18,23 +27,50 @@ class OnboardingWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Builds the window and resets the source choice in the settings to the clipboard; shows
-    /// nothing yet. Everything is borrowed; `sourceManager` may be null.
+    /// Builds the window, resets the source choice in the settings to the clipboard, clears a stale
+    /// entry for the permission and polls the permission from now on; shows nothing yet. Everything
+    /// is borrowed; `sourceManager` may be null.
     OnboardingWindow(PermissionManager& permissionManager, AppSettings& settings,
                      SourceManager* sourceManager, const WindowPorts& ports);
     ~OnboardingWindow() override;
 
-    /// Called once when the user finishes; may destroy nothing of the window itself.
+    /// Called once when the user finishes, just before the window closes.
     std::function<void()> onComplete;
 
-    /// Called when the user closes the window without finishing.
+    /// Called once when the user closes the window without finishing.
     std::function<void()> onSkip;
 
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
 private:
+    void setupUI();
+    QWidget* createContent();
+    QLabel* createSectionLabel(const QString& text);
+    QWidget* createIntegrationsSection();
+    PermissionStatusView* createAccessibilityStatusView();
+    ObsidianStatusText obsidianStatus() const;
+    bool isObsidianEnabled() const;
+    void centerOnScreen();
+    void setupPermissionObserver();
+    void updatePermissionStatus();
+    void toggleObsidian(bool enabled);
+    void installObsidianPlugin();
+    void updateIntegrationStatuses();
+    void continueClicked();
+
     PermissionManager& permissionManager;
     AppSettings& settings;
     SourceManager* sourceManager;
     WindowPorts ports;
+    QLabel* titleLabel = nullptr;
+    QLabel* subtitleLabel = nullptr;
+    PermissionStatusView* accessibilityStatusView = nullptr;
+    std::map<SourceType, IntegrationToggleView*> integrationToggles;
+    QPushButton* continueButton = nullptr;
+    NotificationCenter::Observation permissionObserver;
+    bool finished = false; ///< one of the two callbacks was called
 };
 
 } // namespace tessaline

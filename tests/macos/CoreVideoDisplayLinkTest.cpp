@@ -52,6 +52,15 @@ TEST_F(CoreVideoDisplayLinkTest, DeliversTheOutputTimeOfEveryRefresh) {
     EXPECT_THAT(times, ElementsAre(100, 200));
 }
 
+TEST_F(CoreVideoDisplayLinkTest, AnswersARefreshWithoutContextWithAnError) {
+    const auto link = makeRecordingLink();
+    link->start();
+    EXPECT_TRUE(FakeCoreVideo::refresh(100));
+    FakeCoreVideo::loseContext();
+    EXPECT_FALSE(FakeCoreVideo::refresh(200));
+    EXPECT_THAT(times, ElementsAre(100));
+}
+
 TEST_F(CoreVideoDisplayLinkTest, DeliversNothingBeforeTheStart) {
     const auto link = makeRecordingLink();
     FakeCoreVideo::refresh(100);

@@ -31,13 +31,17 @@ void reset(Creation creation, Stopping stopping) {
     state = {.creation = creation, .stopping = stopping};
 }
 
-void refresh(std::uint64_t hostTime) {
+bool refresh(std::uint64_t hostTime) {
+    if (!state.callback) return false;
     const CVTimeStamp now{};
     const CVTimeStamp output{.hostTime = hostTime};
     CVOptionFlags flagsOut = 0;
-    if (state.callback) {
-        state.callback(theLink(), &now, &output, 0, &flagsOut, state.context);
-    }
+    return state.callback(theLink(), &now, &output, 0, &flagsOut, state.context) ==
+           kCVReturnSuccess;
+}
+
+void loseContext() {
+    state.context = nullptr;
 }
 
 bool isRunning() {

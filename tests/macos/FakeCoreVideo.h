@@ -16,8 +16,12 @@ enum class Stopping { returnsAtOnce, waitsForRefresh };
 /// Forgets everything and behaves like this from now on.
 void reset(Creation creation = Creation::succeeds, Stopping stopping = Stopping::returnsAtOnce);
 
-/// A refresh, on the calling thread. It reaches the callback even when the link is stopped.
-void refresh(std::uint64_t hostTime);
+/// A refresh, on the calling thread. It reaches the callback even when the link is stopped. Returns
+/// whether the callback says that it succeeded.
+bool refresh(std::uint64_t hostTime);
+
+/// From now on the callback is called without the context that it was set with.
+void loseContext();
 
 bool isRunning();
 int starts();

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ui/AlertContent.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include <functional>
+#include <vector>
+
+namespace tessaline {
+
+/// A question or message over one window, which takes no input until it is answered; the rest of
+/// the program goes on. Escape answers with the last button. Main thread only.
+class Alert : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Gets the index of the pressed button.
+    using Completion = std::function<void(int button)>;
+
+    /// Shows an alert over `window`, at once or, when that has one already, after that one. The
+    /// alert owns itself and `accessory`, a control between text and buttons, which may be null.
+    static Alert* beginSheet(QWidget& window, const AlertContent& content,
+                             QWidget* accessory = nullptr, Completion completion = {});
+
+    QLabel* iconLabel = nullptr;
+    QLabel* messageLabel = nullptr;
+    QLabel* informativeLabel = nullptr;
+    std::vector<QPushButton*> buttons; ///< in the order of the content
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    Alert(QWidget& window, const AlertContent& content, QWidget* accessory);
+    void addTexts(const AlertContent& content, QWidget* accessory);
+    void addButtons(const QStringList& titles);
+    void finish(int result);
+    void placeOverWindow();
+
+    Completion completion;
+    bool answered = false;
+};
+
+} // namespace tessaline

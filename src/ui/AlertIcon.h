@@ -1,0 +1,10 @@
+#pragma once
+
+#include "ui/AlertContent.h"
+
+namespace tessaline {
+
+/// The picture that an alert of this style shows when it has none of its own. Main thread.
+QIcon alertIcon(AlertContent::Style style);
+
+} // namespace tessaline

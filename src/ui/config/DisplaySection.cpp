@@ -1,0 +1,215 @@
+#include "ui/config/DisplaySection.h"
+
+#include "analytics/UsageRecorder.h"
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "platform/Screens.h"
+#include "screens/ScreenManager.h"
+#include "settings/AppSettings.h"
+#include "ui/config/PositionRange.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/PointSlider.h"
+#include "ui/controls/PopupButton.h"
+#include "ui/controls/Rows.h"
+#include "ui/controls/SliderRow.h"
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int sliderWidth = 260;
+constexpr quint32 automaticDisplay = 0;
+
+QString wholePart(double value) {
+    return PositionRange::valueText(value, {});
+}
+
+} // namespace
+
+DisplaySection::DisplaySection(AppSettings& shared, const Screens& attached,
+                               UsageRecorder& usageRecorder, QWidget* parent)
+    : QWidget(parent), settings(shared), screens(attached), recorder(usageRecorder) {
+    QVBoxLayout* column = layOutColumn(*this, 10);
+    column->addWidget(createScreenRow());
+
+    widthValueLabel = addSliderRow(u"Width"_s, u"widthValueLabel"_s);
+    widthSlider = addSlider(u"Width"_s, u"widthSlider"_s);
+    widthSlider->setLimits(380, 800);
+    widthSlider->setPoints(settings.width);
+
+    heightValueLabel = addSliderRow(u"Height"_s, u"heightValueLabel"_s);
+    heightSlider = addSlider(u"Height"_s, u"heightSlider"_s);
+    heightSlider->setLimits(100, 800);
+    heightSlider->setPoints(settings.height);
+
+    fontValueLabel = addSliderRow(u"Font Size"_s, u"fontValueLabel"_s);
+    fontSlider = addSlider(u"Font Size"_s, u"fontSlider"_s);
+    fontSlider->setLimits(10, 30);
+    fontSlider->setPoints(settings.fontSize);
+
+    xOffsetLabel = addSliderRow(u"Position"_s, u"xOffsetLabel"_s);
+    xOffsetLabel->setText(u"Center"_s);
+    xOffsetSlider = addSlider(u"Position"_s, u"xOffsetSlider"_s);
+    xOffsetSlider->setDeadZone(PositionRange::deadZone);
+    updatePositionSliderLimits();
+    xOffsetSlider->setPoints(settings.xOffset);
+
+    column->addWidget(createScrollRateRow());
+}
+
+QWidget* DisplaySection::createScreenRow() {
+    auto* row = new QWidget;
+    row->setFixedWidth(settingsColumnWidth);
+    QHBoxLayout* layout = layOutRow(*row, 8);
+    layout->addWidget(makeLabel(u"Screen"_s, systemFont(13), SystemPalette::label));
+    layout->addStretch();
+    screenPopup = new PopupButton(u"Screen"_s, 180);
+    screenPopup->setObjectName(u"config_screenPopup"_s);
+    connect(screenPopup, &PopupButton::activated, this, &DisplaySection::screenSelectionChanged);
+    layout->addWidget(screenPopup);
+    return row;
+}
+
+QWidget* DisplaySection::createScrollRateRow() {
+    auto* row = new QWidget;
+    row->setFixedWidth(settingsColumnWidth);
+    QHBoxLayout* layout = layOutRow(*row, 8);
+    layout->addWidget(makeLabel(u"Scroll Speed"_s, systemFont(13), SystemPalette::label));
+    layout->addSpacing(10);
+    layout->addStretch();
+    tickFactorPopup = createTickFactorPopup();
+    layout->addWidget(tickFactorPopup);
+    return row;
+}
+
+QLabel* DisplaySection::addSliderRow(const QString& name, const QString& identifier) {
+    auto* row = new SliderRow(name);
+    row->valueLabel->setObjectName(identifier);
+    layout()->addWidget(row);
+    return row->valueLabel;
+}
+
+PointSlider* DisplaySection::addSlider(const QString& name, const QString& identifier) {
+    auto* slider = new PointSlider(name, sliderWidth);
+    slider->setObjectName(identifier);
+    connect(slider, &PointSlider::moved, this, &DisplaySection::configChanged);
+    layout()->addWidget(slider);
+    layout()->setAlignment(slider, Qt::AlignLeading);
+    return slider;
+}
+
+PopupButton* DisplaySection::createTickFactorPopup() {
+    auto* popup = new PopupButton(u"Scroll Speed"_s, 120);
+    popup->setObjectName(u"tickFactorPopup"_s);
+    for (const ScrollRate rate : allScrollRates)
+        popup->addItem(title(rate));
+    popup->setCurrentText(title(settings.scrollRate));
+    connect(popup, &PopupButton::activated, this, &DisplaySection::configChanged);
+    return popup;
+}
+
+std::optional<double> DisplaySection::displayWidth() const {
+    const auto all = screens.all();
+    if (screenManager && !all.empty()) return screenManager->preferredScreen().frame.width;
+    if (const auto main = screens.mainScreen()) return main->frame.width;
+    if (!all.empty()) return all.front().frame.width;
+    return std::nullopt;
+}
+
+double DisplaySection::computeMaxXOffset() const {
+    return PositionRange::maximumOffset(displayWidth(), settings.width);
+}
+
+void DisplaySection::updatePositionSliderLimits() {
+    const double maximum = computeMaxXOffset();
+    xOffsetSlider->setLimits(-maximum, maximum);
+}
+
+void DisplaySection::updateValueLabels() {
+    widthValueLabel->setText(PositionRange::valueText(widthSlider->points(), u"px"_s));
+    heightValueLabel->setText(PositionRange::valueText(heightSlider->points(), u"px"_s));
+    fontValueLabel->setText(PositionRange::valueText(fontSlider->points(), u"pt"_s));
+    updateXOffsetLabel();
+}
+
+void DisplaySection::updateXOffsetLabel() {
+    xOffsetLabel->setText(PositionRange::positionText(xOffsetSlider->points()));
+}
+
+void DisplaySection::selectScrollRate() {
+    tickFactorPopup->setCurrentText(title(settings.scrollRate));
+}
+
+void DisplaySection::chooseScrollRate(ScrollRate rate) {
+    showSettings();
+    tickFactorPopup->setCurrentText(title(rate));
+    configChanged();
+}
+
+void DisplaySection::configChanged() {
+    settings.width = widthSlider->points();
+    settings.height = heightSlider->points();
+    settings.fontSize = fontSlider->points();
+    updatePositionSliderLimits();
+    xOffsetSlider->setPoints(PositionRange::snapped(xOffsetSlider->points()));
+    settings.xOffset = xOffsetSlider->points();
+    if (tickFactorPopup->currentIndex() >= 0) {
+        const QString selected = tickFactorPopup->currentText();
+        settings.scrollRate = selected == title(ScrollRate::slow)     ? ScrollRate::slow
+                              : selected == title(ScrollRate::medium) ? ScrollRate::medium
+                                                                      : ScrollRate::fast;
+    }
+    settings.save();
+    updateValueLabels();
+    if (onSettingsChanged) onSettingsChanged();
+    recordChange();
+}
+
+// All four at every change; the position is nobody's business.
+void DisplaySection::recordChange() const {
+    recorder.trackSettingChanged(u"width"_s, wholePart(settings.width));
+    recorder.trackSettingChanged(u"height"_s, wholePart(settings.height));
+    recorder.trackSettingChanged(u"fontSize"_s, wholePart(settings.fontSize));
+    recorder.trackSettingChanged(u"scrollRate"_s, rawValue(settings.scrollRate));
+}
+
+void DisplaySection::rebuildScreenPopup() {
+    screenPopup->clear();
+    screenPopup->addItem(u"Auto"_s, automaticDisplay);
+    if (screenManager) {
+        for (const Screen& screen : screens.all()) {
+            if (screen.id == automaticDisplay) continue;
+            screenPopup->addItem(screen.name.isEmpty() ? u"Display"_s : screen.name,
+                                 quint32(screen.id));
+        }
+    }
+    const auto preferred = settings.preferredDisplayID;
+    if (!preferred || !screenPopup->selectItemCarrying(quint32(*preferred)))
+        screenPopup->setCurrentIndex(0);
+}
+
+void DisplaySection::screenSelectionChanged() {
+    const quint32 chosen = screenPopup->currentData().toUInt();
+    settings.preferredDisplayID =
+        chosen == automaticDisplay ? std::nullopt : std::optional<std::uint32_t>(chosen);
+    if (screenManager) screenManager->preferredDisplayID = settings.preferredDisplayID;
+    settings.save();
+    updatePositionSliderLimits();
+    updateXOffsetLabel();
+    if (onSettingsChanged) onSettingsChanged();
+    recorder.trackScreenChanged(screenPopup->currentIndex());
+}
+
+void DisplaySection::showSettings() {
+    widthSlider->setPoints(settings.width);
+    heightSlider->setPoints(settings.height);
+    fontSlider->setPoints(settings.fontSize);
+    updatePositionSliderLimits();
+    xOffsetSlider->setPoints(settings.xOffset);
+    selectScrollRate();
+    updateValueLabels();
+}
+
+} // namespace tessaline

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "settings/ScrollRate.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+class QLabel;
+
+namespace tessaline {
+
+class AppSettings;
+class PointSlider;
+class PopupButton;
+class ScreenManager;
+class Screens;
+class UsageRecorder;
+
+/// The controls for where and how large the prompter is and how fast it scrolls. Every change goes
+/// into the settings and is saved and announced at once. Main thread only.
+class DisplaySection : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Borrows everything.
+    DisplaySection(AppSettings& settings, const Screens& screens, UsageRecorder& recorder,
+                   QWidget* parent = nullptr);
+
+    /// The displays to choose from; null: only the automatic choice is offered. Borrowed.
+    void setScreenManager(ScreenManager* manager) { screenManager = manager; }
+
+    /// Called after every saved change.
+    std::function<void()> onSettingsChanged;
+
+    /// Shows the settings' sizes, position and scroll rate.
+    void showSettings();
+
+    /// What happens when the user picks this rate.
+    void chooseScrollRate(ScrollRate rate);
+
+    /// Lists the displays that are attached now and selects the preferred one.
+    void rebuildScreenPopup();
+
+    /// Writes the sliders' values beside their names.
+    void updateValueLabels();
+
+    PopupButton* screenPopup = nullptr;
+    PointSlider* widthSlider = nullptr;
+    PointSlider* heightSlider = nullptr;
+    PointSlider* fontSlider = nullptr;
+    PointSlider* xOffsetSlider = nullptr;
+    PopupButton* tickFactorPopup = nullptr;
+    QLabel* widthValueLabel = nullptr;
+    QLabel* heightValueLabel = nullptr;
+    QLabel* fontValueLabel = nullptr;
+    QLabel* xOffsetLabel = nullptr;
+
+private:
+    QWidget* createScreenRow();
+    QWidget* createScrollRateRow();
+    QLabel* addSliderRow(const QString& name, const QString& identifier);
+    PointSlider* addSlider(const QString& name, const QString& identifier);
+    PopupButton* createTickFactorPopup();
+    std::optional<double> displayWidth() const;
+    double computeMaxXOffset() const;
+    void updatePositionSliderLimits();
+    void updateXOffsetLabel();
+    void selectScrollRate();
+    void configChanged();
+    void recordChange() const;
+    void screenSelectionChanged();
+
+    AppSettings& settings;
+    const Screens& screens;
+    UsageRecorder& recorder;
+    ScreenManager* screenManager = nullptr;
+};
+
+} // namespace tessaline

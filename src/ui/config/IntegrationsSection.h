@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace tessaline {
+
+class AppSettings;
+class StatusDot;
+class Switch;
+struct WindowPorts;
+
+/// The sources that can be switched on, and what Obsidian's plug-in is up to. Main thread only.
+class IntegrationsSection : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Borrows everything.
+    IntegrationsSection(const AppSettings& settings, const WindowPorts& ports,
+                        QWidget* parent = nullptr);
+
+    /// Sets the Obsidian switch to what the settings say.
+    void showSettings();
+
+    /// Looks up what the plug-in is up to, if Obsidian is enabled, and shows it.
+    void updateObsidianStatus();
+
+    /// Installs the plug-in, tells the outcome in an alert and shows the new status.
+    void reinstallObsidianPlugin();
+
+    Switch* clipboardToggle = nullptr;
+    Switch* obsidianToggle = nullptr;
+    StatusDot* obsidianStatusDot = nullptr;
+    QLabel* obsidianStatusLabel = nullptr;
+    QPushButton* obsidianConfigButton = nullptr;
+
+Q_SIGNALS:
+    /// The user switched Obsidian on or off.
+    void obsidianToggled(bool on);
+
+private:
+    QWidget* createRow(QLabel* icon, const QString& name, Switch* toggle);
+    QWidget* createStatusRow();
+    QLabel* createObsidianIcon() const;
+    bool isObsidianEnabled() const;
+
+    const AppSettings& settings;
+    const WindowPorts& ports;
+    QWidget* statusRow = nullptr;
+};
+
+} // namespace tessaline

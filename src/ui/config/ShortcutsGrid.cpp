@@ -1,0 +1,47 @@
+#include "ui/config/ShortcutsGrid.h"
+
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "ui/controls/Labels.h"
+
+#include <QGridLayout>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int columns = 3;
+constexpr int keyColumnWidth = 170;
+constexpr int spacerHeight = 6;
+
+} // namespace
+
+ShortcutsGrid::ShortcutsGrid(QWidget* parent) : QWidget(parent) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setVerticalSpacing(4);
+    grid->setHorizontalSpacing(8);
+    grid->setColumnMinimumWidth(0, keyColumnWidth);
+    makeRow(*grid, u"⌘ + V"_s, u"Paste content"_s);
+    grid->setRowMinimumHeight(grid->rowCount(), spacerHeight);
+    grid->addWidget(
+        makeLabel(u"Works from any app:"_s, systemFont(10), SystemPalette::tertiaryLabel),
+        grid->rowCount(), 0, 1, columns, Qt::AlignLeading);
+    makeRow(*grid, u"⌃ + Scroll"_s, u"Scroll up or down"_s);
+    makeRow(*grid, u"⌃ + Scroll click"_s, u"Toggle auto-scroll"_s);
+    makeRow(*grid, u"⌃ + Two-finger tap"_s, u"Toggle auto-scroll"_s);
+}
+
+void ShortcutsGrid::makeRow(QGridLayout& grid, const QString& key, const QString& desc) {
+    const int row = grid.rowCount();
+    QLabel* keyLabel = makeLabel(key, monospacedFont(11, QFont::Medium), SystemPalette::label);
+    QLabel* arrow = makeLabel(u"→"_s, systemFont(11), SystemPalette::tertiaryLabel);
+    QLabel* description = makeLabel(desc, systemFont(11), SystemPalette::secondaryLabel);
+    grid.addWidget(keyLabel, row, 0, Qt::AlignLeading);
+    grid.addWidget(arrow, row, 1, Qt::AlignLeading);
+    grid.addWidget(description, row, 2, Qt::AlignLeading);
+}
+
+} // namespace tessaline

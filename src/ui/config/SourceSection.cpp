@@ -1,0 +1,137 @@
+#include "ui/config/SourceSection.h"
+
+#include "appearance/PointFont.h"
+#include "settings/AppSettings.h"
+#include "sources/SourceManager.h"
+#include "ui/WindowPorts.h"
+#include "ui/config/NotePicker.h"
+#include "ui/controls/BezelButton.h"
+#include "ui/controls/PopupButton.h"
+#include "ui/controls/Rows.h"
+#include "ui/controls/TruncatingLabel.h"
+
+#include <QGridLayout>
+#include <QPointer>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+SourceSection::SourceSection(AppSettings& shared, SourceManager* manager,
+                             const WindowPorts& borrowed, QWidget* parent)
+    : QWidget(parent), settings(shared), sourceManager(manager), ports(borrowed) {
+    QVBoxLayout* column = layOutColumn(*this, 8);
+    sourcePopup = new PopupButton(u"Active Source"_s, 140);
+    sourcePopup->setObjectName(u"config_sourcePopup"_s);
+    connect(sourcePopup, &PopupButton::activated, this, &SourceSection::sourceTypeChanged);
+    column->addWidget(sourcePopup, 0, Qt::AlignLeading);
+
+    sourceConfigContainer = new QWidget;
+    sourceConfigContainer->setObjectName(u"sourceConfigContainer"_s);
+    sourceConfigContainer->setFixedWidth(settingsColumnWidth);
+    sourceConfigContainer->setMinimumHeight(30);
+    auto* stacked = new QGridLayout(sourceConfigContainer);
+    stacked->setContentsMargins({});
+    stacked->addWidget(createFileRow(), 0, 0, Qt::AlignTop);
+    stacked->addWidget(createNoteRow(), 0, 0, Qt::AlignTop);
+    column->addWidget(sourceConfigContainer);
+    rebuildSourcePopup();
+}
+
+// Never shown: no source of today reads a file that the user picks here.
+QWidget* SourceSection::createFileRow() {
+    auto* holder = new QWidget;
+    holder->setObjectName(u"fileConfig"_s);
+    QHBoxLayout* row = layOutRow(*holder, 8);
+    filePathField = new TruncatingLabel(Qt::ElideMiddle, 180);
+    filePathField->setObjectName(u"filePathField"_s);
+    filePathField->setFont(systemFont(13));
+    filePathField->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    filePathField->showText(settings.notePath);
+    row->addWidget(filePathField);
+    browseButton = new BezelButton(u"Browse..."_s);
+    browseButton->setObjectName(u"browseButton"_s);
+    connect(browseButton, &QPushButton::clicked, this, &SourceSection::browseForFile);
+    row->addWidget(browseButton);
+    row->addStretch();
+    return holder;
+}
+
+QWidget* SourceSection::createNoteRow() {
+    auto* holder = new QWidget;
+    holder->setObjectName(u"noteConfig"_s);
+    QHBoxLayout* row = layOutRow(*holder, 8);
+    noteNameField = new TruncatingLabel(Qt::ElideRight, 150);
+    noteNameField->setObjectName(u"noteNameField"_s);
+    noteNameField->setFont(systemFont(13));
+    showNoteName();
+    row->addWidget(noteNameField);
+    selectNoteButton = new BezelButton(u"Select Note..."_s);
+    selectNoteButton->setObjectName(u"selectNoteButton"_s);
+    connect(selectNoteButton, &QPushButton::clicked, this, &SourceSection::selectNote);
+    row->addWidget(selectNoteButton);
+    row->addStretch();
+    return holder;
+}
+
+void SourceSection::rebuildSourcePopup() {
+    sourcePopup->clear();
+    for (const SourceType source : settings.getEnabledSources())
+        sourcePopup->addItem(displayName(source), QVariant::fromValue(source));
+    selectActiveSource();
+    updateSourceConfigVisibility();
+}
+
+void SourceSection::selectActiveSource() {
+    sourcePopup->selectItemCarrying(QVariant::fromValue(settings.activeSourceType));
+}
+
+void SourceSection::updateSourceConfigVisibility() {
+    auto* fileRow = sourceConfigContainer->findChild<QWidget*>(u"fileConfig"_s);
+    auto* noteRow = sourceConfigContainer->findChild<QWidget*>(u"noteConfig"_s);
+    if (!fileRow || !noteRow) return;
+    fileRow->hide();
+    const bool choosesNote = settings.activeSourceType == SourceType::appleNotes;
+    noteRow->setVisible(choosesNote);
+    sourceConfigContainer->setVisible(choosesNote);
+    if (choosesNote) showNoteName();
+}
+
+void SourceSection::showNoteName() {
+    const auto& note = settings.appleNotesConfig;
+    noteNameField->showText(note ? note->noteName : u"No note selected"_s);
+}
+
+bool SourceSection::chooseSource(SourceType source) {
+    rebuildSourcePopup();
+    if (!sourcePopup->selectItemCarrying(QVariant::fromValue(source))) return false;
+    sourceTypeChanged();
+    return true;
+}
+
+void SourceSection::sourceTypeChanged() {
+    const QVariant selected = sourcePopup->currentData();
+    if (!selected.canConvert<SourceType>()) return;
+    const auto source = selected.value<SourceType>();
+    settings.activeSourceType = source;
+    settings.save();
+    if (sourceManager) sourceManager->setActiveSource(source);
+    updateSourceConfigVisibility();
+    if (onSourceChanged) onSourceChanged(source);
+}
+
+void SourceSection::browseForFile() {}
+
+void SourceSection::selectNote() {
+    NotePicker::pick(*window(), ports.notes,
+                     [section = QPointer(this)](const AppleNotesConfiguration& note) {
+                         if (!section) return;
+                         section->settings.appleNotesConfig = note;
+                         section->settings.save();
+                         if (section->sourceManager)
+                             section->sourceManager->updateAppleNotesConfig(note);
+                         section->noteNameField->showText(note.noteName);
+                     });
+}
+
+} // namespace tessaline

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "settings/SourceType.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QPushButton;
+
+namespace tessaline {
+
+class AppSettings;
+class PopupButton;
+class SourceManager;
+class TruncatingLabel;
+struct WindowPorts;
+
+/// The choice of the active source and, for Apple Notes, of the note. Main thread only.
+class SourceSection : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Borrows everything; `sourceManager` may be null.
+    SourceSection(AppSettings& settings, SourceManager* sourceManager, const WindowPorts& ports,
+                  QWidget* parent = nullptr);
+
+    /// Lists the enabled sources and selects the active one.
+    void rebuildSourcePopup();
+
+    /// Selects the active source.
+    void selectActiveSource();
+
+    /// What happens when the user picks this source. False when it is not on offer.
+    bool chooseSource(SourceType source);
+
+    /// Shows the rows that the active source needs.
+    void updateSourceConfigVisibility();
+
+    /// Called with the new source after the user chose another one.
+    std::function<void(SourceType)> onSourceChanged;
+
+    PopupButton* sourcePopup = nullptr;
+    QWidget* sourceConfigContainer = nullptr;
+    TruncatingLabel* filePathField = nullptr;
+    QPushButton* browseButton = nullptr;
+    TruncatingLabel* noteNameField = nullptr;
+    QPushButton* selectNoteButton = nullptr;
+
+private:
+    QWidget* createFileRow();
+    QWidget* createNoteRow();
+    void sourceTypeChanged();
+    void browseForFile();
+    void selectNote();
+    void showNoteName();
+
+    AppSettings& settings;
+    SourceManager* sourceManager;
+    const WindowPorts& ports;
+};
+
+} // namespace tessaline

@@ -1,0 +1,42 @@
+#include "ui/controls/Bezel.h"
+
+#include "appearance/SystemPalette.h"
+
+#include <QPainter>
+#include <QWidget>
+
+namespace tessaline {
+
+namespace {
+
+constexpr double cornerRadius = 5.0;
+constexpr double ringWidth = 2.0;
+constexpr int pressedLightness = 125;
+constexpr double disabledOpacity = 0.5;
+
+} // namespace
+
+void drawBezel(QPainter& painter, const QWidget& widget, QColor ground, bool pressed) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (pressed) ground = ground.lighter(pressedLightness);
+    if (!widget.isEnabled()) painter.setOpacity(disabledOpacity);
+    const QRectF bounds(widget.rect());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(bounds, cornerRadius, cornerRadius);
+    if (showsFocus(widget)) {
+        const double inset = ringWidth / 2;
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(SystemPalette::focusRing, ringWidth));
+        painter.drawRoundedRect(bounds.adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
+                                cornerRadius - inset);
+    }
+    painter.restore();
+}
+
+bool showsFocus(const QWidget& widget) {
+    return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
+} // namespace tessaline

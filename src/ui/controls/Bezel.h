@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+
+class QPainter;
+class QWidget;
+
+namespace tessaline {
+
+/// How far, in points, what stands in a bezel keeps from its sides.
+inline constexpr int bezelPadding = 10;
+
+/// Draws the rounded ground of a button over the whole widget: lighter while `pressed`, dimmed
+/// while the widget is disabled, ringed while it has the focus by keyboard.
+void drawBezel(QPainter& painter, const QWidget& widget, QColor ground, bool pressed);
+
+/// Whether the widget has the focus and the user works with the keyboard.
+bool showsFocus(const QWidget& widget);
+
+} // namespace tessaline

@@ -1,0 +1,54 @@
+#include "ui/controls/FittingScrollArea.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <QScreen>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace tessaline {
+
+namespace {
+
+constexpr int titleBarAllowance = 40;
+
+} // namespace
+
+FittingScrollArea::FittingScrollArea(QWidget* content, const QSize& leastContent, QWidget* parent)
+    : QScrollArea(parent), least(leastContent) {
+    content->setFixedWidth(least.width());
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidgetResizable(true);
+    setWidget(content);
+    fit();
+}
+
+int FittingScrollArea::contentHeight() const {
+    const QLayout& layout = *widget()->layout();
+    const int laidOut = layout.hasHeightForWidth() ? layout.totalHeightForWidth(least.width())
+                                                   : layout.totalSizeHint().height();
+    return std::max(laidOut, least.height());
+}
+
+QSize FittingScrollArea::sizeHint() const {
+    const QSize whole(least.width(), contentHeight());
+    const int room = screen()->availableGeometry().height() - titleBarAllowance;
+    if (whole.height() <= room) return whole;
+    return {whole.width() + verticalScrollBar()->sizeHint().width(), room};
+}
+
+// Without a height of its own the content would be squeezed before anything scrolls.
+void FittingScrollArea::fit() {
+    widget()->setMinimumHeight(contentHeight());
+    updateGeometry();
+}
+
+bool FittingScrollArea::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) fit();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+} // namespace tessaline

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QLabel>
+
+namespace tessaline {
+
+/// The heading of a group of controls. Main thread only.
+class SectionTitle : public QLabel {
+public:
+    explicit SectionTitle(const QString& text, QWidget* parent = nullptr);
+};
+
+} // namespace tessaline

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tessaline {
+
+/// A thin horizontal line between groups of controls. Main thread only.
+class Separator : public QWidget {
+public:
+    /// A line of so many points.
+    explicit Separator(int width, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace tessaline

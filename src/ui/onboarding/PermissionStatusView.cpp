@@ -1,0 +1,58 @@
+#include "ui/onboarding/PermissionStatusView.h"
+
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "ui/controls/BezelButton.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/StatusDot.h"
+
+#include <QHBoxLayout>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int margin = 12;
+constexpr int leastButtonWidth = 100;
+
+} // namespace
+
+PermissionStatusView::PermissionStatusView(const QString& title, const QString& description,
+                                           bool isGranted, QWidget* parent)
+    : Card(parent)
+    , statusIndicator(new StatusDot(12))
+    , titleLabel(makeLabel(title, systemFont(14, QFont::DemiBold), SystemPalette::label))
+    , descriptionLabel(
+          makeWrappingLabel(description, systemFont(12), SystemPalette::secondaryLabel))
+    , grantButton(new BezelButton(u"Open System Preferences"_s)) {
+    grantButton->setMinimumWidth(leastButtonWidth);
+    grantButton->setObjectName(u"grantButton"_s);
+    connect(grantButton, &QPushButton::clicked, this, &PermissionStatusView::grantButtonClicked);
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addWidget(titleLabel);
+    texts->addWidget(descriptionLabel);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(margin, margin, margin, margin);
+    row->setSpacing(margin);
+    row->addWidget(statusIndicator);
+    row->addLayout(texts, 1);
+    row->addWidget(grantButton);
+    updateStatus(isGranted);
+}
+
+void PermissionStatusView::updateStatus(bool isGranted) {
+    statusIndicator->setStatus(isGranted ? SystemPalette::green : SystemPalette::orange,
+                               isGranted ? u"Granted"_s : u"Not granted"_s);
+    grantButton->setText(isGranted ? u"Permission Granted ✓"_s : u"Grant Access"_s);
+    grantButton->setEnabled(!isGranted);
+}
+
+void PermissionStatusView::grantButtonClicked() {
+    if (onGrantButtonClicked) onGrantButtonClicked();
+}
+
+} // namespace tessaline

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui/onboarding/Card.h"
+
+#include <functional>
+
+class QLabel;
+class QPushButton;
+
+namespace tessaline {
+
+class StatusDot;
+
+/// One permission: what it is for, whether it is granted, and a button that asks for it. Main
+/// thread only.
+class PermissionStatusView : public Card {
+    Q_OBJECT
+
+public:
+    PermissionStatusView(const QString& title, const QString& description, bool isGranted,
+                         QWidget* parent = nullptr);
+
+    /// Shows the state. Granted, the button says so and cannot be pressed.
+    void updateStatus(bool isGranted);
+
+    /// Called when the user asks for the permission.
+    std::function<void()> onGrantButtonClicked;
+
+    StatusDot* statusIndicator = nullptr;
+    QLabel* titleLabel = nullptr;
+    QLabel* descriptionLabel = nullptr;
+    QPushButton* grantButton = nullptr;
+
+private:
+    void grantButtonClicked();
+};
+
+} // namespace tessaline

@@ -1,0 +1,277 @@
+#include "appearance/SystemPalette.h"
+#include "support/PrintQt.h"
+#include "ui/ConfigWindowFixture.h"
+#include "ui/controls/StatusDot.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+class ConfigWindowTest : public ConfigWindowFixture {
+protected:
+    StatusDot& dot() { return control<StatusDot>("accessibilityDot"); }
+    QPushButton& fixButton() { return control<QPushButton>("accessibilityFixButton"); }
+
+    /// The texts of all labels with one, from top to bottom.
+    std::vector<QString> texts() {
+        std::vector<std::pair<QPoint, QString>> found;
+        for (const QLabel* label : shown().findChildren<QLabel*>()) {
+            if (!label->isVisible() || label->text().isEmpty()) continue;
+            found.emplace_back(label->mapTo(&window(), QPoint(0, label->height() / 2)),
+                               label->text());
+        }
+        std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) {
+            return std::abs(a.first.y() - b.first.y()) > 4 ? a.first.y() < b.first.y()
+                                                           : a.first.x() < b.first.x();
+        });
+        std::vector<QString> all;
+        all.reserve(found.size());
+        for (const auto& [place, text] : found)
+            all.push_back(text);
+        return all;
+    }
+};
+
+TEST_F(ConfigWindowTest, HasItsTitleAndFrame) {
+    EXPECT_EQ(window().windowTitle(), u"Settings"_s);
+    const auto flags = window().windowFlags();
+    EXPECT_TRUE(flags & Qt::WindowTitleHint);
+    EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+    EXPECT_TRUE(flags & Qt::WindowMinimizeButtonHint);
+    EXPECT_FALSE(flags & Qt::WindowMaximizeButtonHint);
+    EXPECT_EQ(window().minimumSize(), window().maximumSize());
+    EXPECT_EQ(shown().grab().toImage().pixelColor(2, 2), QColor(42, 42, 44));
+}
+
+TEST_F(ConfigWindowTest, SaysEverythingFromTopToBottom) {
+    stage.screens.main->frame.width = 1920;
+    EXPECT_THAT(texts(), ElementsAreArray({u"Enabled Integrations"_s,
+                                           u"📋"_s,
+                                           u"Clipboard"_s,
+                                           u"📄"_s,
+                                           u"Obsidian"_s,
+                                           u"Active Source"_s,
+                                           u"Display"_s,
+                                           u"Screen"_s,
+                                           u"Width"_s,
+                                           u"450px"_s,
+                                           u"Height"_s,
+                                           u"256px"_s,
+                                           u"Font Size"_s,
+                                           u"16pt"_s,
+                                           u"Position"_s,
+                                           u"Center"_s,
+                                           u"Scroll Speed"_s,
+                                           u"Shortcuts"_s,
+                                           u"⌘ + V"_s,
+                                           u"→"_s,
+                                           u"Paste content"_s,
+                                           u"Works from any app:"_s,
+                                           u"⌃ + Scroll"_s,
+                                           u"→"_s,
+                                           u"Scroll up or down"_s,
+                                           u"⌃ + Scroll click"_s,
+                                           u"→"_s,
+                                           u"Toggle auto-scroll"_s,
+                                           u"⌃ + Two-finger tap"_s,
+                                           u"→"_s,
+                                           u"Toggle auto-scroll"_s,
+                                           u"Accessibility"_s}));
+}
+
+TEST_F(ConfigWindowTest, ClipsNothing) {
+    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.settings.activeSourceType = SourceType::appleNotes;
+    stage.settings.xOffset = -135.5;
+    shown();
+    QTest::qWait(0);
+    for (const QWidget* part : window().findChildren<QWidget*>()) {
+        const bool isText = qobject_cast<const QLabel*>(part) != nullptr ||
+                            qobject_cast<const QAbstractButton*>(part) != nullptr ||
+                            qobject_cast<const QComboBox*>(part) != nullptr;
+        if (!isText || !part->isVisible()) continue;
+        EXPECT_EQ(part->visibleRegion().boundingRect(), part->rect())
+            << part->objectName().toStdString();
+        EXPECT_GE(part->width(), part->minimumSizeHint().width())
+            << part->objectName().toStdString();
+        EXPECT_GE(part->height(), part->minimumSizeHint().height())
+            << part->objectName().toStdString();
+    }
+}
+
+TEST_F(ConfigWindowTest, FollowsItsContentsHeight) {
+    shown();
+    const int before = window().height();
+    stage.settings.activeSourceType = SourceType::appleNotes;
+    window().refreshUI();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window().height() >= before + 30; }, 3000));
+    stage.settings.activeSourceType = SourceType::clipboard;
+    window().refreshUI();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window().height() == before; }, 3000));
+    EXPECT_EQ(window().width(), 320);
+}
+
+TEST_F(ConfigWindowTest, HasItsSizeAsSoonAsItIsRefreshedAlsoWhileItIsHidden) {
+    const QSize before = window().size();
+    EXPECT_EQ(before.width(), 320);
+    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    window().refreshUI();
+    const QSize hidden = window().size();
+    EXPECT_GT(hidden.height(), before.height());
+    shown();
+    QTest::qWait(0);
+    EXPECT_EQ(window().size(), hidden);
+}
+
+TEST_F(ConfigWindowTest, TheTabKeyGoesFromTopToBottom) {
+    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    shown();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    std::vector<QString> visited;
+    for (int i = 0; i < 10; ++i) {
+        visited.push_back(window().focusWidget()->objectName());
+        QTest::keyClick(&window(), Qt::Key_Tab);
+    }
+    EXPECT_THAT(visited,
+                ElementsAre(u"obsidianToggle"_s, u"obsidianConfigButton"_s, u"config_sourcePopup"_s,
+                            u"config_screenPopup"_s, u"widthSlider"_s, u"heightSlider"_s,
+                            u"fontSlider"_s, u"xOffsetSlider"_s, u"tickFactorPopup"_s,
+                            u"accessibilityFixButton"_s));
+}
+
+TEST_F(ConfigWindowTest, EveryControlHasANameForScreenReaders) {
+    int controls = 0;
+    for (const QWidget* part : shown().findChildren<QWidget*>()) {
+        const bool isControl = part->window() == &window() && part->focusPolicy() != Qt::NoFocus &&
+                               !qobject_cast<const QScrollBar*>(part);
+        if (!isControl) continue;
+        ++controls;
+        const auto* button = qobject_cast<const QPushButton*>(part);
+        EXPECT_FALSE(part->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
+            << part->metaObject()->className() << ' ' << part->objectName().toStdString();
+    }
+    EXPECT_GE(controls, 11);
+}
+
+TEST_F(ConfigWindowTest, ShowsThatThePermissionIsMissing) {
+    shown();
+    EXPECT_EQ(dot().color(), SystemPalette::orange);
+    EXPECT_TRUE(fixButton().isVisible());
+    EXPECT_EQ(fixButton().text(), u"Grant Access"_s);
+    EXPECT_EQ(control<QLabel>("accessibilityLabel").text(), u"Accessibility"_s);
+}
+
+TEST_F(ConfigWindowTest, ShowsThatThePermissionIsGranted) {
+    stage.trust.trusted = true;
+    shown();
+    EXPECT_EQ(dot().color(), SystemPalette::green);
+    EXPECT_FALSE(fixButton().isVisible());
+    EXPECT_EQ(control<QLabel>("accessibilityLabel").text(), u"Accessibility"_s);
+}
+
+TEST_F(ConfigWindowTest, AsksForThePermissionAnew) {
+    shown();
+    QTest::mouseClick(&fixButton(), Qt::LeftButton);
+    ASSERT_EQ(stage.processes.calls.size(), 1u);
+    EXPECT_EQ(stage.processes.calls[0].program, u"/usr/bin/tccutil"_s);
+    EXPECT_EQ(stage.trust.prompts, 1);
+}
+
+TEST_F(ConfigWindowTest, LooksAtThePermissionWhenItBecomesActive) {
+    window();
+    stage.trust.trusted = true;
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&window(), &activation);
+    EXPECT_EQ(dot().color(), SystemPalette::green);
+}
+
+TEST_F(ConfigWindowTest, LooksAtThePermissionWhenItIsRefreshed) {
+    window();
+    stage.trust.trusted = true;
+    window().refreshUI();
+    EXPECT_EQ(dot().color(), SystemPalette::green);
+}
+
+TEST_F(ConfigWindowTest, LooksAfterPluginAndPermissionEveryTwoSeconds) {
+    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.installObsidian();
+    window().startPeriodicRefresh();
+    EXPECT_THAT(stage.timers.liveIntervals(), ElementsAre(2.0));
+    stage.obsidian.pluginInstalled = stage.obsidian.pluginEnabled = true;
+    stage.trust.trusted = true;
+    stage.pass(1.9);
+    EXPECT_EQ(dot().color(), SystemPalette::orange);
+    stage.pass(0.2);
+    EXPECT_EQ(dot().color(), SystemPalette::green);
+    EXPECT_EQ(control<QLabel>("obsidianStatusLabel").text(), u"Plugin active"_s);
+}
+
+TEST_F(ConfigWindowTest, KeepsOneTimer) {
+    window().startPeriodicRefresh();
+    window().startPeriodicRefresh();
+    EXPECT_THAT(stage.timers.liveIntervals(), ElementsAre(2.0));
+}
+
+TEST_F(ConfigWindowTest, StopsLookingWhenItClosesAndCanBeShownAgain) {
+    shown().startPeriodicRefresh();
+    window().close();
+    EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());
+    EXPECT_FALSE(window().isVisible());
+    shown().startPeriodicRefresh();
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_THAT(stage.timers.liveIntervals(), ElementsAre(2.0));
+}
+
+TEST_F(ConfigWindowTest, DoesNotPollBeforeItIsAskedTo) {
+    shown();
+    EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());
+}
+
+TEST_F(ConfigWindowTest, EscapeAndReturnLeaveItOpen) {
+    shown();
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    QTest::keyClick(&window(), Qt::Key_Return);
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(stage.trust.prompts, 0);
+}
+
+TEST_F(ConfigWindowTest, TheKeysThatCloseWindowsCloseIt) {
+    shown();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QTest::keySequence(&window(), QKeySequence::Close);
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(ConfigWindowTest, BuildingItChangesAndSavesNothing) {
+    const auto before = static_cast<const PersistedSettings&>(stage.settings);
+    QFile::remove(stage.configPath);
+    shown();
+    EXPECT_EQ(static_cast<const PersistedSettings&>(stage.settings), before);
+    EXPECT_FALSE(QFile::exists(stage.configPath));
+    EXPECT_EQ(settingsChanges, 0);
+    EXPECT_TRUE(stage.recorder.events.empty());
+}
+
+TEST(ConfigWindowGone, LeavesNoTimerBehind) {
+    WindowStage stage;
+    auto window = std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.ports);
+    window->startPeriodicRefresh();
+    window.reset();
+    EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());
+}
+
+} // namespace
+} // namespace tessaline

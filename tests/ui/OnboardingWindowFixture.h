@@ -1,0 +1,71 @@
+#pragma once
+
+#include "ui/Alert.h"
+#include "ui/OnboardingWindow.h"
+#include "ui/WindowStage.h"
+#include "ui/controls/Switch.h"
+#include "ui/onboarding/IntegrationToggleView.h"
+#include "ui/onboarding/PermissionStatusView.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+namespace tessaline {
+
+/// A first-run window amid fakes. Change the stage first; the window is built when it is first
+/// asked for.
+class OnboardingWindowFixture : public testing::Test {
+protected:
+    OnboardingWindow& window() {
+        if (!built) {
+            built = std::make_unique<OnboardingWindow>(manager, stage.settings, sourceManager.get(),
+                                                       stage.ports);
+            built->onComplete = [this] { ++completions; };
+            built->onSkip = [this] { ++skips; };
+        }
+        return *built;
+    }
+
+    OnboardingWindow& shown() {
+        window().show();
+        return window();
+    }
+
+    IntegrationToggleView& row(const char* name) {
+        return *window().findChild<IntegrationToggleView*>(QString::fromLatin1(name));
+    }
+    IntegrationToggleView& obsidian() { return row("obsidianToggleView"); }
+    PermissionStatusView& permission() {
+        return *window().findChild<PermissionStatusView*>(
+            QStringLiteral("accessibilityStatusView"));
+    }
+    QPushButton& continueButton() {
+        return *window().findChild<QPushButton*>(QStringLiteral("onboarding_continueButton"));
+    }
+
+    void switchObsidian() { QTest::mouseClick(obsidian().toggleSwitch, Qt::LeftButton); }
+
+    Alert* sheet() {
+        for (Alert* alert : window().findChildren<Alert*>())
+            if (alert->isVisible()) return alert;
+        return nullptr;
+    }
+
+    bool obsidianEnabled() const {
+        return AppSettings(stage.configPath).enabledSourceTypes.contains(SourceType::obsidian);
+    }
+
+    WindowStage stage;
+    PermissionManager manager{stage.ports.permissions};
+    std::unique_ptr<SourceManager> sourceManager;
+    int completions = 0;
+    int skips = 0;
+    std::unique_ptr<OnboardingWindow> built;
+};
+
+} // namespace tessaline

@@ -1,0 +1,261 @@
+#include "appearance/SystemPalette.h"
+#include "support/PrintQt.h"
+#include "ui/OnboardingWindowFixture.h"
+#include "ui/controls/StatusDot.h"
+
+#include <QScreen>
+
+#include <vector>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using OnboardingWindowTest = OnboardingWindowFixture;
+
+TEST_F(OnboardingWindowTest, StartsAfreshWithTheClipboardAndSavesThat) {
+    stage.settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
+    stage.settings.activeSourceType = SourceType::obsidian;
+    stage.settings.save();
+    window();
+    EXPECT_THAT(stage.settings.enabledSourceTypes, ElementsAre(SourceType::clipboard));
+    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    const AppSettings saved(stage.configPath);
+    EXPECT_THAT(saved.enabledSourceTypes, ElementsAre(SourceType::clipboard));
+    EXPECT_EQ(saved.activeSourceType, SourceType::clipboard);
+}
+
+TEST_F(OnboardingWindowTest, ClearsAStaleEntryAndDoesNotMindFailure) {
+    stage.processes.result = {.exitCode = -1};
+    window();
+    EXPECT_THAT(
+        stage.processes.calls,
+        ElementsAre(FakeProcessRunner::Call{
+            u"/usr/bin/tccutil"_s, {u"reset"_s, u"Accessibility"_s, u"app.example.Program"_s}}));
+    EXPECT_EQ(stage.trust.prompts, 0);
+}
+
+TEST_F(OnboardingWindowTest, LeavesAGrantedPermissionAlone) {
+    stage.trust.trusted = true;
+    window();
+    EXPECT_THAT(stage.processes.calls, IsEmpty());
+}
+
+TEST_F(OnboardingWindowTest, CannotClearAnEntryWithoutAnIdentifier) {
+    stage.bundle.bundleIdentifier.reset();
+    window();
+    EXPECT_THAT(stage.processes.calls, IsEmpty());
+}
+
+TEST_F(OnboardingWindowTest, HasItsTextsAndSize) {
+    shown();
+    EXPECT_EQ(window().windowTitle(), u"Welcome to Tessaline"_s);
+    EXPECT_EQ(window().findChild<QLabel*>(u"onboarding_title"_s)->text(),
+              u"Welcome to Tessaline"_s);
+    EXPECT_EQ(
+        window().findChild<QLabel*>(u"onboarding_subtitle"_s)->text(),
+        u"Turn your Mac's notch into a teleprompter. Read scripts, notes, or any text right from the top of your screen."_s);
+    EXPECT_EQ(permission().titleLabel->text(), u"Accessibility Access"_s);
+    EXPECT_EQ(
+        permission().descriptionLabel->text(),
+        u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s);
+    EXPECT_EQ(continueButton().text(), u"Get Started"_s);
+    EXPECT_GE(continueButton().width(), 120);
+    EXPECT_EQ(window().size(), QSize(520, 520));
+    EXPECT_FALSE(window().windowFlags() & Qt::WindowMinimizeButtonHint);
+    EXPECT_TRUE(window().windowFlags() & Qt::WindowCloseButtonHint);
+}
+
+TEST_F(OnboardingWindowTest, StandsInTheMiddleOfTheScreen) {
+    const QPoint middle = window().screen()->availableGeometry().center();
+    EXPECT_LE((window().geometry().center() - middle).manhattanLength(), 2);
+}
+
+TEST_F(OnboardingWindowTest, KeepsItsDistances) {
+    shown();
+    const auto bounds = [this](const QWidget* part) {
+        return QRect(part->mapTo(&window(), QPoint(0, 0)), part->size());
+    };
+    const QRect title = bounds(window().findChild<QLabel*>(u"onboarding_title"_s));
+    const QRect subtitle = bounds(window().findChild<QLabel*>(u"onboarding_subtitle"_s));
+    const QRect clipboard = bounds(&row("clipboardToggleView"));
+    const QRect second = bounds(&obsidian());
+    const QRect button = bounds(&continueButton());
+    EXPECT_EQ(title.top(), 30);
+    EXPECT_EQ(subtitle.top(), title.bottom() + 1 + 10);
+    EXPECT_EQ(bounds(&permission()).left(), 30);
+    EXPECT_EQ(bounds(&permission()).width(), 460);
+    EXPECT_EQ(clipboard.height(), 60);
+    EXPECT_EQ(second.top(), clipboard.bottom() + 1 + 8);
+    EXPECT_EQ(button.top(), second.bottom() + 1 + 20);
+    EXPECT_NEAR(button.center().x(), 260, 1);
+    EXPECT_GE(window().height() - button.bottom() - 1, 20);
+}
+
+TEST_F(OnboardingWindowTest, OffersTheClipboardForGoodAndNoAppleNotes) {
+    window();
+    EXPECT_EQ(row("clipboardToggleView").statusLabel->text(), u"Default — paste any text"_s);
+    EXPECT_TRUE(row("clipboardToggleView").toggleSwitch->isChecked());
+    EXPECT_FALSE(row("clipboardToggleView").toggleSwitch->isEnabled());
+    EXPECT_EQ(row("clipboardToggleView").iconLabel->text(), u"📋"_s);
+    EXPECT_EQ(window().findChildren<IntegrationToggleView*>().size(), 2);
+}
+
+TEST_F(OnboardingWindowTest, AsksForThePermissionOnRequest) {
+    shown();
+    stage.processes.calls.clear();
+    QTest::mouseClick(permission().grantButton, Qt::LeftButton);
+    EXPECT_EQ(stage.processes.calls.size(), 1u);
+    EXPECT_EQ(stage.trust.prompts, 1);
+}
+
+TEST_F(OnboardingWindowTest, NoticesTheGrantWithinASecond) {
+    shown();
+    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::orange);
+    EXPECT_THAT(stage.timers.liveIntervals(), ElementsAre(1.0));
+    stage.trust.trusted = true;
+    stage.pass(1.0);
+    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::green);
+    EXPECT_EQ(permission().grantButton->text(), u"Permission Granted ✓"_s);
+    EXPECT_FALSE(permission().grantButton->isEnabled());
+}
+
+TEST_F(OnboardingWindowTest, NoticesTheGrantWhenItBecomesActive) {
+    window();
+    stage.trust.trusted = true;
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&window(), &activation);
+    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::green);
+}
+
+TEST_F(OnboardingWindowTest, HearsOfChangesFromAnySender) {
+    window();
+    stage.trust.trusted = true;
+    stage.notifications.post(
+        {PermissionManager::permissionStatusDidChangeNotification(), &stage, {}});
+    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::green);
+}
+
+TEST_F(OnboardingWindowTest, FinishingSavesRecordsCallsAndCloses) {
+    stage.trust.trusted = true;
+    shown();
+    window().onComplete = [this] {
+        ++completions;
+        EXPECT_TRUE(AppSettings(stage.configPath).hasCompletedOnboarding);
+        EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());
+        EXPECT_THAT(stage.recorder.names(), ElementsAre(u"onboarding_completed"_s));
+        EXPECT_TRUE(window().isVisible());
+    };
+    QTest::mouseClick(&continueButton(), Qt::LeftButton);
+    EXPECT_EQ(completions, 1);
+    EXPECT_EQ(skips, 0);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(stage.recorder.events[0].properties,
+              (QMap<QString, QString>{{u"accessibility_granted"_s, u"true"_s},
+                                      {u"obsidian_enabled"_s, u"false"_s}}));
+    continueButton().click();
+    EXPECT_EQ(completions, 1);
+    EXPECT_EQ(stage.recorder.events.size(), 1u);
+}
+
+class FinishingKey : public OnboardingWindowTest, public testing::WithParamInterface<Qt::Key> {};
+
+TEST_P(FinishingKey, PressesGetStartedWhereverTheFocusIs) {
+    shown();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    permission().grantButton->setFocus();
+    QTest::keyClick(permission().grantButton, GetParam());
+    EXPECT_EQ(completions, 1);
+    EXPECT_EQ(stage.trust.prompts, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, FinishingKey, testing::Values(Qt::Key_Return, Qt::Key_Enter));
+
+TEST_F(OnboardingWindowTest, TheTabKeyGoesFromTopToBottom) {
+    stage.installObsidian();
+    shown();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    std::vector<QWidget*> visited;
+    for (int i = 0; i < 3; ++i) {
+        visited.push_back(window().focusWidget());
+        QTest::keyClick(&window(), Qt::Key_Tab);
+    }
+    EXPECT_THAT(visited,
+                ElementsAre(permission().grantButton, obsidian().toggleSwitch, &continueButton()));
+}
+
+TEST_F(OnboardingWindowTest, NeedsNobodyToTell) {
+    shown();
+    window().onComplete = nullptr;
+    continueButton().click();
+    EXPECT_TRUE(stage.settings.hasCompletedOnboarding);
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(OnboardingWindowTest, ClosingWithoutFinishingSkipsOnce) {
+    shown().close();
+    EXPECT_EQ(skips, 1);
+    EXPECT_EQ(completions, 0);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_FALSE(AppSettings(stage.configPath).hasCompletedOnboarding);
+    shown().close();
+    EXPECT_EQ(skips, 1);
+}
+
+TEST_F(OnboardingWindowTest, EscapeLeavesItOpen) {
+    QTest::keyClick(&shown(), Qt::Key_Escape);
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(skips, 0);
+}
+
+TEST_F(OnboardingWindowTest, MayBeDroppedByWhoeverHearsThatItIsComplete) {
+    shown();
+    window().onComplete = [this] {
+        ++completions;
+        built.reset();
+    };
+    continueButton().click();
+    EXPECT_EQ(completions, 1);
+    EXPECT_FALSE(built);
+}
+
+TEST_F(OnboardingWindowTest, MayBeDroppedByWhoeverHearsThatItIsSkipped) {
+    shown();
+    window().onSkip = [this] {
+        ++skips;
+        built.reset();
+    };
+    built->close();
+    EXPECT_EQ(skips, 1);
+    EXPECT_FALSE(built);
+}
+
+TEST_F(OnboardingWindowTest, StopsPollingAndListeningWhenItGoes) {
+    window();
+    built.reset();
+    EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());
+    stage.notifications.post(
+        {PermissionManager::permissionStatusDidChangeNotification(), &manager, {}});
+}
+
+TEST_F(OnboardingWindowTest, ClipsNothing) {
+    stage.trust.trusted = true; // the longest title on the button
+    stage.installObsidian();
+    shown();
+    QTest::qWait(0);
+    for (const QLabel* label : window().findChildren<QLabel*>()) {
+        EXPECT_GE(label->height(), label->wordWrap() ? label->heightForWidth(label->width())
+                                                     : label->sizeHint().height())
+            << label->text().toStdString();
+        EXPECT_EQ(label->visibleRegion().boundingRect(), label->rect())
+            << label->text().toStdString();
+    }
+}
+
+} // namespace
+} // namespace tessaline

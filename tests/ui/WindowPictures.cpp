@@ -1,0 +1,189 @@
+// Draws both windows in the states that they can be in, for people to look at:
+// ui_pictures FOLDER
+
+#include "permissions/PermissionManager.h"
+#include "screens/ScreenManager.h"
+#include "support/TestEnvironment.h"
+#include "ui/Alert.h"
+#include "ui/ConfigWindow.h"
+#include "ui/OnboardingWindow.h"
+#include "ui/WindowStage.h"
+#include "ui/controls/PopupButton.h"
+#include "ui/controls/Switch.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QPushButton>
+#include <QTest>
+#include <QTextStream>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+QIcon gem() {
+    QPixmap picture(64, 64);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(124, 58, 237));
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(QPolygon({{32, 2}, {56, 20}, {48, 60}, {14, 56}, {8, 22}}));
+    return QIcon(picture);
+}
+
+/// Shows a window, waits until it stands still, and writes what it looks like.
+class Camera {
+public:
+    explicit Camera(const QString& path) : folder(path) { folder.mkpath(u"."_s); }
+
+    void take(QWidget& window, const QString& name) const {
+        if (!window.isVisible()) window.show();
+        QTest::qWait(300);
+        const bool written = window.grab().save(folder.filePath(name + u".png"_s));
+        QTextStream(stdout) << name << ' ' << window.width() << 'x' << window.height()
+                            << (written ? "\n" : " NOT WRITTEN\n");
+    }
+
+    void takeSheet(QWidget& window, const QString& name) const {
+        QTest::qWait(50);
+        auto* sheet = window.findChild<Alert*>(QString(), Qt::FindDirectChildrenOnly);
+        if (sheet) take(*sheet, name);
+    }
+
+private:
+    QDir folder;
+};
+
+/// A stage with Obsidian's icon and two displays.
+struct Set : WindowStage {
+    Set() {
+        icons.icons.emplace(u"/apps/obsidian"_s, gem());
+        plugIn(Screen{
+            .id = 9, .name = u"DELL U2723QE with a long name"_s, .frame = {1000, 0, 2560, 1440}});
+    }
+
+    void enableObsidian(bool pluginInstalled, bool pluginEnabled) {
+        installObsidian(pluginInstalled, pluginEnabled);
+        settings.enabledSourceTypes.insert(SourceType::obsidian);
+    }
+};
+
+struct Settings : Set {
+    std::unique_ptr<ConfigWindow> build() {
+        auto window = std::make_unique<ConfigWindow>(settings, nullptr, ports);
+        window->setScreenManager(&manager);
+        window->refreshUI();
+        return window;
+    }
+
+    ScreenManager manager{screens, notifications};
+};
+
+void takeSettings(const Camera& camera) {
+    {
+        Settings off;
+        camera.take(*off.build(), u"settings-obsidian-off"_s);
+        off.trust.trusted = true;
+        off.settings.xOffset = -135.9;
+        camera.take(*off.build(), u"settings-left-granted"_s);
+    }
+    {
+        Settings on;
+        on.enableObsidian(true, true);
+        on.settings.xOffset = 235;
+        on.settings.preferredDisplayID = 9;
+        on.trust.trusted = true;
+        camera.take(*on.build(), u"settings-obsidian-active"_s);
+        on.obsidian.pluginEnabled = false;
+        camera.take(*on.build(), u"settings-obsidian-disabled"_s);
+        on.obsidian.pluginInstalled = false;
+        const auto window = on.build();
+        camera.take(*window, u"settings-obsidian-missing"_s);
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(window.get(), Qt::Key_Tab);
+        camera.take(*window, u"settings-focus-popup"_s);
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(window.get(), Qt::Key_Tab);
+        camera.take(*window, u"settings-focus-slider"_s);
+        window->findChild<PopupButton*>(u"config_screenPopup"_s)->showPopup();
+        QTest::qWait(100);
+        if (QWidget* popup = QApplication::activePopupWidget()) {
+            camera.take(*popup, u"settings-popup"_s);
+            popup->close();
+        }
+        window->findChild<QPushButton*>(u"obsidianConfigButton"_s)->click();
+        camera.takeSheet(*window, u"sheet-reinstalled"_s);
+    }
+    {
+        Settings failing;
+        failing.enableObsidian(true, true);
+        failing.obsidian.installResult = {
+            false,
+            u"Could not write /home/someone/Documents/Vault/.obsidian/plugins/tessaline/manifest.json: No space left on device"_s};
+        const auto window = failing.build();
+        camera.take(*window, u"settings-before-failure"_s);
+        window->findChild<QPushButton*>(u"obsidianConfigButton"_s)->click();
+        camera.takeSheet(*window, u"sheet-failed"_s);
+    }
+    {
+        Settings notes;
+        notes.settings.activeSourceType = SourceType::appleNotes;
+        const auto window = notes.build();
+        camera.take(*window, u"settings-notes-none"_s);
+        notes.settings.appleNotesConfig = {u"1"_s, u"Opening keynote for the spring meeting"_s};
+        window->refreshUI();
+        camera.take(*window, u"settings-notes-chosen"_s);
+        window->findChild<QPushButton*>(u"selectNoteButton"_s)->click();
+        notes.notes.answer(std::vector<NoteLibrary::Note>{{u"1"_s, u"Opening keynote"_s},
+                                                          {u"2"_s, u"Shopping"_s}});
+        camera.takeSheet(*window, u"sheet-notes"_s);
+    }
+}
+
+void takeOnboarding(const Camera& camera) {
+    const auto build = [](Set& set) {
+        struct Shown {
+            PermissionManager manager;
+            OnboardingWindow window;
+            explicit Shown(Set& stage)
+                : manager(stage.ports.permissions)
+                , window(manager, stage.settings, nullptr, stage.ports) {}
+        };
+        return std::make_unique<Shown>(set);
+    };
+    {
+        Set none;
+        camera.take(build(none)->window, u"welcome-no-obsidian"_s);
+    }
+    {
+        Set granted;
+        granted.trust.trusted = true;
+        granted.obsidian.appPath = u"/apps/obsidian"_s;
+        camera.take(build(granted)->window, u"welcome-no-vault-granted"_s);
+    }
+    Set whole;
+    whole.installObsidian();
+    const auto shown = build(whole);
+    camera.take(shown->window, u"welcome-obsidian-off"_s);
+    for (Switch* toggle : shown->window.findChildren<Switch*>())
+        if (toggle->isEnabled()) toggle->click();
+    camera.takeSheet(shown->window, u"sheet-bridge"_s);
+    camera.take(shown->window, u"welcome-obsidian-on"_s);
+}
+
+} // namespace
+} // namespace tessaline
+
+int main(int argc, char** argv) {
+    const tessaline::TestEnvironment environment;
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    const QStringList arguments = QApplication::arguments();
+    const tessaline::Camera camera(arguments.value(1, QStringLiteral("pictures")));
+    tessaline::takeSettings(camera);
+    tessaline::takeOnboarding(camera);
+    return 0;
+}

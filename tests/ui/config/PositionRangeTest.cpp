@@ -1,0 +1,64 @@
+#include "ui/config/PositionRange.h"
+
+#include "support/PrintQt.h"
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(PositionRange, ReachesToEitherEdgeOfTheDisplayAndNoFarther) {
+    EXPECT_EQ(PositionRange::maximumOffset(1000, 800), 100.0);
+    EXPECT_EQ(PositionRange::maximumOffset(1001, 800), 100.5);
+}
+
+TEST(PositionRange, IsEmptyForAPrompterAsWideAsTheDisplayOrWider) {
+    EXPECT_EQ(PositionRange::maximumOffset(800, 800), 0.0);
+    EXPECT_EQ(PositionRange::maximumOffset(640, 800), 0.0);
+}
+
+TEST(PositionRange, IsFixedWithoutADisplay) {
+    EXPECT_EQ(PositionRange::maximumOffset(std::nullopt, 800), 500.0);
+}
+
+struct Snap {
+    double offset;
+    double snapped;
+};
+
+class PositionSnapping : public testing::TestWithParam<Snap> {};
+
+TEST_P(PositionSnapping, TakesTheMiddleForSmallOffsetsOnly) {
+    EXPECT_EQ(PositionRange::snapped(GetParam().offset), GetParam().snapped);
+}
+
+INSTANTIATE_TEST_SUITE_P(Offsets, PositionSnapping,
+                         testing::Values(Snap{0, 0}, Snap{15, 0}, Snap{20, 0}, Snap{-20, 0},
+                                         Snap{20.25, 20.25}, Snap{-21, -21}, Snap{300, 300}));
+
+struct Words {
+    double offset;
+    QString text;
+};
+
+class PositionText : public testing::TestWithParam<Words> {};
+
+TEST_P(PositionText, TellsTheWholePointsAndTheDirectionTwice) {
+    EXPECT_EQ(PositionRange::positionText(GetParam().offset), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(Offsets, PositionText,
+                         testing::Values(Words{0, u"Center"_s}, Words{0.9, u"Center"_s},
+                                         Words{-0.9, u"Center"_s}, Words{35, u"+35px right"_s},
+                                         Words{35.9, u"+35px right"_s}, Words{-35, u"-35px left"_s},
+                                         Words{-35.9, u"-35px left"_s}));
+
+TEST(PositionRange, CutsTheFractionOffAValue) {
+    EXPECT_EQ(PositionRange::valueText(600, u"px"_s), u"600px"_s);
+    EXPECT_EQ(PositionRange::valueText(18.99, u"pt"_s), u"18pt"_s);
+}
+
+} // namespace
+} // namespace tessaline

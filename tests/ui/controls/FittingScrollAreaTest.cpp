@@ -1,0 +1,78 @@
+#include "ui/controls/FittingScrollArea.h"
+
+#include "ui/WindowLook.h"
+
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+namespace {
+
+/// A window with a content of so many points in height, a button at its lower end.
+class FittingScrollAreaTest : public testing::Test {
+protected:
+    void show(int height) {
+        auto* content = new QWidget;
+        auto* column = new QVBoxLayout(content);
+        column->setContentsMargins({});
+        column->setSpacing(0);
+        filler->setFixedHeight(height - button->sizeHint().height());
+        filler->setFocusPolicy(Qt::StrongFocus);
+        column->addWidget(filler);
+        column->addWidget(button);
+        fillWithContent(window, content, QSize(320, 200));
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    QWidget window;
+    QWidget* filler = new QWidget;
+    QPushButton* button = new QPushButton(QStringLiteral("Last"));
+    const int room = window.screen()->availableGeometry().height();
+};
+
+TEST_F(FittingScrollAreaTest, IsAsLargeAsItsContent) {
+    show(300);
+    EXPECT_EQ(window.size(), QSize(320, 300));
+    filler->setFixedHeight(filler->height() + 50);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.height() == 350; }, 3000));
+}
+
+TEST_F(FittingScrollAreaTest, HasALeastHeight) {
+    show(150);
+    EXPECT_EQ(window.size(), QSize(320, 200));
+}
+
+TEST_F(FittingScrollAreaTest, ScrollsWhereTheScreenIsTooLow) {
+    show(room + 500);
+    EXPECT_LT(window.height(), room);
+    const auto* area = window.findChild<FittingScrollArea*>();
+    EXPECT_TRUE(area->verticalScrollBar()->isVisible());
+    // The bar stands beside the content, not over it.
+    EXPECT_EQ(area->viewport()->width(), 320);
+    EXPECT_TRUE(button->visibleRegion().isEmpty());
+    filler->setFocus();
+    QTest::keyClick(filler, Qt::Key_Tab);
+    EXPECT_TRUE(button->hasFocus());
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+}
+
+TEST_F(FittingScrollAreaTest, SqueezesNothingBeforeItScrolls) {
+    auto* content = new QWidget;
+    content->setLayout(new QVBoxLayout);
+    for (int i = 0; i < room / 10; ++i)
+        content->layout()->addWidget(new QPushButton(QString::number(i)));
+    fillWithContent(window, content, QSize(320, 200));
+    window.show();
+    for (const QPushButton* part : content->findChildren<QPushButton*>())
+        EXPECT_GE(part->height(), part->sizeHint().height());
+}
+
+} // namespace
+} // namespace tessaline

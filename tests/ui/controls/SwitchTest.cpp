@@ -1,0 +1,97 @@
+#include "ui/controls/Switch.h"
+
+#include "appearance/SystemPalette.h"
+#include "support/PrintQt.h"
+
+#include <QAccessible>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(Switch, IsACheckBoxWithItsStateForScreenReaders) {
+    Switch control(u"Obsidian"_s);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&control);
+    ASSERT_TRUE(spoken);
+    EXPECT_EQ(spoken->role(), QAccessible::CheckBox);
+    EXPECT_EQ(spoken->text(QAccessible::Name), u"Obsidian"_s);
+    EXPECT_TRUE(spoken->state().checkable);
+    EXPECT_FALSE(spoken->state().checked);
+    control.setChecked(true);
+    EXPECT_TRUE(spoken->state().checked);
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_FALSE(control.isChecked());
+}
+
+TEST(Switch, SwitchesOnAClickAnywhereAndOnSpace) {
+    Switch control(u"Obsidian"_s);
+    control.resize(control.sizeHint());
+    QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(1, 1));
+    EXPECT_TRUE(control.isChecked());
+    QTest::keyClick(&control, Qt::Key_Space);
+    EXPECT_FALSE(control.isChecked());
+}
+
+TEST(Switch, LeavesReturnToTheWindow) {
+    Switch control(u"Obsidian"_s);
+    QTest::keyClick(&control, Qt::Key_Return);
+    QTest::keyClick(&control, Qt::Key_Enter);
+    EXPECT_FALSE(control.isChecked());
+}
+
+TEST(Switch, TellsChangesByTheUserApartFromOthers) {
+    Switch control(u"Obsidian"_s);
+    int clicks = 0;
+    QObject::connect(&control, &Switch::clicked, [&clicks] { ++clicks; });
+    control.setChecked(true);
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(&control, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+/// Where the white knob is, as a share of the switch's width.
+double knobPlace(Switch& control) {
+    const QImage drawn = control.grab().toImage();
+    double sum = 0.0;
+    int count = 0;
+    for (int x = 0; x < drawn.width(); ++x) {
+        if (drawn.pixelColor(x, drawn.height() / 2) != SystemPalette::white) continue;
+        sum += x;
+        ++count;
+    }
+    return count > 0 ? sum / count / drawn.width() : -1.0;
+}
+
+TEST(Switch, DrawsItsKnobAtTheEndThatReadsAsOn) {
+    Switch control(u"Obsidian"_s);
+    control.resize(control.sizeHint());
+    EXPECT_LT(knobPlace(control), 0.4);
+    control.setChecked(true);
+    EXPECT_GT(knobPlace(control), 0.6);
+    control.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_LT(knobPlace(control), 0.4);
+}
+
+TEST(Switch, SlidesToTheNewStateWhileItIsSeen) {
+    Switch control(u"Obsidian"_s);
+    control.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&control));
+    control.setChecked(true);
+    EXPECT_TRUE(QTest::qWaitFor([&control] { return knobPlace(control) > 0.6; }, 3000));
+}
+
+TEST(Switch, LooksFaintWhenItCannotBeUsed) {
+    Switch control(u"Clipboard"_s);
+    control.resize(control.sizeHint());
+    control.setEnabled(false);
+    EXPECT_LT(knobPlace(control), 0.0);
+}
+
+} // namespace
+} // namespace tessaline

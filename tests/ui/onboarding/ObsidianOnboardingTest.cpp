@@ -1,0 +1,136 @@
+#include "support/PrintQt.h"
+#include "ui/OnboardingWindowFixture.h"
+#include "ui/controls/IconImage.h"
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using ObsidianOnboarding = OnboardingWindowFixture;
+
+TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutTheApplication) {
+    stage.obsidian.vault = u"/vault"_s;
+    window();
+    EXPECT_EQ(obsidian().statusLabel->text(), u"Obsidian not detected on this Mac"_s);
+    EXPECT_FALSE(obsidian().toggleSwitch->isEnabled());
+    EXPECT_TRUE(obsidian().iconLabel);
+    switchObsidian();
+    EXPECT_FALSE(obsidianEnabled());
+}
+
+TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutAVault) {
+    stage.obsidian.appPath = u"/apps/obsidian"_s;
+    window();
+    EXPECT_EQ(obsidian().statusLabel->text(), u"No Obsidian vault found"_s);
+    EXPECT_FALSE(obsidian().toggleSwitch->isEnabled());
+}
+
+TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
+    QPixmap icon(24, 24);
+    icon.fill(Qt::red);
+    stage.installObsidian(true, true);
+    stage.icons.icons.emplace(u"/apps/obsidian"_s, QIcon(icon));
+    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    window();
+    EXPECT_EQ(obsidian().statusLabel->text(),
+              u"Send notes from Obsidian straight into the notch"_s);
+    EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
+    EXPECT_FALSE(obsidian().toggleSwitch->isChecked());
+    EXPECT_TRUE(obsidian().iconImageView);
+}
+
+TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
+    QPixmap icon(48, 48);
+    icon.fill(Qt::red);
+    stage.installObsidian();
+    stage.icons.icons.emplace(u"/apps/obsidian"_s, QIcon(icon));
+    shown();
+    switchObsidian();
+    EXPECT_TRUE(obsidianEnabled());
+    EXPECT_EQ(stage.obsidian.installations, 1);
+    ASSERT_THAT(stage.recorder.names(),
+                ElementsAre(u"source_enabled"_s, u"obsidian_plugin_installed"_s));
+    EXPECT_EQ(stage.recorder.events[0].properties,
+              (QMap<QString, QString>{{u"source_type"_s, u"obsidian"_s}}));
+    EXPECT_EQ(stage.recorder.events[1].properties[u"success"_s], u"true"_s);
+    ASSERT_TRUE(sheet());
+    EXPECT_EQ(sheet()->messageLabel->text(), u"Notes Bridge Installed"_s);
+    EXPECT_EQ(
+        sheet()->informativeLabel->text(),
+        u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press ⌘P and type \"tessaline\"."_s);
+    EXPECT_EQ(sheet()->iconLabel->grab().toImage().pixelColor(24, 24), QColor(Qt::red));
+    ASSERT_EQ(sheet()->buttons.size(), 1u);
+    EXPECT_EQ(sheet()->buttons[0]->text(), u"OK"_s);
+    EXPECT_TRUE(obsidian().toggleSwitch->isChecked());
+    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin active ✓"_s);
+}
+
+TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
+    stage.installObsidian();
+    stage.obsidian.installResult = {false, u"Could not copy"_s};
+    shown();
+    switchObsidian();
+    ASSERT_TRUE(sheet());
+    EXPECT_EQ(sheet()->messageLabel->text(), u"Plugin Installation"_s);
+    EXPECT_EQ(sheet()->informativeLabel->text(), u"Could not copy"_s);
+    EXPECT_EQ(stage.recorder.events[1].properties[u"success"_s], u"false"_s);
+    EXPECT_TRUE(obsidianEnabled());
+    EXPECT_TRUE(obsidian().toggleSwitch->isChecked());
+    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin not found"_s);
+    QTest::keyClick(sheet(), Qt::Key_Escape);
+    EXPECT_FALSE(sheet());
+    EXPECT_TRUE(window().isVisible());
+}
+
+TEST_F(ObsidianOnboarding, TellsThatThePluginIsDisabledInObsidian) {
+    stage.installObsidian(true, false);
+    stage.obsidian.installResult.success = false;
+    shown();
+    switchObsidian();
+    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin installed but disabled in Obsidian"_s);
+}
+
+TEST_F(ObsidianOnboarding, SwitchingObsidianOffRecordsAndUninstallsNothing) {
+    stage.installObsidian();
+    shown();
+    switchObsidian();
+    QTest::keyClick(sheet(), Qt::Key_Return);
+    stage.recorder.events.clear();
+    switchObsidian();
+    EXPECT_FALSE(obsidianEnabled());
+    EXPECT_TRUE(stage.obsidian.pluginInstalled);
+    EXPECT_THAT(stage.recorder.events, IsEmpty());
+    EXPECT_FALSE(sheet());
+    EXPECT_EQ(obsidian().statusLabel->text(),
+              u"Send notes from Obsidian straight into the notch"_s);
+}
+
+TEST_F(ObsidianOnboarding, TellsTheSourceManagerToo) {
+    sourceManager = stage.makeSourceManager();
+    stage.installObsidian();
+    shown();
+    switchObsidian();
+    sourceManager->setActiveSource(SourceType::obsidian);
+    QTest::keyClick(sheet(), Qt::Key_Return);
+    switchObsidian();
+    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_FALSE(obsidianEnabled());
+}
+
+TEST_F(ObsidianOnboarding, RecordsThatObsidianIsEnabled) {
+    stage.installObsidian();
+    shown();
+    switchObsidian();
+    QTest::keyClick(sheet(), Qt::Key_Return);
+    stage.recorder.events.clear();
+    continueButton().click();
+    EXPECT_EQ(stage.recorder.events[0].properties,
+              (QMap<QString, QString>{{u"accessibility_granted"_s, u"false"_s},
+                                      {u"obsidian_enabled"_s, u"true"_s}}));
+}
+
+} // namespace
+} // namespace tessaline

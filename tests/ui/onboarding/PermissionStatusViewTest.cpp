@@ -1,0 +1,57 @@
+#include "ui/onboarding/PermissionStatusView.h"
+
+#include "appearance/SystemPalette.h"
+#include "support/PrintQt.h"
+#include "ui/controls/StatusDot.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(PermissionStatusView, OffersTheButtonWhileThePermissionIsMissing) {
+    const PermissionStatusView view(u"Title"_s, u"What for"_s, false);
+    EXPECT_EQ(view.titleLabel->text(), u"Title"_s);
+    EXPECT_EQ(view.descriptionLabel->text(), u"What for"_s);
+    EXPECT_EQ(view.statusIndicator->color(), SystemPalette::orange);
+    EXPECT_EQ(view.grantButton->text(), u"Grant Access"_s);
+    EXPECT_TRUE(view.grantButton->isEnabled());
+}
+
+TEST(PermissionStatusView, SaysThatThePermissionIsGranted) {
+    const PermissionStatusView view(u"Title"_s, u"What for"_s, true);
+    EXPECT_EQ(view.statusIndicator->color(), SystemPalette::green);
+    EXPECT_EQ(view.grantButton->text(), u"Permission Granted ✓"_s);
+    EXPECT_FALSE(view.grantButton->isEnabled());
+}
+
+TEST(PermissionStatusView, FollowsTheState) {
+    PermissionStatusView view(u"Title"_s, u"What for"_s, true);
+    view.updateStatus(false);
+    EXPECT_EQ(view.grantButton->text(), u"Grant Access"_s);
+    EXPECT_EQ(view.statusIndicator->accessibleName(), u"Not granted"_s);
+    view.updateStatus(true);
+    EXPECT_FALSE(view.grantButton->isEnabled());
+    EXPECT_EQ(view.statusIndicator->accessibleName(), u"Granted"_s);
+}
+
+TEST(PermissionStatusView, CallsWhoeverAskedToBeCalled) {
+    PermissionStatusView view(u"Title"_s, u"What for"_s, false);
+    QTest::mouseClick(view.grantButton, Qt::LeftButton); // nobody asked
+    int calls = 0;
+    view.onGrantButtonClicked = [&calls] { ++calls; };
+    QTest::mouseClick(view.grantButton, Qt::LeftButton);
+    EXPECT_EQ(calls, 1);
+    view.updateStatus(true);
+    QTest::mouseClick(view.grantButton, Qt::LeftButton);
+    EXPECT_EQ(calls, 1);
+}
+
+} // namespace
+} // namespace tessaline
