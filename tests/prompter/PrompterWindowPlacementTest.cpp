@@ -27,6 +27,14 @@ protected:
         manager.preferredDisplayID = screen;
     }
 
+    /// Whether the lower corners, left and right, are as opaque as this, from 0 to 255.
+    bool lowerCornersHave(int alpha) {
+        const QImage picture = window().grab().toImage();
+        const int bottom = picture.height() - 1;
+        return picture.pixelColor(0, bottom).alpha() == alpha &&
+               picture.pixelColor(picture.width() - 1, bottom).alpha() == alpha;
+    }
+
     static QSize primarySize() { return QApplication::primaryScreen()->size(); }
 
     NotificationCenter notifications;
@@ -80,18 +88,12 @@ TEST_F(PrompterWindowPlacement, TakesTheHeightOfTheSettingsAlsoWhileCollapsed) {
 TEST_F(PrompterWindowPlacement, IsSquareAllAroundWhileCollapsed) {
     window().toggleCollapsed();
     finishResizing(32);
-    const auto cornersAre = [this](int alpha) {
-        const QImage picture = window().grab().toImage();
-        const int bottom = window().height() - 1;
-        return picture.pixelColor(0, 0).alpha() == 255 &&
-               picture.pixelColor(449, 0).alpha() == 255 &&
-               picture.pixelColor(0, bottom).alpha() == alpha &&
-               picture.pixelColor(449, bottom).alpha() == alpha;
-    };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return cornersAre(255); }, 3000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lowerCornersHave(255); }, 3000));
+    window().updateFrame();
+    EXPECT_TRUE(lowerCornersHave(255));
     window().toggleCollapsed();
     finishResizing(256);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return cornersAre(0); }, 3000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lowerCornersHave(0); }, 3000));
 }
 
 } // namespace
