@@ -10,6 +10,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/ExitStatus.h"
 #include "app/remote/InstanceServer.h"
+#include "platform/AbruptExit.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/ActivationPolicy.h"
 #include "platform/ApplicationLookup.h"
@@ -17,12 +18,12 @@
 #include "platform/DisplayLink.h"
 #include "platform/EventTap.h"
 #include "platform/FileIcons.h"
+#include "platform/FolderChooser.h"
 #include "platform/GlobalKeyMonitor.h"
 #include "platform/LocalKeyMonitor.h"
 #include "platform/SystemAdapters.h"
 #include "platform/ThreadTaskRunner.h"
 #include "platform/WindowTraits.h"
-#include "platform/qt/QtFolderChooser.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtProcessRunner.h"
@@ -30,6 +31,7 @@
 #include "platform/qt/QtTimerMaker.h"
 #include "platform/qt/QtUrlOpener.h"
 #include "platform/qt/QtUserDefaults.h"
+#include "platform/qt/QuitRequests.h"
 #include "platform/qt/StopSignals.h"
 #include "settings/SupportFolder.h"
 #include "sources/notes/AppleNotesLibrary.h"
@@ -39,6 +41,9 @@
 #include <QIcon>
 #include <QLoggingCategory>
 #include <QNetworkAccessManager>
+#include <QWidget>
+
+#include <cstdlib>
 
 namespace tessaline {
 
@@ -57,7 +62,6 @@ struct Machine {
     QtPasteboard pasteboard;
     QtUrlOpener urlOpener;
     QtUserDefaults defaults;
-    QtFolderChooser folderChooser;
     QtProcessRunner processes;
     ThreadTaskRunner renderTasks;
     ThreadTaskRunner fileTasks;
@@ -74,8 +78,9 @@ struct Machine {
     std::unique_ptr<ActivationPolicy> activationPolicy = makeActivationPolicy();
     std::unique_ptr<ApplicationLookup> applications = makeApplicationLookup();
     std::unique_ptr<FileIcons> icons = makeFileIcons();
+    std::unique_ptr<FolderChooser> folderChooser = makeFolderChooser();
     QtScreens screens{notifications, mainQueue, identifyScreen};
-    InstalledObsidian obsidian{homeFolderPath(), *applications, *bundle, folderChooser};
+    InstalledObsidian obsidian{homeFolderPath(), *applications, *bundle, *folderChooser};
     AppleNotesLibrary notes{mainQueue, noteTasks, processes, urlOpener};
     ProgramSurroundings surroundings{obsidian, *trust, screens};
 
@@ -112,6 +117,7 @@ struct Machine {
             .setTelemetryAppID =
                 [](const QString& appID) { TelemetryDeckClient::shared().setAppID(appID); },
             .systemSymbol = &systemSymbol,
+            .hasStatusArea = &hasStatusArea,
             .statusItemOpensItsMenu = statusItemOpensItsMenu(),
             // Unlike quit, this closes no window first: closing the first-run window is a choice.
             .terminate = [] { QCoreApplication::exit(ExitStatus::success); }};
@@ -126,10 +132,46 @@ struct Machine {
     }
 };
 
+/// While it lives, a call of exit() ends the program as properly as can be: Qt itself makes one
+/// when the X server is gone.
+class SuddenExit {
+public:
+    explicit SuddenExit(AppDelegate& running) {
+        delegate = &running;
+        std::atexit([] {
+            if (delegate) delegate->applicationWillTerminate();
+        });
+    }
+    ~SuddenExit() { delegate = nullptr; }
+    SuddenExit(const SuddenExit&) = delete;
+    SuddenExit& operator=(const SuddenExit&) = delete;
+
+private:
+    static inline AppDelegate* delegate = nullptr;
+};
+
 void hearLaterStarts(InstanceServer& server, const QString& path) {
     QString problem;
     if (!path.isEmpty() && !server.listen(path, &problem))
         qCWarning(shellLog, "Later starts cannot reach this one: %ls", qUtf16Printable(problem));
+}
+
+/// Runs the event loop until the program is to end, and returns the exit status. Later starts are
+/// heard for as long; one that comes afterwards waits for its turn to be the program.
+int runUntilStopped(AppDelegate& delegate, TimerMaker& timers, const QString& socketPath) {
+    RemoteCommands commands(delegate);
+    InstanceServer server(
+        timers, [&commands](const QJsonObject& message) { return commands.carryOut(message); });
+    hearLaterStarts(server, socketPath);
+    // The toolkit exits where it is when the display server goes away.
+    const AbruptExit abruptExit([&delegate] { delegate.applicationWillTerminate(); });
+    return QApplication::exec();
+}
+
+/// Unlike closing, hiding is no choice of the user's.
+void hideEverything() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->hide();
 }
 
 } // namespace
@@ -151,6 +193,8 @@ int runPrompter(const PrompterStart& start) {
     Machine machine;
     AppDelegate delegate(machine.environment());
     const StopSignals stopSignals([&delegate] { delegate.quitApp(); });
+    QuitRequests quitRequests([&delegate] { delegate.quitApp(); });
+    application.installEventFilter(&quitRequests);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
                      [&delegate] { delegate.applicationWillTerminate(); });
     delegate.applicationDidFinishLaunching();
@@ -160,12 +204,8 @@ int runPrompter(const PrompterStart& start) {
         delegate.openText(*start.text);
     }
 
-    RemoteCommands commands(delegate);
-    InstanceServer server(machine.timers, [&commands](const QJsonObject& message) {
-        return commands.carryOut(message);
-    });
-    hearLaterStarts(server, start.socketPath);
-    const int status = QApplication::exec();
+    const int status = runUntilStopped(delegate, machine.timers, start.socketPath);
+    hideEverything();
     machine.stop();
     return status;
 }

@@ -19,6 +19,7 @@ class BundleInformation;
 class DisplayLinkMaker;
 class EventTapMaker;
 class FileIcons;
+class FolderChooser;
 class GlobalKeyMonitor;
 class LocalKeyMonitor;
 class WindowTraits;
@@ -57,12 +58,19 @@ std::unique_ptr<ActivationPolicy> makeActivationPolicy();
 std::unique_ptr<ApplicationLookup> makeApplicationLookup();
 std::unique_ptr<FileIcons> makeFileIcons();
 
+/// The panel in which the user picks a folder and thereby lets the program into it.
+std::unique_ptr<FolderChooser> makeFolderChooser();
+
 /// Gives the system's own widgets their dark look. False where windows are drawn without those: the
 /// program has to bring the look along.
 bool showNativeDarkAppearance();
 
 /// The system's own drawing of this name, described for screen readers; null where it has none.
 QImage systemSymbol(const QString& name, const QString& description);
+
+/// Whether the desktop has a place for status items at this moment. The toolkit asks only once and
+/// sticks to what it found then: make an item after this said yes. May take a second.
+bool hasStatusArea();
 
 /// Whether a click with the first button on a status item opens its menu. Elsewhere the second
 /// button does.

@@ -19,6 +19,10 @@ QImage systemSymbol(const QString& name, const QString& description) {
     return image;
 }
 
+bool hasStatusArea() {
+    return true;
+}
+
 bool statusItemOpensItsMenu() {
     return true;
 }

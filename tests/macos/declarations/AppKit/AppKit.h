@@ -24,6 +24,7 @@ typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
 };
 
 @interface NSWindow : NSObject
+@property(copy) NSString* title;
 @property NSWindowLevel level;
 @property NSWindowSharingType sharingType;
 @property NSWindowCollectionBehavior collectionBehavior;
@@ -89,6 +90,24 @@ typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagComman
 + (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask
                                              handler:(void (^)(NSEvent*))block;
 + (void)removeMonitor:(id)eventMonitor;
+@end
+
+typedef NSInteger NSModalResponse;
+static const NSModalResponse NSModalResponseOK = 1;
+
+@interface NSSavePanel : NSWindow
+@property(null_resettable, copy) NSString* message;
+@property BOOL canCreateDirectories;
+@property(nullable, copy) NSURL* directoryURL;
+@property(nullable, readonly, copy) NSURL* URL;
+- (NSModalResponse)runModal;
+@end
+
+@interface NSOpenPanel : NSSavePanel
++ (NSOpenPanel*)openPanel;
+@property BOOL canChooseDirectories;
+@property BOOL canChooseFiles;
+@property BOOL allowsMultipleSelection;
 @end
 
 #pragma clang assume_nonnull end

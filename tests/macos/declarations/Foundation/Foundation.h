@@ -33,6 +33,7 @@ __attribute__((objc_root_class))
 @end
 
 @interface NSURL : NSObject
++ (NSURL*)fileURLWithPath:(NSString*)path;
 @property(nullable, readonly, copy) NSString* path;
 @end
 
