@@ -76,6 +76,10 @@ Analytics::Analytics(Ports recorderPorts)
     history(std::make_shared<EventHistory>(ports.historyPath,
                                            sessionStart.toLocalTime().addDays(-daysKept)))
     , flushTimer(ports.timers.every(flushInterval, [this] { flush(); })) {
+    // Made now, the logs outlive whoever still records while the process exits.
+    analyticsLog();
+    perfLog();
+    intervalLog();
     ports.fileTasks.run([weakly = std::weak_ptr(history)] {
         if (const auto loading = weakly.lock()) loading->load();
     });

@@ -27,6 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr TimerMaker::Interval flushInterval{10.0};
+constexpr qint64 longestAnswer = 64 << 10; ///< in bytes; what follows is not heard
 
 QString newIdentifier() {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
@@ -166,9 +167,12 @@ void TelemetryDeckClient::send(Batch signalsToSend) {
     body.back() = ']';
     reply = ports.network.post(request(), body);
     QObject::connect(reply, &QNetworkReply::finished, &replyContext, [this] { requestFinished(); });
-    // Only the answer's status matters: its text is not to fill the memory.
+    // Only the answer's status matters: its text is not to fill the memory, nor to go on for ever.
     QObject::connect(reply, &QNetworkReply::readyRead, &replyContext,
-                     [incoming = reply] { incoming->skip(incoming->bytesAvailable()); });
+                     [incoming = reply, left = longestAnswer]() mutable {
+                         left -= incoming->skip(incoming->bytesAvailable());
+                         if (left < 0) incoming->abort();
+                     });
 }
 
 void TelemetryDeckClient::requestFinished() {

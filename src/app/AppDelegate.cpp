@@ -151,7 +151,9 @@ void AppDelegate::setupStatusItem() {
     actions.showPrompter = weakly(&AppDelegate::showPrompterWindow);
     actions.showConfig = weakly(&AppDelegate::showConfig);
     actions.quit = weakly(&AppDelegate::quitApp);
-    statusItem = std::make_unique<StatusItem>(environment.systemSymbol, std::move(actions));
+    statusItem = std::make_unique<StatusItem>(
+        environment.systemSymbol, std::move(actions),
+        StatusItem::Area{environment.prompter.timers, environment.hasStatusArea});
     if (!environment.statusItemOpensItsMenu) statusItem->showPrompterOnClick();
     // The keys that the menu names work in the prompter as well.
     prompterWindow->addActions(statusItem->actions());
@@ -189,6 +191,9 @@ void AppDelegate::showOnboarding() {
                                                           sourceManager.get(), windowPorts());
     onboardingWindow->onComplete = weakly(&AppDelegate::finishOnboarding);
     onboardingWindow->onSkip = weakly(&AppDelegate::finishOnboarding);
+    // Closing the window unfinished is skipping; it comes back at the next start.
+    QObject::connect(onboardingWindow.get(), &OnboardingWindow::closedUnfinished,
+                     onboardingWindow->onSkip);
     bringToFront(*onboardingWindow);
 }
 

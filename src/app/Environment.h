@@ -45,6 +45,8 @@ struct Environment {
     std::function<void(const QString& appID)> setTelemetryAppID;
     /// The system's own drawing of a name, or a null image.
     std::function<QImage(const QString& name, const QString& description)> systemSymbol;
+    /// Whether the desktop has a place for status items now.
+    std::function<bool()> hasStatusArea;
     /// A click on the status item opens its menu without our doing.
     bool statusItemOpensItsMenu = false;
     /// Ends the program, after `applicationWillTerminate`.

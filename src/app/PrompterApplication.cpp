@@ -17,6 +17,7 @@
 #include "platform/BundleInformation.h"
 #include "platform/DisplayLink.h"
 #include "platform/EventTap.h"
+#include "platform/ExitDeadline.h"
 #include "platform/FileIcons.h"
 #include "platform/FolderChooser.h"
 #include "platform/GlobalKeyMonitor.h"
@@ -41,9 +42,11 @@
 #include <QIcon>
 #include <QLoggingCategory>
 #include <QNetworkAccessManager>
+#include <QSessionManager>
 #include <QWidget>
 
-#include <cstdlib>
+#include <chrono>
+#include <utility>
 
 namespace tessaline {
 
@@ -132,24 +135,6 @@ struct Machine {
     }
 };
 
-/// While it lives, a call of exit() ends the program as properly as can be: Qt itself makes one
-/// when the X server is gone.
-class SuddenExit {
-public:
-    explicit SuddenExit(AppDelegate& running) {
-        delegate = &running;
-        std::atexit([] {
-            if (delegate) delegate->applicationWillTerminate();
-        });
-    }
-    ~SuddenExit() { delegate = nullptr; }
-    SuddenExit(const SuddenExit&) = delete;
-    SuddenExit& operator=(const SuddenExit&) = delete;
-
-private:
-    static inline AppDelegate* delegate = nullptr;
-};
-
 void hearLaterStarts(InstanceServer& server, const QString& path) {
     QString problem;
     if (!path.isEmpty() && !server.listen(path, &problem))
@@ -163,9 +148,20 @@ int runUntilStopped(AppDelegate& delegate, TimerMaker& timers, const QString& so
     InstanceServer server(
         timers, [&commands](const QJsonObject& message) { return commands.carryOut(message); });
     hearLaterStarts(server, socketPath);
-    // The toolkit exits where it is when the display server goes away.
-    const AbruptExit abruptExit([&delegate] { delegate.applicationWillTerminate(); });
     return QApplication::exec();
+}
+
+/// Has the session manager start the program as the user would. The toolkit's own command has an
+/// option that our command line does not know.
+void comeBackWithTheSession(QGuiApplication& application) {
+    const auto setCommand = [](QSessionManager& session) {
+        session.setRestartCommand({QCoreApplication::applicationFilePath()});
+    };
+    // They come while the session manager waits: a later answer would be none.
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &application, setCommand,
+                     Qt::DirectConnection);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, setCommand,
+                     Qt::DirectConnection);
 }
 
 /// Unlike closing, hiding is no choice of the user's.
@@ -195,8 +191,12 @@ int runPrompter(const PrompterStart& start) {
     const StopSignals stopSignals([&delegate] { delegate.quitApp(); });
     QuitRequests quitRequests([&delegate] { delegate.quitApp(); });
     application.installEventFilter(&quitRequests);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
-                     [&delegate] { delegate.applicationWillTerminate(); });
+    comeBackWithTheSession(application);
+    bool isRecorded = false;
+    const auto recordTheEnd = [&delegate, &isRecorded] {
+        if (!std::exchange(isRecorded, true)) delegate.applicationWillTerminate();
+    };
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, recordTheEnd);
     delegate.applicationDidFinishLaunching();
     if (!start.followed.isEmpty()) {
         delegate.followFile(start.followed, *start.text);
@@ -204,9 +204,13 @@ int runPrompter(const PrompterStart& start) {
         delegate.openText(*start.text);
     }
 
+    // The toolkit exits where it is when the display server goes away.
+    const AbruptExit abruptExit(recordTheEnd);
     const int status = runUntilStopped(delegate, machine.timers, start.socketPath);
     hideEverything();
     machine.stop();
+    constexpr std::chrono::seconds longestTeardown{1};
+    setExitDeadline(longestTeardown, status);
     return status;
 }
 

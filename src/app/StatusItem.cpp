@@ -15,6 +15,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
 
+constexpr TimerMaker::Interval areaPollInterval{2.0};
+
 QAction* addItem(QMenu& menu, const QString& title, const QKeySequence& keys,
                  const std::function<void()>& action) {
     QAction* item = menu.addAction(title);
@@ -29,18 +31,17 @@ QAction* addItem(QMenu& menu, const QString& title, const QKeySequence& keys,
 
 } // namespace
 
-StatusItem::StatusItem(const Symbols& symbols, Actions actions)
-    : act(std::move(actions)), image(statusIcon(symbols)) {
+StatusItem::StatusItem(const Symbols& symbols, Actions actions, Area givenArea)
+    : act(std::move(actions)), area(std::move(givenArea)), image(statusIcon(symbols)) {
     fillMenu();
-    item.setIcon(image);
-    item.setToolTip(statusIconDescription());
-    item.setContextMenu(&menu);
-    item.show();
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        qCInfo(shellLog, "This desktop shows no tray now: start Tessaline again to get its "
-                         "prompter back, or press Ctrl+Q in it to quit");
+    if (area.isThere()) {
+        show();
+    } else {
+        waitForArea();
     }
 }
+
+StatusItem::~StatusItem() = default;
 
 void StatusItem::fillMenu() {
     addItem(menu, u"Show Tessaline"_s, {}, act.showPrompter);
@@ -50,11 +51,25 @@ void StatusItem::fillMenu() {
     addItem(menu, u"Quit Tessaline"_s, Qt::CTRL | Qt::Key_Q, act.quit);
 }
 
-void StatusItem::showPrompterOnClick() {
-    QObject::connect(&item, &QSystemTrayIcon::activated, &menu,
+void StatusItem::waitForArea() {
+    qCInfo(shellLog, "This desktop shows no tray now: start Tessaline again to get its prompter "
+                     "back, or press Ctrl+Q in it to quit");
+    areaPollTimer = area.timers.every(areaPollInterval, [this] {
+        if (area.isThere()) show();
+    });
+}
+
+void StatusItem::show() {
+    areaPollTimer.reset();
+    item = std::make_unique<QSystemTrayIcon>(image);
+    item->setToolTip(statusIconDescription());
+    item->setContextMenu(&menu);
+    QObject::connect(item.get(), &QSystemTrayIcon::activated, &menu,
                      [this](QSystemTrayIcon::ActivationReason reason) {
-                         if (reason == QSystemTrayIcon::Trigger) act.showPrompter();
+                         const bool isClick = reason == QSystemTrayIcon::Trigger;
+                         if (isClick && showsPrompterOnClick) act.showPrompter();
                      });
+    item->show();
 }
 
 } // namespace tessaline

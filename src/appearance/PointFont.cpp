@@ -34,6 +34,14 @@ QFont monospacedFont(double points, QFont::Weight weight) {
     return font;
 }
 
+QFont monospacedDigitFont(double points, QFont::Weight weight) {
+    QFont font = systemFont(points, weight);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    font.setFeature("tnum", 1);
+#endif
+    return font;
+}
+
 // QFont::setPixelSize would say it directly, but only in whole pixels.
 QFont withPoints(QFont font, double points) {
     font.setPointSizeF(points * typographicPointsPerInch / fontDotsPerInch());

@@ -14,6 +14,10 @@ QFont systemFont(double points, QFont::Weight weight = QFont::Normal);
 /// The desktop's fixed-width font, sized in the same way. Main thread.
 QFont monospacedFont(double points, QFont::Weight weight = QFont::Normal);
 
+/// The interface font with digits of one width, so that a number that counts does not wobble; where
+/// Qt is older than 6.7, with the digits as the font has them. Main thread.
+QFont monospacedDigitFont(double points, QFont::Weight weight = QFont::Normal);
+
 /// The same font at another size in points of one logical pixel each; points must be positive.
 QFont withPoints(QFont font, double points);
 

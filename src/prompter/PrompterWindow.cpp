@@ -234,16 +234,14 @@ void PrompterWindow::showContent(RenderedContent content) {
 }
 
 void PrompterWindow::updateStats() {
-    strip->showStatistics(ReadingStatistics::labelText(wordCount, remainingSeconds()),
+    secondsLeft =
+        ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
+    strip->showStatistics(ReadingStatistics::labelText(wordCount, secondsLeft),
                           ReadingStatistics::labelColor(settings.scrollRate));
 }
 
-double PrompterWindow::remainingSeconds() const {
-    return ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
-}
-
 QString PrompterWindow::remainingTime() const {
-    return ReadingStatistics::timeText(remainingSeconds());
+    return ReadingStatistics::timeText(secondsLeft);
 }
 
 int PrompterWindow::framesPerSecond() const {

@@ -106,7 +106,6 @@ private:
     bool isResizing() const;
     void arrangeContent();
     void shape();
-    double remainingSeconds() const;
 
     AppSettings& settings;
     PrompterPorts ports;
@@ -120,6 +119,7 @@ private:
     double expandedHeight = 0.0;
     QString lastRawContent;
     qsizetype wordCount = 0;
+    double secondsLeft = 0.0; ///< as the statistics tell them
     ContentRenderer renderer;
     std::optional<AutoScroll> autoScroll;
     FrameRate frames;

@@ -65,6 +65,7 @@ Alert::Alert(QWidget& window, const AlertContent& content, QWidget* accessory)
     addTexts(content, accessory);
     addButtons(content.buttons);
     connect(this, &QDialog::finished, this, &Alert::finish);
+    window.installEventFilter(this);
 }
 
 void Alert::addTexts(const AlertContent& content, QWidget* accessory) {
@@ -83,7 +84,10 @@ void Alert::addTexts(const AlertContent& content, QWidget* accessory) {
         label->setFixedWidth(textWidth);
         texts->addWidget(label);
     }
-    if (accessory) texts->addWidget(accessory);
+    if (accessory) {
+        informativeLabel->setBuddy(accessory); // what screen readers call it by
+        texts->addWidget(accessory);
+    }
     texts->addStretch();
     body->addLayout(texts);
     static_cast<QVBoxLayout*>(layout())->addLayout(body);
@@ -117,19 +121,29 @@ bool Alert::event(QEvent* event) {
     return QDialog::event(event);
 }
 
+// A click on the blocked window gives that one the keyboard on some desktops; nobody could answer
+// with the keys then.
+bool Alert::eventFilter(QObject* watched, QEvent* event) {
+    const bool windowIsInFront = watched == parent() && event->type() == QEvent::WindowActivate;
+    if (windowIsInFront && isVisible()) activateWindow();
+    return QDialog::eventFilter(watched, event);
+}
+
 void Alert::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     placeOverWindow();
     if (focusWidget() == nullptr) buttons.front()->setFocus(Qt::OtherFocusReason);
 }
 
-// Hangs below the window's upper edge, in its middle, as far as the screen lets it.
+// Hangs below the window's upper edge, in its middle, as far as the screen lets it. While the
+// window is new, the window system may report a passing size, so the lasting one counts.
 void Alert::placeOverWindow() {
+    const QSize size = layout()->totalSizeHint();
     const QRect window = parentWidget()->frameGeometry();
     const QRect room = screen()->availableGeometry();
-    const int x = window.center().x() - width() / 2;
-    const int lowest = room.bottom() + 1 - height();
-    const int rightmost = room.right() + 1 - width();
+    const int x = window.center().x() - size.width() / 2;
+    const int lowest = room.bottom() + 1 - size.height();
+    const int rightmost = room.right() + 1 - size.width();
     move(std::max(room.left(), std::min(x, rightmost)),
          std::max(room.top(), std::min(window.top() + 40, lowest)));
 }

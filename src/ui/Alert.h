@@ -33,6 +33,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Alert(QWidget& window, const AlertContent& content, QWidget* accessory);

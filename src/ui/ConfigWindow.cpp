@@ -76,10 +76,9 @@ QWidget* ConfigWindow::createContent() {
     column->setContentsMargins(margin, margin, margin, margin);
     for (QWidget* part : std::initializer_list<QWidget*>{
              new SectionTitle(u"Enabled Integrations"_s), integrations,
-             new Separator(settingsColumnWidth), new SectionTitle(u"Active Source"_s), sources,
-             new Separator(settingsColumnWidth), new SectionTitle(u"Display"_s), display,
-             new Separator(settingsColumnWidth), new SectionTitle(u"Shortcuts"_s),
-             new ShortcutsGrid, accessibility})
+             new Separator(settingsColumnWidth), sources, new Separator(settingsColumnWidth),
+             new SectionTitle(u"Display"_s), display, new Separator(settingsColumnWidth),
+             new SectionTitle(u"Shortcuts"_s), new ShortcutsGrid, accessibility})
         column->addWidget(part);
     column->addStretch();
     return content;
@@ -96,7 +95,7 @@ void ConfigWindow::refreshUI() {
     sources->rebuildSourcePopup();
     rebuildScreenPopup();
     updateAccessibilityStatus();
-    fitToContent(*this);
+    fitToContent(*this, display->roomBelowPrompter());
 }
 
 void ConfigWindow::chooseScrollRate(ScrollRate rate) {

@@ -120,7 +120,9 @@ PermissionStatusView* OnboardingWindow::createAccessibilityStatusView() {
 QWidget* OnboardingWindow::createIntegrationsSection() {
     auto* clipboard = new IntegrationToggleView(SourceType::clipboard, true);
     clipboard->setupUI(true, u"Default — paste any text"_s, {});
-    const ObsidianStatusText status = obsidianStatus();
+    ObsidianStatusText status = pluginStatus();
+    status.appFound = ports.obsidian.obsidianAppPath().has_value();
+    status.vaultFound = status.appFound && ports.obsidian.findObsidianVault().has_value();
     const bool usable = status.appFound && status.vaultFound;
     auto* obsidian = new IntegrationToggleView(SourceType::obsidian, !usable);
     obsidian->setupUI(usable && status.sourceEnabled, status.text(), obsidianIcon(ports));
@@ -140,10 +142,8 @@ bool OnboardingWindow::isObsidianEnabled() const {
     return settings.enabledSourceTypes.contains(SourceType::obsidian);
 }
 
-ObsidianStatusText OnboardingWindow::obsidianStatus() const {
+ObsidianStatusText OnboardingWindow::pluginStatus() const {
     ObsidianStatusText status;
-    status.appFound = ports.obsidian.obsidianAppPath().has_value();
-    status.vaultFound = status.appFound && ports.obsidian.findObsidianVault().has_value();
     status.sourceEnabled = isObsidianEnabled();
     status.pluginInstalled = status.sourceEnabled && ports.obsidian.isPluginInstalled();
     status.pluginEnabled = status.pluginInstalled && ports.obsidian.isPluginEnabled();
@@ -197,7 +197,7 @@ void OnboardingWindow::installObsidianPlugin() {
 void OnboardingWindow::updateIntegrationStatuses() {
     const auto found = integrationToggles.find(SourceType::obsidian);
     if (found == integrationToggles.end()) return;
-    const ObsidianStatusText status = obsidianStatus();
+    const ObsidianStatusText status = pluginStatus();
     found->second->toggleSwitch->setChecked(status.sourceEnabled);
     found->second->statusLabel->setText(status.textWithVault());
 }
@@ -223,8 +223,7 @@ bool OnboardingWindow::event(QEvent* event) {
 
 void OnboardingWindow::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
-    if (std::exchange(finished, true)) return;
-    if (const auto skip = onSkip) skip();
+    if (!std::exchange(finished, true)) Q_EMIT closedUnfinished();
 }
 
 } // namespace tessaline

@@ -37,8 +37,12 @@ public:
     /// Called once when the user finishes, just before the window closes.
     std::function<void()> onComplete;
 
-    /// Called once when the user closes the window without finishing.
+    /// What its owner does for a user who skips; the window itself never calls it.
     std::function<void()> onSkip;
+
+Q_SIGNALS:
+    /// The user closed the window without finishing. Comes once.
+    void closedUnfinished();
 
 protected:
     bool event(QEvent* event) override;
@@ -50,7 +54,7 @@ private:
     QLabel* createSectionLabel(const QString& text);
     QWidget* createIntegrationsSection();
     PermissionStatusView* createAccessibilityStatusView();
-    ObsidianStatusText obsidianStatus() const;
+    ObsidianStatusText pluginStatus() const;
     bool isObsidianEnabled() const;
     void centerOnScreen();
     void setupPermissionObserver();
@@ -70,7 +74,7 @@ private:
     std::map<SourceType, IntegrationToggleView*> integrationToggles;
     QPushButton* continueButton = nullptr;
     NotificationCenter::Observation permissionObserver;
-    bool finished = false; ///< one of the two callbacks was called
+    bool finished = false; ///< finished, or closed without
 };
 
 } // namespace tessaline

@@ -4,10 +4,23 @@
 #include "ui/controls/FittingScrollArea.h"
 #include "ui/controls/Rows.h"
 
+#include <QAccessibleWidget>
 #include <QKeySequence>
 #include <QShortcut>
 
 namespace tessaline {
+
+namespace {
+
+// To screen readers a plain widget is a group without a meaning, even if it is a window.
+QAccessibleInterface* makeWindowInterface(const QString&, QObject* object) {
+    auto* window = qobject_cast<QWidget*>(object);
+    if (!window || !window->isWindow()) return nullptr;
+    const auto* filling = window->findChild<FittingScrollArea*>({}, Qt::FindDirectChildrenOnly);
+    return filling ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
+} // namespace
 
 void setDarkLook(QWidget& window, const QColor& background) {
     QPalette palette = darkPalette();
@@ -16,6 +29,7 @@ void setDarkLook(QWidget& window, const QColor& background) {
 }
 
 void fillWithContent(QWidget& window, QWidget* content, const QSize& least) {
+    QAccessible::installFactory(makeWindowInterface);
     QVBoxLayout* column = layOutColumn(window, 0);
     column->addWidget(new FittingScrollArea(content, least));
     column->setSizeConstraint(QLayout::SetFixedSize);
@@ -25,11 +39,13 @@ void fillWithContent(QWidget& window, QWidget* content, const QSize& least) {
 }
 
 // A layout by itself notices changes inside only while its window is on screen.
-void fitToContent(QWidget& window) {
+void fitToContent(QWidget& window, std::optional<int> room) {
     const QList<QWidget*> parts = window.findChildren<QWidget*>();
     for (auto part = parts.crbegin(); part != parts.crend(); ++part)
         if ((*part)->window() == &window) (*part)->updateGeometry();
-    window.findChild<FittingScrollArea*>()->fit();
+    auto* area = window.findChild<FittingScrollArea*>();
+    area->setRoom(room);
+    area->fit();
     window.layout()->invalidate();
     window.layout()->activate();
 }

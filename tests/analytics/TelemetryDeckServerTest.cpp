@@ -227,6 +227,21 @@ TEST_F(TelemetryDeckServer, MaySendALongAnswer) {
     EXPECT_EQ(logged(), QStringList());
 }
 
+TEST_F(TelemetryDeckServer, IsNotHeardOutWhenItsAnswerNeverEnds) {
+    const auto client = makeClient();
+    server.setAnswer([](QTcpSocket& socket) {
+        socket.write("HTTP/1.1 200 OK\r\n\r\n");
+        const auto talk = [&socket] { socket.write(QByteArray(100'000, 'x')); };
+        QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket, talk);
+        talk();
+    });
+    send(*client, u"a"_s);
+    server.setAnswer(200);
+    send(*client, u"b"_s);
+    EXPECT_EQ(batches(), (QList<QStringList>{{u"a"_s}, {u"b"_s}}));
+    EXPECT_EQ(logged(), QStringList());
+}
+
 TEST_F(TelemetryDeckServer, LeavesNoCookies) {
     const auto client = makeClient();
     server.setAnswer(200, "Set-Cookie: who=you\r\n");

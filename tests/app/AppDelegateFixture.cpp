@@ -63,6 +63,7 @@ Environment AppDelegateFixture::environment() {
         .recorder = recorder,
         .setTelemetryAppID = [this](const QString& id) { telemetryAppIDs.push_back(id); },
         .systemSymbol = [](const QString&, const QString&) { return QImage(); },
+        .hasStatusArea = [] { return true; },
         .terminate = [this] { ++terminations; },
     };
 }

@@ -338,6 +338,16 @@ TEST_F(FirstRun, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
     EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
 }
 
+TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
+    launch();
+    onboarding()->close();
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(localKeys.starts, 1);
+    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
+    mainQueue.runAll();
+    EXPECT_FALSE(onboarding());
+}
+
 TEST_F(FirstRun, DropsItsWindowOnlyAfterThatHasCalled) {
     launch();
     onboarding()->onComplete();

@@ -93,6 +93,7 @@ protected:
                     journal << u"draw "_s + name;
                     return QImage();
                 },
+            .hasStatusArea = system.hasStatusArea,
             .terminate = system.terminate,
         };
         delegate = std::make_unique<AppDelegate>(watched);

@@ -1,6 +1,7 @@
 #include "app/StatusItem.h"
 
 #include "app/StatusIcon.h"
+#include "support/FakeTimerMaker.h"
 #include "support/RecordedLog.h"
 
 #include <QImage>
@@ -22,8 +23,15 @@ QColor colorAt(const QImage& image, double x, double y) {
     return image.pixelColor(int(x * scale), image.height() - 1 - int(y * scale));
 }
 
-TEST(StatusItem, HasTheMenuWithItsTitlesAndKeys) {
-    StatusItem item(noSymbol, {});
+class StatusItemTest : public testing::Test {
+protected:
+    FakeTimerMaker timers;
+    bool areaIsThere = true;
+    StatusItem::Area area{timers, [this] { return areaIsThere; }};
+};
+
+TEST_F(StatusItemTest, HasTheMenuWithItsTitlesAndKeys) {
+    StatusItem item(noSymbol, {}, area);
     const auto actions = item.actions();
     ASSERT_EQ(actions.size(), 5);
     EXPECT_EQ(actions[0]->text(), u"Show Tessaline"_s);
@@ -38,21 +46,53 @@ TEST(StatusItem, HasTheMenuWithItsTitlesAndKeys) {
         EXPECT_TRUE(actions[shown]->isShortcutVisibleInContextMenu());
 }
 
-TEST(StatusItem, CarriesOutWhatIsChosen) {
+TEST_F(StatusItemTest, CarriesOutWhatIsChosen) {
     QStringList done;
-    StatusItem item(noSymbol, {.showPrompter = [&] { done << u"show"_s; },
-                               .showConfig = [&] { done << u"config"_s; },
-                               .quit = [&] { done << u"quit"_s; }});
+    StatusItem item(noSymbol,
+                    {.showPrompter = [&] { done << u"show"_s; },
+                     .showConfig = [&] { done << u"config"_s; },
+                     .quit = [&] { done << u"quit"_s; }},
+                    area);
     for (QAction* action : item.actions())
         action->trigger();
     EXPECT_EQ(done, (QStringList{u"show"_s, u"config"_s, u"quit"_s}));
 }
 
-TEST(StatusItem, SaysOnceThatThereIsNoTray) {
+TEST_F(StatusItemTest, IsShownAtOnceWhereThereIsATray) {
     const RecordedLog log;
-    const StatusItem item(noSymbol, {});
+    const StatusItem item(noSymbol, {}, area);
+    EXPECT_TRUE(item.isShown());
+    EXPECT_TRUE(log.entries().filter(u"no tray"_s).isEmpty());
+    EXPECT_TRUE(timers.liveIntervals().empty());
+}
+
+TEST_F(StatusItemTest, SaysOnceThatThereIsNoTrayHoweverLongThatLasts) {
+    const RecordedLog log;
+    areaIsThere = false;
+    const StatusItem item(noSymbol, {}, area);
+    timers.advance(600);
+    EXPECT_FALSE(item.isShown());
     EXPECT_EQ(log.entries().filter(u"no tray"_s).size(), 1)
         << log.entries().join(u'\n').toStdString();
+}
+
+TEST_F(StatusItemTest, IsShownWithinTwoSecondsOfATrayThatComesLater) {
+    areaIsThere = false;
+    const StatusItem item(noSymbol, {}, area);
+    timers.advance(60);
+    areaIsThere = true;
+    timers.advance(2);
+    EXPECT_TRUE(item.isShown());
+    EXPECT_TRUE(timers.liveIntervals().empty()) << "the poll is over";
+}
+
+TEST_F(StatusItemTest, StopsToWaitWhenItGoesAway) {
+    areaIsThere = false;
+    {
+        const StatusItem item(noSymbol, {}, area);
+        EXPECT_EQ(timers.liveIntervals(), std::vector{2.0});
+    }
+    EXPECT_TRUE(timers.liveIntervals().empty());
 }
 
 TEST(StatusIcon, PrefersTheSystemsSymbol) {

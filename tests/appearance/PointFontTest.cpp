@@ -55,6 +55,17 @@ TEST(PointFont, TheMonospacedFontGivesEveryLetterTheSameWidth) {
     EXPECT_NE(QFontInfo(monospacedFont(14.0)).family(), QFontInfo(systemFont(14.0)).family());
 }
 
+TEST(PointFont, TheMonospacedDigitFontIsTheInterfaceFontWithDigitsOfOneWidth) {
+    const QFont font = monospacedDigitFont(13.0, QFont::DemiBold);
+    const QFontMetricsF metrics(font);
+
+    EXPECT_EQ(font.family(), systemFont(13.0).family());
+    EXPECT_EQ(font.weight(), QFont::DemiBold);
+    EXPECT_NEAR(pointsOf(font), 13.0, 1e-9);
+    for (char16_t digit = u'1'; digit <= u'9'; ++digit)
+        EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(digit), metrics.horizontalAdvance(u'0'));
+}
+
 TEST(PointFont, ResizingKeepsTheRestOfTheFont) {
     QFont font = monospacedFont(12.0, QFont::Bold);
     font.setItalic(true);

@@ -5,6 +5,7 @@ import signal
 import unittest
 
 from harness import TessalineTestCase
+from harness.waiting import holds_for
 
 
 class CleanStop(TessalineTestCase):
@@ -31,6 +32,14 @@ class CleanStop(TessalineTestCase):
                 self.start()
                 self.prompter.send(number)
                 self.assert_ended_well()
+
+    def test_lives_on_without_its_terminal_if_that_was_asked_for(self):
+        self.prompter = self.desktop.start("tessaline", ["nohup", self.binary()])
+        self.wait_for_prompter()
+        self.prompter.send(signal.SIGHUP)
+        self.assertTrue(holds_for(lambda: self.prompter.running, 1))
+        self.prompter.send(signal.SIGTERM)
+        self.assert_ended_well()
 
     def test_its_own_key_ends_it(self):
         self.start()
@@ -59,6 +68,42 @@ class CleanStop(TessalineTestCase):
         self.prompter.send(signal.SIGTERM)
         self.assert_ended_well()
         self.assertEqual(self.settings(), before)
+
+    def test_the_end_of_its_display_ends_it_with_its_history_saved(self):
+        for number in (signal.SIGTERM, signal.SIGKILL):
+            with self.subTest(number):
+                self.desktop = self.start_desktop(**self.desktop_options)
+                self.write_settings()
+                self.start()
+                before = self.settings()
+                self.desktop.process("xvfb").send(number)
+                self.assertEqual(self.prompter.wait(3), 1)
+                names = self.event_names()
+                self.assertEqual(names.count("app_launch"), 1, names)
+                self.assertEqual(names.count("app_terminate"), 1, names)
+                self.assertEqual(names[-1], "app_terminate", names)
+                self.assertEqual(self.settings(), before)
+
+    def test_the_end_of_its_display_is_no_obstacle_to_the_next_start(self):
+        self.start()
+        self.desktop.process("xvfb").send(signal.SIGKILL)
+        self.prompter.wait(3)
+        home = self.desktop.home
+        self.desktop = self.start_desktop(**self.desktop_options)
+        self.desktop.env["HOME"] = str(home)
+        self.start()
+        self.prompter.send(signal.SIGTERM)
+        self.assert_ended_well()
+        self.assertEqual(self.event_names().count("app_terminate"), 2)
+
+    def test_the_end_of_its_display_ends_it_during_the_first_start(self):
+        self.write_settings(hasCompletedOnboarding=False)
+        self.prompter = self.start_tessaline()
+        self.desktop.wait_for_window("Welcome", self.prompter.pid)
+        self.desktop.process("xvfb").send(signal.SIGKILL)
+        self.assertEqual(self.prompter.wait(3), 1)
+        self.assertEqual(self.event_names()[-1], "app_terminate")
+        self.assertFalse(self.settings()["hasCompletedOnboarding"])
 
     def test_two_signals_at_once_end_it_no_worse_than_one(self):
         self.start()

@@ -1,9 +1,11 @@
 // Preloaded into a process, makes one of its calls that touch files below a folder fail. Set by the
 // environment:
 //   FAULT_FOLDER  the folder
-//   FAULT_CALL    open, write, fsync, rename or close
+//   FAULT_CALL    open, read, write, fsync, rename, close, mkdir or unlink (which means rmdir too)
 //   FAULT_NUMBER  which of these calls fails, counted from 1 once the process has called armFaults
-//   FAULT_KIND    an error number; or "short" for a write that takes half of its bytes
+//   FAULT_KIND    an error number; "short" for a read or write of half of the bytes; or "full" for
+//   a
+//                 write of half of the bytes on a disk that is full then
 //   FAULT_LASTS   1: all later calls of the kind fail as well
 //   FAULT_REPORT  the file that tells, when the process ends, how many such calls there were
 
@@ -18,6 +20,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <string_view>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -38,7 +41,9 @@ Function next(const char* name) {
 
 std::atomic<bool> armed = false;
 std::atomic<int> calls = 0;
+std::atomic<bool> isFirstFailure = false;
 std::array<std::atomic<bool>, 1024> watched{};
+std::array<std::atomic<bool>, 1024> unsynchronised{}; ///< of those that are watched
 
 bool isWatched(int descriptor) {
     return descriptor >= 0 && std::size_t(descriptor) < watched.size() && watched[descriptor];
@@ -58,12 +63,27 @@ bool fails(std::string_view call) {
     if (!armed || variable("FAULT_CALL") != call) return false;
     const int count = ++calls;
     const int failing = number("FAULT_NUMBER");
-    return count == failing || (count > failing && failing > 0 && number("FAULT_LASTS") == 1);
+    isFirstFailure = count == failing;
+    return isFirstFailure || (count > failing && failing > 0 && number("FAULT_LASTS") == 1);
 }
 
-int failure() {
-    errno = number("FAULT_KIND");
+int failure(int error = number("FAULT_KIND")) {
+    errno = error;
     return -1;
+}
+
+/// No test pulls the plug, and disks are slow: nothing is done. One that fails takes along what was
+/// written since the last one, unless it was merely interrupted.
+int synchronise(int descriptor) {
+    const bool failed = fails("fsync");
+    if (failed && number("FAULT_KIND") == EINTR) return failure();
+    const bool isLost = unsynchronised[descriptor].exchange(false) && failed;
+    if (isLost && ::ftruncate(descriptor, 0) != 0) std::abort();
+    return failed ? failure() : 0;
+}
+
+size_t half(size_t count) {
+    return std::max<size_t>(count / 2, 1);
 }
 
 int openAnyhow(const char* function, int folder, const char* path, int flags, mode_t mode) {
@@ -133,22 +153,35 @@ int openat64(int folder, const char* path, int flags, ...) {
     return openAnyhow("openat64", folder, path, flags, mode);
 }
 
-ssize_t write(int descriptor, const void* bytes, size_t count) {
-    if (isWatched(descriptor) && fails("write")) {
+ssize_t read(int descriptor, void* bytes, size_t count) {
+    if (isWatched(descriptor) && fails("read")) {
         if (variable("FAULT_KIND") != "short") return failure();
-        count = std::max<size_t>(count / 2, 1);
+        count = half(count);
+    }
+    return next<decltype(&::read)>("read")(descriptor, bytes, count);
+}
+
+ssize_t write(int descriptor, const void* bytes, size_t count) {
+    if (isWatched(descriptor)) {
+        if (fails("write")) {
+            const bool isFull = variable("FAULT_KIND") == "full";
+            if (isFull && !isFirstFailure) return failure(ENOSPC);
+            if (!isFull && variable("FAULT_KIND") != "short") return failure();
+            count = half(count);
+        }
+        unsynchronised[descriptor] = true;
     }
     return next<decltype(&::write)>("write")(descriptor, bytes, count);
 }
 
 int fsync(int descriptor) {
-    if (isWatched(descriptor) && fails("fsync")) return failure();
-    return next<decltype(&::fsync)>("fsync")(descriptor);
+    return isWatched(descriptor) ? synchronise(descriptor)
+                                 : next<decltype(&::fsync)>("fsync")(descriptor);
 }
 
 int fdatasync(int descriptor) {
-    if (isWatched(descriptor) && fails("fsync")) return failure();
-    return next<decltype(&::fdatasync)>("fdatasync")(descriptor);
+    return isWatched(descriptor) ? synchronise(descriptor)
+                                 : next<decltype(&::fdatasync)>("fdatasync")(descriptor);
 }
 
 int rename(const char* from, const char* to) noexcept {
@@ -165,6 +198,21 @@ int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
     if (isInFolder(to) && fails("rename")) return failure();
     return next<decltype(&::linkat)>("linkat")(fromFolder, from, toFolder, to, flags);
+}
+
+int mkdir(const char* path, mode_t mode) noexcept {
+    if (isInFolder(path) && fails("mkdir")) return failure();
+    return next<decltype(&::mkdir)>("mkdir")(path, mode);
+}
+
+int unlink(const char* path) noexcept {
+    if (isInFolder(path) && fails("unlink")) return failure();
+    return next<decltype(&::unlink)>("unlink")(path);
+}
+
+int rmdir(const char* path) noexcept {
+    if (isInFolder(path) && fails("unlink")) return failure();
+    return next<decltype(&::rmdir)>("rmdir")(path);
 }
 
 int close(int descriptor) {

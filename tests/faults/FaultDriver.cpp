@@ -1,9 +1,17 @@
-// Does one thing that changes files of the user's, for the tests to make it fail half-way.
+// Does one thing that reads or changes files of the user's, for the tests to make it fail half-way.
 
+#include "analytics/EventHistory.h"
 #include "settings/AppSettings.h"
+#include "sources/ClipboardSource.h"
+#include "sources/obsidian/InstalledObsidian.h"
+#include "support/FakeApplicationLookup.h"
+#include "support/FakeBundleInformation.h"
+#include "support/FakeFolderChooser.h"
+#include "support/FakePasteboard.h"
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <QTimeZone>
 
 #include <cstdio>
 
@@ -28,13 +36,87 @@ struct Armed {
     }
 };
 
-int saveSettings(const QString& path) {
+void print(const QString& text) {
+    std::fputs(text.toUtf8().constData(), stdout);
+}
+
+void loadSettings(const QString& path) {
+    const Armed armed;
+    const AppSettings settings(path);
+    print(u"font size %1\n"_s.arg(settings.fontSize));
+}
+
+void saveSettings(const QString& path) {
     AppSettings settings(path);
     settings.fontSize = 22;
     settings.notePath = u"x"_s.repeated(20000);
     const Armed armed;
     settings.save();
-    return 0;
+}
+
+/// A history that is yet to be read, with a new event.
+class History {
+public:
+    explicit History(const QString& path) : history(path, day(1)) {
+        history.add({.name = u"new"_s,
+                     .timestamp = day(20),
+                     .properties = {{u"length"_s, u"x"_s.repeated(20000)}}});
+    }
+
+    void load() { history.load(); }
+    void flush() { history.flush(); }
+
+private:
+    static QDateTime day(int number) {
+        return {QDate(2026, 1, number), QTime(12, 0), QTimeZone::utc()};
+    }
+
+    EventHistory history;
+};
+
+void flushHistory(const QString& path) {
+    History history(path);
+    history.load();
+    const Armed armed;
+    history.flush();
+}
+
+void flushHistoryAgain(const QString& path) {
+    History history(path);
+    history.load();
+    {
+        const Armed armed;
+        history.flush();
+    }
+    history.flush();
+}
+
+void readAndFlushHistory(const QString& path) {
+    History history(path);
+    const Armed armed;
+    history.flush();
+}
+
+void paste(const QString& path) {
+    FakePasteboard pasteboard;
+    pasteboard.text = u"new "_s.repeated(5000);
+    ClipboardSource source(pasteboard, path);
+    source.startWatching([](const QString& text) { print(text.left(3) + u" is shown\n"_s); });
+    const Armed armed;
+    const auto pasted = source.pasteFromClipboard();
+    print(u"%1 characters are pasted\n"_s.arg(pasted ? pasted->size() : 0));
+}
+
+void install(const QString& home, bool accessIsGranted) {
+    const FakeApplicationLookup lookup;
+    FakeBundleInformation bundle;
+    bundle.resources = home + u"/resources"_s;
+    FakeFolderChooser chooser;
+    if (accessIsGranted) chooser.answer = home;
+    InstalledObsidian obsidian(home, lookup, bundle, chooser);
+    const Armed armed;
+    const auto result = obsidian.installPlugin();
+    print((result.success ? u"success: "_s : u"failure: "_s) + result.message + u'\n');
 }
 
 } // namespace
@@ -42,7 +124,27 @@ int saveSettings(const QString& path) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() == 3 && arguments[1] == u"save"_s) return saveSettings(arguments[2]);
-    std::fputs("usage: fault_driver save FILE\n", stderr);
-    return 2;
+    const QString action = arguments.value(1);
+    const QString path = arguments.value(2);
+    if (action == u"load"_s) {
+        loadSettings(path);
+    } else if (action == u"save"_s) {
+        saveSettings(path);
+    } else if (action == u"flush"_s) {
+        flushHistory(path);
+    } else if (action == u"flush-again"_s) {
+        flushHistoryAgain(path);
+    } else if (action == u"read-and-flush"_s) {
+        readAndFlushHistory(path);
+    } else if (action == u"paste"_s) {
+        paste(path);
+    } else if (action == u"install"_s) {
+        install(path, false);
+    } else if (action == u"install-with-access"_s) {
+        install(path, true);
+    } else {
+        std::fputs("usage: fault_driver ACTION PATH\n", stderr);
+        return 2;
+    }
+    return 0;
 }

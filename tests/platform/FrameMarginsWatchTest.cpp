@@ -22,6 +22,21 @@ TEST(FrameMarginsWatch, TellsOnceWhenTheWindowGetsAnotherFrame) {
     EXPECT_EQ(changes, 1);
 }
 
+TEST(FrameMarginsWatch, TellsAgainWhenTheWindowIsShownAgain) {
+    QWindow window;
+    window.resize(100, 100);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_FALSE(window.frameMargins().isNull());
+    int changes = 0;
+    new FrameMarginsWatch(window, [&] { ++changes; });
+    window.hide();
+    EXPECT_EQ(changes, 0);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return changes > 0; }));
+    EXPECT_EQ(changes, 1);
+}
+
 TEST(FrameMarginsWatch, SaysNothingWhileTheFrameStaysTheSame) {
     QWindow window;
     window.resize(100, 100);

@@ -46,6 +46,18 @@ TEST_P(StopSignalsDeathTest, EndTheProgramOnceNobodyWatches) {
         testing::KilledBySignal(GetParam()), "");
 }
 
+TEST_P(StopSignalsTest, StaySwitchedOffIfTheyWere) {
+    const auto handler = std::signal(GetParam(), SIG_IGN);
+    int stops = 0;
+    {
+        const StopSignals watched([&] { ++stops; });
+        std::raise(GetParam());
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(stops, 0);
+    EXPECT_EQ(std::signal(GetParam(), handler), SIG_IGN);
+}
+
 TEST(StopSignals, CanBeWatchedAgain) {
     {
         const StopSignals first([] {});

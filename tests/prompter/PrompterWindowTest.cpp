@@ -140,9 +140,11 @@ TEST_F(PrompterWindowTest, KeepsTheReadersPlaceWhileCollapsed) {
 TEST_F(PrompterWindowTest, KeepsTheStatisticsWhileCollapsed) {
     show(u"line\n"_s.repeated(100));
     const QString before = statistics();
+    const QString time = window().remainingTime();
     window().toggleCollapsed();
     finishResizing(32);
     EXPECT_EQ(statistics(), before);
+    EXPECT_EQ(window().remainingTime(), time);
 }
 
 TEST_F(PrompterWindowTest, ShowsTextsOnlyOnceTheMainQueueComesToThem) {

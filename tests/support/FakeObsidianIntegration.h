@@ -8,7 +8,12 @@ namespace tessaline {
 class FakeObsidianIntegration final : public ObsidianIntegration {
 public:
     std::optional<QString> obsidianAppPath() const override { return appPath; }
-    std::optional<QString> findObsidianVault() const override { return vault; }
+
+    std::optional<QString> findObsidianVault() const override {
+        ++vaultSearches;
+        return vault;
+    }
+
     bool isPluginInstalled() const override { return pluginInstalled; }
     bool isPluginEnabled() const override { return pluginEnabled; }
 
@@ -24,6 +29,7 @@ public:
     bool pluginEnabled = false;
     InstallResult installResult{true, QStringLiteral("Installed.")};
     int installations = 0;
+    mutable int vaultSearches = 0;
 };
 
 } // namespace tessaline

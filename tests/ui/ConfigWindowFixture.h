@@ -1,8 +1,8 @@
 #pragma once
 
 #include "screens/ScreenManager.h"
-#include "ui/Alert.h"
 #include "ui/ConfigWindow.h"
+#include "ui/VisibleSheet.h"
 #include "ui/WindowStage.h"
 #include "ui/controls/PopupButton.h"
 
@@ -72,12 +72,7 @@ protected:
         return titles;
     }
 
-    /// The alert that hangs over the window, or null.
-    Alert* sheet() {
-        for (Alert* alert : window().findChildren<Alert*>())
-            if (alert->isVisible()) return alert;
-        return nullptr;
-    }
+    Alert* sheet() { return visibleSheet(window()); }
 
     WindowStage stage;
     ScreenManager screenManager{stage.screens, stage.notifications};

@@ -1,11 +1,11 @@
 #include "appearance/SystemPalette.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
+#include "ui/SpokenControls.h"
 #include "ui/controls/StatusDot.h"
 
 #include <QFile>
 #include <QLabel>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <cstdlib>
@@ -17,6 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
+using testing::Pair;
+using testing::UnorderedElementsAre;
 
 class ConfigWindowTest : public ConfigWindowFixture {
 protected:
@@ -111,6 +113,7 @@ TEST_F(ConfigWindowTest, ClipsNothing) {
 }
 
 TEST_F(ConfigWindowTest, FollowsItsContentsHeight) {
+    stage.screens.main->frame.height = 1600;
     shown();
     const int before = window().height();
     stage.settings.activeSourceType = SourceType::appleNotes;
@@ -123,6 +126,7 @@ TEST_F(ConfigWindowTest, FollowsItsContentsHeight) {
 }
 
 TEST_F(ConfigWindowTest, HasItsSizeAsSoonAsItIsRefreshedAlsoWhileItIsHidden) {
+    stage.screens.main->frame.height = 1600;
     const QSize before = window().size();
     EXPECT_EQ(before.width(), 320);
     stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
@@ -132,6 +136,34 @@ TEST_F(ConfigWindowTest, HasItsSizeAsSoonAsItIsRefreshedAlsoWhileItIsHidden) {
     shown();
     QTest::qWait(0);
     EXPECT_EQ(window().size(), hidden);
+}
+
+TEST_F(ConfigWindowTest, IsNoHigherThanWhatIsLeftBelowThePrompter) {
+    constexpr int titleBar = 40;
+    stage.settings.height = 300;
+    window().refreshUI();
+    EXPECT_EQ(window().height(), 800 - 300 - titleBar);
+    stage.screens.main->visibleFrame = {0, 50, 1000, 750};
+    window().refreshUI();
+    EXPECT_EQ(window().height(), 750 - 300 - titleBar);
+    stage.screens.main->frame = {0, -400, 1000, 1600};
+    stage.screens.main->visibleFrame = stage.screens.main->frame;
+    window().refreshUI();
+    EXPECT_GT(window().height(), 600);
+    EXPECT_EQ(window().width(), 320) << "nothing scrolls";
+    stage.settings.height = 1590;
+    window().refreshUI();
+    EXPECT_EQ(window().height(), 200) << "some of it is always seen";
+}
+
+TEST_F(ConfigWindowTest, MeasuresTheDisplayThatThePrompterHangsOn) {
+    stage.plugIn(
+        Screen{.id = 8, .frame = {1000, 0, 2000, 1000}, .visibleFrame = {1000, 0, 2000, 1000}});
+    useScreenManager();
+    stage.settings.height = 400;
+    screenManager.preferredDisplayID = 8;
+    window().refreshUI();
+    EXPECT_EQ(window().height(), 1000 - 400 - 40);
 }
 
 TEST_F(ConfigWindowTest, TheTabKeyGoesFromTopToBottom) {
@@ -151,18 +183,20 @@ TEST_F(ConfigWindowTest, TheTabKeyGoesFromTopToBottom) {
                             u"accessibilityFixButton"_s));
 }
 
-TEST_F(ConfigWindowTest, EveryControlHasANameForScreenReaders) {
-    int controls = 0;
-    for (const QWidget* part : shown().findChildren<QWidget*>()) {
-        const bool isControl = part->window() == &window() && part->focusPolicy() != Qt::NoFocus &&
-                               !qobject_cast<const QScrollBar*>(part);
-        if (!isControl) continue;
-        ++controls;
-        const auto* button = qobject_cast<const QPushButton*>(part);
-        EXPECT_FALSE(part->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
-            << part->metaObject()->className() << ' ' << part->objectName().toStdString();
-    }
-    EXPECT_GE(controls, 11);
+TEST_F(ConfigWindowTest, EveryControlHasARoleAndANameForScreenReaders) {
+    EXPECT_THAT(
+        spokenControls(shown()),
+        UnorderedElementsAre(
+            Pair(QAccessible::CheckBox, u"Clipboard"_s), Pair(QAccessible::CheckBox, u"Obsidian"_s),
+            Pair(QAccessible::Button, u"Reinstall Plugin"_s),
+            Pair(QAccessible::ComboBox, u"Active Source"_s),
+            Pair(QAccessible::Button, u"Browse..."_s),
+            Pair(QAccessible::Button, u"Select Note..."_s),
+            Pair(QAccessible::ComboBox, u"Screen"_s), Pair(QAccessible::Slider, u"Width"_s),
+            Pair(QAccessible::Slider, u"Height"_s), Pair(QAccessible::Slider, u"Font Size"_s),
+            Pair(QAccessible::Slider, u"Position"_s),
+            Pair(QAccessible::ComboBox, u"Scroll Speed"_s),
+            Pair(QAccessible::Button, u"Grant Accessibility access"_s)));
 }
 
 TEST_F(ConfigWindowTest, ShowsThatThePermissionIsMissing) {

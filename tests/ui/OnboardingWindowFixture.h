@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/Alert.h"
 #include "ui/OnboardingWindow.h"
+#include "ui/VisibleSheet.h"
 #include "ui/WindowStage.h"
 #include "ui/controls/Switch.h"
 #include "ui/onboarding/IntegrationToggleView.h"
@@ -26,7 +26,8 @@ protected:
             built = std::make_unique<OnboardingWindow>(manager, stage.settings, sourceManager.get(),
                                                        stage.ports);
             built->onComplete = [this] { ++completions; };
-            built->onSkip = [this] { ++skips; };
+            QObject::connect(built.get(), &OnboardingWindow::closedUnfinished,
+                             [this] { ++closings; });
         }
         return *built;
     }
@@ -50,11 +51,7 @@ protected:
 
     void switchObsidian() { QTest::mouseClick(obsidian().toggleSwitch, Qt::LeftButton); }
 
-    Alert* sheet() {
-        for (Alert* alert : window().findChildren<Alert*>())
-            if (alert->isVisible()) return alert;
-        return nullptr;
-    }
+    Alert* sheet() { return visibleSheet(window()); }
 
     bool obsidianEnabled() const {
         return AppSettings(stage.configPath).enabledSourceTypes.contains(SourceType::obsidian);
@@ -64,7 +61,7 @@ protected:
     PermissionManager manager{stage.ports.permissions};
     std::unique_ptr<SourceManager> sourceManager;
     int completions = 0;
-    int skips = 0;
+    int closings = 0;
     std::unique_ptr<OnboardingWindow> built;
 };
 

@@ -1,6 +1,8 @@
 #include "appearance/SystemPalette.h"
 #include "support/PrintQt.h"
 #include "ui/OnboardingWindowFixture.h"
+#include "ui/SpokenControls.h"
+#include "ui/TextType.h"
 #include "ui/controls/StatusDot.h"
 
 #include <QScreen>
@@ -13,8 +15,14 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
+using testing::UnorderedElementsAre;
 
-using OnboardingWindowTest = OnboardingWindowFixture;
+class OnboardingWindowTest : public OnboardingWindowFixture {
+protected:
+    /// The label that reads so.
+    QLabel& label(const QString& text) { return labelReading(window(), text); }
+};
 
 TEST_F(OnboardingWindowTest, StartsAfreshWithTheClipboardAndSavesThat) {
     stage.settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
@@ -80,12 +88,23 @@ TEST_F(OnboardingWindowTest, KeepsItsDistances) {
         return QRect(part->mapTo(&window(), QPoint(0, 0)), part->size());
     };
     const QRect title = bounds(window().findChild<QLabel*>(u"onboarding_title"_s));
-    const QRect subtitle = bounds(window().findChild<QLabel*>(u"onboarding_subtitle"_s));
+    const auto& subtitleLabel = *window().findChild<QLabel*>(u"onboarding_subtitle"_s);
+    const QRect subtitle = bounds(&subtitleLabel);
     const QRect clipboard = bounds(&row("clipboardToggleView"));
     const QRect second = bounds(&obsidian());
     const QRect button = bounds(&continueButton());
+    const QRect permissions = bounds(&label(u"Optional Permissions"_s));
+    const QRect sources = bounds(&label(u"Content Sources"_s));
     EXPECT_EQ(title.top(), 30);
+    EXPECT_NEAR(title.center().x(), 260, 1);
     EXPECT_EQ(subtitle.top(), title.bottom() + 1 + 10);
+    EXPECT_EQ(subtitle.left() + subtitleLabel.contentsRect().left(), 40);
+    EXPECT_EQ(subtitleLabel.contentsRect().width(), 440);
+    EXPECT_EQ(permissions.top(), subtitle.bottom() + 1 + 20);
+    EXPECT_EQ(permissions.left(), 30);
+    EXPECT_EQ(bounds(&permission()).top(), permissions.bottom() + 1 + 8);
+    EXPECT_EQ(sources.top(), bounds(&permission()).bottom() + 1 + 20);
+    EXPECT_EQ(clipboard.top(), sources.bottom() + 1 + 8);
     EXPECT_EQ(bounds(&permission()).left(), 30);
     EXPECT_EQ(bounds(&permission()).width(), 460);
     EXPECT_EQ(clipboard.height(), 60);
@@ -93,6 +112,30 @@ TEST_F(OnboardingWindowTest, KeepsItsDistances) {
     EXPECT_EQ(button.top(), second.bottom() + 1 + 20);
     EXPECT_NEAR(button.center().x(), 260, 1);
     EXPECT_GE(window().height() - button.bottom() - 1, 20);
+}
+
+TEST_F(OnboardingWindowTest, SetsItsTextsInTheirSizesAndWeights) {
+    stage.installObsidian();
+    EXPECT_EQ(typeOf(*window().findChild<QLabel*>(u"onboarding_title"_s)),
+              TextType(24, QFont::Bold));
+    EXPECT_EQ(typeOf(label(u"Optional Permissions"_s)), TextType(12, QFont::DemiBold));
+    EXPECT_EQ(typeOf(label(u"Content Sources"_s)), TextType(12, QFont::DemiBold));
+    EXPECT_EQ(typeOf(*permission().titleLabel), TextType(14, QFont::DemiBold));
+    EXPECT_EQ(typeOf(*permission().descriptionLabel), TextType(12, QFont::Normal));
+    EXPECT_EQ(typeOf(*obsidian().titleLabel), TextType(14, QFont::DemiBold));
+    EXPECT_EQ(typeOf(*obsidian().statusLabel), TextType(11, QFont::Normal));
+    EXPECT_EQ(typeOf(*obsidian().iconLabel), TextType(20, QFont::Normal));
+    EXPECT_EQ(permission().statusIndicator->size(), QSize(12, 12));
+    EXPECT_GE(permission().grantButton->minimumWidth(), 100);
+    EXPECT_EQ(obsidian().iconLabel->width(), 24);
+}
+
+TEST_F(OnboardingWindowTest, EveryControlHasARoleAndANameForScreenReaders) {
+    EXPECT_THAT(spokenControls(shown()),
+                UnorderedElementsAre(Pair(QAccessible::Button, u"Grant Access"_s),
+                                     Pair(QAccessible::CheckBox, u"Clipboard"_s),
+                                     Pair(QAccessible::CheckBox, u"Obsidian"_s),
+                                     Pair(QAccessible::Button, u"Get Started"_s)));
 }
 
 TEST_F(OnboardingWindowTest, OffersTheClipboardForGoodAndNoAppleNotes) {
@@ -151,7 +194,7 @@ TEST_F(OnboardingWindowTest, FinishingSavesRecordsCallsAndCloses) {
     };
     QTest::mouseClick(&continueButton(), Qt::LeftButton);
     EXPECT_EQ(completions, 1);
-    EXPECT_EQ(skips, 0);
+    EXPECT_EQ(closings, 0);
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(stage.recorder.events[0].properties,
               (QMap<QString, QString>{{u"accessibility_granted"_s, u"true"_s},
@@ -197,20 +240,22 @@ TEST_F(OnboardingWindowTest, NeedsNobodyToTell) {
     EXPECT_FALSE(window().isVisible());
 }
 
-TEST_F(OnboardingWindowTest, ClosingWithoutFinishingSkipsOnce) {
-    shown().close();
-    EXPECT_EQ(skips, 1);
+TEST_F(OnboardingWindowTest, ClosingWithoutFinishingIsToldOnceAndCallsNobody) {
+    shown();
+    window().onSkip = [] { ADD_FAILURE() << "that is for the owner to decide"; };
+    window().close();
+    EXPECT_EQ(closings, 1);
     EXPECT_EQ(completions, 0);
     EXPECT_FALSE(window().isVisible());
     EXPECT_FALSE(AppSettings(stage.configPath).hasCompletedOnboarding);
     shown().close();
-    EXPECT_EQ(skips, 1);
+    EXPECT_EQ(closings, 1);
 }
 
 TEST_F(OnboardingWindowTest, EscapeLeavesItOpen) {
     QTest::keyClick(&shown(), Qt::Key_Escape);
     EXPECT_TRUE(window().isVisible());
-    EXPECT_EQ(skips, 0);
+    EXPECT_EQ(closings, 0);
 }
 
 TEST_F(OnboardingWindowTest, MayBeDroppedByWhoeverHearsThatItIsComplete) {
@@ -224,14 +269,10 @@ TEST_F(OnboardingWindowTest, MayBeDroppedByWhoeverHearsThatItIsComplete) {
     EXPECT_FALSE(built);
 }
 
-TEST_F(OnboardingWindowTest, MayBeDroppedByWhoeverHearsThatItIsSkipped) {
-    shown();
-    window().onSkip = [this] {
-        ++skips;
-        built.reset();
-    };
+TEST_F(OnboardingWindowTest, MayBeDroppedByWhoeverHearsThatItIsClosed) {
+    QObject::connect(&shown(), &OnboardingWindow::closedUnfinished, [this] { built.reset(); });
     built->close();
-    EXPECT_EQ(skips, 1);
+    EXPECT_EQ(closings, 1);
     EXPECT_FALSE(built);
 }
 

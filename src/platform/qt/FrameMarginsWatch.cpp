@@ -17,6 +17,8 @@ FrameMarginsWatch::FrameMarginsWatch(QWindow& watchedWindow, std::function<void(
 
 bool FrameMarginsWatch::eventFilter(QObject* watched, QEvent* event) {
     const auto type = event->type();
+    // Frames go with their windows; whatever the window says of its frame meanwhile is out of date.
+    if (type == QEvent::Hide) known = {};
     if (type == QEvent::Expose || type == QEvent::Move || type == QEvent::Resize) {
         const QMargins now = window.frameMargins();
         if (std::exchange(known, now) != now) onChange();

@@ -16,6 +16,9 @@ constexpr std::array stopSignals{SIGTERM, SIGINT, SIGHUP};
 /// A signal handler may do little more than write to a pipe.
 std::array<int, 2> channel{-1, -1};
 
+using Action = struct sigaction;
+std::array<Action, stopSignals.size()> formerActions{}; ///< what the signals did
+
 void noteSignal(int) {
     const int before = errno;
     const char byte = 0;
@@ -42,16 +45,18 @@ StopSignals::StopSignals(std::function<void()> stop)
         }
         stop();
     });
-    struct sigaction action {};
+    Action action{};
     action.sa_handler = &noteSignal;
     action.sa_flags = int(SA_RESETHAND | SA_RESTART);
-    for (const int number : stopSignals)
-        ::sigaction(number, &action, nullptr);
+    for (std::size_t i = 0; i < stopSignals.size(); ++i) {
+        ::sigaction(stopSignals[i], nullptr, &formerActions[i]);
+        if (formerActions[i].sa_handler != SIG_IGN) ::sigaction(stopSignals[i], &action, nullptr);
+    }
 }
 
 StopSignals::~StopSignals() {
-    for (const int number : stopSignals)
-        std::signal(number, SIG_DFL);
+    for (std::size_t i = 0; i < stopSignals.size(); ++i)
+        ::sigaction(stopSignals[i], &formerActions[i], nullptr);
     arrived.setEnabled(false);
     for (int& end : channel)
         ::close(std::exchange(end, -1));

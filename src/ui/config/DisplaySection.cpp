@@ -63,9 +63,11 @@ QWidget* DisplaySection::createScreenRow() {
     auto* row = new QWidget;
     row->setFixedWidth(settingsColumnWidth);
     QHBoxLayout* layout = layOutRow(*row, 8);
-    layout->addWidget(makeLabel(u"Screen"_s, systemFont(13), SystemPalette::label));
+    QLabel* name = makeLabel(u"Screen"_s, systemFont(13), SystemPalette::label);
+    layout->addWidget(name);
     layout->addStretch();
-    screenPopup = new PopupButton(u"Screen"_s, 180);
+    screenPopup = new PopupButton(name->text(), 180);
+    name->setBuddy(screenPopup);
     screenPopup->setObjectName(u"config_screenPopup"_s);
     connect(screenPopup, &PopupButton::activated, this, &DisplaySection::screenSelectionChanged);
     layout->addWidget(screenPopup);
@@ -76,10 +78,12 @@ QWidget* DisplaySection::createScrollRateRow() {
     auto* row = new QWidget;
     row->setFixedWidth(settingsColumnWidth);
     QHBoxLayout* layout = layOutRow(*row, 8);
-    layout->addWidget(makeLabel(u"Scroll Speed"_s, systemFont(13), SystemPalette::label));
+    QLabel* name = makeLabel(u"Scroll Speed"_s, systemFont(13), SystemPalette::label);
+    layout->addWidget(name);
     layout->addSpacing(10);
     layout->addStretch();
     tickFactorPopup = createTickFactorPopup();
+    name->setBuddy(tickFactorPopup);
     layout->addWidget(tickFactorPopup);
     return row;
 }
@@ -110,16 +114,24 @@ PopupButton* DisplaySection::createTickFactorPopup() {
     return popup;
 }
 
-std::optional<double> DisplaySection::displayWidth() const {
+std::optional<Screen> DisplaySection::prompterDisplay() const {
     const auto all = screens.all();
-    if (screenManager && !all.empty()) return screenManager->preferredScreen().frame.width;
-    if (const auto main = screens.mainScreen()) return main->frame.width;
-    if (!all.empty()) return all.front().frame.width;
+    if (screenManager && !all.empty()) return screenManager->preferredScreen();
+    if (const auto main = screens.mainScreen()) return main;
+    if (!all.empty()) return all.front();
     return std::nullopt;
 }
 
 double DisplaySection::computeMaxXOffset() const {
-    return PositionRange::maximumOffset(displayWidth(), settings.width);
+    const auto display = prompterDisplay();
+    const auto width = display ? std::optional(display->frame.width) : std::nullopt;
+    return PositionRange::maximumOffset(width, settings.width);
+}
+
+std::optional<int> DisplaySection::roomBelowPrompter() const {
+    const auto display = prompterDisplay();
+    if (!display) return std::nullopt;
+    return int(display->frame.maxY() - settings.height - display->visibleFrame.minY());
 }
 
 void DisplaySection::updatePositionSliderLimits() {

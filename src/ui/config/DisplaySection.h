@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Screen.h"
 #include "settings/ScrollRate.h"
 
 #include <QWidget>
@@ -46,6 +47,10 @@ public:
     /// Writes the sliders' values beside their names.
     void updateValueLabels();
 
+    /// The height in points of what the prompter's display has left below the prompter; none
+    /// without any display.
+    std::optional<int> roomBelowPrompter() const;
+
     PopupButton* screenPopup = nullptr;
     PointSlider* widthSlider = nullptr;
     PointSlider* heightSlider = nullptr;
@@ -63,7 +68,7 @@ private:
     QLabel* addSliderRow(const QString& name, const QString& identifier);
     PointSlider* addSlider(const QString& name, const QString& identifier);
     PopupButton* createTickFactorPopup();
-    std::optional<double> displayWidth() const;
+    std::optional<Screen> prompterDisplay() const;
     double computeMaxXOffset() const;
     void updatePositionSliderLimits();
     void updateXOffsetLabel();

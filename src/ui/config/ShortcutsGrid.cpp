@@ -25,7 +25,10 @@ ShortcutsGrid::ShortcutsGrid(QWidget* parent) : QWidget(parent) {
     grid->setHorizontalSpacing(8);
     grid->setColumnMinimumWidth(0, keyColumnWidth);
     makeRow(*grid, u"⌘ + V"_s, u"Paste content"_s);
-    grid->setRowMinimumHeight(grid->rowCount(), spacerHeight);
+    // A row without anything in it would get no spacing.
+    auto* spacer = new QWidget;
+    spacer->setFixedHeight(spacerHeight);
+    grid->addWidget(spacer, grid->rowCount(), 0, 1, columns);
     grid->addWidget(
         makeLabel(u"Works from any app:"_s, systemFont(10), SystemPalette::tertiaryLabel),
         grid->rowCount(), 0, 1, columns, Qt::AlignLeading);

@@ -8,6 +8,7 @@
 #include "ui/controls/BezelButton.h"
 #include "ui/controls/PopupButton.h"
 #include "ui/controls/Rows.h"
+#include "ui/controls/SectionTitle.h"
 #include "ui/controls/TruncatingLabel.h"
 
 #include <QGridLayout>
@@ -17,11 +18,22 @@ namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int spacing = 8;
+constexpr int spacingBelowTitle = 10;
+
+} // namespace
+
 SourceSection::SourceSection(AppSettings& shared, SourceManager* manager,
                              const WindowPorts& borrowed, QWidget* parent)
     : QWidget(parent), settings(shared), sourceManager(manager), ports(borrowed) {
-    QVBoxLayout* column = layOutColumn(*this, 8);
-    sourcePopup = new PopupButton(u"Active Source"_s, 140);
+    QVBoxLayout* column = layOutColumn(*this, spacing);
+    auto* title = new SectionTitle(u"Active Source"_s);
+    column->addWidget(title);
+    column->addSpacing(spacingBelowTitle - spacing);
+    sourcePopup = new PopupButton(title->text(), 140);
+    title->setBuddy(sourcePopup); // screen readers look for it among the popup's siblings
     sourcePopup->setObjectName(u"config_sourcePopup"_s);
     connect(sourcePopup, &PopupButton::activated, this, &SourceSection::sourceTypeChanged);
     column->addWidget(sourcePopup, 0, Qt::AlignLeading);

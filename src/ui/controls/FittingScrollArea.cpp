@@ -12,6 +12,7 @@ namespace tessaline {
 namespace {
 
 constexpr int titleBarAllowance = 40;
+constexpr int leastRoom = 240;
 
 } // namespace
 
@@ -33,11 +34,21 @@ int FittingScrollArea::contentHeight() const {
     return std::max(laidOut, least.height());
 }
 
+void FittingScrollArea::setRoom(std::optional<int> points) {
+    room = points;
+    updateGeometry();
+}
+
+int FittingScrollArea::roomForContent() const {
+    const int given = room ? *room : screen()->availableGeometry().height();
+    return std::max(given, leastRoom) - titleBarAllowance;
+}
+
 QSize FittingScrollArea::sizeHint() const {
     const QSize whole(least.width(), contentHeight());
-    const int room = screen()->availableGeometry().height() - titleBarAllowance;
-    if (whole.height() <= room) return whole;
-    return {whole.width() + verticalScrollBar()->sizeHint().width(), room};
+    const int limit = roomForContent();
+    if (whole.height() <= limit) return whole;
+    return {whole.width() + verticalScrollBar()->sizeHint().width(), limit};
 }
 
 // Without a height of its own the content would be squeezed before anything scrolls.

@@ -2,9 +2,11 @@
 
 #include <QScrollArea>
 
+#include <optional>
+
 namespace tessaline {
 
-/// As large as its content, so that nothing scrolls, except where the screen is lower than that.
+/// As large as its content, so that nothing scrolls, except where there is less room than that.
 /// Main thread only.
 class FittingScrollArea : public QScrollArea {
     Q_OBJECT
@@ -17,6 +19,10 @@ public:
     /// Follows the content's height at once; by itself it does so only while it is on screen.
     void fit();
 
+    /// The height in points that there is for the window, title bar included. Without a value it is
+    /// the screen's. A window that shows nothing helps nobody: less than 240 counts as 240.
+    void setRoom(std::optional<int> points);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -25,7 +31,10 @@ public:
 private:
     int contentHeight() const;
 
+    int roomForContent() const;
+
     QSize least;
+    std::optional<int> room;
 };
 
 } // namespace tessaline

@@ -14,7 +14,8 @@ constexpr int gap = 4;
 } // namespace
 
 SliderRow::SliderRow(const QString& name, QWidget* parent)
-    : QWidget(parent), valueLabel(makeLabel({}, systemFont(13), SystemPalette::secondaryLabel)) {
+    : QWidget(parent)
+    , valueLabel(makeLabel({}, monospacedDigitFont(13), SystemPalette::secondaryLabel)) {
     setFixedWidth(settingsColumnWidth);
     QHBoxLayout* row = layOutRow(*this, gap);
     row->addWidget(makeLabel(name, systemFont(13), SystemPalette::label));

@@ -2,6 +2,7 @@
 
 #include "appearance/SystemPalette.h"
 #include "ui/controls/Bezel.h"
+#include "ui/controls/SwitchAccessible.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -27,6 +28,7 @@ QColor blend(const QColor& from, const QColor& to, double share) {
 
 Switch::Switch(const QString& accessibleName, QWidget* parent)
     : QAbstractButton(parent), slide(new QVariantAnimation(this)) {
+    installSwitchAccessibility();
     setCheckable(true);
     setAccessibleName(accessibleName);
     setFocusPolicy(Qt::StrongFocus);

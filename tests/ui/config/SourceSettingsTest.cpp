@@ -1,13 +1,16 @@
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
+#include "ui/SpokenControls.h"
 #include "ui/controls/TruncatingLabel.h"
 
 namespace tessaline {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 using Notes = std::vector<NoteLibrary::Note>;
 
 class SourceSettings : public ConfigWindowFixture {
@@ -142,6 +145,9 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
     EXPECT_EQ(notePopup().width(), 300);
     EXPECT_THAT(titlesOf(notePopup()), ElementsAre(u"Zebra"_s, u"Ant"_s, u"Zebra"_s));
 
+    EXPECT_THAT(spokenControls(*picker),
+                Contains(Pair(QAccessible::ComboBox, u"Choose the note to display:"_s)));
+
     notePopup().setCurrentIndex(2); // of the same name as the first
     QTest::mouseClick(picker->buttons[0], Qt::LeftButton);
     const AppleNotesConfiguration chosen{u"3"_s, u"Zebra"_s};
@@ -198,6 +204,8 @@ TEST_F(SourceSettings, TellAnyOtherFailure) {
     ASSERT_TRUE(alert);
     EXPECT_EQ(alert->messageLabel->text(), u"Error"_s);
     EXPECT_EQ(alert->informativeLabel->text(), u"Script error: timed out"_s);
+    const Alert* warning = Alert::beginSheet(window(), {.style = AlertContent::Style::warning});
+    EXPECT_EQ(alert->iconLabel->grab().toImage(), warning->iconLabel->grab().toImage());
     EXPECT_EQ(stage.notes.preferencesOpened, 0);
 }
 

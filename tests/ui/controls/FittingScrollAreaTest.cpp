@@ -2,6 +2,7 @@
 
 #include "ui/WindowLook.h"
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -61,6 +62,29 @@ TEST_F(FittingScrollAreaTest, ScrollsWhereTheScreenIsTooLow) {
     QTest::keyClick(filler, Qt::Key_Tab);
     EXPECT_TRUE(button->hasFocus());
     EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+}
+
+TEST_F(FittingScrollAreaTest, MakesTheWindowOneForScreenReadersToo) {
+    show(300);
+    window.setWindowTitle(QStringLiteral("Some window"));
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&window);
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_EQ(spoken->role(), QAccessible::Window);
+    EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Some window"));
+    EXPECT_NE(QAccessible::queryAccessibleInterface(button)->role(), QAccessible::Window);
+}
+
+TEST_F(FittingScrollAreaTest, StaysWithinTheRoomThatItIsGiven) {
+    show(500);
+    fitToContent(window, 400);
+    EXPECT_EQ(window.height(), 360) << "there is room for a title bar";
+    EXPECT_GT(window.width(), 320) << "the bar stands beside the content";
+    fitToContent(window, 541);
+    EXPECT_EQ(window.size(), QSize(320, 500));
+    fitToContent(window, -100);
+    EXPECT_EQ(window.height(), 200) << "some of it is always seen";
+    fitToContent(window);
+    EXPECT_EQ(window.size(), QSize(320, 500));
 }
 
 TEST_F(FittingScrollAreaTest, SqueezesNothingBeforeItScrolls) {

@@ -6,9 +6,9 @@
 #include <QAccessible>
 #include <QTest>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <memory>
+#include <vector>
 
 namespace tessaline {
 namespace {
@@ -53,6 +53,23 @@ TEST(Switch, TellsChangesByTheUserApartFromOthers) {
     EXPECT_EQ(clicks, 0);
     QTest::mouseClick(&control, Qt::LeftButton);
     EXPECT_EQ(clicks, 1);
+}
+
+TEST(Switch, TakesAScreenReadersActionForTheUsers) {
+    Switch control(u"Obsidian"_s);
+    std::vector<bool> clicks;
+    QObject::connect(&control, &Switch::clicked, [&clicks](bool on) { clicks.push_back(on); });
+    QAccessibleActionInterface* actions =
+        QAccessible::queryAccessibleInterface(&control)->actionInterface();
+    ASSERT_TRUE(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_THAT(clicks, testing::ElementsAre(true));
+    EXPECT_TRUE(control.isChecked());
+
+    control.setEnabled(false);
+    EXPECT_FALSE(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(control.isChecked());
 }
 
 /// Where the white knob is, as a share of the switch's width.

@@ -68,6 +68,17 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
     EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin active ✓"_s);
 }
 
+TEST_F(ObsidianOnboarding, LooksForTheVaultOnce) {
+    stage.installObsidian();
+    shown();
+    EXPECT_EQ(stage.obsidian.vaultSearches, 1);
+    stage.obsidian.vault.reset();
+    switchObsidian();
+    EXPECT_EQ(stage.obsidian.vaultSearches, 1);
+    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin active ✓"_s);
+    EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
+}
+
 TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
     stage.installObsidian();
     stage.obsidian.installResult = {false, u"Could not copy"_s};

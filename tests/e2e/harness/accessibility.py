@@ -1,0 +1,96 @@
+"""What a screen reader sees of a program, and where it is on the screen."""
+
+import json
+import pathlib
+import subprocess
+
+from . import session
+from .waiting import wait_until
+
+# Others in PATH lack the bindings, which the distribution installs.
+PYTHON = "/usr/bin/python3"
+LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
+TREE = pathlib.Path(__file__).with_name("accessibility_tree.py")
+READ_SECONDS = 20
+
+
+class Node:
+    """One object of the accessible tree at the moment of reading."""
+
+    def __init__(self, values):
+        self.role = values["role"]
+        self.name = values["name"]
+        self.description = values["description"]
+        self.states = frozenset(values["states"])
+        self.area = tuple(values["area"])  # x, y, width, height on the screen
+        self.value = values.get("value")
+        self.range = values.get("range")
+        self.text = values.get("text")
+        self.labels = values.get("labels", [])  # the texts of what it is labelled by
+        self.children = [Node(child) for child in values["children"]]
+
+    def __repr__(self):
+        return f"<{self.role} {self.name!r} {self.area} {sorted(self.states)}>"
+
+    @property
+    def center(self):
+        x, y, width, height = self.area
+        return x + width // 2, y + height // 2
+
+    def shown(self):
+        """This object and all below it that are on show, in the order of the tree."""
+        if "showing" in self.states:
+            yield self
+            for child in self.children:
+                yield from child.shown()
+
+    def find_all(self, role=None, name=None):
+        """What is on show here with this role and this name."""
+        return [
+            node
+            for node in self.shown()
+            if role in (None, node.role) and name in (None, node.name)
+        ]
+
+    def texts(self):
+        """What the labels say, from top to bottom."""
+        return [node.name for node in self.find_all("label")]
+
+
+class Accessibility:
+    """Makes the programs that a desktop starts from now on accessible, and reads them."""
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        desktop.env.pop("NO_AT_BRIDGE", None)
+        desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        launcher = next((path for path in LAUNCHERS if pathlib.Path(path).exists()), None)
+        if not launcher:
+            raise RuntimeError("not installed: at-spi2-core")
+        session.require("dbus-send", PYTHON)
+        desktop.start("at-spi", [launcher, "--launch-immediately"])
+        wait_until(self._is_on_the_bus, "the accessibility bus is there")
+
+    def _is_on_the_bus(self):
+        reply = self.desktop.run(
+            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus",
+            "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", "string:org.a11y.Bus",
+        )
+        return "boolean true" in reply
+
+    def windows(self, pid):
+        """The windows of a process; none while it cannot be read."""
+        result = subprocess.run(
+            [PYTHON, str(TREE), str(pid)],
+            env=self.desktop.env,
+            stdin=subprocess.DEVNULL,
+            capture_output=True,
+            text=True,
+            timeout=READ_SECONDS,
+            check=False,
+        )
+        if "cannot be read now" in result.stderr:
+            return []
+        if result.returncode != 0:
+            raise AssertionError(f"the accessible tree cannot be read: {result.stderr}")
+        return [Node(window) for window in json.loads(result.stdout)]

@@ -1,0 +1,41 @@
+"""The clipboard, as another application fills and reads it."""
+
+import subprocess
+
+from . import session
+
+READ_SECONDS = 20
+
+
+class Clipboard:
+    def __init__(self, desktop):
+        session.require("xclip")
+        self.desktop = desktop
+        self.owner = None
+
+    def offer(self, data):
+        """Offers these bytes as a text, until another program offers something else."""
+        file = self.desktop.folder / "clipboard"
+        file.write_bytes(data)
+        self.clear()
+        command = ["xclip", "-verbose", "-selection", "clipboard", "-in", file]
+        self.owner = self.desktop.start("xclip", command)
+        self.owner.wait_for_output("Waiting for selection request")
+
+    def clear(self):
+        if self.owner:
+            self.owner.end()
+            self.desktop.processes.remove(self.owner)
+        self.owner = None
+
+    def read(self):
+        """The text that is on offer; None when there is none."""
+        result = subprocess.run(
+            ["xclip", "-selection", "clipboard", "-out", "-target", "UTF8_STRING"],
+            env=self.desktop.env,
+            stdin=subprocess.DEVNULL,
+            capture_output=True,
+            timeout=READ_SECONDS,
+            check=False,
+        )
+        return result.stdout if result.returncode == 0 else None

@@ -1,0 +1,51 @@
+#include "faults/InputOutputFaults.h"
+#include "settings/SettingsCodec.h"
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::AnyOf;
+using testing::StartsWith;
+
+QByteArray defaults() {
+    return encodeSettings(PersistedSettings()).value();
+}
+
+using SettingsSaveFaults = InputOutputFaults;
+
+TEST_P(SettingsSaveFaults, LeaveTheOldOrTheNewSettingsWhole) {
+    put(u"config.json"_s, defaults());
+    failEachCall({u"save"_s, pathOf(u"config.json"_s)}, [this](const Outcome& outcome) {
+        expectOldOrNew(outcome.files);
+        if (outcome.files == complete.files) {
+            EXPECT_EQ(outcome.output, "");
+        } else {
+            EXPECT_THAT(outcome.output, saysWhy("^❌ Failed to save config: "));
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(, SettingsSaveFaults,
+                         testing::ValuesIn(faultsOf({"open", "write", "fsync", "rename", "close"})),
+                         faultName);
+
+using SettingsLoadFaults = InputOutputFaults;
+
+TEST_P(SettingsLoadFaults, LeaveTheFileAsItIs) {
+    PersistedSettings settings;
+    settings.fontSize = 30;
+    put(u"config.json"_s, encodeSettings(settings).value());
+    failEachCall({u"load"_s, pathOf(u"config.json"_s)}, [this](const Outcome& outcome) {
+        EXPECT_EQ(outcome.files, before);
+        EXPECT_THAT(outcome.output,
+                    AnyOf("font size 30\n", saysWhy("^⚠️ Failed to load config: ")));
+        EXPECT_NE(outcome.output, "font size 16\n");
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(, SettingsLoadFaults,
+                         testing::ValuesIn(faultsOf({"open", "read", "close"})), faultName);
+
+} // namespace
+} // namespace tessaline

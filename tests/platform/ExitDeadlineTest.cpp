@@ -1,0 +1,34 @@
+#include "platform/ExitDeadline.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <mutex>
+#include <thread>
+
+namespace tessaline {
+namespace {
+
+TEST(ExitDeadlineDeathTest, EndsAProgramThatHangs) {
+    EXPECT_EXIT(
+        {
+            std::mutex neverFree;
+            neverFree.lock();
+            std::thread hanging([&] { neverFree.lock(); });
+            setExitDeadline(std::chrono::milliseconds(20), 7);
+            hanging.join();
+        },
+        testing::ExitedWithCode(7), "");
+}
+
+TEST(ExitDeadlineDeathTest, LeavesAProgramAloneThatEndsInTime) {
+    EXPECT_EXIT(
+        {
+            setExitDeadline(std::chrono::minutes(10), 7);
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+} // namespace
+} // namespace tessaline
