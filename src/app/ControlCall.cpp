@@ -5,8 +5,6 @@
 #include "app/cli/ExitStatus.h"
 #include "app/remote/SingleInstance.h"
 
-#include <QDir>
-
 #include <chrono>
 
 namespace tessaline {
@@ -17,10 +15,6 @@ namespace {
 
 constexpr std::chrono::seconds longestWait{5};
 
-QString environmentVariable(const char* name) {
-    return qEnvironmentVariable(name);
-}
-
 int fail(const QString& reason) {
     reportError(reason);
     return ExitStatus::failure;
@@ -30,8 +24,7 @@ int fail(const QString& reason) {
 
 int runControl(const ControlRequest& request) {
     QString problem;
-    const auto address =
-        InstanceAddress::ofSession(&environmentVariable, QDir::tempPath(), &problem);
+    const auto address = InstanceAddress::ofThisSession(&problem);
     if (!address) return fail(u"no prompter can be reached: "_s + problem);
     const auto outcome = SingleInstance::join(
         *address, [&] { return RemoteCommands::control(request); },

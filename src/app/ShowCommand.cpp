@@ -7,7 +7,6 @@
 #include "app/cli/TextInput.h"
 #include "app/remote/SingleInstance.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
@@ -50,10 +49,6 @@ int reportAnswer(const QJsonObject& answer) {
     return ExitStatus::failure;
 }
 
-QString environmentVariable(const char* name) {
-    return qEnvironmentVariable(name);
-}
-
 } // namespace
 
 int runShow(int argc, char** argv, const CommandLine::Show& request) {
@@ -67,8 +62,7 @@ int runShow(int argc, char** argv, const CommandLine::Show& request) {
         }
         if (request.follow) start.followed = QFileInfo(*request.input).absoluteFilePath();
     }
-    const auto address =
-        InstanceAddress::ofSession(&environmentVariable, QDir::tempPath(), &problem);
+    const auto address = InstanceAddress::ofThisSession(&problem);
     if (!address) {
         reportError(u"later starts will not find this one: "_s + problem);
         return runPrompter(start);

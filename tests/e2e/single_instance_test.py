@@ -4,7 +4,6 @@ import os
 import signal
 import socket
 import stat
-import subprocess
 import unittest
 
 from harness import TessalineTestCase, wait_until
@@ -15,27 +14,9 @@ class SingleInstance(TessalineTestCase):
     def runtime_folder(self):
         return self.desktop.folder / "runtime/tessaline"
 
-    def socket_path(self):
-        return self.runtime_folder() / (self.desktop.env["DISPLAY"] + ".socket")
-
     def kept_script(self):
         path = self.support_folder() / "clipboard-content.md"
         return path.read_text() if path.exists() else None
-
-    def start_again(self, *arguments, stdin=None):
-        """A second start; its exit status, standard output and standard error."""
-        result = subprocess.run(
-            [self.binary(), *map(str, arguments)],
-            env=self.desktop.env,
-            cwd=self.desktop.home,
-            input=stdin,
-            stdin=subprocess.DEVNULL if stdin is None else None,
-            capture_output=True,
-            text=True,
-            timeout=20,
-            check=False,
-        )
-        return result.returncode, result.stdout, result.stderr
 
     def connect(self):
         client = socket.socket(socket.AF_UNIX)
@@ -53,7 +34,7 @@ class SingleInstance(TessalineTestCase):
         self.start()
         self.desktop.click(640 - 225 + 16, 15)
         self.wait_for_prompter(shown=False)
-        self.assertEqual(self.start_again(), (0, "", ""))
+        self.assertEqual(self.call(), (0, "", ""))
         self.wait_for_prompter()
         self.assertEqual(len(self.desktop.windows("^Tessaline$")), 1)
 
@@ -61,19 +42,19 @@ class SingleInstance(TessalineTestCase):
         self.start(self.write_script("# First"))
         second = self.desktop.home / "second talk.md"
         second.write_text("# Second")
-        self.assertEqual(self.start_again("second talk.md"), (0, "", ""))
+        self.assertEqual(self.call("second talk.md"), (0, "", ""))
         wait_until(lambda: self.kept_script() == "# Second", "the second script is kept")
 
     def test_a_second_start_shows_what_it_reads_from_standard_input(self):
         self.start()
-        self.assertEqual(self.start_again("-", stdin="# Piped\n\nżółć"), (0, "", ""))
+        self.assertEqual(self.call("-", stdin="# Piped\n\nżółć"), (0, "", ""))
         wait_until(lambda: self.kept_script() == "# Piped\n\nżółć", "the piped script is kept")
         left = [path.name for path in self.runtime_folder().iterdir()]
         self.assertEqual([name for name in left if name.startswith("script")], [])
 
     def test_a_second_start_with_an_unreadable_file_changes_nothing(self):
         self.start(self.write_script("# First"))
-        status, output, error = self.start_again("missing.md")
+        status, output, error = self.call("missing.md")
         self.assertEqual((status, output), (2, ""))
         self.assertEqual(error, "tessaline: cannot read missing.md: No such file or directory\n")
         self.assertEqual(self.kept_script(), "# First")
@@ -84,7 +65,7 @@ class SingleInstance(TessalineTestCase):
         self.prompter.wait()
         self.assertTrue(self.socket_path().exists(), "the dead one left its socket")
         self.start()
-        self.assertEqual(self.start_again(), (0, "", ""))
+        self.assertEqual(self.call(), (0, "", ""))
 
     def test_many_starts_at_once_make_one_prompter(self):
         programs = [self.desktop.start(f"start{n}", [self.binary()]) for n in range(8)]
@@ -111,7 +92,7 @@ class SingleInstance(TessalineTestCase):
         folder = temporary / f"tessaline-{os.getuid()}"
         wait_until(lambda: list(folder.glob("*.socket")), "it listens elsewhere")
         self.assertEqual(list(self.runtime_folder().iterdir()), [])
-        self.assertEqual(self.start_again(), (0, "", ""))
+        self.assertEqual(self.call(), (0, "", ""))
 
     def test_survives_whatever_is_said_to_it(self):
         self.start()
@@ -123,14 +104,14 @@ class SingleInstance(TessalineTestCase):
         os.mkfifo(self.desktop.home / "fifo")
         path = str(self.desktop.home / "fifo").encode()
         self.assertIn("Not a file", self.exchange(b'{"command":"open","path":"' + path + b'"}\n'))
-        self.assertEqual(self.start_again(), (0, "", ""))
+        self.assertEqual(self.call(), (0, "", ""))
 
     def test_answers_among_a_thousand_connections_that_say_nothing(self):
         self.start()
         wait_until(self.socket_path().exists, "it listens")
         for _ in range(1000):
             self.connect()
-        self.assertEqual(self.start_again(), (0, "", ""))
+        self.assertEqual(self.call(), (0, "", ""))
         self.assertTrue(self.prompter.running)
 
     def test_says_so_when_the_running_one_hangs(self):
@@ -138,7 +119,7 @@ class SingleInstance(TessalineTestCase):
         wait_until(self.socket_path().exists, "it listens")
         self.prompter.send(signal.SIGSTOP)
         try:
-            status, output, error = self.start_again()
+            status, output, error = self.call()
         finally:
             self.prompter.send(signal.SIGCONT)
         self.assertEqual((status, output), (1, ""))

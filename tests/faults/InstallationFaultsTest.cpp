@@ -6,10 +6,10 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using testing::AnyOf;
 using testing::HasSubstr;
-using testing::Not;
 
 const auto plugin = u"vault/.obsidian/plugins/obsidian-tessaline/"_s;
 const auto list = u"vault/.obsidian/community-plugins.json"_s;
+const std::string warning = "Warning: Could not enable plugin in config: ";
 const std::string success = "success: Plugin installed in \"vault\".\n"
                             "Restart Obsidian to activate it.\n";
 
@@ -45,8 +45,8 @@ protected:
         EXPECT_THAT(outcome.output, HasSubstr(success));
         EXPECT_TRUE(isNew(outcome, plugin + u"main.js"_s));
         EXPECT_TRUE(isNew(outcome, plugin + u"manifest.json"_s));
-        const auto warning = saysWhy("^Warning: Could not enable plugin in config: ");
-        EXPECT_THAT(outcome.output, isNew(outcome, list) ? Not(warning) : warning);
+        const bool isWarned = outcome.output.starts_with(warning);
+        EXPECT_NE(isWarned, isNew(outcome, list));
     }
 
     /// An empty folder stays when it is removing it that fails.

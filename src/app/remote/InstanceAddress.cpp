@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 
 #include <cerrno>
@@ -67,6 +68,11 @@ std::optional<InstanceAddress> InstanceAddress::ofSession(const Variable& variab
         return address;
     *problem = u"%1 cannot be used as a private folder"_s.arg(address.folder);
     return std::nullopt;
+}
+
+std::optional<InstanceAddress> InstanceAddress::ofThisSession(QString* problem) {
+    return ofSession([](const char* name) { return qEnvironmentVariable(name); }, QDir::tempPath(),
+                     problem);
 }
 
 } // namespace tessaline

@@ -18,6 +18,9 @@ struct InstanceAddress {
     static std::optional<InstanceAddress>
     ofSession(const Variable& variable, const QString& temporaryFolder, QString* problem);
 
+    /// The same for this process.
+    static std::optional<InstanceAddress> ofThisSession(QString* problem);
+
     /// Held by the instance for as long as it runs. The file stays.
     QString lockPath() const { return folder + u'/' + display + QStringLiteral(".lock"); }
     /// Where the instance listens.
