@@ -164,6 +164,14 @@ void comeBackWithTheSession(QGuiApplication& application) {
                      Qt::DirectConnection);
 }
 
+/// The desktop's icon for the program where it is installed, else the one that comes along.
+QIcon programIcon() {
+    QIcon own;
+    for (const int size : {16, 32, 64, 128})
+        own.addFile(u":/icons/tessaline-%1.png"_s.arg(size));
+    return QIcon::fromTheme(u"app.tessaline.Tessaline"_s, own);
+}
+
 /// Unlike closing, hiding is no choice of the user's.
 void hideEverything() {
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -183,7 +191,7 @@ int runPrompter(const PrompterStart& start) {
         AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
     QApplication::setQuitLockEnabled(false);
     QApplication application(start.argc, start.argv);
-    QApplication::setWindowIcon(QIcon::fromTheme(u"app.tessaline.Tessaline"_s));
+    QApplication::setWindowIcon(programIcon());
     applyDarkAppearance();
 
     Machine machine;

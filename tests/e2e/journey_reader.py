@@ -150,7 +150,7 @@ class Reader:
 
     def edits_the_followed_file(self):
         if not self.followed:
-            return "no file is followed"
+            return self.follows_a_file()
         kind, text = any_script(self.random)
         if self.random.random() < 0.5:
             text = self.followed.read_bytes().decode() + "\n\nOne more line."

@@ -258,11 +258,11 @@ class ForScreenReaders(SettingsTestCase):
         self.start_with_settings()
         self.assertEqual(self.open_window(TITLE).role, "frame")
 
-    def test_popups_are_labelled_by_what_stands_before_them(self):
+    def test_popups_are_labelled_by_what_stands_beside_them(self):
         self.start_with_settings()
         popups = self.open_window(TITLE).find_all("combo box")
         self.assertEqual(
-            {popup.name: popup.labels or [popup.description] for popup in popups},
+            {popup.name: popup.labels for popup in popups},
             {"Clipboard": ["Active Source"], "Auto": ["Screen"], "Medium": ["Scroll Speed"]},
         )
 

@@ -8,7 +8,11 @@ namespace tessaline {
 /// would need.
 class X11EventTapMaker final : public EventTapMaker {
 public:
+    /// A refusal is logged once, until a tap has been had in between.
     std::unique_ptr<EventTap> create(EventTap::Handler handler) override;
+
+private:
+    bool reportedRefusal = false;
 };
 
 } // namespace tessaline

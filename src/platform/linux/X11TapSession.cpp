@@ -86,7 +86,7 @@ bool X11TapSession::takeRefusedGrabs() {
     }
     std::erase_if(refused, [](const X11PassiveGrab& grab) { return grab.modifiers.empty(); });
     nextRetry = PointerHold::Clock::now() + retryInterval;
-    if (!refused.empty() && !std::exchange(reportedRefusal, true)) {
+    if (tookSome && !refused.empty() && !std::exchange(reportedRefusal, true)) {
         qCWarning(inputLog,
                   "Another program holds Control with %zu of the pointer's buttons; they "
                   "stay with it until it ends.",

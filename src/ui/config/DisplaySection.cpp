@@ -117,7 +117,7 @@ PopupButton* DisplaySection::createTickFactorPopup() {
 std::optional<Screen> DisplaySection::prompterDisplay() const {
     const auto all = screens.all();
     if (screenManager && !all.empty()) return screenManager->preferredScreen();
-    if (const auto main = screens.mainScreen()) return main;
+    if (auto main = screens.mainScreen()) return main;
     if (!all.empty()) return all.front();
     return std::nullopt;
 }

@@ -17,7 +17,8 @@ class SourceManager;
 class TruncatingLabel;
 struct WindowPorts;
 
-/// The choice of the active source, with its title, and for Apple Notes of the note. Main thread only.
+/// The choice of the active source, with its title, and for Apple Notes of the note. Main thread
+/// only.
 class SourceSection : public QWidget {
     Q_OBJECT
 
