@@ -61,6 +61,8 @@ private:
 struct Set : WindowStage {
     Set() {
         icons.icons.emplace(u"/apps/obsidian"_s, gem());
+        // High enough for the whole settings window below the prompter.
+        screens.attached.front().frame.height = screens.main->frame.height = 1200;
         plugIn(Screen{
             .id = 9, .name = u"DELL U2723QE with a long name"_s, .frame = {1000, 0, 2560, 1440}});
     }
