@@ -70,6 +70,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
     connect(&resizing, &QVariantAnimation::finished, this, [this] {
         squareCorners = collapsed;
         shape();
+        updateStatsOfWhatIsSeen();
     });
     setupUI();
     updateFrame();
@@ -107,6 +108,7 @@ void PrompterWindow::updateFrame() {
     arrangeContent();
     squareCorners = collapsed;
     shape();
+    updateStatsOfWhatIsSeen();
     if (const auto screen = currentScreen()) ports.displayLinks.setRefreshRate(screen->refreshRate);
 }
 
@@ -238,6 +240,11 @@ void PrompterWindow::updateStats() {
         ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
     strip->showStatistics(ReadingStatistics::labelText(wordCount, secondsLeft),
                           ReadingStatistics::labelColor(settings.scrollRate));
+}
+
+// What changed while the window was collapsed was counted for a view without height.
+void PrompterWindow::updateStatsOfWhatIsSeen() {
+    if (!collapsed && !lastRawContent.isEmpty()) updateStats();
 }
 
 QString PrompterWindow::remainingTime() const {

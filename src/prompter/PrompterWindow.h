@@ -105,6 +105,7 @@ private:
     void animateTo(const Rect& frame);
     bool isResizing() const;
     void arrangeContent();
+    void updateStatsOfWhatIsSeen();
     void shape();
 
     AppSettings& settings;

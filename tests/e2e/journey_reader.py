@@ -1,13 +1,13 @@
-"""What a reader does in a week, one thing at a time, and what is to be on show then."""
+"""What a reader does in a week, one thing at a time."""
 
 import json
 import signal
-import time
 
 from event_tap_test import TOGGLE, WHEEL_DOWN, WHEEL_UP
 from harness.tessaline import SETTINGS
 from harness.waiting import wait_until
 from journey_scripts import any_script
+from journey_settings import SettingsHands
 
 NOTEBOOK = {"eDP-1": (0, 0, 1440, 1000)}
 PROJECTOR = {"HDMI-1": (1440, 0, 1024, 768)}
@@ -19,101 +19,14 @@ MONITORS = (
 )
 CLOSE, MINIMIZE, GEAR, AUTO_SCROLL = 16, 36, 58, 82  # buttons, from the prompter's left edge
 STRIP_MIDDLE = 12
-WAITING = "Waiting for content from Obsidian...\n\nUse 'Send to Tessaline' command in Obsidian."
-PLACEHOLDER = "PLACEHOLDER"
-SLIDERS = ("Width", "Height", "Font Size", "Position")
+HURRIED = (
+    "toggle faster slower up down next-heading previous-heading top hide show minimize expand"
+).split()
 ELSEWHERE = (150, 850)
 
 
-class Reader:
-    """Every method without underscore is something that a reader does. Returns how, for the report.
-    `shown` is the text that the prompter is to show afterwards."""
-
-    def __init__(self, case, random):
-        self.case = case
-        self.desktop = case.desktop
-        self.random = random
-        self.shown = PLACEHOLDER
-        self.kept = None  # the clipboard source's text
-        self.followed = None
-        self.note = None  # the Obsidian source's text
-        self.screen_numbers = {}  # by number: the names of those that were chosen
-        self.obsidian_is_enabled = True
-        self.number = 0
-
-    # Helpers
-
-    def _status(self):
-        return self.case.status()
-
-    def _ctl(self, *words):
-        status, output, error = self.case.call("ctl", *words)
-        self.case.assertEqual((status, error), (0, ""), words)
-        return f"{' '.join(map(str, words))}: {output.strip()}"
-
-    def _xdotool(self, *words):
-        self.desktop.run("xdotool", *words)
-
-    def _prompter_area(self):
-        """None while there is nothing of the text to be seen."""
-        status = self._status()
-        if not status["visible"] or status["collapsed"]:
-            return None
-        return self.desktop.geometry(self.case.window)
-
-    def _over_text(self, *then):
-        area = self._prompter_area()
-        if not area:
-            return "nothing to be seen"
-        self._xdotool("mousemove", area[0] + area[2] // 2, area[1] + 70, *then)
-        return None
-
-    def _keys(self, *keys):
-        missing = self._over_text("click", 1)
-        if missing:
-            return missing
-        wait_until(
-            lambda: self.desktop.focused_window() == self.case.window, "the prompter has the keys"
-        )
-        self._xdotool("key", *keys)
-        return " ".join(keys)
-
-    def _script(self):
-        """A file with a new text."""
-        kind, text = any_script(self.random)
-        self.number += 1
-        path = self.desktop.home / f"talk-{self.number % 5}.md"
-        return path, kind, text
-
-    def _take(self, text):
-        """The program took a text in as if it had been pasted."""
-        if text:
-            self.shown = self.kept = text
-
-    def _choose_clipboard(self):
-        self.shown = self.kept or PLACEHOLDER
-
-    def _choose_obsidian(self):
-        self.followed = None
-        self.shown = WAITING if self.note is None else self.note
-
-    def _moves(self, delta, act):
-        """Does something that scrolls by so many points, and sees whether it did."""
-        before = self._status()
-        what = act()
-        if before["autoScroll"] or len(self.shown) > 10000 or what == "nothing to be seen":
-            return what
-
-        def moved():
-            after = self._status()
-            maximum = after["maximumScrollPosition"]
-            if maximum != before["maximumScrollPosition"]:
-                return True
-            expected = min(max(before["scrollPosition"] + delta, 0), maximum)
-            return abs(after["scrollPosition"] - expected) < 0.01
-
-        wait_until(moved, f"{what} scrolls by {delta} from {before}", 3)
-        return what
+class Reader(SettingsHands):
+    """Every method without underscore is something that a reader does, and returns how."""
 
     # Texts
 
@@ -175,18 +88,6 @@ class Reader:
         if self.random.random() < 0.5:
             file.write_bytes(b"\xff\xfe no text \x80")
         self.note = None
-
-    def switches_obsidian_on_or_off(self):
-        switch = self._settings_control("check box", "Obsidian")
-        if not switch:
-            return "out of reach"
-        self._xdotool("mousemove", *switch.center, "click", 1)
-        self.obsidian_is_enabled = not self.obsidian_is_enabled
-        if self.obsidian_is_enabled:
-            return "on"
-        self.case.wait_for_source("clipboard")
-        self._choose_clipboard()
-        return "off"
 
     def chooses_a_source(self):
         source = self.random.choice(("clipboard", "obsidian"))
@@ -311,6 +212,13 @@ class Reader:
     def hides(self):
         return self._ctl(self.random.choice(("hide", "show", "show")))
 
+    def hurries(self):
+        """Many things at once, none of them waited for."""
+        chosen = self.random.choices(HURRIED, k=15)
+        for word in chosen:
+            self.case.control_client.send(word)
+        return " ".join(chosen)
+
     def starts_it_again(self):
         self.case.assertEqual(self.case.call()[0], 0)
         wait_until(lambda: self._status()["visible"], "the prompter is shown")
@@ -324,98 +232,6 @@ class Reader:
         self._xdotool("key", "Escape")
         wait_until(lambda: len(self.desktop.windows(pid=pid)) <= before, "the menu is closed")
         return None
-
-    def opens_the_settings(self):
-        how = self._ctl("settings")
-        self.desktop.wait_for_window(SETTINGS, self.case.prompter.pid)
-        return how
-
-    def closes_the_settings(self):
-        windows = self.desktop.windows(SETTINGS, self.case.prompter.pid)
-        if not windows:
-            return "not open"
-        self.desktop.activate(windows[0])
-        self._xdotool("key", "alt+F4")
-        wait_until(
-            lambda: not self.desktop.windows(SETTINGS, self.case.prompter.pid), "they are closed"
-        )
-        return "closed"
-
-    def _settings_control(self, role, name):
-        """A control of the settings window, opened if need be; None where no mouse gets to it."""
-        self.opens_the_settings()
-        control = self.case.find("Settings", role, name)
-        if not control:
-            return None
-        x, y, width, height = control.area
-        self._over_text()  # where the pointer hovers is above
-        reachable = any(
-            left <= x and x + width <= left + w and top <= y and y + height <= top + h
-            for left, top, w, h in self.desktop.monitors().values()
-        )
-        return control if reachable else None
-
-    def moves_a_slider(self):
-        name = self.random.choice(SLIDERS)
-        control = self._settings_control("slider", name)
-        if not control:
-            return f"{name} is out of reach"
-        x, y, width, _ = control.area
-        target = x + self.random.randint(4, width - 4)
-        middle = control.center[1]
-        if self.random.random() < 0.5:
-            self._xdotool("mousemove", target, middle, "click", 1)
-            keys = self.random.choices(("Left", "Right", "Next", "Prior", "Home", "End"), k=3)
-            self._xdotool("key", *keys)
-            return f"{name} to {target - x} of {width}, then {keys}"
-        self._xdotool(
-            "mousemove", target, middle, "mousedown", 1, "mousemove", x + width // 3, middle,
-            "mousemove", x + width // 2, middle, "mouseup", 1,
-        )
-        return f"{name} dragged from {target - x} of {width}"
-
-    def chooses_the_rate_in_the_settings(self):
-        return self._choose_in_popup({"slow": "Slow", "medium": "Medium", "fast": "Fast"}[
-            self._status()["rate"]
-        ])
-
-    def chooses_the_screen_in_the_settings(self):
-        numbers = self.screen_numbers
-        name = numbers.get(self.case.settings().get("preferredDisplayID"), "Auto")
-        # A screen that is away is shown as "Auto".
-        shown = name if name in self.desktop.monitors() else "Auto"
-        how = self._choose_in_popup(shown)
-        number = self.case.settings().get("preferredDisplayID")
-        if number is not None and number not in numbers:
-            popups = [
-                node.name
-                for node in self.case.open_window("Settings").find_all("combo box")
-                if node.name in ("eDP-1", "HDMI-1")
-            ]
-            self.case.assertEqual(len(popups), 1, popups)
-            numbers[number] = popups[0]
-        return how
-
-    def chooses_the_source_in_the_settings(self):
-        before = self._status()["source"]
-        how = self._choose_in_popup(before.capitalize())
-        after = self._status()["source"]
-        if after == before:
-            return how + ": the same"
-        self._choose_clipboard() if after == "clipboard" else self._choose_obsidian()
-        return how
-
-    def _choose_in_popup(self, shown):
-        control = self._settings_control("combo box", shown)
-        if not control:
-            return f"{shown} is out of reach"
-        self.desktop.activate(self.desktop.windows(SETTINGS, self.case.prompter.pid)[0])
-        self._xdotool("mousemove", *control.center, "click", 1)
-        time.sleep(0.2)
-        keys = [self.random.choice(("Up", "Down")), "Return"]
-        self._xdotool("key", *keys)
-        time.sleep(0.2)
-        return f"{shown}, then {keys}"
 
     def plugs_monitors(self):
         monitors = self.random.choice(MONITORS)
@@ -496,6 +312,7 @@ WEIGHTS = {
     Reader.presses_a_button_of_the_strip: 8,
     Reader.folds: 5,
     Reader.hides: 6,
+    Reader.hurries: 3,
     Reader.starts_it_again: 4,
     Reader.opens_the_menu_and_closes_it: 2,
     Reader.opens_the_settings: 3,

@@ -147,6 +147,18 @@ TEST_F(PrompterWindowTest, KeepsTheStatisticsWhileCollapsed) {
     EXPECT_EQ(window().remainingTime(), time);
 }
 
+TEST_F(PrompterWindowTest, CorrectsTheStatisticsOfAChangeWhileCollapsedOnceItIsExpanded) {
+    show(u"line\n"_s.repeated(100));
+    const QString before = statistics();
+    window().toggleCollapsed();
+    finishResizing(32);
+    window().updateScrollParameters();
+    EXPECT_NE(statistics(), before);
+    window().toggleCollapsed();
+    finishResizing(256);
+    EXPECT_EQ(statistics(), before);
+}
+
 TEST_F(PrompterWindowTest, ShowsTextsOnlyOnceTheMainQueueComesToThem) {
     window().updateText(u"# Hello"_s);
     EXPECT_TRUE(window().textView().script().styled.text.isEmpty());
