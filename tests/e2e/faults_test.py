@@ -80,8 +80,7 @@ class WithoutFiles(FaultsTestCase):
     def start_first(self, command, **env):
         self.prompter = self.desktop.start("tessaline", command, **env)
         welcome = self.desktop.wait_for_window(WELCOME, self.prompter.pid)
-        self.desktop.activate(welcome)
-        self.desktop.key("alt+F4")
+        self.desktop.close_by_keys(welcome)
         self.desktop.wait_for_window(PROMPTER, self.prompter.pid)
 
     def assert_goes_on_and_tells(self, reason, prefix=(), **env):

@@ -165,8 +165,7 @@ class FirstStart(ShellTestCase):
         self.welcome = self.desktop.wait_for_window(WELCOME, self.prompter.pid)
 
     def close_welcome(self):
-        self.desktop.activate(self.welcome)
-        self.desktop.key("alt+F4")
+        self.desktop.close_by_keys(self.welcome)
 
     def test_greets_first_and_shows_the_prompter_when_the_window_is_closed(self):
         self.start_first()

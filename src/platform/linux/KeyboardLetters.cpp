@@ -44,11 +44,11 @@ KeyboardLetters::KeyboardLetters(xkb_keymap* ownedKeymap)
 
 QString KeyboardLetters::letter(std::uint32_t key, std::uint32_t layout) const {
     if (!keymap) return {};
-    const QString here = typed(key, layout);
+    QString here = typed(key, layout);
     if (here.isEmpty() || isLatinLetter(here)) return here;
     const std::uint32_t layouts = xkb_keymap_num_layouts_for_key(keymap.get(), key);
     for (std::uint32_t other = 0; other < layouts; ++other) {
-        const QString there = typed(key, other);
+        QString there = typed(key, other);
         if (isLatinLetter(there)) return there;
     }
     return here;

@@ -68,11 +68,12 @@ X11TapSession::X11TapSession(std::unique_ptr<X11Connection> ownConnection, Deliv
     : connection(std::move(ownConnection)), deliver(std::move(deliverEvent)) {}
 
 bool X11TapSession::takeGrabs() {
-    for (const std::uint32_t button : ourButtons)
+    for (const std::uint32_t button : ourButtons) {
         refused.push_back(
             {.kind = X11PassiveGrab::Kind::button,
              .detail = button,
              .modifiers = modifierCombinations(X11Modifier::control, otherModifiers)});
+    }
     return takeRefusedGrabs();
 }
 

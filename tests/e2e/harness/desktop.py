@@ -10,10 +10,12 @@ import tempfile
 from . import session
 from .picture import Picture
 from .process import Process
-from .waiting import wait_until
+from .waiting import holds_for, wait_until
 
 TOOL_SECONDS = 20
 OUTPUT = "screen"  # as Xvfb calls its only one
+TRIES = 5
+A_MOMENT = 2
 
 
 class Desktop:
@@ -145,6 +147,16 @@ class Desktop:
 
     def activate(self, window):
         self.run("xdotool", "windowactivate", "--sync", window)
+
+    def close_by_keys(self, window):
+        """Closes a window as its user does, who tries again if the window manager was busy."""
+        self.activate(window)
+        wait_until(lambda: self.focused_window() == window, f"window {window} has the keyboard")
+        for _ in range(TRIES):
+            self.key("alt+F4")
+            if not holds_for(lambda: window in self.managed_windows(), A_MOMENT):
+                return
+        raise AssertionError(f"window {window} cannot be closed by keys")
 
     def switch_to_desktop(self, number):
         self.run("xdotool", "set_desktop", number)
