@@ -63,13 +63,9 @@ void PointSlider::moveTo(double value) {
 
 // At the ends the limits count, which need not be whole steps.
 void PointSlider::adopt(int steps) {
-    if (steps == minimum()) {
-        exact = lowest;
-    } else if (steps == maximum()) {
-        exact = highest;
-    } else {
-        exact = double(steps) / stepsPerPoint;
-    }
+    exact = double(steps) / stepsPerPoint;
+    if (steps == minimum()) exact = lowest;
+    if (steps == maximum()) exact = highest;
     Q_EMIT moved();
 }
 
