@@ -221,7 +221,8 @@ class Desktop:
     # Mouse and keys
 
     def move_mouse(self, x, y):
-        self.run("xdotool", "mousemove", "--sync", x, y)
+        # Not --sync, which waits for a change that never comes where the pointer is there already.
+        self.run("xdotool", "mousemove", x, y)
 
     def click(self, x, y, button=1):
         self.move_mouse(x, y)
