@@ -1,3 +1,4 @@
+#include "Samples.h"
 #include "Verdicts.h"
 
 #include "analytics/UsageRecorder.h"
@@ -13,7 +14,6 @@
 #include <dlfcn.h>
 #include <xcb/xtest.h>
 
-#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
@@ -86,14 +86,6 @@ std::optional<Turn> measureOnce(const Hands& hands, NotingQueue& queue) {
                 .inside = Microseconds(*queue.queued - lastRead.load()).count()};
 }
 
-void judge(Verdicts& verdicts, std::vector<double> times, const QString& what, double limit) {
-    std::sort(times.begin(), times.end());
-    const auto share = [&](std::size_t percent) { return times[times.size() * percent / 100]; };
-    verdicts.judge(what + u", median"_s, share(50), limit, "us");
-    std::printf("%-52s %9.3f us\n", "  shortest", times.front());
-    std::printf("%-52s %9.3f us\n", "  99 of 100 within", share(99));
-}
-
 } // namespace
 } // namespace tessaline
 
@@ -119,7 +111,7 @@ int main(int argc, char** argv) {
     const auto trust = makeAccessibilityTrust();
     if (!connection || !trust->isTrusted()) {
         std::fputs("there is no X server that could be measured\n", stderr);
-        return 1;
+        return 2;
     }
     NotingQueue queue;
     QtTimerMaker timers;
@@ -145,10 +137,11 @@ int main(int argc, char** argv) {
     hands.press(XCB_KEY_RELEASE, leftControlKey);
     if (whole.size() < samples) {
         std::fprintf(stderr, "turn %zu of the wheel never arrived\n", whole.size());
-        return 1;
+        return 2;
     }
     Verdicts verdicts;
-    judge(verdicts, std::move(inside), u"wheel's event read to scrolling queued"_s, 50.0);
-    judge(verdicts, std::move(whole), u"wheel turned to scrolling queued, with server"_s, 1000.0);
+    const QString what = u"Control and wheel in another application, %1: median"_s;
+    verdicts.judge(what.arg(u"from event read to queued"), median(inside), 50, "µs");
+    verdicts.judge(what.arg(u"from device to queued"), median(whole), 1000, "µs");
     return verdicts.exitStatus();
 }

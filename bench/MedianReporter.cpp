@@ -19,4 +19,8 @@ double MedianReporter::milliseconds(const std::string& name) const {
     return found != medians.end() ? found->second : std::numeric_limits<double>::quiet_NaN();
 }
 
+void takeMedian(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly();
+}
+
 } // namespace tessaline

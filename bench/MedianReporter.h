@@ -20,4 +20,7 @@ private:
     std::map<std::string, double> medians;
 };
 
+/// Has a benchmark repeated as often as a median needs.
+void takeMedian(benchmark::internal::Benchmark* benchmark);
+
 } // namespace tessaline

@@ -1,159 +1,158 @@
-#include "SampleTalk.h"
+#include "PrompterHome.h"
+#include "RunningProgram.h"
+#include "Samples.h"
 #include "Verdicts.h"
 #include "WatchedScreen.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
+#include <QLocale>
 #include <QProcess>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <QThread>
 
 #include <algorithm>
 #include <cstdio>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using tessaline::Verdicts;
-using tessaline::WatchedScreen;
+using namespace tessaline;
 
 constexpr int settleMs = 3000;
+constexpr int watchedSeconds = 20;
+constexpr qint64 longestMs = 10'000;
 
-/// A home folder in which the prompter finds a script and settings.
-class Home {
-public:
-    Home(qsizetype words, bool autoScroll) {
-        const QString folder = path.filePath(u"Library/Application Support/Tessaline"_s);
-        QDir().mkpath(folder);
-        write(folder + u"/clipboard-content.md"_s, tessaline::SampleTalk().write(words).toUtf8());
-        write(
-            folder + u"/config.json"_s,
-            u"{\"hasCompletedOnboarding\": true, \"scrollSpeed\": 2.0, \"scrollRate\": \"medium\", "
-            "\"autoScrollEnabled\": %1}"_s.arg(autoScroll ? u"true"_s : u"false"_s)
-                .toUtf8());
-    }
+double milliseconds(const QElapsedTimer& clock) {
+    return double(clock.nsecsElapsed()) / 1e6;
+}
 
-    QString folder() const { return path.path(); }
+/// How long something takes at the median when it was done before.
+template <typename Action>
+double warmMilliseconds(Action action) {
+    action();
+    std::vector<double> times(11);
+    std::generate(times.begin(), times.end(), action);
+    return median(std::move(times));
+}
 
-private:
-    static void write(const QString& file, const QByteArray& bytes) {
-        QFile out(file);
-        if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
-            qFatal("Cannot write %s", qPrintable(file));
-    }
-
-    QTemporaryDir path;
-};
-
-/// The program under measurement, running.
-class Program {
-public:
-    Program(const QString& binary, const Home& home) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"HOME"_s, home.folder());
-        environment.insert(u"XDG_RUNTIME_DIR"_s, home.folder());
-        environment.insert(u"DO_NOT_TRACK"_s, u"1"_s);
-        environment.insert(u"QT_LOGGING_RULES"_s, u"*.info=false"_s);
-        process.setProcessEnvironment(environment);
-        process.start(binary, QStringList());
-    }
-
-    ~Program() {
-        process.terminate();
-        if (!process.waitForFinished(5000)) process.kill();
-        process.waitForFinished();
-    }
-
-    /// Seconds of processor time used so far.
-    double processorSeconds() const {
-        const QList<QByteArray> fields = procFile(u"stat"_s).split(')').last().split(' ');
-        return (fields[12].toDouble() + fields[13].toDouble()) / double(sysconf(_SC_CLK_TCK));
-    }
-
-    /// Resident memory in MiB.
-    double residentMebibytes() const {
-        for (const QByteArray& line : procFile(u"status"_s).split('\n')) {
-            if (line.startsWith("VmRSS:")) return line.simplified().split(' ')[1].toDouble() / 1024;
-        }
-        return 0;
-    }
-
-private:
-    QByteArray procFile(const QString& name) const {
-        QFile file(u"/proc/%1/%2"_s.arg(process.processId()).arg(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
+/// Milliseconds that a program takes from its start to its end.
+double runToEnd(const QString& program, const QStringList& arguments, const PrompterHome& home) {
     QProcess process;
-};
-
-double shareOfACore(const Program& program, int seconds) {
+    process.setProcessEnvironment(home.environment());
     QElapsedTimer clock;
     clock.start();
-    const double before = program.processorSeconds();
-    QThread::sleep(static_cast<unsigned long>(seconds));
-    return (program.processorSeconds() - before) / (double(clock.elapsed()) / 1000) * 100;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0) {
+        qFatal("%s failed: %s", qPrintable(program), process.readAllStandardError().constData());
+    }
+    return milliseconds(clock);
 }
 
-void measureScrolling(const QString& binary, qsizetype words, Verdicts& verdicts) {
-    const Home home(words, true);
-    const Program program(binary, home);
-    QThread::msleep(settleMs);
-    WatchedScreen screen;
-    screen.takeDamage();
-    const double share = shareOfACore(program, 20);
-    const auto what = u"Scrolling %1 words: processor"_s.arg(words);
-    verdicts.judge(what, share, 3.0, "% of a core");
-    std::printf("    with %d pictures changed in these 20 s\n", screen.takeDamage());
+/// Watches until the screen shows text, or shows none any more.
+void awaitText(const WatchedScreen& screen, bool shown, const QElapsedTimer& clock) {
+    while (screen.showsText() != shown && clock.elapsed() < longestMs)
+        QThread::usleep(500);
 }
 
-void measurePause(const QString& binary, Verdicts& verdicts) {
-    const Home home(10'000, false);
-    const Program program(binary, home);
-    QThread::msleep(settleMs);
-    WatchedScreen screen;
-    screen.takeDamage();
-    verdicts.judge(u"Paused: processor"_s, shareOfACore(program, 20), 0.3, "% of a core");
-    verdicts.judge(u"Paused: frames painted in 20 s"_s, screen.takeDamage(), 0, "");
-    verdicts.judge(u"Resident memory with 10,000 words"_s, program.residentMebibytes(), 70, "MiB");
-}
-
-void measureStart(const QString& binary, Verdicts& verdicts) {
-    const Home home(10'000, false);
-    std::vector<double> times;
-    for (int run = 0; run < 11; ++run) {
+void measureStart(Verdicts& verdicts) {
+    const PrompterHome home(10'000, "\"autoScrollEnabled\": false");
+    const double time = warmMilliseconds([&home] {
         const WatchedScreen screen;
         QElapsedTimer clock;
         clock.start();
-        const Program program(binary, home);
-        while (!screen.showsText() && clock.elapsed() < 10'000)
-            QThread::usleep(500);
-        if (run > 0) times.push_back(double(clock.nsecsElapsed()) / 1e6); // the first warms up
+        const RunningProgram program(home);
+        awaitText(screen, true, clock);
+        return milliseconds(clock);
+    });
+    verdicts.judge(u"Start to the first painted frame, 10,000 words, warm: median"_s, time, 250,
+                   "ms");
+}
+
+double shareOfACore(const RunningProgram& program) {
+    QElapsedTimer clock;
+    clock.start();
+    const double before = program.processorSeconds();
+    QThread::sleep(watchedSeconds);
+    return (program.processorSeconds() - before) / (milliseconds(clock) / 1e3) * 100;
+}
+
+void measurePause(Verdicts& verdicts) {
+    const PrompterHome home(10'000, "\"autoScrollEnabled\": false");
+    const RunningProgram program(home);
+    QThread::msleep(settleMs);
+    WatchedScreen screen;
+    screen.takeDamage();
+    verdicts.judge(u"Resident memory with 10,000 words"_s, program.residentMebibytes(), 70, "MiB");
+    verdicts.judge(u"Paused"_s, shareOfACore(program), 0.3, "% of a core");
+    verdicts.judge(u"Paused: frames painted in %1 s"_s.arg(watchedSeconds), screen.takeDamage(), 0,
+                   "");
+}
+
+void measureScrolling(qsizetype words, Verdicts& verdicts) {
+    const PrompterHome home(
+        words, R"("autoScrollEnabled": true, "scrollSpeed": 2.0, "scrollRate": "medium")");
+    const RunningProgram program(home);
+    QThread::msleep(settleMs);
+    WatchedScreen screen;
+    screen.takeDamage();
+    const double share = shareOfACore(program);
+    if (screen.takeDamage() < watchedSeconds) qFatal("The text does not scroll");
+    verdicts.judge(u"Scrolling %1 words, medium rate, speed 2"_s.arg(
+                       QLocale(QLocale::English).toString(words)),
+                   share, 3, "% of a core");
+}
+
+void measureCommands(Verdicts& verdicts) {
+    const PrompterHome home(1'000, "\"autoScrollEnabled\": false");
+    const RunningProgram program(home);
+    QThread::msleep(settleMs);
+    const auto time = [&home](const QStringList& arguments) {
+        return warmMilliseconds([&] { return runToEnd(RunningProgram::path(), arguments, home); });
+    };
+    verdicts.judge(u"`ctl status` from start to end, warm: median"_s, time({u"ctl"_s, u"status"_s}),
+                   30, "ms");
+    verdicts.judge(u"`render --format json` of 1,000 words from start to end, warm: median"_s,
+                   time({u"render"_s, home.script(), u"--format"_s, u"json"_s}), 30, "ms");
+}
+
+/// The plug-in sends notes whose text is in view and out of view by turns, a little later after the
+/// last look at its file each time.
+void measureNotes(Verdicts& verdicts) {
+    const PrompterHome home(
+        0, R"("activeSourceType": "obsidian", "enabledSourceTypes": ["obsidian"])");
+    const RunningProgram program(home);
+    QThread::msleep(settleMs);
+    const WatchedScreen screen;
+    double slowest = 0;
+    for (unsigned long turn = 0; turn < 11; ++turn) {
+        const bool inView = turn % 2 == 1;
+        const QString note = u"\n"_s.repeated(inView ? 0 : 100) + u"Some text.\n"_s.repeated(10);
+        QThread::msleep(turn * 100);
+        QElapsedTimer clock;
+        clock.start();
+        runToEnd(u"node"_s, {QStringLiteral(TESSALINE_SEND_NOTE), u"talk.md"_s, note}, home);
+        awaitText(screen, inView, clock);
+        slowest = std::max(slowest, milliseconds(clock));
     }
-    std::sort(times.begin(), times.end());
-    verdicts.judge(u"Start to the first painted frame, warm (median)"_s, times[times.size() / 2],
-                   250, "ms");
+    verdicts.judge(u"A note sent by the Obsidian plug-in, until it is on screen: slowest"_s,
+                   slowest, 1200, "ms");
 }
 
 } // namespace
 
-/// Measures the whole program on the display that DISPLAY names: bench_program BINARY.
+/// Measures the whole program, whose executable is beside this one, on the display that DISPLAY
+/// names. Exits with 1 when a figure falls short.
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2) {
-        std::fprintf(stderr, "usage: bench_program BINARY\n");
-        return 2;
-    }
     Verdicts verdicts;
-    measureStart(arguments[1], verdicts);
-    measurePause(arguments[1], verdicts);
-    measureScrolling(arguments[1], 1'000, verdicts);
-    measureScrolling(arguments[1], 100'000, verdicts);
+    measureStart(verdicts);
+    measurePause(verdicts);
+    measureScrolling(1'000, verdicts);
+    measureScrolling(100'000, verdicts);
+    measureCommands(verdicts);
+    measureNotes(verdicts);
     return verdicts.exitStatus();
 }
