@@ -57,7 +57,7 @@ void EventHistory::flush() {
         qCCritical(analyticsLog, "Failed to flush analytics: %s", qUtf8Printable(error));
     qCDebug(intervalLog, "flush: end");
     qCDebug(perfLog, "Flush of %lld bytes took %lld ms",
-            static_cast<long long>(text.bytes().size()), static_cast<long long>(time.elapsed()));
+            static_cast<long long>(text.size()), static_cast<long long>(time.elapsed()));
 }
 
 void EventHistory::loadFile() {
@@ -97,7 +97,7 @@ bool EventHistory::write(QString* error) {
     // Where this fails, writing the file fails next and says so.
     QDir().mkpath(QFileInfo(path).path());
     if (isForeign && !putAside(error)) return false;
-    return writeWholeFile(path, text.bytes(), error);
+    return writeWholeFile(path, text.pieces(), error);
 }
 
 bool EventHistory::putAside(QString* error) {

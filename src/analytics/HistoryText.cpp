@@ -12,6 +12,9 @@ namespace {
 
 constexpr QByteArrayView end("\n]\n");
 
+constexpr qsizetype pieceSize = qsizetype{64} << 10;
+constexpr int fastest = 1; ///< events are so much alike that more effort saves little
+
 /// A string as JSON writes it, in quotes.
 std::string quoted(const QString& text) {
     return nlohmann::json(text.toStdString()).dump();
@@ -20,22 +23,42 @@ std::string quoted(const QString& text) {
 } // namespace
 
 void HistoryText::append(const AnalyticsEvent& event) {
-    text.chop(end.size());
-    if (!empty) text += ",";
-    text += "\n  {\n    \"name\": ";
-    text += quoted(event.name);
-    text += ",\n    \"timestamp\": ";
-    text += quoted(toIso8601(event.timestamp));
-    text += ",\n    \"properties\": {";
+    if (!empty) latest += ",";
+    latest += "\n  {\n    \"name\": ";
+    latest += quoted(event.name);
+    latest += ",\n    \"timestamp\": ";
+    latest += quoted(toIso8601(event.timestamp));
+    latest += ",\n    \"properties\": {";
     for (auto property = event.properties.begin(); property != event.properties.end(); ++property) {
-        text += property == event.properties.begin() ? "\n      " : ",\n      ";
-        text += quoted(property.key());
-        text += ": ";
-        text += quoted(property.value());
+        latest += property == event.properties.begin() ? "\n      " : ",\n      ";
+        latest += quoted(property.key());
+        latest += ": ";
+        latest += quoted(property.value());
     }
-    text += event.properties.isEmpty() ? "}\n  }" : "\n    }\n  }";
-    text += end;
+    latest += event.properties.isEmpty() ? "}\n  }" : "\n    }\n  }";
     empty = false;
+    packWhenLarge();
+}
+
+void HistoryText::packWhenLarge() {
+    if (latest.size() < pieceSize) return;
+    packedSize += latest.size();
+    packed.push_back(qCompress(latest, fastest));
+    packed.back().squeeze();
+    latest.clear();
+}
+
+FilePieces HistoryText::pieces() const {
+    return [this, next = std::size_t{0}]() mutable { return piece(next++); };
+}
+
+QByteArray HistoryText::piece(std::size_t index) const {
+    if (index < packed.size()) return qUncompress(packed[index]);
+    return index == packed.size() ? QByteArray(latest).append(end) : QByteArray();
+}
+
+qsizetype HistoryText::size() const {
+    return packedSize + latest.size() + end.size();
 }
 
 } // namespace tessaline

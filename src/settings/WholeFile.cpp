@@ -1,7 +1,8 @@
 #include "settings/WholeFile.h"
 
+#include "settings/Replacement.h"
+
 #include <QFile>
-#include <QSaveFile>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -44,36 +45,6 @@ QString openRegular(const QByteArray& path, QFile& file) {
     return objection(status);
 }
 
-/// QSaveFile commits what a full disk cut off, as well as an empty file in place of bytes that it
-/// could not flush. So nothing is buffered, and the rest of a short write is asked for again: that
-/// fails, and tells why.
-bool writeAll(QSaveFile& file, const QByteArray& bytes) {
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const qint64 written = file.write(bytes.constData() + done, bytes.size() - done);
-        if (written <= 0) return false;
-        done += written;
-    }
-    return true;
-}
-
-/// QSaveFile commits what did not reach the disk. Some file systems learn only here that they are
-/// full; those that cannot synchronise at all say EINVAL.
-QString synchronise(const QSaveFile& file) {
-    while (::fsync(file.handle()) != 0) {
-        if (errno == EINVAL) break;
-        if (errno != EINTR) return qt_error_string(errno);
-    }
-    return {};
-}
-
-/// Writes the file, all but putting it in its place. Returns why not.
-QString writeNew(QSaveFile& file, const QByteArray& bytes) {
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes);
-    return isWritten ? synchronise(file) : file.errorString();
-}
-
 } // namespace
 
 std::optional<QByteArray> readWholeFile(const QString& path, QString* error, qint64 limit) {
@@ -97,14 +68,13 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error, qin
 }
 
 bool writeWholeFile(const QString& path, const QByteArray& bytes, QString* error) {
+    return writeWholeFile(path, inOnePiece(bytes), error);
+}
+
+bool writeWholeFile(const QString& path, const FilePieces& pieces, QString* error) {
     bool missing = false;
     QString problem = objection(QFile::encodeName(path), missing);
-    if (problem.isEmpty() || missing) {
-        QSaveFile file(path);
-        file.setDirectWriteFallback(true);
-        problem = writeNew(file, bytes);
-        if (problem.isEmpty() && !file.commit()) problem = file.errorString();
-    }
+    if (problem.isEmpty() || missing) problem = replaceFile(path, pieces);
     report(error, problem);
     return problem.isEmpty();
 }

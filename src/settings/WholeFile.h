@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/FilePieces.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -22,5 +24,8 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error = nu
 /// The folder must exist. Returns false on failure with a one-line description in `error`. Any
 /// thread.
 bool writeWholeFile(const QString& path, const QByteArray& bytes, QString* error = nullptr);
+
+/// The same with what would be too large as a whole.
+bool writeWholeFile(const QString& path, const FilePieces& pieces, QString* error = nullptr);
 
 } // namespace tessaline

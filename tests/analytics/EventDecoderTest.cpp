@@ -1,6 +1,6 @@
 #include "analytics/EventDecoder.h"
 
-#include "analytics/HistoryText.h"
+#include "analytics/DecodedEvents.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -14,15 +14,6 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 const QDateTime moment(QDate(2026, 11, 20), QTime(21, 44, 30), Qt::UTC);
-
-std::vector<AnalyticsEvent> decoded(const QByteArray& bytes) {
-    std::vector<AnalyticsEvent> events;
-    QString error;
-    EXPECT_TRUE(decodeEvents(
-        bytes, [&events](const AnalyticsEvent& event) { events.push_back(event); }, &error))
-        << error.toStdString();
-    return events;
-}
 
 TEST(EventDecoder, ReadsEventsInOrder) {
     const auto events = decoded(R"([
@@ -116,49 +107,6 @@ INSTANTIATE_TEST_SUITE_P(
         Undecodable{"DeeplyNested", "[{\"x\": " + QByteArray(2'000'000, '['),
                     u"The JSON is nested too deeply"_s}),
     [](const auto& test) { return std::string(test.param.name); });
-
-TEST(HistoryText, IsAnEmptyArrayAtFirst) {
-    EXPECT_TRUE(HistoryText().isEmpty());
-    EXPECT_TRUE(decoded(HistoryText().bytes()).empty());
-}
-
-TEST(HistoryText, IsPrettyPrintedWithItsKeysInOrder) {
-    HistoryText text;
-    text.append({u"a"_s, moment, {{u"y"_s, u"2"_s}, {u"x"_s, u"1"_s}}});
-    text.append({u"b"_s, moment, {}});
-    EXPECT_FALSE(text.isEmpty());
-    EXPECT_EQ(text.bytes(), R"([
-  {
-    "name": "a",
-    "timestamp": "2026-11-20T21:44:30Z",
-    "properties": {
-      "x": "1",
-      "y": "2"
-    }
-  },
-  {
-    "name": "b",
-    "timestamp": "2026-11-20T21:44:30Z",
-    "properties": {}
-  }
-]
-)");
-}
-
-TEST(HistoryText, GivesEveryTextBack) {
-    const QString odd = u"\n  \"\\\t€😀\u2028\0 ends"_s;
-    HistoryText text;
-    text.append({odd, moment, {{odd, odd}, {u""_s, u""_s}}});
-    const auto events = decoded(text.bytes());
-    ASSERT_EQ(events.size(), 1U);
-    EXPECT_EQ(events[0], (AnalyticsEvent{odd, moment, {{odd, odd}, {u""_s, u""_s}}}));
-}
-
-TEST(HistoryText, StaysReadableWithTextsThatAreNotUnicode) {
-    HistoryText text;
-    text.append({QString(QChar(0xd800)), moment, {{u"a"_s, QString(QChar(0xdfff))}}});
-    EXPECT_EQ(decoded(text.bytes()).size(), 1U);
-}
 
 } // namespace
 } // namespace tessaline

@@ -2,6 +2,7 @@
 
 #include "analytics/EventDecoder.h"
 #include "analytics/HistoryText.h"
+#include "support/JoinedPieces.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,7 +23,7 @@ QByteArray encode(const std::vector<AnalyticsEvent>& events) {
     HistoryText text;
     for (const AnalyticsEvent& event : events)
         text.append(event);
-    return text.bytes();
+    return joined(text.pieces());
 }
 
 } // namespace

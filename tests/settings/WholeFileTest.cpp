@@ -87,6 +87,14 @@ TEST_F(WholeFile, WritesAnEmptyFile) {
     EXPECT_EQ(fileBytes(path), "");
 }
 
+TEST_F(WholeFile, WritesWhatComesInPieces) {
+    QByteArrayList pieces{"a talk ", QByteArray(100'000, 'x'), " in pieces"};
+    const QByteArray whole = pieces.join();
+    const auto next = [&] { return pieces.isEmpty() ? QByteArray() : pieces.takeFirst(); };
+    EXPECT_TRUE(writeWholeFile(path, next));
+    EXPECT_EQ(fileBytes(path), whole);
+}
+
 TEST_F(WholeFile, KeepsTheFilesPermissions) {
     putFile(path, "text");
     const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
