@@ -236,6 +236,7 @@ void AppDelegate::toggleScroll() {
 
 void AppDelegate::cycleSource() {
     sources().cycleSource();
+    config().refreshUI();
 }
 
 void AppDelegate::showConfig() {

@@ -93,7 +93,6 @@ void PrompterWindow::setupUI() {
     setFocusProxy(view);
     view->setFocus();
     connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
-    updateSourceModeIndicator(SourceMode::file);
 }
 
 void PrompterWindow::updateFrame() {

@@ -12,6 +12,7 @@
 #include "ui/config/IntegrationsSection.h"
 #include "ui/config/ShortcutsGrid.h"
 #include "ui/config/SourceSection.h"
+#include "ui/controls/PointSlider.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/SectionTitle.h"
 #include "ui/controls/Separator.h"
@@ -64,9 +65,9 @@ QWidget* ConfigWindow::createContent() {
     sources = new SourceSection(settings, sourceManager, ports);
     sources->onSourceChanged = [this](SourceType source) { announceSource(source); };
     display = new DisplaySection(settings, ports.screens, ports.recorder);
-    display->onSettingsChanged = [this] {
-        if (onSettingsChanged) onSettingsChanged();
-    };
+    display->onSettingsChanged = [this] { announceSettings(); };
+    connect(display->heightSlider, &PointSlider::sliderReleased, this,
+            &ConfigWindow::announceSettings);
     accessibility = new AccessibilityRow;
     connect(accessibility->accessibilityFixButton, &QPushButton::clicked, this,
             &ConfigWindow::fixAccessibility);
@@ -95,6 +96,10 @@ void ConfigWindow::refreshUI() {
     sources->rebuildSourcePopup();
     rebuildScreenPopup();
     updateAccessibilityStatus();
+    fitBelowPrompter();
+}
+
+void ConfigWindow::fitBelowPrompter() {
     fitToContent(*this, display->roomBelowPrompter());
 }
 
@@ -135,6 +140,12 @@ void ConfigWindow::obsidianToggleChanged(bool on) {
     sources->selectActiveSource();
     sources->updateSourceConfigVisibility();
     announceSource(settings.activeSourceType);
+}
+
+void ConfigWindow::announceSettings() {
+    // A slider does not slip from under the pointer that drags it.
+    if (!display->heightSlider->isSliderDown()) fitBelowPrompter();
+    if (onSettingsChanged) onSettingsChanged();
 }
 
 void ConfigWindow::announceSource(SourceType source) const {

@@ -51,7 +51,8 @@ public:
     /// Shows whether the Accessibility permission is granted.
     void updateAccessibilityStatus();
 
-    /// Called after every saved change.
+    /// Called after every saved change, with the window at its right size, and again when the
+    /// height is let go.
     std::function<void()> onSettingsChanged;
 
     /// Called with the new source after the user chose another one.
@@ -64,8 +65,10 @@ protected:
 private:
     void layOut();
     QWidget* createContent();
+    void fitBelowPrompter();
     void obsidianToggleChanged(bool on);
     void fixAccessibility();
+    void announceSettings();
     void announceSource(SourceType source) const;
 
     AppSettings& settings;

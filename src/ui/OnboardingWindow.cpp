@@ -44,10 +44,7 @@ OnboardingWindow::OnboardingWindow(PermissionManager& manager, AppSettings& shar
     , settings(shared)
     , sourceManager(sources)
     , ports(borrowed) {
-    // A fresh start, whatever was chosen in an earlier one.
-    settings.enabledSourceTypes = {SourceType::clipboard};
-    settings.activeSourceType = SourceType::clipboard;
-    settings.save();
+    resetSourceChoice();
     permissionManager.resetStaleEntry();
 
     setWindowTitle(u"Welcome to Tessaline"_s);
@@ -59,6 +56,15 @@ OnboardingWindow::OnboardingWindow(PermissionManager& manager, AppSettings& shar
 
 OnboardingWindow::~OnboardingWindow() {
     permissionManager.stopPolling();
+}
+
+/// A fresh start, whatever was chosen in an earlier one.
+void OnboardingWindow::resetSourceChoice() {
+    settings.enabledSourceTypes = {SourceType::clipboard};
+    if (sourceManager && settings.activeSourceType != SourceType::clipboard)
+        sourceManager->setActiveSource(SourceType::clipboard);
+    settings.activeSourceType = SourceType::clipboard;
+    settings.save();
 }
 
 void OnboardingWindow::setupUI() {
@@ -167,8 +173,9 @@ void OnboardingWindow::updatePermissionStatus() {
 }
 
 void OnboardingWindow::toggleObsidian(bool enabled) {
-    settings.setSourceEnabled(SourceType::obsidian, enabled);
+    // The manager first: by the settings it knows whether the active source goes.
     if (sourceManager) sourceManager->setSourceEnabled(SourceType::obsidian, enabled);
+    settings.setSourceEnabled(SourceType::obsidian, enabled);
     if (enabled) {
         ports.recorder.record({.name = u"source_enabled"_s,
                                .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});

@@ -27,9 +27,9 @@ class OnboardingWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Builds the window, resets the source choice in the settings to the clipboard, clears a stale
-    /// entry for the permission and polls the permission from now on; shows nothing yet. Everything
-    /// is borrowed; `sourceManager` may be null.
+    /// Builds the window, resets the source choice to the clipboard, clears a stale entry for the
+    /// permission and polls the permission from now on; shows nothing yet. Everything is borrowed;
+    /// `sourceManager` may be null.
     OnboardingWindow(PermissionManager& permissionManager, AppSettings& settings,
                      SourceManager* sourceManager, const WindowPorts& ports);
     ~OnboardingWindow() override;
@@ -49,6 +49,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void resetSourceChoice();
     void setupUI();
     QWidget* createContent();
     QLabel* createSectionLabel(const QString& text);

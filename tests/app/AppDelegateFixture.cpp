@@ -2,11 +2,13 @@
 
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
+#include "sources/ClipboardSource.h"
 #include "ui/ConfigWindow.h"
 #include "ui/OnboardingWindow.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QScreen>
 
 #include <algorithm>
@@ -84,6 +86,11 @@ ConfigWindow* AppDelegateFixture::config() const {
 
 OnboardingWindow* AppDelegateFixture::onboarding() const {
     return topLevelWindow<OnboardingWindow>();
+}
+
+QString AppDelegateFixture::keptScript() {
+    QFile file(ClipboardSource::contentFilePath());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QString AppDelegateFixture::shownSource() const {

@@ -42,9 +42,11 @@ class PrompterWindow;
 
 /// A delegate among fakes, in an empty home folder.
 class AppDelegateFixture : public ::testing::Test {
+public:
+    ~AppDelegateFixture() override;
+
 protected:
     AppDelegateFixture();
-    ~AppDelegateFixture() override;
 
     /// Writes the configuration file that the delegate will find.
     void configure(const std::function<void(AppSettings&)>& change);
@@ -58,6 +60,8 @@ protected:
 
     /// What the settings file says now.
     static AppSettings savedSettings() { return {}; }
+    /// The script of the clipboard source that the next start would find.
+    static QString keptScript();
     /// What the prompter's label of the source says.
     QString shownSource() const;
     std::vector<QString> recordedNames() const { return recorder.names(); }

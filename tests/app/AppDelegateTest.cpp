@@ -4,11 +4,11 @@
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
-#include "sources/ClipboardSource.h"
 #include "sources/SourceManager.h"
 #include "ui/ConfigWindow.h"
-#include "ui/OnboardingWindow.h"
+#include "ui/controls/PopupButton.h"
 
+#include <QAction>
 #include <QFile>
 #include <QWindow>
 
@@ -19,27 +19,13 @@ using namespace Qt::Literals::StringLiterals;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::Not;
 
 using AppDelegateTest = AppDelegateFixture;
 using AppDelegateDeathTest = AppDelegateFixture;
 
-QString keptScript() {
-    QFile file(ClipboardSource::contentFilePath());
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 void notifyOfSource(NotificationCenter& center, std::map<QString, std::any> info) {
     center.post({SourceManager::activeSourceDidChangeNotification(), nullptr, std::move(info)});
 }
-
-/// Starts for the first time.
-class FirstRun : public AppDelegateFixture {
-protected:
-    FirstRun() {
-        configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
-    }
-};
 
 TEST_F(AppDelegateTest, BuildsNoWindowBeforeTheLaunch) {
     delegate = std::make_unique<AppDelegate>(environment());
@@ -51,6 +37,7 @@ TEST_F(AppDelegateTest, BuildsNoWindowBeforeTheLaunch) {
 TEST_F(AppDelegateTest, ShowsThePrompterAtANormalStart) {
     launch();
     EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(windowTraits.keyboardOwner, prompter()->winId());
     EXPECT_FALSE(config()->isVisible());
     EXPECT_FALSE(onboarding());
     EXPECT_THAT(activationPolicy.kinds, IsEmpty());
@@ -113,9 +100,12 @@ TEST_F(AppDelegateTest, HidesThePrompterByItsQuitButtonAndShowsItAgainInItsPlace
     EXPECT_TRUE(recorded(u"window_hidden"_s));
 
     prompter()->move(3, 4);
-    delegate->showPrompterWindow();
+    QAction* show = prompter()->actions().first(); // of the status item, which stays
+    ASSERT_EQ(show->text(), u"Show Tessaline"_s);
+    show->trigger();
     EXPECT_TRUE(prompter()->isVisible());
     EXPECT_EQ(prompter()->geometry(), place);
+    EXPECT_EQ(windowTraits.keyboardOwner, prompter()->winId());
     EXPECT_EQ(recorder.events.back().name, u"window_shown"_s);
     EXPECT_THAT(recorder.events.back().properties, IsEmpty());
 }
@@ -142,22 +132,14 @@ TEST_F(AppDelegateTest, TogglesAutoScrollByItsButtonAndRecordsTheNewState) {
     EXPECT_FALSE(savedSettings().autoScrollEnabled);
 }
 
-TEST_F(AppDelegateTest, CyclesTheSourceByThePasteButton) {
-    configure([](AppSettings& settings) {
-        settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
-    });
-    launch();
-    const QString before = shownSource();
-    prompter()->controls().pasteButton->click();
-    EXPECT_NE(shownSource(), before);
-}
-
 TEST_F(AppDelegateTest, OpensTheSettingsByTheirButton) {
     launch();
+    const std::size_t timersBefore = timers.liveIntervals().size();
     prompter()->controls().configButton->click();
     EXPECT_TRUE(config()->isVisible());
     EXPECT_EQ(activationPolicy.activations, 1);
-    EXPECT_THAT(timers.liveIntervals(), Contains(2.0)); // its periodic refresh
+    ASSERT_EQ(timers.liveIntervals().size(), timersBefore + 1);
+    EXPECT_EQ(timers.liveIntervals().back(), 2.0) << "its periodic refresh";
     EXPECT_EQ(recorder.events.back().name, u"settings_opened"_s);
 }
 
@@ -173,51 +155,16 @@ TEST_F(AppDelegateTest, OpensTheSettingsRightBelowThePrompterWhateverItsOffset) 
     EXPECT_NEAR(frame.left() + frame.width() / 2.0, screens.attached[0].frame.midX(), 0.5);
 }
 
-TEST_F(AppDelegateTest, ShowsChangedSettingsInThePrompterAndMovesTheirWindowAlong) {
+TEST_F(AppDelegateTest, OffersANewScreenInTheSettingsAtOnce) {
     launch();
-    delegate->showConfig();
-    ASSERT_TRUE(config()->onSettingsChanged);
-    const QSize before = prompter()->size();
-    config()->move(1, 1);
-    config()->onSettingsChanged();
-    EXPECT_EQ(config()->windowHandle()->frameGeometry().top(), 256);
-    EXPECT_EQ(prompter()->size(), before);
-}
-
-TEST_F(AppDelegateTest, WatchesTheSourceThatWasChosenInTheSettings) {
-    launch();
-    config()->onSourceChanged(SourceType::clipboard);
-    EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
-    EXPECT_EQ(recorder.events.back().name, u"source_changed"_s);
-    EXPECT_EQ(recorder.events.back().properties.value(u"source_type"_s), u"clipboard"_s);
-}
-
-TEST_F(AppDelegateTest, ShowsWhichSourceANotificationNames) {
-    launch();
-    notifyOfSource(notifications, {{u"sourceType"_s, SourceType::obsidian}});
-    EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
-}
-
-TEST_F(AppDelegateTest, IgnoresANotificationWithoutASource) {
-    launch();
-    const QString before = shownSource();
-    notifyOfSource(notifications, {});
-    EXPECT_EQ(shownSource(), before);
-}
-
-TEST_F(AppDelegateTest, IgnoresANotificationWithSomethingElseInTheSourcesPlace) {
-    launch();
-    const QString before = shownSource();
-    notifyOfSource(notifications, {{u"sourceType"_s, u"obsidian"_s}});
-    notifyOfSource(notifications, {{u"sourceType"_s, 0}});
-    EXPECT_EQ(shownSource(), before);
-}
-
-TEST_F(AppDelegateTest, FollowsItsScreenWhenTheScreensChange) {
-    launch();
-    prompter()->move(3, 4);
+    const auto& screenPopup = *config()->findChild<PopupButton*>(u"config_screenPopup"_s);
+    Screen other = screens.attached[0];
+    other.id = 2;
+    other.name = u"another"_s;
+    screens.attached.push_back(other);
+    EXPECT_EQ(screenPopup.findText(u"another"_s), -1);
     notifications.post({Screens::parametersDidChangeNotification(), nullptr, {}});
-    EXPECT_EQ(prompter()->y(), 0);
+    EXPECT_EQ(screenPopup.findText(u"another"_s), 2);
 }
 
 TEST_F(AppDelegateTest, HangsFromTheChosenScreenFromTheStart) {
@@ -284,6 +231,12 @@ TEST_F(AppDelegateTest, PastesIntoTheClipboardSourceWhateverIsActive) {
     localKeys.press({.characters = u"v"_s, .modifiers = Modifier::command});
     EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
     EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
+    EXPECT_EQ(config()->findChild<PopupButton*>(u"config_sourcePopup"_s)->currentText(),
+              u"Clipboard"_s);
+    EXPECT_EQ(keptScript(), u"Hello"_s);
+    // Only the active source's text is content: the switch came first.
+    EXPECT_EQ(recorder.events.back().name, u"content_pasted"_s);
+    EXPECT_EQ(recorder.events.back().properties.value(u"word_count"_s), u"1"_s);
 }
 
 TEST_F(AppDelegateTest, ShowsAnOpenedTextAsIfItHadBeenPasted) {
@@ -306,79 +259,6 @@ TEST_F(AppDelegateTest, RevealsTheHiddenPrompter) {
     launch().hidePrompterWindow();
     delegate->reveal();
     EXPECT_TRUE(prompter()->isVisible());
-}
-
-TEST_F(FirstRun, ShowsTheFirstRunWindowAndNothingElse) {
-    launch();
-    ASSERT_TRUE(onboarding());
-    EXPECT_TRUE(onboarding()->isVisible());
-    EXPECT_FALSE(prompter()->isVisible());
-    EXPECT_THAT(activationPolicy.kinds, ElementsAre(ActivationPolicy::Kind::regular));
-    EXPECT_EQ(activationPolicy.activations, 1);
-    EXPECT_EQ(localKeys.starts, 0);
-    EXPECT_EQ(eventTaps.attempts, 0);
-    EXPECT_TRUE(recorded(u"onboarding_started"_s));
-    EXPECT_FALSE(recorded(u"content_loaded"_s));
-}
-
-TEST_F(FirstRun, StartsNormallyOnceItIsCompleted) {
-    launch();
-    onboarding()->onComplete();
-    EXPECT_THAT(activationPolicy.kinds,
-                ElementsAre(ActivationPolicy::Kind::regular, ActivationPolicy::Kind::accessory));
-    EXPECT_TRUE(prompter()->isVisible());
-    EXPECT_EQ(localKeys.starts, 1);
-    EXPECT_TRUE(recorded(u"content_loaded"_s));
-}
-
-TEST_F(FirstRun, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
-    launch();
-    onboarding()->onSkip();
-    EXPECT_TRUE(prompter()->isVisible());
-    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
-}
-
-TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
-    launch();
-    onboarding()->close();
-    EXPECT_TRUE(prompter()->isVisible());
-    EXPECT_EQ(localKeys.starts, 1);
-    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
-    mainQueue.runAll();
-    EXPECT_FALSE(onboarding());
-}
-
-TEST_F(FirstRun, DropsItsWindowOnlyAfterThatHasCalled) {
-    launch();
-    onboarding()->onComplete();
-    ASSERT_TRUE(onboarding());
-    EXPECT_FALSE(onboarding()->isVisible());
-    mainQueue.runAll();
-    EXPECT_FALSE(onboarding());
-}
-
-TEST_F(FirstRun, StartsOnceHoweverOftenItsWindowCalls) {
-    launch();
-    onboarding()->onComplete();
-    onboarding()->onSkip();
-    EXPECT_EQ(localKeys.starts, 1);
-    EXPECT_EQ(activationPolicy.kinds.size(), 2u);
-}
-
-TEST_F(FirstRun, KeepsAnOpenedTextUntilItIsDone) {
-    launch().openText(u"# Opened"_s);
-    EXPECT_EQ(keptScript(), QString());
-    onboarding()->onComplete();
-    EXPECT_EQ(keptScript(), u"# Opened"_s);
-}
-
-TEST_F(FirstRun, RevealsTheFirstRunWindow) {
-    launch();
-    onboarding()->showMinimized();
-    delegate->reveal();
-    EXPECT_FALSE(onboarding()->isMinimized());
-    EXPECT_FALSE(prompter()->isVisible());
-    EXPECT_EQ(activationPolicy.activations, 2);
 }
 
 TEST_F(AppDelegateDeathTest, AnActionBeforeTheLaunchEndsTheProgram) {

@@ -10,7 +10,6 @@ namespace tessaline {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using ::testing::ElementsAre;
 
 using Journal = QStringList;
 

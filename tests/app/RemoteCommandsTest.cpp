@@ -2,7 +2,6 @@
 
 #include "AppDelegateFixture.h"
 #include "prompter/PrompterWindow.h"
-#include "sources/ClipboardSource.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -27,11 +26,6 @@ protected:
         EXPECT_EQ(answer.value(u"ok"_s), QJsonValue(false));
         EXPECT_FALSE(prompter()->isVisible());
         return answer.value(u"error"_s).toString();
-    }
-
-    static QString keptScript() {
-        QFile file(ClipboardSource::contentFilePath());
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
     QTemporaryDir folder;

@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace tessaline {
 namespace {
 
@@ -123,12 +125,14 @@ TEST_P(StatusIconDrawing, IsARoundedBodyWithAnInsetAtItsTop) {
     const QImage image = drawStatusIcon(GetParam());
     const QColor body = colorAt(image, 4.5, 8.5);
     EXPECT_EQ(body.alpha(), 255);
-    EXPECT_EQ(colorAt(image, 14.5, 8.5), body);
-    EXPECT_EQ(colorAt(image, 9, 4.5), body);
-    EXPECT_EQ(colorAt(image, 9, 12), QColor(Qt::white));
-    EXPECT_EQ(colorAt(image, 9, 9.4), body);
-    EXPECT_EQ(colorAt(image, 9, 16), QColor(Qt::transparent));
-    EXPECT_EQ(colorAt(image, 1, 8), QColor(Qt::transparent));
+    for (const auto& [x, y] : {std::pair(2.5, 9.5), {15.5, 9.5}, {9.5, 4.5}, {5.5, 13.5}})
+        EXPECT_EQ(colorAt(image, x, y), body) << "just inside the body: " << x << ' ' << y;
+    for (const auto& [x, y] : {std::pair(1.5, 9.5), {16.5, 9.5}, {9.5, 3.5}, {9.5, 14.5}})
+        EXPECT_EQ(colorAt(image, x, y), QColor(Qt::transparent)) << "outside: " << x << ' ' << y;
+    for (const auto& [x, y] : {std::pair(6.5, 12.0), {11.5, 12.0}, {9.5, 10.5}, {9.5, 13.5}})
+        EXPECT_GT(qGray(colorAt(image, x, y).rgb()), 240) << "the inset: " << x << ' ' << y;
+    for (const auto& [x, y] : {std::pair(5.5, 12.0), {12.5, 12.0}, {9.5, 9.5}})
+        EXPECT_EQ(colorAt(image, x, y), body) << "around the inset: " << x << ' ' << y;
     EXPECT_LT(colorAt(image, 2.2, 4.2).alpha(), 128); // the corner is round
 }
 

@@ -2,6 +2,7 @@
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/SpokenControls.h"
+#include "ui/controls/PointSlider.h"
 #include "ui/controls/StatusDot.h"
 
 #include <QFile>
@@ -154,6 +155,20 @@ TEST_F(ConfigWindowTest, IsNoHigherThanWhatIsLeftBelowThePrompter) {
     stage.settings.height = 1590;
     window().refreshUI();
     EXPECT_EQ(window().height(), 200) << "some of it is always seen";
+}
+
+TEST_F(ConfigWindowTest, MakesRoomForAHigherPrompterOnceItsSliderIsLetGo) {
+    window().refreshUI();
+    const int before = window().height();
+    auto& slider = control<PointSlider>("heightSlider");
+    slider.setSliderDown(true);
+    slider.moveTo(400);
+    EXPECT_EQ(window().height(), before) << "the slider stays below the pointer";
+    slider.setSliderDown(false);
+    EXPECT_EQ(window().height(), 800 - 400 - 40);
+    slider.moveTo(500);
+    EXPECT_EQ(window().height(), 800 - 500 - 40);
+    EXPECT_EQ(settingsChanges, 3);
 }
 
 TEST_F(ConfigWindowTest, MeasuresTheDisplayThatThePrompterHangsOn) {

@@ -15,6 +15,7 @@
 #include "support/FakePasteboard.h"
 #include "support/FakeProcessRunner.h"
 #include "support/FakeScreens.h"
+#include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
 #include "support/RecordingUsageRecorder.h"
 #include "ui/WindowPorts.h"
@@ -72,6 +73,7 @@ public:
     FakeBundleInformation bundle;
     FakeTimerMaker timers;
     FakeMainQueue mainQueue;
+    FakeTaskRunner tasks;
     NotificationCenter notifications;
     FakeScreens screens;
     RecordingUsageRecorder recorder;

@@ -57,6 +57,11 @@ void FittingScrollArea::fit() {
     updateGeometry();
 }
 
+void FittingScrollArea::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    if (QWidget* focused = widget()->focusWidget()) ensureWidgetVisible(focused);
+}
+
 bool FittingScrollArea::eventFilter(QObject* watched, QEvent* event) {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) fit();
     return QScrollArea::eventFilter(watched, event);

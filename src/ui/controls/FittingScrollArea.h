@@ -7,7 +7,7 @@
 namespace tessaline {
 
 /// As large as its content, so that nothing scrolls, except where there is less room than that.
-/// Main thread only.
+/// What has the keyboard stays in sight. Main thread only.
 class FittingScrollArea : public QScrollArea {
     Q_OBJECT
 
@@ -27,6 +27,9 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     int contentHeight() const;

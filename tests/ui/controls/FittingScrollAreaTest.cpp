@@ -87,6 +87,13 @@ TEST_F(FittingScrollAreaTest, StaysWithinTheRoomThatItIsGiven) {
     EXPECT_EQ(window.size(), QSize(320, 500));
 }
 
+TEST_F(FittingScrollAreaTest, KeepsWhatHasTheKeyboardInSightWhenItsRoomShrinks) {
+    show(500);
+    button->setFocus();
+    fitToContent(window, 400);
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+}
+
 TEST_F(FittingScrollAreaTest, SqueezesNothingBeforeItScrolls) {
     auto* content = new QWidget;
     content->setLayout(new QVBoxLayout);

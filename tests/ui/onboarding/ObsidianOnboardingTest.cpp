@@ -9,7 +9,18 @@ using namespace Qt::Literals::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using ObsidianOnboarding = OnboardingWindowFixture;
+class ObsidianOnboarding : public OnboardingWindowFixture {
+protected:
+    void giveObsidianAnIcon() {
+        QPixmap icon(48, 48);
+        icon.fill(Qt::red);
+        stage.icons.icons.emplace(u"/apps/obsidian"_s, QIcon(icon));
+    }
+
+    bool clipboardIsActive() const {
+        return dynamic_cast<const ClipboardSource*>(sourceManager->activeSource()) != nullptr;
+    }
+};
 
 TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutTheApplication) {
     stage.obsidian.vault = u"/vault"_s;
@@ -29,10 +40,8 @@ TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutAVault) {
 }
 
 TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
-    QPixmap icon(24, 24);
-    icon.fill(Qt::red);
+    giveObsidianAnIcon();
     stage.installObsidian(true, true);
-    stage.icons.icons.emplace(u"/apps/obsidian"_s, QIcon(icon));
     stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
     window();
     EXPECT_EQ(obsidian().statusLabel->text(),
@@ -43,10 +52,8 @@ TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
 }
 
 TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
-    QPixmap icon(48, 48);
-    icon.fill(Qt::red);
+    giveObsidianAnIcon();
     stage.installObsidian();
-    stage.icons.icons.emplace(u"/apps/obsidian"_s, QIcon(icon));
     shown();
     switchObsidian();
     EXPECT_TRUE(obsidianEnabled());
@@ -80,6 +87,7 @@ TEST_F(ObsidianOnboarding, LooksForTheVaultOnce) {
 }
 
 TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
+    giveObsidianAnIcon();
     stage.installObsidian();
     stage.obsidian.installResult = {false, u"Could not copy"_s};
     shown();
@@ -87,6 +95,7 @@ TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
     ASSERT_TRUE(sheet());
     EXPECT_EQ(sheet()->messageLabel->text(), u"Plugin Installation"_s);
     EXPECT_EQ(sheet()->informativeLabel->text(), u"Could not copy"_s);
+    EXPECT_TRUE(isWarning(window(), *sheet()));
     EXPECT_EQ(stage.recorder.events[1].properties[u"success"_s], u"false"_s);
     EXPECT_TRUE(obsidianEnabled());
     EXPECT_TRUE(obsidian().toggleSwitch->isChecked());
@@ -119,6 +128,14 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOffRecordsAndUninstallsNothing) {
               u"Send notes from Obsidian straight into the notch"_s);
 }
 
+TEST_F(ObsidianOnboarding, TakesAnActiveObsidianFromTheSourceManagerAtFirst) {
+    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.settings.activeSourceType = SourceType::obsidian;
+    sourceManager = stage.makeSourceManager();
+    window();
+    EXPECT_TRUE(clipboardIsActive());
+}
+
 TEST_F(ObsidianOnboarding, TellsTheSourceManagerToo) {
     sourceManager = stage.makeSourceManager();
     stage.installObsidian();
@@ -128,6 +145,7 @@ TEST_F(ObsidianOnboarding, TellsTheSourceManagerToo) {
     QTest::keyClick(sheet(), Qt::Key_Return);
     switchObsidian();
     EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_TRUE(clipboardIsActive());
     EXPECT_FALSE(obsidianEnabled());
 }
 

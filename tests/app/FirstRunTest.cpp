@@ -1,0 +1,114 @@
+#include "AppDelegateFixture.h"
+
+#include "prompter/PrompterWindow.h"
+#include "support/PrintQt.h"
+#include "ui/OnboardingWindow.h"
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+/// Starts for the first time.
+class FirstRun : public AppDelegateFixture {
+protected:
+    FirstRun() {
+        configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    }
+};
+
+TEST_F(FirstRun, ShowsTheFirstRunWindowAndNothingElse) {
+    trust.trusted = true;
+    launch();
+    ASSERT_TRUE(onboarding());
+    EXPECT_TRUE(onboarding()->isVisible());
+    EXPECT_FALSE(prompter()->isVisible());
+    EXPECT_THAT(activationPolicy.kinds, ElementsAre(ActivationPolicy::Kind::regular));
+    EXPECT_EQ(activationPolicy.activations, 1);
+    EXPECT_EQ(localKeys.starts, 0);
+    EXPECT_THAT(globalKeys.chords, IsEmpty());
+    EXPECT_EQ(eventTaps.attempts, 0);
+    EXPECT_TRUE(recorded(u"onboarding_started"_s));
+    EXPECT_FALSE(recorded(u"content_loaded"_s));
+}
+
+TEST_F(FirstRun, StartsNormallyOnceItIsCompleted) {
+    launch();
+    onboarding()->onComplete();
+    EXPECT_THAT(activationPolicy.kinds,
+                ElementsAre(ActivationPolicy::Kind::regular, ActivationPolicy::Kind::accessory));
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(localKeys.starts, 1);
+    EXPECT_TRUE(recorded(u"content_loaded"_s));
+}
+
+TEST_F(FirstRun, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
+    launch();
+    onboarding()->onSkip();
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
+}
+
+TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
+    launch();
+    onboarding()->close();
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(localKeys.starts, 1);
+    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
+    mainQueue.runAll();
+    EXPECT_FALSE(onboarding());
+}
+
+TEST_F(FirstRun, DropsItsWindowOnlyAfterThatHasCalled) {
+    launch();
+    onboarding()->onComplete();
+    ASSERT_TRUE(onboarding());
+    EXPECT_FALSE(onboarding()->isVisible());
+    mainQueue.runAll();
+    EXPECT_FALSE(onboarding());
+}
+
+TEST_F(FirstRun, StartsOnceHoweverOftenItsWindowCalls) {
+    launch();
+    onboarding()->onComplete();
+    onboarding()->onSkip();
+    EXPECT_EQ(localKeys.starts, 1);
+    EXPECT_EQ(activationPolicy.kinds.size(), 2u);
+}
+
+TEST_F(FirstRun, StartsWithTheClipboardWhateverWasActiveBefore) {
+    configure([](AppSettings& settings) {
+        settings.hasCompletedOnboarding = false;
+        settings.activeSourceType = SourceType::obsidian;
+        settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
+    });
+    launch();
+    onboarding()->onComplete();
+    mainQueue.runAll(); // ends the watch over the permission
+    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
+    EXPECT_THAT(timers.liveIntervals(), Not(Contains(1.0))); // nobody reads Obsidian's file
+}
+
+TEST_F(FirstRun, KeepsAnOpenedTextUntilItIsDone) {
+    launch().openText(u"# Opened"_s);
+    EXPECT_EQ(keptScript(), QString());
+    onboarding()->onComplete();
+    EXPECT_EQ(keptScript(), u"# Opened"_s);
+}
+
+TEST_F(FirstRun, RevealsTheFirstRunWindow) {
+    launch();
+    onboarding()->showMinimized();
+    delegate->reveal();
+    EXPECT_FALSE(onboarding()->isMinimized());
+    EXPECT_FALSE(prompter()->isVisible());
+    EXPECT_EQ(activationPolicy.activations, 2);
+}
+
+} // namespace
+} // namespace tessaline
