@@ -1,6 +1,5 @@
 """Every usual way to end the program ends it well."""
 
-import json
 import signal
 import unittest
 
@@ -9,13 +8,6 @@ from harness.waiting import holds_for
 
 
 class CleanStop(TessalineTestCase):
-    def event_names(self):
-        """What the usage history says, the latest last; empty while there is none."""
-        path = self.support_folder() / "analytics.json"
-        if not path.exists():
-            return []
-        return [event["name"] for event in json.loads(path.read_text())]
-
     def socket_files(self):
         return list((self.desktop.folder / "runtime/tessaline").glob("*.socket"))
 

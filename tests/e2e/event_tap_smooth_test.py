@@ -1,37 +1,16 @@
 """Control and the scroll axes of touchpads and today's wheels: applications read them from motion,
 which a grab of buttons does not keep from them."""
 
-import json
-import os
 import time
 import unittest
 from unittest import mock
 
+from event_tap_case import A_MOMENT, Application
 from event_tap_device import Device, start_server, what_is_missing
 from harness import DesktopTestCase, session, wait_until
 from harness.waiting import holds_for
 
 A_REST = 0.4  # more than the pointer has to stand still
-A_MOMENT = 0.5
-
-
-class Application:
-    def __init__(self, desktop, *arguments):
-        command = [os.environ["TESSALINE_INPUT_PROBE"], *arguments]
-        self.process = desktop.start(arguments[0], command)
-        self.process.wait_for_output('"event":"ready"')
-
-    def events(self, *names):
-        lines = self.process.stdout().splitlines()
-        events = [json.loads(line) for line in lines if line.startswith("{")]
-        return [event for event in events if event["event"] in names]
-
-    def scrolled(self):
-        return [event["delta"] for event in self.events("scroll")]
-
-    def wheel(self):
-        """As Qt tells it: 120 for a line, positive is up or left."""
-        return [(event["x"], event["y"]) for event in self.events("wheel")]
 
 
 @unittest.skipIf(what_is_missing(), what_is_missing())

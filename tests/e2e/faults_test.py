@@ -1,8 +1,10 @@
-"""When the system around the program fails: nothing is lost, nothing hangs, the end is clean."""
+"""When the system around the program fails: nothing is lost, nothing hangs, the end is clean.
+TESSALINE_KILLS tells how often the program is killed."""
 
 import json
 import os
 import random
+import re
 import shutil
 import signal
 import socket
@@ -19,6 +21,7 @@ from harness.small_disk import SmallDisk
 from harness.tessaline import PROMPTER, WELCOME
 from harness.waiting import holds_for
 
+KILLS = int(os.environ.get("TESSALINE_KILLS", "60"))
 QUIT_SECONDS = 3
 ANSWER_SECONDS = 2
 SAVE_FAILED = "❌ Failed to save config: "
@@ -63,13 +66,6 @@ class FaultsTestCase(TessalineTestCase):
         program = program or self.prompter
         program.send(signal.SIGTERM)
         self.assertEqual(program.wait(QUIT_SECONDS), 0, program.stderr())
-
-    def history(self):
-        path = self.support_folder() / "analytics.json"
-        return json.loads(path.read_text()) if path.exists() else []
-
-    def event_names(self):
-        return [event["name"] for event in self.history()]
 
 
 class WithoutFiles(FaultsTestCase):
@@ -180,7 +176,9 @@ class FullDisk(FaultsTestCase):
 
 
 class Killed(FaultsTestCase):
-    KILLS = 60
+    KEPT = ("analytics.json", "clipboard-content.md", "config.json")
+    LEFT_BEHIND = re.compile(f"({'|'.join(map(re.escape, KEPT))})\\.tessaline-[0-9a-f]{{8}}")
+    LONGEST_SAVE_SECONDS = 600
 
     def connect(self):
         """A connection to the running program; none while it does not listen."""
@@ -217,6 +215,23 @@ class Killed(FaultsTestCase):
 
         threading.Timer(choose.uniform(0, 0.15), kill).start()
 
+    def left_behind(self):
+        names = [path.name for path in self.support_folder().iterdir()]
+        return sorted(name for name in names if name not in self.KEPT)
+
+    def assert_removed_when_old(self, left):
+        """The next save of each file removes what was left behind, but not what is still young."""
+        old = time.time() - 1.1 * self.LONGEST_SAVE_SECONDS
+        young = self.support_folder() / "config.json.tessaline-01234567"
+        young.touch()
+        for name in left:
+            self.assertRegex(name, self.LEFT_BEHIND)
+            os.utime(self.support_folder() / name, (old, old))
+        self.start(self.write_script("the last one"))
+        self.ctl("speed", "5")
+        self.assert_quits()
+        self.assertEqual(self.left_behind(), [young.name])
+
     def test_keeps_what_it_said_was_done_and_whole_files(self):
         seed = random.randrange(1 << 32)
         choose = random.Random(seed)
@@ -225,7 +240,7 @@ class Killed(FaultsTestCase):
         number = 0
         speeds = scripts = None
         events, killed = [], 0
-        for _ in range(self.KILLS):
+        while killed < KILLS:
             self.prompter = self.start_tessaline()
             wait_until(self.connect, "the program listens").close()
             self.kill_soon(choose)
@@ -243,13 +258,12 @@ class Killed(FaultsTestCase):
                 self.assertIn(self.settings()["scrollSpeed"], speeds)
                 self.assertIn((folder / "clipboard-content.md").read_text(), scripts)
                 self.assertEqual(self.history()[: len(events)], events)
+                self.assertNotIn("Failed", self.prompter.stdout() + self.prompter.stderr())
                 events = self.history()
-        self.assertGreater(killed, self.KILLS / 3)
-        names = {"config.json", "analytics.json", "clipboard-content.md"}
-        left = [path.name for path in folder.iterdir() if path.name not in names]
-        print(f"{killed} killed, {number} changes, {len(events)} events kept, left behind: {left}")
-        self.start()
-        self.assert_quits()
+        left = self.left_behind()
+        kept = f"{len(events)} events kept, {len(left)} files left behind"
+        print(f"{killed} killed, {number} changes, {kept}")
+        self.assert_removed_when_old(left)
         self.assertGreater(len(self.history()), len(events))
 
 

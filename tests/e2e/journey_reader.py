@@ -3,7 +3,7 @@
 import json
 import signal
 
-from event_tap_test import TOGGLE, WHEEL_DOWN, WHEEL_UP
+from event_tap_case import TOGGLE, WHEEL_DOWN, WHEEL_UP
 from harness.tessaline import SETTINGS
 from harness.waiting import wait_until
 from journey_scripts import any_script

@@ -1,9 +1,11 @@
 """What a reader of the random journey does in the settings window."""
 
+from event_tap_case import WHEEL_DOWN, WHEEL_UP
 from harness.tessaline import SETTINGS
 from harness.waiting import wait_until
 from journey_hands import Hands
 
+MOST_TURNS = 20
 SLIDERS = ("Width", "Height", "Font Size", "Position")
 
 
@@ -27,17 +29,24 @@ class SettingsHands(Hands):
         return "closed"
 
     def _settings_control(self, role, name):
-        """A control of the settings window, opened if need be; None where no mouse gets to it."""
+        """A control of the settings window, opened and scrolled if need be; None where no mouse gets
+        to it."""
         self.opens_the_settings()
-        control = self.case.find("Settings", role, name)
-        if not control:
-            return None
-        x, y, width, height = control.area
-        reachable = any(
-            left <= x and x + width <= left + w and top <= y and y + height <= top + h
-            for left, top, w, h in self.desktop.monitors().values()
-        )
-        return control if reachable else None
+        for _ in range(MOST_TURNS):
+            control = self.case.find("Settings", role, name)
+            if not control:
+                return None
+            window = self.case.open_window("Settings").area
+            if control.lies_in(window):
+                monitors = self.desktop.monitors().values()
+                return control if any(map(control.lies_in, monitors)) else None
+            self._turn_the_wheel_beside_the_controls(window, control.area[1] < window[1])
+        return None
+
+    def _turn_the_wheel_beside_the_controls(self, window, up):
+        x, y, _, height = window
+        button = WHEEL_UP if up else WHEEL_DOWN
+        self._xdotool("mousemove", x + 5, y + height // 2, "click", button)
 
     def moves_a_slider(self):
         name = self.random.choice(SLIDERS)

@@ -26,7 +26,6 @@ SEED = int(os.environ.get("TESSALINE_JOURNEY_SEED", "1"))
 ACTIONS = int(os.environ.get("TESSALINE_JOURNEY_ACTIONS", "150"))
 PLUGIN_FILES = pathlib.Path(__file__).resolve().parents[2] / "resources/ObsidianPlugin"
 LOOK_EVERY = 5  # actions, at what takes longer to see
-SETTLE_SECONDS = 8
 MOST_MEMORY_KIB = 200 * 1024
 SANITIZER_MEMORY = 8  # times as much, for what the sanitizers keep
 POINTS_PER_SECOND = {"slow": 4.8, "medium": 6.4, "fast": 9.6}
@@ -72,9 +71,6 @@ class Journey(AccessibleTestCase):
     def start(self, *arguments):
         super().start(*arguments)
         self.frame_at_folding, self.was_placed_folded = None, False
-
-    def status(self):
-        return self.control_client.status()
 
     def wait_for_source(self, source):
         self.settle(lambda now: now["source"] == source, f"the source is {source}")
@@ -127,7 +123,7 @@ class Journey(AccessibleTestCase):
             return holds(last)
 
         try:
-            wait_until(settled, what, SETTLE_SECONDS)
+            wait_until(settled, what)
         except AssertionError as failure:
             raise AssertionError(f"{failure}: {last}") from None
         return last
@@ -180,7 +176,7 @@ class Journey(AccessibleTestCase):
             return all(abs(a - b) <= 1 for a, b in zip(place, wanted))
 
         try:
-            wait_until(is_there, f"the prompter hangs at {wanted}", SETTLE_SECONDS)
+            wait_until(is_there, f"the prompter hangs at {wanted}")
         except AssertionError as failure:
             raise AssertionError(f"{failure}: {self.desktop.geometry(self.window)}") from None
 
@@ -203,7 +199,7 @@ class Journey(AccessibleTestCase):
         self.assertEqual(status["visible"], self.prompter_is_shown())
         if not status["visible"]:
             return
-        wait_until(self.label_is_right, "the label tells the words and the time", SETTLE_SECONDS)
+        wait_until(self.label_is_right, "the label tells the words and the time")
 
     def label_is_right(self):
         status = self.status()

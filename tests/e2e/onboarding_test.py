@@ -1,6 +1,5 @@
 """The first run on a fresh home, from the first window to the prompter."""
 
-import json
 import pathlib
 import unittest
 
@@ -31,8 +30,7 @@ class OnboardingTestCase(AccessibleTestCase):
         self.obsidian = Obsidian(self.desktop.home)
 
     def start_first(self):
-        self.prompter = self.start_tessaline()
-        self.welcome = self.desktop.wait_for_window(WELCOME, self.prompter.pid)
+        super().start_first()
         wait_until(lambda: self.desktop.active_window() == self.welcome, "it has the keyboard")
 
     def obsidian_switch(self):
@@ -61,12 +59,6 @@ class OnboardingTestCase(AccessibleTestCase):
         self.assertTrue(
             holds_for(lambda: not self.desktop.windows(WELCOME, self.prompter.pid), 0.5)
         )
-
-    def end_and_read_history(self, name):
-        """Ends the program; the properties of all events of this name."""
-        self.assertEqual(self.prompter.end(), 0)
-        events = json.loads((self.support_folder() / "analytics.json").read_text())
-        return [event["properties"] for event in events if event["name"] == name]
 
     def assert_history(self, obsidian_enabled):
         self.assertEqual(len(self.end_and_read_history("onboarding_started")), 1)

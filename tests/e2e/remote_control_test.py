@@ -36,8 +36,7 @@ class RemoteControl(PrompterTestCase):
     def events(self):
         """Ends the program; returns the names of what it recorded."""
         self.prompter.end()
-        history = self.support_folder() / "analytics.json"
-        return [event["name"] for event in json.loads(history.read_text())]
+        return self.event_names()
 
     def test_tells_its_state(self):
         status = self.status()

@@ -29,15 +29,11 @@ class SessionEnd(TessalineTestCase):
     def wait_until_joined(self):
         wait_until(lambda: self.said("saved"), "the program is part of the session")
 
-    def history(self):
-        events = json.loads((self.support_folder() / "analytics.json").read_text())
-        return [event["name"] for event in events]
-
     def end_session(self):
         self.manager.send(signal.SIGUSR1)
         self.assertEqual(self.prompter.wait(), 0)
-        self.assertEqual(self.history()[-1], "app_terminate")
-        self.assertEqual(self.history().count("app_terminate"), 1)
+        self.assertEqual(self.event_names()[-1], "app_terminate")
+        self.assertEqual(self.event_names().count("app_terminate"), 1)
 
     def test_ends_the_program_well(self):
         self.start()
@@ -51,7 +47,7 @@ class SessionEnd(TessalineTestCase):
         self.wait_until_joined()
         self.end_session()
         self.assertFalse(self.settings()["hasCompletedOnboarding"])
-        names = self.history()
+        names = self.event_names()
         self.assertNotIn("window_shown", names)
         self.assertNotIn("content_loaded", names, "the normal start never came")
 

@@ -1,115 +1,13 @@
 """The settings window: its controls by mouse, keys and screen reader, and the prompter that follows
 while they move."""
 
-import json
 import unittest
 
 from harness import wait_until
-from harness.accessible_case import AccessibleTestCase
-from harness.obsidian import PLUGIN, Obsidian
-from harness.tessaline import SETTINGS
 from harness.waiting import holds_for
+from settings_case import CONTROLS, HEIGHT, TITLE, WIDTH, SettingsTestCase
 
-TITLE = "Settings"
-WIDTH, HEIGHT = 450, 256
-STRIP_MIDDLE = 15
-GEAR = 58
-KNOB = 15
 TALK = "A line of the talk that is long enough to be broken where the prompter is narrow\n\n" * 300
-CONTROLS = [
-    ("check box", "Obsidian"),
-    ("combo box", "Clipboard"),
-    ("combo box", "Auto"),
-    ("slider", "Width"),
-    ("slider", "Height"),
-    ("slider", "Font Size"),
-    ("slider", "Position"),
-    ("combo box", "Medium"),
-]
-
-
-class SettingsTestCase(AccessibleTestCase):
-    desktop_options = {"size": (1280, 1024)}
-
-    def setUp(self):
-        super().setUp()
-        self.screen_width, self.screen_height = self.desktop.size
-        self.left = (self.screen_width - WIDTH) // 2
-        self.obsidian = Obsidian(self.desktop.home)
-
-    def open_settings(self):
-        """Presses the gear in the prompter's strip; the prompter hangs where it hung at first."""
-        self.desktop.click(self.left + GEAR, STRIP_MIDDLE)
-        self.window_of_settings = self.desktop.wait_for_window(SETTINGS, self.prompter.pid)
-        wait_until(
-            lambda: self.desktop.active_window() == self.window_of_settings, "it has the keyboard"
-        )
-
-    def start_with_settings(self, *arguments):
-        self.start(*arguments)
-        self.open_settings()
-
-    def settings_are_open(self):
-        return bool(self.desktop.windows(SETTINGS, self.prompter.pid))
-
-    def prompter_area(self):
-        return self.desktop.geometry(self.window)
-
-    def wait_for_prompter_area(self, *area):
-        wait_until(lambda: self.prompter_area() == area, f"the prompter is at {area}")
-
-    def slider(self, name):
-        return self.control(TITLE, "slider", name)
-
-    def place_of(self, slider, value):
-        """Where on the screen the knob's middle is for a value."""
-        x, y, width, height = slider.area
-        low, high = slider.range
-        reach = (width - KNOB) * (value - low) / (high - low)
-        return round(x + KNOB / 2 + reach), y + height // 2
-
-    def grab(self, name):
-        """Presses the mouse on a slider's knob; it stays down."""
-        slider = self.slider(name)
-        self.desktop.move_mouse(*self.place_of(slider, slider.value))
-        self.desktop.press_button()
-        return slider
-
-    def frame(self):
-        """The upper and the lower edge of the window manager's frame around the window."""
-        _, top, _, height = self.open_window(TITLE).area
-        extents = self.desktop.property(self.window_of_settings, "_NET_FRAME_EXTENTS")
-        _, _, above, below = map(int, extents.split(","))
-        return top - above, top + height + below
-
-    def wait_for_top(self, top):
-        wait_until(lambda: self.frame()[0] == top, f"the top of the window is at {top}")
-
-    def focused(self):
-        """(role, name) of what has the keyboard in the window; None if nothing has."""
-        for node in self.open_window(TITLE).shown():
-            if "focused" in node.states:
-                return node.role, node.name
-        return None
-
-    def wait_for_focus(self, role, name):
-        wait_until(lambda: self.focused() == (role, name), f"the {role} {name} has the keyboard")
-
-    def focus(self, role, name):
-        """Goes to a control with the Tab key."""
-        for _ in range(len(CONTROLS) + 3):
-            if self.focused() == (role, name):
-                return
-            before = self.focused()
-            self.desktop.key("Tab")
-            wait_until(lambda before=before: self.focused() != before, "the next one has the keys")
-        self.fail(f"Tab does not come to the {role} {name}")
-
-    def end_and_read_history(self, name):
-        """Ends the program; the properties of all events of this name."""
-        self.assertEqual(self.prompter.end(), 0)
-        events = json.loads((self.support_folder() / "analytics.json").read_text())
-        return [event["properties"] for event in events if event["name"] == name]
 
 
 class Place(SettingsTestCase):
@@ -174,8 +72,7 @@ class Sliders(SettingsTestCase):
     def test_the_text_grows_while_the_mouse_is_down(self):
         self.start_with_settings(self.write_script(TALK))
         before = self.desktop.picture(self.window).ppm
-        slider = self.grab("Font Size")
-        self.desktop.move_mouse(*self.place_of(slider, 25))
+        self.drag("Font Size", 25)
         wait_until(lambda: self.desktop.picture(self.window).ppm != before, "the text has changed")
         self.assertAlmostEqual(self.settings()["fontSize"], 25, delta=0.2)
         self.desktop.release_button()
@@ -239,10 +136,8 @@ class Sliders(SettingsTestCase):
 
     def test_the_rate_is_chosen_with_the_mouse(self):
         self.start_with_settings()
-        self.click_on(self.control(TITLE, "combo box", "Medium"))
-        self.click_on(self.control(TITLE, "list item", "Slow"))
+        self.choose("Medium", "Slow")
         wait_until(lambda: self.settings().get("scrollRate") == "slow", "it is saved")
-        self.control(TITLE, "combo box", "Slow")
 
 
 class ForScreenReaders(SettingsTestCase):
@@ -292,93 +187,15 @@ class ForScreenReaders(SettingsTestCase):
         self.wait_for_focus(*CONTROLS[-1])
 
 
-class ObsidianSwitch(SettingsTestCase):
-    def setUp(self):
-        super().setUp()
-        self.obsidian.install()
-        self.obsidian.add_vault()
-
-    def switch(self):
-        self.click_on(self.control(TITLE, "check box", "Obsidian"))
-
-    def enabled_sources(self):
-        return sorted(self.settings().get("enabledSourceTypes", []))
-
-    def read_alert(self, title):
-        alert = self.open_window(title)
-        shown_title, text = alert.texts()[-2:]
-        self.assertEqual(shown_title, title)
-        return text
-
-    def test_installs_the_plug_in_and_offers_the_source(self):
-        self.start_with_settings()
-        self.switch()
-        self.assertEqual(
-            self.read_alert("Plugin Reinstalled"),
-            'Plugin installed in "Notes".\nRestart Obsidian to activate it.',
-        )
-        self.assertEqual(sorted(self.obsidian.plugin_files()), ["main.js", "manifest.json"])
-        self.assertEqual(self.obsidian.plugins(), [PLUGIN])
-        self.desktop.key("Escape")
-        self.wait_until_closed("Plugin Reinstalled")
-        self.assertTrue(holds_for(self.settings_are_open, 0.5), "Escape closed the alert alone")
-        self.wait_for_text(TITLE, "Plugin active")
-        self.assertEqual(self.enabled_sources(), ["clipboard", "obsidian"])
-        self.focus("combo box", "Clipboard")
-        self.desktop.key("Up")
-        wait_until(lambda: self.settings()["activeSourceType"] == "obsidian", "it is chosen")
-        self.wait_for_focus("combo box", "Obsidian")
-
-    def test_takes_the_source_away_again(self):
-        self.write_settings(
-            activeSourceType="obsidian", enabledSourceTypes=["clipboard", "obsidian"]
-        )
-        self.start_with_settings()
-        self.wait_for_text(TITLE, "Plugin not found")
-        self.control(TITLE, "push button", "Reinstall Plugin")
-        self.control(TITLE, "combo box", "Obsidian")
-        self.switch()
-        wait_until(lambda: self.enabled_sources() == ["clipboard"], "it is saved")
-        self.assertEqual(self.settings()["activeSourceType"], "clipboard")
-        self.control(TITLE, "combo box", "Clipboard")
-        self.assertEqual(self.open_window(TITLE).find_all("push button"), [])
-        self.assertNotIn("Plugin not found", self.open_window(TITLE).texts())
-        self.assertEqual(
-            self.end_and_read_history("source_disabled"), [{"source_type": "obsidian"}]
-        )
-
-    def test_follows_what_happens_in_the_vault(self):
-        self.start_with_settings()
-        self.switch()
-        self.read_alert("Plugin Reinstalled")
-        self.desktop.key("Return")
-        self.wait_for_text(TITLE, "Plugin active")
-        self.obsidian.switch_plugins_off()
-        self.wait_for_text(TITLE, "Disabled in Obsidian")
-
-    def test_says_when_the_installation_fails(self):
-        self.obsidian.block_installation()
-        self.start_with_settings()
-        self.switch()
-        self.open_window("Grant Access to Obsidian Vault")
-        self.desktop.key("Escape")
-        self.assertIn("Failed to install plugin: ", self.read_alert("Installation Failed"))
-        self.desktop.key("Escape")
-        self.wait_for_text(TITLE, "Plugin not found")
-        self.assertEqual(self.enabled_sources(), ["clipboard", "obsidian"])
-
-
 class LowScreen(SettingsTestCase):
     desktop_options = {"size": (1280, 700)}
 
     def assert_whole_on_the_screen(self):
-        self.wait_for_top(HEIGHT)
+        self.wait_for_top(self.prompter_area()[3])
         self.assertLessEqual(self.frame()[1], self.screen_height)
 
     def is_in_sight(self, node):
-        _, window_top, _, window_height = self.open_window(TITLE).area
-        _, y, _, height = node.area
-        return window_top <= y and y + height <= window_top + window_height
+        return node.lies_in(self.open_window(TITLE).area)
 
     def test_scrolls_to_what_has_the_keyboard(self):
         self.start_with_settings()
@@ -403,6 +220,15 @@ class LowScreen(SettingsTestCase):
             "the last row is in sight",
         )
         self.assertEqual(self.settings(), before)
+
+    def test_stays_on_the_screen_when_the_prompter_grows(self):
+        self.start_with_settings()
+        self.drag("Height", 400)
+        wait_until(lambda: self.prompter_area()[3] > 390, "the prompter is higher")
+        self.desktop.release_button()
+        wait_until(lambda: self.frame()[1] <= self.screen_height, "it shrinks")
+        self.assert_whole_on_the_screen()
+        self.assertTrue(self.is_in_sight(self.slider("Height")))
 
     def test_stays_on_the_screen_when_it_grows(self):
         self.obsidian.install()

@@ -160,10 +160,6 @@ class Buttons(ShellTestCase):
 class FirstStart(ShellTestCase):
     first_run = True
 
-    def start_first(self, *arguments):
-        self.prompter = self.start_tessaline(*arguments)
-        self.welcome = self.desktop.wait_for_window(WELCOME, self.prompter.pid)
-
     def close_welcome(self):
         self.desktop.close_by_keys(self.welcome)
 

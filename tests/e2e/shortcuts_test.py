@@ -1,10 +1,9 @@
 """The program's shortcuts while another application is in use, and in its own windows."""
 
-import json
 import signal
 import unittest
 
-from event_tap_test import A_MOMENT, TOGGLE, WHEEL_DOWN, WHEEL_UP, Xev, click
+from event_tap_case import A_MOMENT, TOGGLE, WHEEL_DOWN, WHEEL_UP, Xev, click
 from harness import wait_until
 from harness.waiting import holds_for
 from prompter_test import LEFT, PrompterTestCase
@@ -18,9 +17,6 @@ class Shortcuts(PrompterTestCase):
         super().setUp()
         self.start(self.write_script("A line to read.\n\n" * 100))
         self.wait_for_text()
-
-    def status(self):
-        return json.loads(self.call("ctl", "status")[1])
 
     def position(self):
         return self.status()["scrollPosition"]

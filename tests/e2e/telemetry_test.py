@@ -1,7 +1,6 @@
 """Usage signals of the whole program: what leaves when it stops. The service is on the loopback
 interface."""
 
-import json
 import signal
 import time
 import unittest
@@ -36,17 +35,13 @@ class Telemetry(TessalineTestCase):
         self.assertLess(seconds, GRACE_SECONDS + PATIENCE)
         return seconds
 
-    def history(self):
-        events = json.loads((self.support_folder() / "analytics.json").read_text())
-        return [event["name"] for event in events]
-
     def test_the_whole_session_arrives_once_when_it_stops(self):
         self.start_sending_to(self.start_server())
         self.assert_stops_in_time()
         names = self.server.names()
         self.assertEqual(names[0], "app_launch")
         self.assertEqual(names[-1], "app_terminate")
-        self.assertEqual(names, self.history(), "each event once, in order")
+        self.assertEqual(names, self.event_names(), "each event once, in order")
         sessions = {sent["sessionID"] for batch in self.server.batches for sent in batch}
         self.assertEqual(len(sessions), 1)
 
@@ -55,7 +50,7 @@ class Telemetry(TessalineTestCase):
         self.wait_for_batch()
         self.assert_stops_in_time()
         self.assertEqual(len(self.server.batches), 2)
-        self.assertEqual(self.server.names(), self.history())
+        self.assertEqual(self.server.names(), self.event_names())
 
     def wait_for_batch(self):
         deadline = time.monotonic() + 20
@@ -68,7 +63,7 @@ class Telemetry(TessalineTestCase):
         seconds = self.assert_stops_in_time()
         self.assertGreater(seconds, GRACE_SECONDS * 0.8, "it did wait for the answer")
         self.assertEqual(self.server.names().count("app_terminate"), 1)
-        self.assertEqual(self.history()[-1], "app_terminate")
+        self.assertEqual(self.event_names()[-1], "app_terminate")
 
     def test_a_server_that_refuses_everything_is_asked_once(self):
         self.start_sending_to(self.start_server(status=500))
@@ -107,7 +102,7 @@ class Telemetry(TessalineTestCase):
         self.start_sending_to(self.start_server(), DO_NOT_TRACK="1")
         self.assert_stops_in_time()
         self.assertEqual(self.server.batches, [])
-        self.assertEqual(self.history()[-1], "app_terminate")
+        self.assertEqual(self.event_names()[-1], "app_terminate")
 
 
 if __name__ == "__main__":

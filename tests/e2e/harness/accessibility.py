@@ -37,6 +37,12 @@ class Node:
         x, y, width, height = self.area
         return x + width // 2, y + height // 2
 
+    def lies_in(self, area):
+        """Whether all of it is inside of (x, y, width, height)."""
+        left, top, room, depth = area
+        x, y, width, height = self.area
+        return left <= x and x + width <= left + room and top <= y and y + height <= top + depth
+
     def shown(self):
         """This object and all below it that are on show, in the order of the tree."""
         if "showing" in self.states:

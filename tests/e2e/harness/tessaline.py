@@ -5,6 +5,7 @@ import os
 import subprocess
 
 from .case import DesktopTestCase
+from .control_client import ControlClient
 from .waiting import wait_until
 
 PROMPTER = "^Tessaline$"
@@ -41,6 +42,19 @@ class TessalineTestCase(DesktopTestCase):
         values = {"hasCompletedOnboarding": not self.first_run, **values}
         (self.support_folder() / "config.json").write_text(json.dumps(values))
 
+    def history(self):
+        """The usage events on disk, the latest last; none while there is no file."""
+        path = self.support_folder() / "analytics.json"
+        return json.loads(path.read_text()) if path.exists() else []
+
+    def event_names(self):
+        return [event["name"] for event in self.history()]
+
+    def end_and_read_history(self, name):
+        """Ends the program; the properties of all events of this name."""
+        self.assertEqual(self.prompter.end(), 0)
+        return [event["properties"] for event in self.history() if event["name"] == name]
+
     def write_script(self, text):
         path = self.desktop.home / "talk.md"
         path.write_text(text)
@@ -50,6 +64,11 @@ class TessalineTestCase(DesktopTestCase):
         """Starts the program and waits for its prompter."""
         self.prompter = self.start_tessaline(*arguments, **env)
         self.window = self.desktop.wait_for_window(PROMPTER, self.prompter.pid)
+
+    def start_first(self, *arguments):
+        """Starts the program and waits for its first-run window."""
+        self.prompter = self.start_tessaline(*arguments)
+        self.welcome = self.desktop.wait_for_window(WELCOME, self.prompter.pid)
 
     def call(self, *arguments, stdin=None):
         """Calls the program once more; its exit status, standard output and standard error."""
@@ -69,6 +88,10 @@ class TessalineTestCase(DesktopTestCase):
     def socket_path(self):
         """Where the running program hears other calls."""
         return self.desktop.folder / "runtime/tessaline" / (self.desktop.env["DISPLAY"] + ".socket")
+
+    def status(self):
+        """What the running program tells of itself."""
+        return ControlClient(self.socket_path()).status()
 
     def prompter_is_shown(self):
         return bool(self.desktop.windows(PROMPTER, self.prompter.pid))

@@ -1,0 +1,122 @@
+"""What the scenarios of the prompter's wheel, buttons and shortcut have in common: applications that
+tell what they receive, and a keyboard."""
+
+import ctypes
+import json
+import os
+import re
+
+from harness import DesktopTestCase, wait_until
+from harness.waiting import holds_for
+
+XEV_AREA = "400x300+100+100"
+OVER_XEV = (300, 250)
+WHEEL_UP, WHEEL_DOWN = 4, 5
+TOGGLE = "ctrl+shift+super+t"
+A_MOMENT = 0.5
+CORE_KEYBOARD = 0x100
+
+
+class Keyboard:
+    """Layouts and keys by their numbers. xdotool goes back to the first layout for every key."""
+
+    def __init__(self, display):
+        self.x11, self.xtest = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXtst.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
+
+    def close(self):
+        self.x11.XCloseDisplay(self.display)
+
+    def switch_to_layout(self, number):
+        self.x11.XkbLockGroup(self.display, CORE_KEYBOARD, number)
+        self.x11.XSync(self.display, 0)
+
+    def press(self, *keys):
+        """All of them together."""
+        for key, down in [(key, 1) for key in keys] + [(key, 0) for key in reversed(keys)]:
+            self.xtest.XTestFakeKeyEvent(self.display, key, down, 0)
+            self.x11.XSync(self.display, 0)
+
+
+class Application:
+    """A probe, whose output tells what it received."""
+
+    def __init__(self, desktop, *arguments, name=None):
+        name = name or arguments[0]
+        self.process = desktop.start(name, [os.environ["TESSALINE_INPUT_PROBE"], *arguments])
+        self.process.wait_for_output('"event":"ready"')
+
+    def events(self, *names):
+        lines = self.process.stdout().splitlines()
+        events = [json.loads(line) for line in lines if line.startswith("{")]
+        return [event for event in events if event["event"] in names]
+
+    def scrolled(self):
+        return [event["delta"] for event in self.events("scroll")]
+
+    def toggles(self):
+        return len(self.events("toggle"))
+
+    def wheel(self):
+        """As Qt tells it: 120 for a line, positive is up or left."""
+        return [(event["x"], event["y"]) for event in self.events("wheel")]
+
+
+class Xev:
+    """Another application, by the oldest means that there are."""
+
+    def __init__(self, desktop):
+        command = ["xev", "-geometry", XEV_AREA, "-event", "button", "-event", "keyboard"]
+        self.process = desktop.start("xev", command)
+        window = desktop.wait_for_window("Event Tester", None)
+        wait_until(lambda: desktop.focused_window() == window, "xev has the keyboard")
+        desktop.move_mouse(*OVER_XEV)
+
+    def buttons(self):
+        """("Press" or "Release", button) in the order of their arrival."""
+        pattern = r"^Button(Press|Release) event.*?button (\d+)"
+        found = re.findall(pattern, self.process.stdout(), re.MULTILINE | re.DOTALL)
+        return [(kind, int(button)) for kind, button in found]
+
+    def keys(self):
+        return re.findall(r"^KeyPress event.*?keysym 0x\w+, (\w+)", self.process.stdout(),
+                          re.MULTILINE | re.DOTALL)
+
+
+def click(*buttons):
+    """What a window gets of these clicks."""
+    return [(kind, button) for button in buttons for kind in ("Press", "Release")]
+
+
+class EventTapCase(DesktopTestCase):
+    desktop_options = {"panel": False}
+
+    def start_tap(self, *arguments):
+        return Application(self.desktop, "tap", *arguments)
+
+    def click(self, *buttons, keys=("ctrl",)):
+        for key in keys:
+            self.desktop.run("xdotool", "keydown", key)
+        for button in buttons:
+            self.desktop.run("xdotool", "click", button)
+        for key in reversed(keys):
+            self.desktop.run("xdotool", "keyup", key)
+
+    def open_keyboard(self):
+        keyboard = Keyboard(self.desktop.env["DISPLAY"])
+        self.addCleanup(keyboard.close)
+        return keyboard
+
+    def wait_for_scrolls(self, tap, deltas):
+        wait_until(lambda: tap.scrolled() == deltas, f"the prompter scrolls by {deltas}")
+
+    def wait_for_toggles(self, tap, number):
+        wait_until(lambda: tap.toggles() == number, f"the prompter toggles {number} times")
+
+    def wait_for_buttons(self, xev, buttons):
+        wait_until(lambda: xev.buttons() == buttons, f"xev gets {buttons}")
+
+    def assert_nothing_more(self, *counts):
+        before = [count() for count in counts]
+        self.assertTrue(holds_for(lambda: [count() for count in counts] == before, A_MOMENT))
