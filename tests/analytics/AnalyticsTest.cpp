@@ -274,6 +274,8 @@ TEST_F(AnalyticsTest, DescribesAFullEnvironment) {
     settings.setSourceEnabled(SourceType::obsidian, true);
     settings.activeSourceType = SourceType::obsidian;
     settings.fontSize = 18.5;
+    settings.width = 600.25;
+    settings.height = 301;
     settings.scrollRate = ScrollRate::fast;
     stage.environment.appInstalled = stage.environment.vaultFound = true;
     stage.environment.pluginInstalled = stage.environment.pluginActive = true;
@@ -291,10 +293,46 @@ TEST_F(AnalyticsTest, DescribesAFullEnvironment) {
     EXPECT_EQ(properties[u"screen_count"_s], u"3"_s);
     EXPECT_EQ(properties[u"scroll_rate"_s], u"fast"_s);
     EXPECT_EQ(properties[u"font_size"_s], u"18.5"_s);
+    EXPECT_EQ(properties[u"window_width"_s], u"600.25"_s);
+    EXPECT_EQ(properties[u"window_height"_s], u"301"_s);
     EXPECT_EQ(log.entries().last(),
               line(u"Environment: obsidian_app=installed plugin=installed active=active "
                    "source=obsidian"_s));
 }
+
+struct Answer {
+    bool FakeEnvironmentProbe::*answer;
+    QString property;
+    QString lineBesides;
+};
+
+class AnalyticsEnvironment : public AnalyticsTest, public testing::WithParamInterface<Answer> {};
+
+TEST_P(AnalyticsEnvironment, ShowsEachAnswerUnderItsOwnName) {
+    stage.environment.*GetParam().answer = true;
+    const AppSettings settings(stage.folder.filePath(u"config.json"_s));
+    const RecordedLog log;
+    stage.makeRecorder()->trackEnvironmentSnapshot(settings);
+    const Analytics::Properties& properties = stage.sent.at(0).second;
+    EXPECT_EQ(properties.keys(u"true"_s), QStringList{GetParam().property});
+    EXPECT_EQ(log.entries().last(),
+              line(u"Environment: "_s + GetParam().lineBesides + u" source=clipboard"_s));
+}
+
+using Probe = FakeEnvironmentProbe;
+
+INSTANTIATE_TEST_SUITE_P(
+    Answers, AnalyticsEnvironment,
+    testing::Values(Answer{&Probe::appInstalled, u"obsidian_app_installed"_s,
+                           u"obsidian_app=installed plugin=not_installed active=inactive"_s},
+                    Answer{&Probe::vaultFound, u"obsidian_vault_found"_s,
+                           u"obsidian_app=not_installed plugin=not_installed active=inactive"_s},
+                    Answer{&Probe::pluginInstalled, u"obsidian_plugin_installed"_s,
+                           u"obsidian_app=not_installed plugin=installed active=inactive"_s},
+                    Answer{&Probe::pluginActive, u"obsidian_plugin_active"_s,
+                           u"obsidian_app=not_installed plugin=not_installed active=active"_s},
+                    Answer{&Probe::accessibilityGranted, u"accessibility_granted"_s,
+                           u"obsidian_app=not_installed plugin=not_installed active=inactive"_s}));
 
 } // namespace
 } // namespace tessaline

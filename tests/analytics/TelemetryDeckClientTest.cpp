@@ -237,6 +237,24 @@ TEST_F(TelemetryDeckClientTest, SendsAFailedBatchAgainAheadOfNewerSignals) {
     EXPECT_EQ(typesOfRequest(2), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
 }
 
+TEST_F(TelemetryDeckClientTest, KeepsEverySignalHoweverOftenSendingFails) {
+    const RecordedLog log;
+    const auto client = stage.makeClient(network);
+    QStringList all;
+    for (int number = 0; number < 500; ++number) {
+        all += QString::number(number);
+        client->signal(all.last(), {});
+        stage.timers.advance(10);
+        network.fail();
+    }
+    EXPECT_EQ(network.requests.size(), 500U);
+    stage.timers.advance(10);
+    network.answer(200);
+    EXPECT_EQ(typesOfRequest(500), all);
+    stage.timers.advance(10);
+    EXPECT_EQ(network.requests.size(), 501U);
+}
+
 TEST_F(TelemetryDeckClientTest, HasOneBatchUnderWayAtATime) {
     const auto client = stage.makeClient(network);
     client->signal(u"a"_s, {});

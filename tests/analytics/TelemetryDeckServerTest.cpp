@@ -171,7 +171,7 @@ TEST_F(TelemetryDeckServer, ThatClosesWithoutAnAnswerGetsTheSignalsAgain) {
 }
 
 TEST_F(TelemetryDeckServer, ThatNeverAnswersGetsTheSignalsAgain) {
-    const auto client = makeClient(200ms);
+    const auto client = makeClient(1s);
     server.setAnswer([](QTcpSocket&) {});
     expectFailureAndRecovery(*client);
 }

@@ -50,6 +50,22 @@ protected:
     }
 };
 
+/// Remembers how many prompts had been asked for when a program ran.
+class PromptCounter final : public ProcessRunner {
+public:
+    explicit PromptCounter(const FakeAccessibilityTrust& watched) : trust(watched) {}
+
+    ProcessResult run(const QString& /*program*/, const QStringList& /*arguments*/) override {
+        promptsBefore.push_back(trust.prompts);
+        return {};
+    }
+
+    std::vector<int> promptsBefore;
+
+private:
+    const FakeAccessibilityTrust& trust;
+};
+
 TEST_F(PermissionManagerTest, NamesItsNotification) {
     EXPECT_EQ(PermissionManager::permissionStatusDidChangeNotification(),
               u"PermissionManagerStatusDidChange"_s);
@@ -121,13 +137,26 @@ TEST_F(PermissionManagerTest, AnnouncesNothingOnceItIsGone) {
 }
 
 TEST_F(PermissionManagerTest, ClearsTheStaleEntryBeforeItAsksForThePrompt) {
-    processes.result = {.exitCode = 1};
+    PromptCounter counter(trust);
+    PermissionManager watched({trust, counter, bundle, timers, mainQueue, notifications});
+    watched.resetAndRequestAccessibility();
+    EXPECT_THAT(counter.promptsBefore, ElementsAre(0));
+    EXPECT_EQ(trust.prompts, 1);
+}
+
+class StaleEntry : public PermissionManagerTest, public testing::WithParamInterface<int> {};
+
+TEST_P(StaleEntry, IsClearedByTheSystemsToolWhoseFailureDoesNotMatter) {
+    processes.result = {.exitCode = GetParam()};
     manager->resetAndRequestAccessibility();
     EXPECT_THAT(processes.calls, ElementsAre(FakeProcessRunner::Call{
                                      u"/usr/bin/tccutil"_s,
                                      {u"reset"_s, u"Accessibility"_s, u"app.example.Program"_s}}));
     EXPECT_EQ(trust.prompts, 1);
 }
+
+// -1: there is no such tool.
+INSTANTIATE_TEST_SUITE_P(ExitCodes, StaleEntry, testing::Values(0, 1, -1));
 
 TEST_F(PermissionManagerTest, LeavesTheEntryAloneWhileItIsTrusted) {
     trust.trusted = true;

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <mutex>
 #include <thread>
+#include <unistd.h>
 
 namespace tessaline {
 namespace {
@@ -19,6 +20,16 @@ TEST(ExitDeadlineDeathTest, EndsAProgramThatHangs) {
             hanging.join();
         },
         testing::ExitedWithCode(7), "");
+}
+
+TEST(ExitDeadlineDeathTest, ComesNoEarlierThanItWasSet) {
+    EXPECT_EXIT(
+        {
+            setExitDeadline(std::chrono::minutes(10), 7);
+            setExitDeadline(std::chrono::milliseconds(20), 3);
+            ::pause();
+        },
+        testing::ExitedWithCode(3), "");
 }
 
 TEST(ExitDeadlineDeathTest, LeavesAProgramAloneThatEndsInTime) {

@@ -47,6 +47,7 @@ TEST_F(QtFolderChooserTest, ShowsTheQuestion) {
         EXPECT_EQ(message->text(), u"Two lines\nof message"_s);
         EXPECT_TRUE(message->isVisible());
         EXPECT_GE(message->height(), 2 * message->fontMetrics().height());
+        EXPECT_TRUE(message->wordWrap());
         for (const QWidget* other : panel.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
             if (other != message && other->isVisible() && !other->isWindow()) {
                 EXPECT_GE(other->y(), message->geometry().bottom())

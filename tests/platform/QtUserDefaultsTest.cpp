@@ -3,6 +3,7 @@
 #include "support/TestFiles.h"
 
 #include <QDir>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,12 @@ TEST_F(QtUserDefaultsTest, HaveATextInItsFileAtOnce) {
     defaults.setString(key, u"second"_s);
     EXPECT_FALSE(fileBytes(path).contains("first"));
     EXPECT_EQ(defaults.string(key), u"second"_s);
+}
+
+TEST_F(QtUserDefaultsTest, KeepAKeyInGroupsNamedByItsParts) {
+    QtUserDefaults(path).setString(key, u"text"_s);
+    const QSettings file(path, QSettings::IniFormat);
+    EXPECT_EQ(file.value(u"app/example/Program/telemetry/userId"_s).toString(), u"text"_s);
 }
 
 TEST_F(QtUserDefaultsTest, KeepKeysApart) {

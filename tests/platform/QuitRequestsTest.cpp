@@ -19,6 +19,12 @@ TEST(QuitRequests, AreCarriedOutInPlaceOfTheToolkit) {
     EXPECT_EQ(quits, 1);
 }
 
+TEST(QuitRequests, GetNoFurther) {
+    QuitRequests requests([] {});
+    QEvent quit(QEvent::Quit);
+    EXPECT_TRUE(requests.eventFilter(QCoreApplication::instance(), &quit));
+}
+
 TEST(QuitRequests, AreNotMistakenForOtherEvents) {
     int quits = 0;
     QuitRequests requests([&] { ++quits; });

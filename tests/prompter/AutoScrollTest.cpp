@@ -110,6 +110,16 @@ TEST_F(AutoScrollTest, FallsBackToTheTimerWithoutADisplayLink) {
     EXPECT_DOUBLE_EQ(steps[0], -0.32);
     scroll->stop();
     EXPECT_FALSE(scroll->running());
+    EXPECT_TRUE(timers.liveIntervals().empty());
+}
+
+TEST_F(AutoScrollTest, RunsNoTimerBeforeItIsSwitchedOnWithoutADisplayLink) {
+    links.available = false;
+    const auto scroll = make();
+    EXPECT_TRUE(timers.liveIntervals().empty());
+    scroll->start();
+    EXPECT_TRUE(scroll->running());
+    EXPECT_EQ(timers.liveIntervals().size(), 1u);
 }
 
 TEST_F(AutoScrollTest, DeliversNothingOnceItIsGone) {

@@ -5,6 +5,7 @@
 #include "prompter/ElidingLabel.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
+#include "support/PaintCounter.h"
 #include "support/WidgetPicture.h"
 
 #include <gtest/gtest.h>
@@ -57,6 +58,13 @@ TEST_F(ControlStripTest, ShowsClipboardMode) {
     expectGlyph(*strip.pasteButton, u"📄"_s, 14, QFont::Normal);
 }
 
+TEST_F(ControlStripTest, TellsTheClipboardFromTheOtherSourcesByThePage) {
+    strip.showSource(SourceType::clipboard);
+    expectGlyph(*strip.pasteButton, u"📄"_s, 14, QFont::Normal);
+    strip.showSource(SourceType::obsidian);
+    expectGlyph(*strip.pasteButton, u"📋"_s, 14, QFont::Normal);
+}
+
 TEST_F(ControlStripTest, DrawsTheSquareLighterThanTheDash) {
     strip.showCollapsed(true);
     expectGlyph(*strip.minimizeButton, u"□"_s, 14, QFont::DemiBold);
@@ -107,6 +115,18 @@ TEST_F(ControlStripTest, SetsTheStatisticsInTheirColorAtTheRight) {
     const QRectF red = boundsOf(
         picture, [&](int x, int y) { return picture.pixelColor(x, y) == SystemPalette::red; });
     EXPECT_FALSE(red.isEmpty());
+}
+
+TEST(ElidingLabel, PaintsItselfAgainOnlyInAnotherColour) {
+    ElidingLabel label;
+    label.setColor(SystemPalette::red);
+    label.show();
+    PaintCounter paints(label);
+    paints.take();
+    label.setColor(SystemPalette::red);
+    EXPECT_EQ(paints.take(), 0);
+    label.setColor(SystemPalette::green);
+    EXPECT_EQ(paints.take(), 1);
 }
 
 TEST(ElidingLabel, CutsATextThatDoesNotFitAtItsBeginning) {

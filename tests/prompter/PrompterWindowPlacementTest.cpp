@@ -1,5 +1,6 @@
 #include "platform/NotificationCenter.h"
 #include "prompter/PrompterWindowFixture.h"
+#include "prompter/controls/TrafficLightCloseButton.h"
 #include "screens/ScreenManager.h"
 
 #include <optional>
@@ -83,6 +84,21 @@ TEST_F(PrompterWindowPlacement, TakesTheHeightOfTheSettingsAlsoWhileCollapsed) {
     window().toggleCollapsed();
     EXPECT_FALSE(window().isCollapsed());
     finishResizing(256);
+}
+
+TEST_F(PrompterWindowPlacement, CentresItsControlsInAPanelThatHasGrown) {
+    const auto* quitButton = window().controls().quitButton;
+    EXPECT_EQ(quitButton->geometry(), QRect(10, 10, 12, 12));
+    screens.attached[0].visibleFrame.height -= 8;
+    window().updateFrame();
+    EXPECT_EQ(quitButton->geometry(), QRect(10, 14, 12, 12));
+}
+
+TEST_F(PrompterWindowPlacement, IsSquareAtOnceWhenItIsPlacedWhileItFolds) {
+    window().toggleCollapsed();
+    window().updateFrame();
+    EXPECT_EQ(window().height(), 256);
+    EXPECT_TRUE(lowerCornersHave(255));
 }
 
 TEST_F(PrompterWindowPlacement, IsSquareAllAroundWhileCollapsed) {

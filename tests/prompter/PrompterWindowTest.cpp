@@ -8,12 +8,10 @@
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "prompter/view/ScriptView.h"
 
+#include <QAccessible>
 #include <QApplication>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
-
-#include <limits>
 
 namespace tessaline {
 
@@ -52,9 +50,9 @@ TEST_F(PrompterWindowTest, TellsTheDisplayLinkTheRateOfItsScreen) {
 }
 
 TEST_F(PrompterWindowTest, AsksForItsTraitsWhenItIsShown) {
-    const auto id = window().winId();
-    EXPECT_EQ(traits.floating.back(), id);
-    EXPECT_EQ(traits.excluded.back(), id);
+    const std::vector<WindowTraits::NativeWindow> itself{window().winId()};
+    EXPECT_EQ(traits.floating, itself);
+    EXPECT_EQ(traits.excluded, itself);
     EXPECT_TRUE(window().windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_TRUE(window().windowFlags().testFlag(Qt::BypassWindowManagerHint));
 }
@@ -119,14 +117,6 @@ TEST_F(PrompterWindowTest, TakesALongTextWhileItIsHidden) {
     EXPECT_EQ(hidden->textView().scrollPosition(), 100);
 }
 
-TEST_F(PrompterWindowTest, ScrollsByNotchesWhereAWheelTellsPixelsToo) {
-    show(u"line\n"_s.repeated(100));
-    QWheelEvent event({10, 10}, window().mapToGlobal(QPointF(10, 10)), {0, -15}, {0, -120},
-                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&window(), &event);
-    EXPECT_EQ(window().textView().scrollPosition(), 80);
-}
-
 TEST_F(PrompterWindowTest, KeepsTheReadersPlaceWhileCollapsed) {
     show(u"line\n"_s.repeated(100));
     window().performScroll(-400);
@@ -182,6 +172,17 @@ TEST_F(PrompterWindowTest, ShowsAHintInPlaceOfThePlaceholder) {
     EXPECT_NEAR(first.top(), 202 - last.bottom(), 25);
 }
 
+TEST_F(PrompterWindowTest, KeepsTheHintWhenALongTextBeforeItIsRenderedTooLate) {
+    window().updateText(QString(ContentRenderer::mostRenderedAtOnce + 1, u'a'));
+    queue.runAll();
+    ASSERT_EQ(tasks.pending(), 1u);
+    window().updateText(u"PLACEHOLDER"_s);
+    queue.runAll();
+    tasks.runAll();
+    queue.runAll();
+    EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
+}
+
 TEST_F(PrompterWindowTest, RerendersWithTheFontSizeOfTheSettings) {
     show(u"# Hello\nyou"_s);
     settings.fontSize = 30;
@@ -235,83 +236,6 @@ TEST_F(PrompterWindowTest, ShowsTheRateInTheColorOfTheStatistics) {
     EXPECT_EQ(window().controls().statsLabel->color(), SystemPalette::red);
 }
 
-TEST_F(PrompterWindowTest, ScrollsWithinTheText) {
-    show(u"line\n"_s.repeated(100));
-    window().performScroll(50);
-    EXPECT_EQ(window().textView().scrollPosition(), 0);
-    window().performScroll(-100.5);
-    EXPECT_EQ(window().textView().scrollPosition(), 100.5);
-    window().performScroll(-1e9);
-    const double end = window().textView().maximumScrollPosition();
-    EXPECT_EQ(window().textView().scrollPosition(), end);
-    window().performScroll(-50);
-    EXPECT_EQ(window().textView().scrollPosition(), end);
-}
-
-TEST_F(PrompterWindowTest, ScrollsEightyPointsForALineOfTheWheelWithControl) {
-    show(u"line\n"_s.repeated(100));
-    QWheelEvent event({10, 10}, window().mapToGlobal(QPointF(10, 10)), {}, {0, -120}, Qt::NoButton,
-                      Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&window(), &event);
-    EXPECT_EQ(window().textView().scrollPosition(), 80);
-}
-
-TEST_F(PrompterWindowTest, ScrollsExactlyWithATrackpadAndControl) {
-    show(u"line\n"_s.repeated(100));
-    QWheelEvent event({10, 10}, window().mapToGlobal(QPointF(10, 10)), {0, -7}, {0, -15},
-                      Qt::NoButton, Qt::ControlModifier, Qt::ScrollUpdate, false);
-    QApplication::sendEvent(&window(), &event);
-    EXPECT_EQ(window().textView().scrollPosition(), 7);
-}
-
-TEST_F(PrompterWindowTest, ResumesAutoScrollAtTheDefaultSpeedWhenThereIsNone) {
-    settings.scrollSpeed = 0;
-    settings.lastNonZeroScrollSpeed = 0;
-    window().toggleAutoScroll();
-    EXPECT_TRUE(settings.autoScrollEnabled);
-    EXPECT_EQ(settings.scrollSpeed, 2.0);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 2.0);
-    AppSettings saved(*settings.testConfigURL);
-    EXPECT_TRUE(saved.autoScrollEnabled);
-    EXPECT_EQ(saved.scrollSpeed, 2.0);
-}
-
-TEST_F(PrompterWindowTest, ResumesAutoScrollAtTheLastSpeed) {
-    settings.scrollSpeed = 0;
-    settings.lastNonZeroScrollSpeed = 3;
-    window().toggleAutoScroll();
-    EXPECT_EQ(settings.scrollSpeed, 3.0);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 3.0);
-}
-
-TEST_F(PrompterWindowTest, KeepsItsSpeedWhenAutoScrollIsSwitchedOffAndOn) {
-    settings.scrollSpeed = 1.5;
-    settings.lastNonZeroScrollSpeed = 3;
-    window().toggleAutoScroll();
-    window().toggleAutoScroll();
-    EXPECT_FALSE(AppSettings(*settings.testConfigURL).autoScrollEnabled);
-    EXPECT_EQ(settings.scrollSpeed, 1.5);
-    window().toggleAutoScroll();
-    EXPECT_EQ(settings.scrollSpeed, 1.5);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 3.0);
-}
-
-TEST_F(PrompterWindowTest, MovesTheTextWithEveryFrameWhileAutoScrollIsOn) {
-    show(u"line\n"_s.repeated(100));
-    settings.scrollRate = ScrollRate::fast;
-    settings.scrollSpeed = 2.5;
-    window().toggleAutoScroll();
-    for (std::uint64_t frame = 1; frame <= 10; ++frame)
-        links.refresh(frame);
-    queue.runAll();
-    EXPECT_NEAR(window().textView().scrollPosition(), 1.6, 1e-9);
-    window().toggleAutoScroll();
-    links.refresh(11);
-    queue.runAll();
-    EXPECT_NEAR(window().textView().scrollPosition(), 1.6, 1e-9);
-    EXPECT_FALSE(settings.autoScrollEnabled);
-}
-
 TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {
     const ControlStrip& strip = window().controls();
     const auto color = [&] { return strip.sourceLabel->palette().color(QPalette::WindowText); };
@@ -319,6 +243,7 @@ TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {
     EXPECT_EQ(strip.sourceLabel->text(), u"OBSIDIAN"_s);
     EXPECT_EQ(color(), QColor::fromRgbF(0.49F, 0.23F, 0.93F));
     EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Obsidian)"_s);
+    EXPECT_EQ(strip.pasteButton->text(), u"📋"_s);
     EXPECT_TRUE(strip.sourceIconView->isVisible());
     EXPECT_EQ(strip.sourceIconView->accessibleName(), u"Obsidian"_s);
     window().updateSourceIndicator(SourceType::appleNotes);
@@ -328,6 +253,7 @@ TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {
     EXPECT_EQ(strip.sourceLabel->text(), u"CLIPBOARD"_s);
     EXPECT_EQ(color(), SystemPalette::orange);
     EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Clipboard)"_s);
+    EXPECT_EQ(strip.pasteButton->text(), u"📄"_s);
 }
 
 TEST_F(PrompterWindowTest, NamesTheSourceMode) {
@@ -365,9 +291,11 @@ TEST_F(PrompterWindowTest, DescribesItsControls) {
           Control{u"prompter_autoScrollButton"_s, u"Toggle Auto-Scroll"_s, u"Toggle auto-scroll"_s},
           Control{u"prompter_pasteButton"_s, u"Toggle content source"_s,
                   u"Switch to clipboard mode (paste)"_s}}) {
-        const auto* button = window().findChild<QAbstractButton*>(identifier);
+        auto* button = window().findChild<QAbstractButton*>(identifier);
         ASSERT_TRUE(button) << identifier.toStdString();
-        EXPECT_EQ(button->accessibleName(), name);
+        const auto* spoken = QAccessible::queryAccessibleInterface(button);
+        EXPECT_EQ(spoken->role(), QAccessible::Button) << identifier.toStdString();
+        EXPECT_EQ(spoken->text(QAccessible::Name), name);
         EXPECT_EQ(button->toolTip(), toolTip);
         EXPECT_TRUE(button->isVisible());
     }
@@ -393,6 +321,9 @@ TEST_F(PrompterWindowTest, IsCutToItsShapeWhereNothingIsTranslucent) {
     EXPECT_TRUE(window().mask().contains(QPoint(225, 255)));
     EXPECT_FALSE(window().mask().contains(QPoint(0, 255)));
     EXPECT_FALSE(window().mask().contains(QPoint(449, 255)));
+    traits.translucency = true;
+    window().updateFrame();
+    EXPECT_TRUE(window().mask().isEmpty());
 }
 
 TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
@@ -402,6 +333,12 @@ TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
     EXPECT_EQ(picture.pixelColor(0, 255).alpha(), 0);
     EXPECT_EQ(picture.pixelColor(449, 255).alpha(), 0);
     EXPECT_EQ(picture.pixelColor(225, 255), QColor(Qt::black));
+    for (int x = 0; x < 16; ++x)
+        EXPECT_NEAR(picture.pixelColor(x, 252).alpha(), picture.pixelColor(449 - x, 252).alpha(),
+                    4);
+    // A circle of sixteen points crosses the lowest row in its middle, twelve points from the side.
+    EXPECT_LT(picture.pixelColor(11, 255).alpha(), 128);
+    EXPECT_GT(picture.pixelColor(12, 255).alpha(), 128);
 }
 
 } // namespace

@@ -168,7 +168,7 @@ TEST(MarkdownRenderer, KeepsOnlyTheBoxOfAFinishedTaskWithoutText) {
     EXPECT_EQ(rendered(u"- [x] "), Pieces{doneTask(0, u""_s).front()});
 }
 
-TEST(MarkdownRenderer, HalvesTheAlphaOfStrikesInQuotes) {
+TEST(MarkdownRenderer, SetsStrikesInQuotesAtHalfTheAlphaOfOrdinaryText) {
     Pieces expected = quote(u"a "_s);
     expected.push_back({u"b"_s, in(quoteParagraph, struck(body(0.8), 0.5))});
     EXPECT_EQ(rendered(u"> a ~~b~~"), expected);

@@ -55,6 +55,8 @@ const CountCase cases[] = {
     {"NumberOfAnotherScript", u"\u0661. x"_s, 1},
     {"NumberBeyondThePlane", u"\U0001d7ce. x"_s, 1},
     {"NumberWithoutSpace", u"1.x"_s, 1},
+    {"NumberAlone", u"12"_s, 1},
+    {"NumberWithoutPeriod", u"5  x"_s, 2},
     {"BulletBeforeANumber", u"- 1. x"_s, 1},
     {"NumberBeforeABullet", u"1. - x"_s, 2},
     {"Quote", u"> said"_s, 2},

@@ -52,9 +52,5 @@ TEST(ScrollRate, IsNotBuiltFromAnyOtherString) {
     }
 }
 
-TEST(ScrollRate, FastAtFullSpeedMovesTwiceItsFactor) {
-    EXPECT_DOUBLE_EQ(scrollFactor(ScrollRate::fast) * (5.0 / 2.5), 19.2);
-}
-
 } // namespace
 } // namespace tessaline

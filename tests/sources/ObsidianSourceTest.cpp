@@ -149,6 +149,18 @@ TEST_F(ObsidianSourceTest, TreatsInvalidUtf8AsAMissingFile) {
     EXPECT_THAT(delivered, ElementsAre(waitingText, u"B"_s));
 }
 
+TEST_F(ObsidianSourceTest, SaysNothingAboutAFileThatCannotBeRead) {
+    ::testing::internal::CaptureStdout();
+    ::testing::internal::CaptureStderr();
+    start();
+    putFile(path, "\xFF");
+    poll();
+    placeNotAFile(NotAFile::folder, path);
+    poll();
+    EXPECT_EQ(::testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
+}
+
 class ObsidianSourceReplacedFile : public ObsidianSourceTest,
                                    public ::testing::WithParamInterface<NotAFile> {};
 

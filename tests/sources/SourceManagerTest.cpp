@@ -1,25 +1,13 @@
-#include "sources/SourceManager.h"
+#include "sources/SourceManagerFixture.h"
 
-#include "platform/NotificationCenter.h"
-#include "settings/AppSettings.h"
-#include "sources/ClipboardSource.h"
 #include "sources/notes/AppleNotesSource.h"
-#include "support/FakeContentSource.h"
 #include "support/FakeMainQueue.h"
-#include "support/FakePasteboard.h"
 #include "support/FakeProcessRunner.h"
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
-#include "support/PrintQt.h"
-#include "support/RecordingUsageRecorder.h"
 #include "support/TestFiles.h"
 
 #include <QFile>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
-
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
@@ -29,59 +17,7 @@ using ::testing::Pair;
 namespace tessaline {
 namespace {
 
-class SourceManagerTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
-        settings.activeSourceType = SourceType::obsidian;
-    }
-
-    /// Builds the manager and forgets what its construction posted.
-    void build() {
-        auto obsidianSource = std::make_unique<FakeContentSource>();
-        auto clipboardSource = std::make_unique<ClipboardSource>(pasteboard, clipboardPath);
-        obsidian = obsidianSource.get();
-        clipboard = clipboardSource.get();
-        manager =
-            std::make_unique<SourceManager>(settings, recorder, notifications,
-                                            std::move(obsidianSource), std::move(clipboardSource));
-        changes.clear();
-        manager->onContentUpdate = [this](const QString& text) { updates.push_back(text); };
-    }
-
-    void buildWithActive(SourceType type) {
-        settings.activeSourceType = type;
-        settings.enabledSourceTypes.insert(type);
-        build();
-    }
-
-    /// What the settings file names as active now.
-    SourceType savedActiveSource() const { return AppSettings(settingsPath).activeSourceType; }
-
-    QTemporaryDir folder;
-    const QString settingsPath = folder.filePath(u"config.json"_s);
-    const QString clipboardPath = folder.filePath(u"clipboard-content.md"_s);
-    AppSettings settings{settingsPath};
-    RecordingUsageRecorder recorder;
-    NotificationCenter notifications;
-    FakePasteboard pasteboard;
-
-    std::vector<SourceType> changes;
-    std::vector<QString> contents;
-    std::vector<QString> updates;
-    const NotificationCenter::Observation changeObservation =
-        notifications.observe(u"SourceManagerActiveSourceDidChange"_s, [this](const auto& change) {
-            changes.push_back(*change.template value<SourceType>(u"sourceType"_s));
-        });
-    const NotificationCenter::Observation contentObservation =
-        notifications.observe(u"SourceManagerContentDidUpdate"_s, [this](const auto& update) {
-            contents.push_back(*update.template value<QString>(u"content"_s));
-        });
-
-    FakeContentSource* obsidian = nullptr;
-    ClipboardSource* clipboard = nullptr;
-    std::unique_ptr<SourceManager> manager;
-};
+using SourceManagerTest = SourceManagerFixture;
 
 TEST_F(SourceManagerTest, NamesItsNotifications) {
     EXPECT_EQ(SourceManager::activeSourceDidChangeNotification(),
@@ -133,28 +69,6 @@ TEST_F(SourceManagerTest, PostsAsTheSender) {
     manager->setActiveSource(SourceType::clipboard);
     manager->startWatching();
     EXPECT_THAT(senders, ElementsAre(manager.get(), manager.get()));
-}
-
-TEST_F(SourceManagerTest, SwitchesWithoutStartingTheNewSource) {
-    buildWithActive(SourceType::clipboard);
-    manager->startWatching();
-    manager->setActiveSource(SourceType::obsidian);
-    EXPECT_EQ(manager->activeSource(), obsidian);
-    EXPECT_EQ(obsidian->starts, 0);
-    EXPECT_THAT(changes, ElementsAre(SourceType::obsidian));
-    EXPECT_EQ(savedActiveSource(), SourceType::obsidian);
-    clipboard->pasteText(u"not watched any more"_s);
-    EXPECT_THAT(updates, ElementsAre(ClipboardSource::placeholder()));
-}
-
-TEST_F(SourceManagerTest, StopsTheActiveSourceBeforeItPostsTheChange) {
-    build();
-    int stopsAtPost = 0;
-    const auto observation =
-        notifications.observe(SourceManager::activeSourceDidChangeNotification(),
-                              [&](const Notification&) { stopsAtPost = obsidian->stops; });
-    manager->setActiveSource(SourceType::clipboard);
-    EXPECT_EQ(stopsAtPost, 1);
 }
 
 TEST_F(SourceManagerTest, HandsOnEachDeliveredText) {
@@ -211,77 +125,6 @@ TEST_F(SourceManagerTest, DoesNothingWithATextThatArrivesAfterItIsGone) {
     EXPECT_THAT(recorder.contentLoaded, IsEmpty());
 }
 
-TEST_F(SourceManagerTest, OnlyStoresThatASourceWasSwitchedOn) {
-    settings.enabledSourceTypes = {SourceType::clipboard};
-    buildWithActive(SourceType::clipboard);
-    manager->setSourceEnabled(SourceType::obsidian, true);
-    EXPECT_TRUE(settings.enabledSourceTypes.contains(SourceType::obsidian));
-    EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_THAT(changes, IsEmpty());
-}
-
-TEST_F(SourceManagerTest, FallsBackToTheClipboardWhenTheActiveSourceIsSwitchedOff) {
-    build();
-    putFile(clipboardPath, "kept");
-    manager->setSourceEnabled(SourceType::obsidian, false);
-    EXPECT_FALSE(settings.enabledSourceTypes.contains(SourceType::obsidian));
-    EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_EQ(obsidian->stops, 1);
-    EXPECT_THAT(changes, ElementsAre(SourceType::clipboard));
-    EXPECT_THAT(updates, ElementsAre(u"kept"_s));
-}
-
-TEST_F(SourceManagerTest, FallsBackToTheClipboardAlsoWhenThatIsNotEnabled) {
-    build();
-    settings.enabledSourceTypes = {SourceType::obsidian};
-    manager->setSourceEnabled(SourceType::obsidian, false);
-    EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_THAT(changes, ElementsAre(SourceType::clipboard));
-}
-
-TEST_F(SourceManagerTest, RestartsTheClipboardWhenItIsSwitchedOffWhileActive) {
-    buildWithActive(SourceType::clipboard);
-    manager->setSourceEnabled(SourceType::clipboard, false);
-    EXPECT_TRUE(settings.enabledSourceTypes.contains(SourceType::clipboard));
-    EXPECT_THAT(changes, ElementsAre(SourceType::clipboard));
-    EXPECT_THAT(updates, ElementsAre(ClipboardSource::placeholder()));
-}
-
-TEST_F(SourceManagerTest, KeepsTheActiveSourceWhenAnotherIsSwitchedOff) {
-    buildWithActive(SourceType::clipboard);
-    manager->setSourceEnabled(SourceType::obsidian, false);
-    EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_THAT(changes, IsEmpty());
-    EXPECT_THAT(updates, IsEmpty());
-}
-
-TEST_F(SourceManagerTest, CyclesThroughTheEnabledSources) {
-    build();
-    manager->cycleSource();
-    EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_THAT(updates, ElementsAre(ClipboardSource::placeholder()));
-    manager->cycleSource();
-    EXPECT_EQ(manager->activeSource(), obsidian);
-    EXPECT_EQ(obsidian->starts, 1);
-    EXPECT_THAT(changes, ElementsAre(SourceType::clipboard, SourceType::obsidian));
-}
-
-TEST_F(SourceManagerTest, DoesNotCycleWithOneEnabledSource) {
-    settings.enabledSourceTypes = {SourceType::clipboard};
-    buildWithActive(SourceType::clipboard);
-    manager->cycleSource();
-    EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_THAT(changes, IsEmpty());
-    EXPECT_THAT(updates, IsEmpty());
-}
-
-TEST_F(SourceManagerTest, CyclesFromASourceThatIsNotOfferedToTheFirstOne) {
-    buildWithActive(SourceType::appleNotes);
-    manager->cycleSource();
-    EXPECT_EQ(manager->activeSource(), obsidian);
-    EXPECT_EQ(obsidian->starts, 1);
-}
-
 TEST_F(SourceManagerTest, HasNoActiveSourceForAppleNotes) {
     buildWithActive(SourceType::appleNotes);
     EXPECT_EQ(manager->activeSource(), nullptr);
@@ -289,14 +132,6 @@ TEST_F(SourceManagerTest, HasNoActiveSourceForAppleNotes) {
     manager->startWatching();
     EXPECT_EQ(obsidian->starts, 0);
     EXPECT_THAT(updates, IsEmpty());
-}
-
-TEST_F(SourceManagerTest, PostsTheChangeToASourceThatDoesNotExist) {
-    build();
-    manager->setActiveSource(SourceType::appleNotes);
-    EXPECT_EQ(obsidian->stops, 1);
-    EXPECT_EQ(manager->activeSource(), nullptr);
-    EXPECT_THAT(changes, ElementsAre(SourceType::appleNotes));
 }
 
 TEST_F(SourceManagerTest, StoresAndClearsTheAppleNotesConfiguration) {
@@ -382,11 +217,15 @@ TEST_F(SourceManagerTest, ChangesNothingAtAPasteWithoutText) {
     buildWithActive(SourceType::clipboard);
     manager->startWatching();
     updates.clear();
+    contents.clear();
+    recorder.contentLoaded.clear();
     manager->pasteFromClipboard();
     pasteboard.text = u""_s;
     manager->pasteFromClipboard();
     manager->pasteText(u""_s);
     EXPECT_THAT(updates, IsEmpty());
+    EXPECT_THAT(contents, IsEmpty());
+    EXPECT_THAT(recorder.contentLoaded, IsEmpty());
     EXPECT_EQ(manager->currentContent(), ClipboardSource::placeholder());
     EXPECT_FALSE(QFile::exists(clipboardPath));
 }

@@ -151,6 +151,21 @@ TEST_F(AlertTest, DrawsAnotherIconForAWarningAndTheGivenOneBeforeBoth) {
     EXPECT_EQ(given.pixelColor(given.rect().center()), QColor(Qt::red));
 }
 
+TEST_F(AlertTest, InformsUnderTheProgramsOwnIconButDoesNotWarnUnderIt) {
+    QPixmap green(48, 48);
+    green.fill(Qt::green);
+    QApplication::setWindowIcon(green);
+    const auto middleOfTheIcon = [this](AlertContent::Style style) {
+        auto* alert = Alert::beginSheet(window, {.messageText = u"a"_s, .style = style});
+        const QImage icon = alert->iconLabel->grab().toImage();
+        QTest::keyClick(alert, Qt::Key_Escape);
+        return icon.pixelColor(icon.rect().center());
+    };
+    EXPECT_EQ(middleOfTheIcon(AlertContent::Style::informational), QColor(Qt::green));
+    EXPECT_NE(middleOfTheIcon(AlertContent::Style::warning), QColor(Qt::green));
+    QApplication::setWindowIcon({});
+}
+
 TEST_F(AlertTest, SpeaksItsTitleAndText) {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(ask());
     ASSERT_TRUE(spoken);

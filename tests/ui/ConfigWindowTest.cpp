@@ -217,6 +217,7 @@ TEST_F(ConfigWindowTest, EveryControlHasARoleAndANameForScreenReaders) {
 TEST_F(ConfigWindowTest, ShowsThatThePermissionIsMissing) {
     shown();
     EXPECT_EQ(dot().color(), SystemPalette::orange);
+    EXPECT_EQ(dot().accessibleName(), u"Not granted"_s);
     EXPECT_TRUE(fixButton().isVisible());
     EXPECT_EQ(fixButton().text(), u"Grant Access"_s);
     EXPECT_EQ(control<QLabel>("accessibilityLabel").text(), u"Accessibility"_s);
@@ -226,6 +227,7 @@ TEST_F(ConfigWindowTest, ShowsThatThePermissionIsGranted) {
     stage.trust.trusted = true;
     shown();
     EXPECT_EQ(dot().color(), SystemPalette::green);
+    EXPECT_EQ(dot().accessibleName(), u"Granted"_s);
     EXPECT_FALSE(fixButton().isVisible());
     EXPECT_EQ(control<QLabel>("accessibilityLabel").text(), u"Accessibility"_s);
 }

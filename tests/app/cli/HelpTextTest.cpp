@@ -35,6 +35,10 @@ TEST_P(HelpOfACommand, ExplainsTheExitStatuses) {
         EXPECT_TRUE(help.contains(status)) << status.data();
 }
 
+TEST_P(HelpOfACommand, TellsWhatItsOptionsDoNot) {
+    EXPECT_TRUE(helpText(*GetParam()).contains(GetParam()->notes));
+}
+
 TEST_P(HelpOfACommand, HasExamples) {
     EXPECT_TRUE(helpText(*GetParam()).contains("\nExamples:\n  tessaline "_L1));
 }
@@ -63,6 +67,14 @@ TEST(HelpText, OfControlNamesEveryActionWithItsExplanation) {
     for (const ControlAction& action : controlActions()) {
         EXPECT_TRUE(help.contains("\n  "_L1 + action.name.toString() + u' '));
         EXPECT_TRUE(help.contains("  "_L1 + action.help.toString() + u'\n'));
+    }
+}
+
+TEST(HelpText, IndentsOptionsWithoutALetterLikeThoseWithOne) {
+    const QString help = helpText(*commandNamed(u"render"));
+    for (const CommandOption& option : commandNamed(u"render")->options) {
+        const QString letter = option.letter ? u"-%1, "_s.arg(QChar(option.letter)) : u"    "_s;
+        EXPECT_TRUE(help.contains("\n  "_L1 + letter + "--"_L1 + option.name.toString()));
     }
 }
 

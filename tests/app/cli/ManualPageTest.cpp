@@ -48,5 +48,35 @@ TEST(ManualPage, NamesEverythingInTheCommandTable) {
     }
 }
 
+TEST(ManualPage, ShowsHowEveryCommandIsCalled) {
+    const QString page = manualPage(u"1.2.3"_s, u"2026-01-02"_s);
+    const QString synopsis =
+        page.section(u"\n.SH SYNOPSIS\n"_s, 1).section(u"\n.SH DESCRIPTION\n"_s, 0, 0);
+    EXPECT_TRUE(synopsis.contains(roffText(programSpec().usage)));
+    for (const CommandSpec& spec : commandSpecs())
+        EXPECT_TRUE(synopsis.contains(roffBold(spec.name) + u' ' + roffText(spec.usage)));
+}
+
+TEST(ManualPage, HasTheProgramsOptionsInASectionOfTheirOwn) {
+    const QString page = manualPage(u"1.2.3"_s, u"2026-01-02"_s);
+    const QString options = page.section(u"\n.SH OPTIONS\n"_s, 1).section(u"\n.SH "_s, 0, 0);
+    for (const CommandOption& option : programSpec().options)
+        EXPECT_TRUE(options.contains(roffBold(u"--"_s + option.name.toString())));
+}
+
+TEST(ManualPage, SetsEveryExampleInAParagraphOfItsOwn) {
+    const QString page = manualPage(u"1.2.3"_s, u"2026-01-02"_s);
+    const auto& sections = commandNamed(u"render")->sections;
+    int following = 0;
+    for (const HelpSection& section : sections) {
+        for (const HelpEntry& entry : section.entries.subspan(1)) {
+            if (!entry.text.isEmpty()) continue;
+            ++following;
+            EXPECT_TRUE(page.contains("\n.PP\n"_L1 + roffBold(entry.term) + u'\n'));
+        }
+    }
+    EXPECT_GT(following, 0);
+}
+
 } // namespace
 } // namespace tessaline

@@ -17,6 +17,27 @@ using namespace Qt::Literals::StringLiterals;
 namespace tessaline {
 namespace {
 
+/// Makes what lies in the folder "theme" the desktop's theme, for as long as this lives.
+class ChosenTheme {
+public:
+    explicit ChosenTheme(const QTemporaryDir& data) {
+        putFile(data.filePath(u"theme/chosen/index.theme"_s),
+                "[Icon Theme]\nName=chosen\nDirectories=48x48/apps\n[48x48/apps]\nSize=48\n");
+        QIcon::setThemeSearchPaths({data.filePath(u"theme"_s)});
+        QIcon::setThemeName(u"chosen"_s);
+    }
+    ~ChosenTheme() {
+        QIcon::setThemeSearchPaths(previousPaths);
+        QIcon::setThemeName(previousTheme);
+    }
+    ChosenTheme(const ChosenTheme&) = delete;
+    ChosenTheme& operator=(const ChosenTheme&) = delete;
+
+private:
+    const QStringList previousPaths = QIcon::themeSearchPaths();
+    const QString previousTheme = QIcon::themeName();
+};
+
 class DesktopFileIconsTest : public ::testing::Test {
 protected:
     /// Creates an entry with this icon; returns the program that it starts.
@@ -70,17 +91,18 @@ TEST_F(DesktopFileIconsTest, ComeFromTheFolderOfPictures) {
 
 TEST_F(DesktopFileIconsTest, ComeFromTheDesktopsThemeFirst) {
     putPicture(u"theme/chosen/48x48/apps/tessaline-test-icon.png"_s, Qt::yellow, 48);
-    putFile(data.filePath(u"theme/chosen/index.theme"_s),
-            "[Icon Theme]\nName=chosen\nDirectories=48x48/apps\n[48x48/apps]\nSize=48\n");
     putPicture(u"pixmaps/tessaline-test-icon.png"_s, Qt::blue);
-    const QStringList previousPaths = QIcon::themeSearchPaths();
-    const QString previousTheme = QIcon::themeName();
-    QIcon::setThemeSearchPaths({data.filePath(u"theme"_s)});
-    QIcon::setThemeName(u"chosen"_s);
+    const ChosenTheme theme(data);
     EXPECT_EQ(colorOf(icons.iconForFile(putApplication(u"tessaline-test-icon"_s))),
               QColor(Qt::yellow));
-    QIcon::setThemeSearchPaths(previousPaths);
-    QIcon::setThemeName(previousTheme);
+}
+
+TEST_F(DesktopFileIconsTest, AreThoseOfTheirKindForOtherFilesThatAreThere) {
+    putPicture(u"theme/chosen/48x48/apps/text-plain.png"_s, Qt::yellow, 48);
+    const ChosenTheme theme(data);
+    putFile(data.filePath(u"note.txt"_s), "text");
+    EXPECT_EQ(colorOf(icons.iconForFile(data.filePath(u"note.txt"_s))), QColor(Qt::yellow));
+    EXPECT_TRUE(icons.iconForFile(data.filePath(u"missing.txt"_s)).isNull());
 }
 
 TEST_F(DesktopFileIconsTest, HaveSeveralSizes) {

@@ -54,6 +54,22 @@ TEST_F(PointerHoldTest, PausesWhileAButtonOfOthersIsDown) {
     EXPECT_TRUE(hold.isWanted(now));
 }
 
+TEST_F(PointerHoldTest, WaitsForAButtonThatWentDownBeforeControl) {
+    hold.foreignButtonChanged(leftButton, true);
+    hold.controlChanged(true);
+    EXPECT_FALSE(hold.isWanted(now));
+    hold.foreignButtonChanged(leftButton, false);
+    EXPECT_TRUE(hold.isWanted(now));
+}
+
+TEST_F(PointerHoldTest, ForgetsTheButtonsOfOthersWithControl) {
+    hold.controlChanged(true);
+    hold.foreignButtonChanged(leftButton, true);
+    hold.controlChanged(false);
+    hold.controlChanged(true);
+    EXPECT_TRUE(hold.isWanted(now));
+}
+
 TEST_F(PointerHoldTest, TakesAButtonToldTwiceForOne) {
     hold.controlChanged(true);
     hold.foreignButtonChanged(leftButton, true);

@@ -1,6 +1,10 @@
 #include "prompter/controls/GlyphOutline.h"
 
+#include <QLineF>
+
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace tessaline {
 namespace {
@@ -38,6 +42,44 @@ TEST_P(GlyphOutlineOf, GrowsWithTheSizeAndStaysWithinIt) {
 INSTANTIATE_TEST_SUITE_P(EveryGlyph, GlyphOutlineOf,
                          ::testing::Values(u"\u2014"_s, u"\u25A1"_s, u"\u2699"_s, u"\u23EF"_s,
                                            u"\U0001F4CB"_s, u"\U0001F4C4"_s));
+
+/// How often the path of these points enters the outline.
+int entries(const QPainterPath& outline, const std::vector<QPointF>& points) {
+    int count = 0;
+    bool wasInside = outline.contains(points.back());
+    for (const QPointF& point : points) {
+        const bool isInside = outline.contains(point);
+        if (isInside && !wasInside) ++count;
+        wasInside = isInside;
+    }
+    return count;
+}
+
+TEST(GlyphOutline, TheGearHasEightTeethAroundAHole) {
+    const QPainterPath gear = *glyphOutline(u"\u2699"_s, 100, QFont::Normal);
+    const double betweenTipsAndRoots = 0.44 * gear.boundingRect().width();
+    std::vector<QPointF> circle;
+    for (int degree = 0; degree < 360; ++degree)
+        circle.push_back(QLineF::fromPolar(betweenTipsAndRoots, degree).p2());
+
+    EXPECT_EQ(entries(gear, circle), 8);
+    EXPECT_FALSE(gear.contains(QPointF()));
+    EXPECT_TRUE(gear.contains(QPointF(25, 0)));
+}
+
+class GlyphOutlineOfASheet : public ::testing::TestWithParam<QString> {};
+
+TEST_P(GlyphOutlineOfASheet, HasTwoLinesOfTextBetweenItsEdges) {
+    const QPainterPath sheet = *glyphOutline(GetParam(), 100, QFont::Normal);
+    std::vector<QPointF> downTheMiddle;
+    for (int y = -60; y < 60; ++y)
+        downTheMiddle.emplace_back(0, y);
+
+    EXPECT_EQ(entries(sheet, downTheMiddle), 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sheets, GlyphOutlineOfASheet,
+                         ::testing::Values(u"\U0001F4CB"_s, u"\U0001F4C4"_s));
 
 TEST(GlyphOutline, ABolderDashIsThicker) {
     const auto medium = glyphOutline(u"\u2014"_s, 14, QFont::Medium);

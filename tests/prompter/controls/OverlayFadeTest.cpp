@@ -108,5 +108,13 @@ TEST_F(OverlayFadeTest, ConcealingEndsAlsoAHold) {
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
+TEST_F(OverlayFadeTest, StaysConcealedWhenItWasAboutToFade) {
+    fade.reveal();
+    fade.conceal();
+    EXPECT_THAT(timers.liveIntervals(), IsEmpty());
+    timers.advance(2.0);
+    EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
+}
+
 } // namespace
 } // namespace tessaline

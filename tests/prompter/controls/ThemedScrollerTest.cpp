@@ -44,6 +44,12 @@ TEST_F(ThemedScrollerTest, StartsHidden) {
     EXPECT_EQ(pixel(4, 20).alpha(), 0);
 }
 
+TEST_F(ThemedScrollerTest, LetsBeSeenWhatLiesBehindIt) {
+    window.setPalette(QPalette(Qt::red));
+    EXPECT_EQ(window.grab().toImage().pixelColor(96, 150),
+              window.grab().toImage().pixelColor(50, 150));
+}
+
 TEST_F(ThemedScrollerTest, FillsTheSlotAndDrawsTheKnobOverIt) {
     scroller.reveal();
 
@@ -74,6 +80,13 @@ TEST_F(ThemedScrollerTest, TheKnobReachesBothEnds) {
     EXPECT_DOUBLE_EQ(scroller.knobRect().center().y(), 104.0);
 }
 
+TEST_F(ThemedScrollerTest, TheKnobIsTheSameWhereverTheRangeBegins) {
+    const QRectF knob = scroller.knobRect();
+    scroller.setRange(-500, 500);
+    scroller.setValue(-500);
+    EXPECT_EQ(scroller.knobRect(), knob);
+}
+
 TEST_F(ThemedScrollerTest, TheKnobStaysLargeEnoughForTheLongestText) {
     scroller.setRange(0, std::numeric_limits<int>::max());
     scroller.setPageStep(std::numeric_limits<int>::max() / 2);
@@ -89,6 +102,8 @@ TEST_F(ThemedScrollerTest, DrawsNothingWhereThereIsNothingToScroll) {
     scroller.setRange(0, 0);
     scroller.reveal();
     EXPECT_EQ(pixel(4, 20).alpha(), 0);
+    scroller.setPageStep(0);
+    EXPECT_EQ(scroller.knobRect(), QRectF(scroller.rect()).adjusted(1, 1, -1, -1));
 }
 
 TEST_F(ThemedScrollerTest, IsSeenWhileTheWheelTurnsAndFadesAfterwards) {

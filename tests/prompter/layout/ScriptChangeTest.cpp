@@ -40,6 +40,7 @@ INSTANTIATE_TEST_SUITE_P(Edits, ScriptChangeOf,
                                          Case{u"a"_s, u"b"_s, 0, 1, 1},
                                          Case{u"a\na"_s, u"a\na\na"_s, 2, 0, 1},
                                          Case{u"a\nb"_s, u"a\n**b**"_s, 1, 1, 1},
+                                         Case{u"a **b** c\nd"_s, u"a **b** c\nX"_s, 1, 1, 1},
                                          Case{u"a\nb\nc\nd"_s, u"a\nX\nc\nY\nd"_s, 1, 2, 3}));
 
 TEST(ScriptChange, MovesOffsetsWithTheTextAroundTheChange) {
@@ -55,6 +56,8 @@ TEST(ScriptChange, MovesOffsetsWithTheTextAroundTheChange) {
     EXPECT_EQ(moved(before.styled.text.size()), after.styled.text.size());
     EXPECT_EQ(moved(before.styled.text.indexOf(u"third"_s)), after.styled.text.indexOf(u"third"_s));
     EXPECT_EQ(moved(before.styled.text.indexOf(u"ond"_s)), 6);
+    EXPECT_EQ(moved(before.styled.text.indexOf(u"d\nthird"_s)),
+              after.styled.text.indexOf(u"third"_s));
 }
 
 } // namespace

@@ -219,6 +219,14 @@ TEST(ScriptLayout, KeepsWhatDidNotChangeMeasured) {
     EXPECT_DOUBLE_EQ(layout.height(), layoutOf(u"one\ntwo, but longer\nthree\nfour"_s).height());
 }
 
+TEST(ScriptLayout, KeepsTheRestMeasuredWhenAParagraphGoes) {
+    ScriptLayout layout = layoutOf(u"one\n# A tall heading\ntwo\n\nthree"_s);
+    Script shorter = scriptOf(u"one\ntwo\n\nthree"_s);
+    layout.exchangeScript(shorter);
+    EXPECT_TRUE(layout.isMeasured());
+    EXPECT_DOUBLE_EQ(layout.height(), layoutOf(u"one\ntwo\n\nthree"_s).height());
+}
+
 TEST(ScriptLayout, TellsHowFarMeasuringMovedTheReadersPlace) {
     ScriptLayout layout;
     Script script = scriptOf(u"word "_s.repeated(200) + u"\nlast"_s);

@@ -50,6 +50,8 @@ TEST_F(ScriptViewAccessibleTest, BringsTheCaretIntoSight) {
     EXPECT_GT(view.scrollPosition(), 1000);
     text().scrollToSubstring(0, 4);
     EXPECT_EQ(view.scrollPosition(), 0);
+    text().scrollToSubstring(0, text().characterCount());
+    EXPECT_EQ(view.scrollPosition(), 0) << "of a long one, the beginning";
 }
 
 TEST_F(ScriptViewAccessibleTest, FindsCharactersOnScreen) {

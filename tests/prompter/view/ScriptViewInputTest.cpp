@@ -27,6 +27,12 @@ protected:
     void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(&view, Qt::Key(code), modifiers);
     }
+
+    bool uses(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QKeyEvent event(QEvent::KeyPress, code, modifiers);
+        QApplication::sendEvent(&view, &event);
+        return event.isAccepted();
+    }
 };
 
 TEST_F(ScriptViewInputTest, ScrollsWithTheWheel) {
@@ -58,6 +64,15 @@ TEST_F(ScriptViewInputTest, ScrollsWithTheKeys) {
     EXPECT_EQ(view.scrollPosition(), view.maximumScrollPosition());
     key(Qt::Key_Home);
     EXPECT_EQ(view.scrollPosition(), 0);
+}
+
+TEST_F(ScriptViewInputTest, LeavesTheKeysThatItHasNoUseForToTheWindow) {
+    show(lines(100));
+    EXPECT_TRUE(uses(Qt::Key_Down));
+    EXPECT_TRUE(uses(Qt::Key_A, Qt::ControlModifier));
+    EXPECT_TRUE(uses(Qt::Key_C, Qt::ControlModifier));
+    EXPECT_FALSE(uses(Qt::Key_X));
+    EXPECT_FALSE(uses(Qt::Key_X, Qt::ControlModifier));
 }
 
 TEST_F(ScriptViewInputTest, SelectsByDragging) {

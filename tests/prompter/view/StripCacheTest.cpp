@@ -15,8 +15,10 @@ constexpr int rows = StripCache::rowsPerStrip;
 /// A cache over a column whose row n has the blue value n modulo 251, and what it drew.
 struct Column {
     std::vector<double> drawnTops;
+    std::vector<double> drawnHeights;
     StripCache strips{[this](QPainter& painter, double top, double bottom) {
         drawnTops.push_back(top);
+        drawnHeights.push_back(bottom - top);
         for (double y = top; y < bottom; ++y)
             painter.fillRect(QRectF(0, y, 10, 1), QColor(0, 0, int(y) % 251));
     }};
@@ -81,6 +83,7 @@ TEST(StripCache, DrawsInDevicePixels) {
     EXPECT_EQ(column.blueOf(21), 10);
     EXPECT_EQ(column.blueOf(2 * rows), rows);
     EXPECT_EQ(column.drawnTops, (std::vector<double>{0, double(rows)}));
+    EXPECT_EQ(column.drawnHeights, (std::vector<double>{rows / 2.0, rows / 2.0}));
 }
 
 } // namespace

@@ -36,6 +36,7 @@ constexpr Conversion conversions[] = {
     {"TwoStyles", u"a<style>1</style>b<style>2</style>c", u"abc"},
     {"StyleAfterOneThatIsNotClosed", u"<style>1\n<style>2</style>3", u"1\n3"},
     {"StyleTagOnSeveralLines", u"<style\ntype=\"a\">1</style>2", u"2"},
+    {"StyleTagEndingOnALineOfItsOwn", u"<style\n>1</style>2", u"2"},
     {"LineBreaks", u"a<br>b<br/>c<br />d", u"a\nb\nc\nd"},
     {"ParagraphsAndDivisions", u"<p>a</p><div>b</div><div>c</div>", u"a\n\nb\nc"},
     {"Headings", u"<h1>a</h1><h2>b</h2><h3 id=\"c\">c</h3><h4>d</h4>", u"# a\n## b\n### c\nd"},

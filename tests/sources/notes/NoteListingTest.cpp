@@ -39,6 +39,7 @@ TEST(NoteListing, DropsWhatFollowsATabInAName) {
 TEST(NoteListing, KeepsANoteWithoutAName) {
     EXPECT_THAT(parseNoteListing(u"a\t\nb\tSecond"),
                 ElementsAre(Note{u"a"_s, u""_s}, Note{u"b"_s, u"Second"_s}));
+    EXPECT_THAT(parseNoteListing(u"a\t\tor not"), ElementsAre(Note{u"a"_s, u""_s}));
 }
 
 TEST(NoteListing, MayBeEmpty) {

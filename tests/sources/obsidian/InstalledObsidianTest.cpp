@@ -53,5 +53,18 @@ TEST_F(InstalledObsidianTest, HasNoPluginWithoutAVault) {
     EXPECT_FALSE(obsidian.isPluginEnabled());
 }
 
+TEST_F(InstalledObsidianTest, SaysNothingAboutFilesThatCannotBeRead) {
+    putFile(home.communityList(), "not JSON");
+    ::testing::internal::CaptureStdout();
+    ::testing::internal::CaptureStderr();
+    EXPECT_FALSE(obsidian.isPluginEnabled());
+    home.putRegistry("not JSON");
+    EXPECT_EQ(obsidian.findObsidianVault(), std::nullopt);
+    EXPECT_FALSE(obsidian.isPluginInstalled());
+    EXPECT_FALSE(obsidian.isPluginEnabled());
+    EXPECT_EQ(::testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
+}
+
 } // namespace
 } // namespace tessaline

@@ -263,6 +263,18 @@ TEST_F(DisplaySettings, ChoosingADisplayStoresItsNumberAndRecordsItsPlace) {
     EXPECT_EQ(stage.recorder.events[0].properties[u"screen_index"_s], u"2"_s);
 }
 
+TEST_F(DisplaySettings, AChosenDisplayIsSavedThenAnnouncedThenRecorded) {
+    useScreenManager();
+    std::optional<std::uint32_t> savedDisplay;
+    window().onSettingsChanged = [&] {
+        savedDisplay = AppSettings(stage.configPath).preferredDisplayID;
+        EXPECT_TRUE(stage.recorder.events.empty());
+    };
+    choose("config_screenPopup", 1);
+    EXPECT_EQ(savedDisplay, 7u);
+    EXPECT_EQ(stage.recorder.events.size(), 1u);
+}
+
 TEST_F(DisplaySettings, ChoosingTheAutomaticDisplayClearsThePreferredOne) {
     stage.settings.preferredDisplayID = 7;
     screenManager.preferredDisplayID = 7;

@@ -169,6 +169,15 @@ TEST_F(IntegrationSettings, SwitchingOffUninstallsNothing) {
     QTest::mouseClick(&obsidianToggle(), Qt::LeftButton);
     EXPECT_TRUE(stage.obsidian.pluginInstalled);
     EXPECT_EQ(stage.obsidian.installations, 0);
+    EXPECT_FALSE(sheet());
+}
+
+TEST_F(IntegrationSettings, SwitchingAnInactiveSourceOffNamesTheActiveOneToo) {
+    enableObsidian();
+    useSourceManager();
+    stage.installObsidian(true, true);
+    QTest::mouseClick(&obsidianToggle(), Qt::LeftButton);
+    EXPECT_THAT(sources, ElementsAre(SourceType::clipboard));
 }
 
 TEST_F(IntegrationSettings, ReinstallingReportsSuccessWithTheApplicationsIcon) {
@@ -199,7 +208,7 @@ TEST_F(IntegrationSettings, ReinstallingReportsFailureWithTheReason) {
     ASSERT_TRUE(sheet());
     EXPECT_EQ(sheet()->messageLabel->text(), u"Installation Failed"_s);
     EXPECT_EQ(sheet()->informativeLabel->text(), u"No space left"_s);
-    EXPECT_NE(sheet()->iconLabel->grab().toImage().pixelColor(24, 24), QColor(Qt::red));
+    EXPECT_TRUE(isWarning(window(), *sheet()));
     EXPECT_EQ(stage.recorder.events[0].properties[u"success"_s], u"false"_s);
     EXPECT_EQ(status().text(), u"Plugin not found"_s);
     QTest::keyClick(sheet(), Qt::Key_Escape);

@@ -1,3 +1,4 @@
+#include "sources/notes/AppleNotesSource.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/SpokenControls.h"
@@ -108,6 +109,16 @@ TEST_P(SourceRows, ShowTheNoteForAppleNotesOnlyAndNeverTheFile) {
 
 INSTANTIATE_TEST_SUITE_P(Sources, SourceRows, testing::ValuesIn(allSourceTypes));
 
+TEST_F(SourceSettings, HideTheNoteOnceAnotherSourceIsChosen) {
+    useNotes();
+    shown();
+    ASSERT_TRUE(control<QWidget>("noteConfig").isVisible());
+    choose("config_sourcePopup", 0);
+    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_FALSE(control<QWidget>("noteConfig").isVisible());
+    EXPECT_FALSE(control<QWidget>("sourceConfigContainer").isVisible());
+}
+
 TEST_F(SourceSettings, TheFileRowIsInert) {
     stage.settings.notePath = u"/home/someone/script.md"_s;
     EXPECT_EQ(control<TruncatingLabel>("filePathField").text(), u"/home/someone/script.md"_s);
@@ -156,6 +167,17 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
     EXPECT_EQ(noteName(), u"Zebra"_s);
 }
 
+TEST_F(SourceSettings, GiveThePickedNoteToTheSourceThatReadsIt) {
+    useSourceManager();
+    auto source = std::make_unique<AppleNotesSource>(stage.mainQueue, stage.tasks, stage.timers,
+                                                     stage.processes);
+    const AppleNotesSource& reader = *source;
+    sourceManager->registerSource(SourceType::appleNotes, std::move(source));
+    useNotes();
+    QTest::keyClick(pick(Notes{{u"1"_s, u"Ant"_s}}), Qt::Key_Return);
+    EXPECT_EQ(reader.configuration, (AppleNotesConfiguration{u"1"_s, u"Ant"_s}));
+}
+
 TEST_F(SourceSettings, PickingANoteNeedsNoManager) {
     useNotes();
     QTest::keyClick(pick(Notes{{u"1"_s, u"Ant"_s}}), Qt::Key_Return);
@@ -189,6 +211,7 @@ TEST_F(SourceSettings, SayThatThereAreNoNotes) {
     EXPECT_EQ(alert->messageLabel->text(), u"No Notes Found"_s);
     EXPECT_EQ(alert->informativeLabel->text(), u"You don't have any notes in Apple Notes yet."_s);
     EXPECT_EQ(alert->buttons.size(), 1u);
+    EXPECT_FALSE(isWarning(window(), *alert));
     EXPECT_FALSE(window().findChild<PopupButton*>(u"notePopup"_s));
 }
 
@@ -204,8 +227,7 @@ TEST_F(SourceSettings, TellAnyOtherFailure) {
     ASSERT_TRUE(alert);
     EXPECT_EQ(alert->messageLabel->text(), u"Error"_s);
     EXPECT_EQ(alert->informativeLabel->text(), u"Script error: timed out"_s);
-    const Alert* warning = Alert::beginSheet(window(), {.style = AlertContent::Style::warning});
-    EXPECT_EQ(alert->iconLabel->grab().toImage(), warning->iconLabel->grab().toImage());
+    EXPECT_TRUE(isWarning(window(), *alert));
     EXPECT_EQ(stage.notes.preferencesOpened, 0);
 }
 

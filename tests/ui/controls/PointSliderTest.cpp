@@ -1,7 +1,9 @@
 #include "ui/controls/PointSlider.h"
 
+#include "appearance/SystemPalette.h"
 #include "support/PointerEvents.h"
 #include "support/PrintQt.h"
+#include "support/WidgetPicture.h"
 
 #include <QAccessible>
 #include <QTest>
@@ -51,6 +53,15 @@ TEST_F(PointSliderTest, MayHaveNoRange) {
     mouseDown(slider, QPoint(200, 10));
     mouseUp(slider, QPoint(200, 10));
     EXPECT_EQ(slider.points(), 0);
+}
+
+TEST_F(PointSliderTest, TellsByColourHowFarItIs) {
+    slider.setPoints(590);
+    const QImage picture = pictureOf(slider);
+    const int middle = slider.height() / 2;
+    EXPECT_EQ(picture.pixelColor(6, middle), SystemPalette::blue);
+    EXPECT_EQ(picture.pixelColor(130, middle), SystemPalette::white);
+    EXPECT_EQ(picture.pixelColor(254, middle), SystemPalette::track);
 }
 
 TEST_F(PointSliderTest, MovesByOnePointWithTheArrows) {

@@ -43,6 +43,7 @@ TEST(PopupButton, IgnoresTheWheelUnlessItHasTheFocus) {
     button.addItems({u"Slow"_s, u"Fast"_s});
     wheelDown(button);
     EXPECT_EQ(button.currentIndex(), 0);
+    EXPECT_NE(button.focusPolicy(), Qt::WheelFocus) << "the wheel would bring the focus along";
 }
 
 TEST(PopupButton, ItsListIsDarkAndAsWideAsItsTitles) {
@@ -52,6 +53,8 @@ TEST(PopupButton, ItsListIsDarkAndAsWideAsItsTitles) {
     button.showPopup();
     EXPECT_GT(button.view()->width(), 200);
     EXPECT_EQ(button.view()->palette().color(QPalette::Base), SystemPalette::controlBackground);
+    EXPECT_EQ(button.view()->window()->palette().color(QPalette::Window),
+              SystemPalette::windowBackground);
     button.hidePopup();
 }
 

@@ -2,7 +2,9 @@
 
 #include "appearance/SystemPalette.h"
 #include "support/PrintQt.h"
+#include "support/WidgetPicture.h"
 
+#include <QAbstractAnimation>
 #include <QAccessible>
 #include <QTest>
 
@@ -27,6 +29,17 @@ TEST(Switch, IsACheckBoxWithItsStateForScreenReaders) {
     EXPECT_TRUE(spoken->state().checked);
     spoken->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     EXPECT_FALSE(control.isChecked());
+}
+
+TEST(Switch, IsDrawnWithoutADarkRim) {
+    Switch control(u"Obsidian"_s);
+    control.resize(control.sizeHint());
+    const QImage picture = pictureOf(control, 4);
+    EXPECT_FALSE(inkOf(picture).isEmpty());
+    EXPECT_TRUE(boundsOf(picture, [&](int x, int y) {
+                    const QColor color = picture.pixelColor(x, y);
+                    return color.alpha() == 255 && color.lightness() < 60;
+                }).isEmpty());
 }
 
 TEST(Switch, SwitchesOnAClickAnywhereAndOnSpace) {
@@ -101,6 +114,22 @@ TEST(Switch, SlidesToTheNewStateWhileItIsSeen) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&control));
     control.setChecked(true);
     EXPECT_TRUE(QTest::qWaitFor([&control] { return knobPlace(control) > 0.6; }, 3000));
+}
+
+TEST(Switch, SlidesToWhereItWouldBeWithoutSliding) {
+    Switch control(u"Obsidian"_s);
+    control.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&control));
+    Switch unseen(u"Obsidian"_s);
+    unseen.resize(control.size());
+    for (const bool on : {true, false}) {
+        control.setChecked(on);
+        unseen.setChecked(on);
+        auto* slide = control.findChild<QAbstractAnimation*>();
+        ASSERT_TRUE(slide);
+        slide->setCurrentTime(slide->totalDuration());
+        EXPECT_DOUBLE_EQ(knobPlace(control), knobPlace(unseen));
+    }
 }
 
 TEST(Switch, LooksFaintWhenItCannotBeUsed) {

@@ -3,6 +3,8 @@
 #include "support/PrintQt.h"
 #include "support/WidgetPicture.h"
 
+#include <QAccessible>
+
 #include <gtest/gtest.h>
 
 namespace tessaline {
@@ -16,6 +18,9 @@ TEST(TruncatingLabel, KeepsTheWholeTextForScreenReadersAndTheToolTip) {
     EXPECT_EQ(label.text(), u"A <b>note</b> with a long name"_s);
     EXPECT_EQ(label.toolTip(), u"A &lt;b&gt;note&lt;/b&gt; with a long name"_s);
     EXPECT_EQ(label.width(), 60);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&label);
+    ASSERT_TRUE(spoken);
+    EXPECT_EQ(spoken->text(QAccessible::Name), u"A <b>note</b> with a long name"_s);
 }
 
 TEST(TruncatingLabel, NeedsNoToolTipForATextThatFits) {

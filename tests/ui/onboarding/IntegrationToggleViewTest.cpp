@@ -50,6 +50,8 @@ TEST(IntegrationToggleView, ShowsTheImageInPlaceOfTheEmoji) {
     view.setupUI(true, {}, QIcon(picture));
     EXPECT_FALSE(view.iconLabel);
     ASSERT_TRUE(view.iconImageView);
+    EXPECT_TRUE(view.isAncestorOf(view.titleLabel));
+    EXPECT_TRUE(view.isAncestorOf(view.statusLabel));
     EXPECT_EQ(view.iconImageView->size(), QSize(24, 24));
     // Filled to the edges although the picture is smaller.
     const QImage drawn = view.iconImageView->grab().toImage();

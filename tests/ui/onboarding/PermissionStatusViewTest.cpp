@@ -19,6 +19,7 @@ TEST(PermissionStatusView, OffersTheButtonWhileThePermissionIsMissing) {
     const PermissionStatusView view(u"Title"_s, u"What for"_s, false);
     EXPECT_EQ(view.titleLabel->text(), u"Title"_s);
     EXPECT_EQ(view.descriptionLabel->text(), u"What for"_s);
+    EXPECT_TRUE(view.isAncestorOf(view.descriptionLabel));
     EXPECT_EQ(view.statusIndicator->color(), SystemPalette::orange);
     EXPECT_EQ(view.grantButton->text(), u"Grant Access"_s);
     EXPECT_TRUE(view.grantButton->isEnabled());

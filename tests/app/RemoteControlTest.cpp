@@ -1,0 +1,169 @@
+#include "AppDelegateFixture.h"
+#include "app/RemoteCommands.h"
+#include "app/cli/ControlRequest.h"
+#include "prompter/PrompterWindow.h"
+#include "prompter/view/ScriptView.h"
+#include "support/PrintQt.h"
+#include "ui/ConfigWindow.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace tessaline {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+class RemoteControlTest : public AppDelegateFixture {
+protected:
+    /// What the running program answers to `tessaline ctl` with these words.
+    QJsonObject answerTo(const QString& words) {
+        const auto request = ControlRequest::parse(words.split(u' '), &problem);
+        EXPECT_TRUE(request) << problem.toStdString();
+        return RemoteCommands(*delegate).carryOut(RemoteCommands::control(*request));
+    }
+
+    QString textOf(const QString& words) {
+        const QJsonObject answer = answerTo(words);
+        EXPECT_EQ(answer.value(u"ok"_s), QJsonValue(true)) << words.toStdString();
+        return answer.value(u"text"_s).toString();
+    }
+
+    QString errorOf(const QString& words) {
+        const QJsonObject answer = answerTo(words);
+        EXPECT_EQ(answer.value(u"ok"_s), QJsonValue(false)) << words.toStdString();
+        return answer.value(u"error"_s).toString();
+    }
+
+    QJsonObject status() { return QJsonDocument::fromJson(textOf(u"status"_s).toUtf8()).object(); }
+
+    /// Shows a script of a hundred headings with a line below each.
+    void showLongScript() {
+        delegate->openText(u"# heading\nline\n"_s.repeated(100));
+        mainQueue.runAll();
+        prompter()->textView().completeLayout();
+    }
+
+    double position() { return prompter()->textView().scrollPosition(); }
+
+    QString problem;
+};
+
+TEST_F(RemoteControlTest, StartsAndStopsTheText) {
+    launch();
+    EXPECT_EQ(textOf(u"play"_s), u"auto-scroll on"_s);
+    EXPECT_EQ(textOf(u"play"_s), u"auto-scroll on"_s);
+    EXPECT_TRUE(savedSettings().autoScrollEnabled);
+    EXPECT_EQ(textOf(u"pause"_s), u"auto-scroll off"_s);
+    EXPECT_EQ(textOf(u"pause"_s), u"auto-scroll off"_s);
+    EXPECT_FALSE(savedSettings().autoScrollEnabled);
+    EXPECT_EQ(textOf(u"toggle"_s), u"auto-scroll on"_s);
+    EXPECT_EQ(textOf(u"toggle"_s), u"auto-scroll off"_s);
+}
+
+TEST_F(RemoteControlTest, ChangesSpeedAndRate) {
+    launch();
+    EXPECT_EQ(textOf(u"speed 2"_s), u"speed 2"_s);
+    const double speed = delegate->currentSettings().scrollSpeed;
+    textOf(u"faster"_s);
+    EXPECT_GT(delegate->currentSettings().scrollSpeed, speed);
+    textOf(u"slower"_s);
+    textOf(u"slower"_s);
+    EXPECT_LT(delegate->currentSettings().scrollSpeed, speed);
+    EXPECT_EQ(textOf(u"speed 5"_s), u"speed 5"_s);
+    EXPECT_EQ(textOf(u"faster"_s), u"speed 5"_s);
+    EXPECT_EQ(textOf(u"rate fast"_s), u"rate fast"_s);
+    EXPECT_EQ(savedSettings().scrollRate, ScrollRate::fast);
+}
+
+TEST_F(RemoteControlTest, MovesTheText) {
+    launch();
+    showLongScript();
+    const QString answer = textOf(u"down"_s);
+    const double step = position();
+    EXPECT_GT(step, 0);
+    EXPECT_TRUE(answer.startsWith(u"position %1 of "_s.arg(step, 0, 'f', 1)));
+    textOf(u"down"_s);
+    textOf(u"up"_s);
+    EXPECT_DOUBLE_EQ(position(), step);
+    textOf(u"top"_s);
+    EXPECT_EQ(position(), 0);
+    textOf(u"next-heading"_s);
+    const double heading = position();
+    EXPECT_GT(heading, 0);
+    textOf(u"next-heading"_s);
+    EXPECT_GT(position(), heading);
+    textOf(u"previous-heading"_s);
+    EXPECT_DOUBLE_EQ(position(), heading);
+}
+
+TEST_F(RemoteControlTest, ShowsHidesAndFoldsThePrompter) {
+    launch();
+    EXPECT_EQ(textOf(u"hide"_s), u"hidden"_s);
+    EXPECT_FALSE(prompter()->isVisible());
+    EXPECT_EQ(textOf(u"show"_s), u"shown"_s);
+    EXPECT_TRUE(prompter()->isVisible());
+    EXPECT_EQ(textOf(u"minimize"_s), u"minimized"_s);
+    EXPECT_EQ(textOf(u"minimize"_s), u"minimized"_s);
+    EXPECT_TRUE(prompter()->isCollapsed());
+    EXPECT_EQ(textOf(u"expand"_s), u"expanded"_s);
+    EXPECT_EQ(textOf(u"expand"_s), u"expanded"_s);
+    EXPECT_FALSE(prompter()->isCollapsed());
+}
+
+TEST_F(RemoteControlTest, OpensTheSettingsPastesAndEnds) {
+    launch();
+    pasteboard.text = u"# Pasted"_s;
+    EXPECT_EQ(textOf(u"paste"_s), u"pasted"_s);
+    EXPECT_EQ(keptScript(), u"# Pasted"_s);
+    EXPECT_EQ(textOf(u"settings"_s), u"settings shown"_s);
+    ASSERT_TRUE(config());
+    EXPECT_TRUE(config()->isVisible());
+    EXPECT_EQ(textOf(u"quit"_s), u"ending"_s);
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(RemoteControlTest, ChoosesAmongTheEnabledSources) {
+    configure([](AppSettings& settings) {
+        settings.hasCompletedOnboarding = true;
+        settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
+        settings.activeSourceType = SourceType::clipboard;
+    });
+    launch();
+    EXPECT_EQ(textOf(u"source obsidian"_s), u"source obsidian"_s);
+    EXPECT_EQ(savedSettings().activeSourceType, SourceType::obsidian);
+}
+
+TEST_F(RemoteControlTest, RefusesASourceThatIsNotEnabled) {
+    launch();
+    ASSERT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(errorOf(u"source obsidian"_s),
+              u"the source 'obsidian' is not enabled in the settings"_s);
+    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+}
+
+TEST_F(RemoteControlTest, TellsWhatThePrompterShowsAndDoes) {
+    launch();
+    delegate->openText(u"one two three"_s);
+    mainQueue.runAll();
+    const QJsonObject shown = status();
+    EXPECT_EQ(shown.value(u"visible"_s), QJsonValue(true));
+    EXPECT_EQ(shown.value(u"collapsed"_s), QJsonValue(false));
+    EXPECT_EQ(shown.value(u"source"_s), QJsonValue(u"clipboard"_s));
+    EXPECT_EQ(shown.value(u"words"_s), QJsonValue(3));
+    EXPECT_EQ(shown.value(u"autoScroll"_s), QJsonValue(false));
+    EXPECT_FALSE(shown.value(u"version"_s).toString().isEmpty());
+    textOf(u"hide"_s);
+    EXPECT_EQ(status().value(u"visible"_s), QJsonValue(false));
+}
+
+TEST_F(RemoteControlTest, WaitsForTheFirstRunToEndButTellsTheStatus) {
+    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    launch();
+    EXPECT_EQ(errorOf(u"play"_s), u"the first-run window is still open"_s);
+    EXPECT_EQ(status().value(u"visible"_s), QJsonValue(false));
+    EXPECT_EQ(textOf(u"quit"_s), u"ending"_s);
+}
+
+} // namespace
+} // namespace tessaline
