@@ -9,10 +9,22 @@
 
 namespace tessaline {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int titleBarAllowance = 40;
 constexpr int leastRoom = 240;
+
+/// Thin and without arrows, so that it looks the same beside our controls on every desktop.
+const QString barStyle =
+    u"QScrollBar:vertical { background: transparent; width: 10px; }"
+    "QScrollBar::handle:vertical { background: rgba(255, 255, 255, 60);"
+    " border-radius: 3px; margin: 2px; min-height: 24px; }"
+    "QScrollBar::handle:vertical:hover { background: rgba(255, 255, 255, 110); }"
+    "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical"
+    " { background: transparent; }"_s;
 
 } // namespace
 
@@ -22,6 +34,7 @@ FittingScrollArea::FittingScrollArea(QWidget* content, const QSize& leastContent
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->setStyleSheet(barStyle);
     setWidgetResizable(true);
     setWidget(content);
     fit();
