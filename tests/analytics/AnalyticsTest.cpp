@@ -236,6 +236,11 @@ INSTANTIATE_TEST_SUITE_P(
                 u"obsidian_plugin_installed"_s,
                 {{u"success"_s, u"true"_s}},
                 u""_s},
+        Tracked{
+            "AutomationStatus",
+            [](UsageRecorder& to) { to.trackPermissionStatus(PermissionType::automation, true); },
+            u"permission_status"_s,
+            {{u"permission_type"_s, u"automation"_s}, {u"granted"_s, u"true"_s}}},
         Tracked{"PermissionStatus",
                 [](UsageRecorder& to) {
                     to.trackPermissionStatus(PermissionType::accessibility, false);

@@ -14,13 +14,14 @@ namespace {
 
 /// What the test program looked like before comes back afterwards.
 class DarkAppearance : public testing::Test {
-protected:
+public:
     ~DarkAppearance() override {
         QApplication::setStyle(style);
         QApplication::setPalette(palette);
         QToolTip::setPalette(toolTips);
     }
 
+protected:
     const QString style = QApplication::style()->name();
     const QPalette palette = QApplication::palette();
     const QPalette toolTips = QToolTip::palette();

@@ -75,6 +75,7 @@ TEST(DarkPalette, TellsSelectionsAndLinksFromOrdinaryText) {
 TEST(DarkPalette, TakesHintsAndStripesFromTheColoursOfTheLook) {
     const QPalette palette = darkPalette();
     EXPECT_EQ(palette.color(QPalette::PlaceholderText), SystemPalette::secondaryLabel);
+    EXPECT_EQ(palette.color(QPalette::Base), SystemPalette::controlBackground);
     EXPECT_EQ(palette.color(QPalette::AlternateBase), SystemPalette::windowBackground);
 }
 

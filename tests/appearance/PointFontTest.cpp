@@ -54,6 +54,7 @@ TEST(PointFont, TheMonospacedFontGivesEveryLetterTheSameWidth) {
     EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(u"iiii"_s), metrics.horizontalAdvance(u"MMMM"_s));
     EXPECT_NE(QFontInfo(monospacedFont(14.0)).family(), QFontInfo(systemFont(14.0)).family());
     EXPECT_EQ(monospacedFont(14.0).styleHint(), QFont::Monospace) << "where it is missing";
+    EXPECT_TRUE(monospacedFont(14.0).fixedPitch());
 }
 
 TEST(PointFont, TheMonospacedDigitFontIsTheInterfaceFontWithDigitsOfOneWidth) {

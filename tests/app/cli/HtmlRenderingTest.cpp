@@ -50,6 +50,11 @@ TEST(HtmlRendering, IsOnePageInAColumnOfTheWidthOnBlack) {
     EXPECT_THAT(page, HasSubstr("box-sizing: border-box; width: 600px;"));
 }
 
+TEST(HtmlRendering, GivesTheWholePageTheLookOfPlainText) {
+    EXPECT_THAT(pageOf(u""), HasSubstr("\nbody { font: 400 12px system-ui, sans-serif; "
+                                       "color: rgb(82% 71% 55% / 1); }\n"));
+}
+
 TEST(HtmlRendering, NeedsNothingFromElsewhere) {
     const std::string page = pageOf(u"[a](https://example.org/x.png) ![b](c.png) <img src=x>");
     for (const char* reference : {"<img", "<a ", "<link", "<script", "url(", "@import", " src=\""})

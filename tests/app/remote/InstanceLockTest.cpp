@@ -28,6 +28,22 @@ TEST_F(InstanceLockTest, IsHeldByOneAtATime) {
     EXPECT_TRUE(InstanceLock::take(path));
 }
 
+TEST_F(InstanceLockTest, KeepsItsFileFromOtherUsers) {
+    ASSERT_TRUE(InstanceLock::take(path));
+    EXPECT_EQ(QFile::permissions(path),
+              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+}
+
+TEST_F(InstanceLockTest, LeavesNoFileOpenWhereItIsNotHad) {
+    const auto held = InstanceLock::take(path);
+    const int next = ::dup(STDERR_FILENO);
+    ::close(next);
+    EXPECT_FALSE(InstanceLock::take(path));
+    const int nextAfterwards = ::dup(STDERR_FILENO);
+    ::close(nextAfterwards);
+    EXPECT_EQ(nextAfterwards, next);
+}
+
 TEST_F(InstanceLockTest, IsReleasedWhenItsHolderIsKilled) {
     int ready[2];
     ASSERT_EQ(::pipe(ready), 0);

@@ -58,6 +58,7 @@ TEST_F(ScriptViewAccessibleTest, FindsCharactersOnScreen) {
     show(u"alpha beta"_s);
     const QRect first = text().characterRect(0);
     EXPECT_GT(first.height(), 10);
+    EXPECT_GT(first.width(), 4);
     EXPECT_EQ(text().offsetAtPoint(first.center() - QPoint(first.width() / 2, 0)), 0);
     EXPECT_GT(text().characterRect(6).left(), first.right());
     EXPECT_TRUE(text().characterRect(-1).isNull());
