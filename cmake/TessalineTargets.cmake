@@ -29,6 +29,12 @@ function(tessaline_library name)
     PRIVATE ${ARG_PRIVATE})
 endfunction()
 
+# tessaline_compile_apart(FILE...) keeps files of this folder out of unity builds: a neighbour has the
+# same name in its unnamed namespace.
+function(tessaline_compile_apart)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 add_custom_target(threaded_tests)
 
 # tessaline_test(NAME SOURCES ... LIBRARIES ... [LABELS ...])
@@ -39,6 +45,8 @@ function(tessaline_test name)
   add_executable(test_${name} ${ARG_SOURCES})
   target_include_directories(test_${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
   target_link_libraries(test_${name} PRIVATE tessaline_options GTest::gmock ${ARG_LIBRARIES})
+  # Tests are compiled more often than they run; what they test is optimised.
+  target_compile_options(test_${name} PRIVATE -O0)
   set(properties TIMEOUT 120)
   if(ARG_LABELS)
     list(APPEND properties LABELS "${ARG_LABELS}")
