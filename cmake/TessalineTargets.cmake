@@ -10,6 +10,10 @@ target_compile_definitions(
 target_compile_options(
   tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                               -Woverloaded-virtual -Wno-missing-field-initializers -Werror)
+# Compiled together, files are included, and gcc takes their unnamed namespaces for a header's.
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(tessaline_options INTERFACE -Wno-subobject-linkage)
+endif()
 if(TESSALINE_SANITIZE)
   target_compile_options(
     tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer
