@@ -56,8 +56,8 @@ void EventHistory::flush() {
     if (!isUpToDate)
         qCCritical(analyticsLog, "Failed to flush analytics: %s", qUtf8Printable(error));
     qCDebug(intervalLog, "flush: end");
-    qCDebug(perfLog, "Flush of %lld bytes took %lld ms",
-            static_cast<long long>(text.size()), static_cast<long long>(time.elapsed()));
+    qCDebug(perfLog, "Flush of %lld bytes took %lld ms", static_cast<long long>(text.size()),
+            static_cast<long long>(time.elapsed()));
 }
 
 void EventHistory::loadFile() {
