@@ -35,6 +35,12 @@ def png_size(data):
     return struct.unpack(">II", data[16:24])
 
 
+def pipe_without_reader():
+    reader, writer = os.pipe()
+    os.close(reader)
+    return os.fdopen(writer, "wb")
+
+
 class Page(html.parser.HTMLParser):
     """The title, the text and the unclosed elements of an HTML page."""
 
@@ -116,6 +122,12 @@ class Information(CommandLineCase):
         with open("/dev/full", "wb") as full:
             self.assert_fails(
                 1, "cannot write standard output: No space left on device", "--help", stdout=full
+            )
+
+    def test_help_that_nobody_reads(self):
+        with pipe_without_reader() as broken:
+            self.assert_fails(
+                1, "cannot write standard output: Broken pipe", "--help", stdout=broken
             )
 
 
@@ -255,12 +267,14 @@ class Png(CommandLineCase):
     def test_too_tall(self):
         out = self.folder / "out.png"
         out.write_bytes(b"before")
-        self.assert_fails(
-            1,
-            "the picture would be taller than 32767 pixels",
-            *["render", "-", "--format=png", "-o", "out.png"],
-            input=b"line\n" * 10000,
-        )
+        for output in ([], ["-o", "out.png"]):
+            with self.subTest(output):
+                self.assert_fails(
+                    1,
+                    "the picture would be taller than 32767 pixels",
+                    *["render", "-", "--format=png", *output],
+                    input=b"line\n" * 10000,
+                )
         self.assertEqual(out.read_bytes(), b"before")
 
 
@@ -279,16 +293,13 @@ class OutputFailures(CommandLineCase):
 
     def test_reader_that_has_gone(self):
         for name in self.FORMATS:
-            with self.subTest(name):
-                reader, writer = os.pipe()
-                os.close(reader)
-                with os.fdopen(writer, "wb") as broken:
-                    self.assert_fails(
-                        1,
-                        "cannot write standard output: Broken pipe",
-                        *["render", "talk.md", "--format", name],
-                        stdout=broken,
-                    )
+            with self.subTest(name), pipe_without_reader() as broken:
+                self.assert_fails(
+                    1,
+                    "cannot write standard output: Broken pipe",
+                    *["render", "talk.md", "--format", name],
+                    stdout=broken,
+                )
 
     def test_closed_standard_output(self):
         for name in self.FORMATS:

@@ -107,6 +107,13 @@ TEST_F(Replacement, KeepsAllFilesThatAreNotItsOwn) {
     EXPECT_EQ(found, kept);
 }
 
+TEST_F(Replacement, KnowsEveryDigitOfItsOwnNames) {
+    putBeside(u"file [1]*.tessaline-01234567"_s, old);
+    putBeside(u"file [1]*.tessaline-89abcdef"_s, old);
+    EXPECT_EQ(replaceFile(path, inOnePiece("new")), QString());
+    EXPECT_EQ(others(), QStringList());
+}
+
 TEST_F(Replacement, KeepsALinkWhateverItsName) {
     const QString outside = putBeside(u"outside"_s, old);
     const QString link = path + u".tessaline-01234567"_s;

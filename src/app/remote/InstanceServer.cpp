@@ -48,7 +48,7 @@ void InstanceServer::acceptAll() {
         // Either may have happened before somebody listened.
         if (socket->state() == QLocalSocket::UnconnectedState) {
             drop(connection);
-        } else if (socket->bytesAvailable() > 0) {
+        } else {
             read(connection);
         }
     }

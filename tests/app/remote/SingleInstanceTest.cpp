@@ -102,6 +102,17 @@ TEST_F(SingleInstanceTest, GivesUpOnOneThatDoesNotAnswer) {
     EXPECT_TRUE(std::holds_alternative<SingleInstance::Silence>(outcome));
 }
 
+TEST_F(SingleInstanceTest, GivesUpOnOneThatIsTooBusyToListen) {
+    const auto lock = InstanceLock::take(address.lockPath());
+    QLocalServer hangs;
+    hangs.setListenBacklogSize(0);
+    ASSERT_TRUE(hangs.listen(address.socketPath()));
+    // Nobody takes the first one out of the queue, so that there is no room for a second one.
+    join(std::chrono::milliseconds(0));
+    const auto outcome = join(std::chrono::milliseconds(60));
+    EXPECT_TRUE(std::holds_alternative<SingleInstance::Silence>(outcome));
+}
+
 TEST_F(SingleInstanceTest, GivesUpOnOneThatAnswersWithGarbage) {
     const auto lock = InstanceLock::take(address.lockPath());
     QLocalServer confused;

@@ -105,7 +105,7 @@ TEST_F(DesktopEntriesTest, AreLeftOutWhenTheirProgramIsGone) {
 TEST_F(DesktopEntriesTest, AreLeftOutWhenTheyCannotBeRead) {
     const QString path = putEntryText(u"system"_s, u"obsidian.desktop"_s, "Exec=/usr/bin/env x");
     putFile(path,
-            "[Desktop Entry]\nType=Application\nExec=/usr/bin/env\n#" + QByteArray(2 << 20, 'x'));
+            "[Desktop Entry]\nType=Application\nExec=/usr/bin/env\n#" + QByteArray(1 << 20, 'x'));
     EXPECT_EQ(pathsOf(u"md.obsidian"_s), QStringList());
 }
 

@@ -291,5 +291,12 @@ TEST(ScriptLayout, ForgetsMeasuresWhenTheColumnChanges) {
     EXPECT_GT(layout.height(), 2 * wide);
 }
 
+TEST(ScriptLayout, BreaksTheLinesAnewThatItHasDrawn) {
+    ScriptLayout layout = layoutOf(u"word "_s.repeated(100));
+    const double wide = layout.caretRect(400).top();
+    layout.setTextWidth(100);
+    EXPECT_GT(layout.caretRect(400).top(), 2 * wide);
+}
+
 } // namespace
 } // namespace tessaline
