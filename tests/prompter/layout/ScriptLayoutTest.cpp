@@ -36,14 +36,20 @@ double lineHeight() {
     return layoutOf(u"x"_s).height();
 }
 
-/// The leftmost and rightmost columns with anything drawn, for a script in a column of 400 points.
-std::pair<int, int> inkOf(const QString& markdown) {
-    ScriptLayout layout = layoutOf(markdown);
+/// All of a script over black, 400 points wide.
+QImage pictureOf(ScriptLayout& layout) {
     QImage image(400, int(layout.height()), QImage::Format_RGB32);
     image.fill(Qt::black);
     QPainter painter(&image);
     layout.draw(painter, 0, layout.height(), {});
     painter.end();
+    return image;
+}
+
+/// The leftmost and rightmost columns with anything drawn, for a script in a column of 400 points.
+std::pair<int, int> inkOf(const QString& markdown) {
+    ScriptLayout layout = layoutOf(markdown);
+    const QImage image = pictureOf(layout);
     std::pair<int, int> ink{image.width(), -1};
     for (int x = 0; x < image.width(); ++x) {
         for (int y = 0; y < image.height(); ++y) {
@@ -171,11 +177,7 @@ TEST(ScriptLayout, PutsSpacingAboveAndBelow) {
 /// How bright it is over black beside the first letter, an x, at the top of its line.
 int groundOf(const QString& markdown) {
     ScriptLayout layout = layoutOf(markdown);
-    QImage image(400, int(layout.height()), QImage::Format_RGB32);
-    image.fill(Qt::black);
-    QPainter painter(&image);
-    layout.draw(painter, 0, layout.height(), {});
-    painter.end();
+    const QImage image = pictureOf(layout);
     return qGray(image.pixel(layout.caretRect(0).topLeft().toPoint() + QPoint(2, 2)));
 }
 
