@@ -39,6 +39,28 @@ private:
     qsizetype read = 0;
 };
 
+/// Where the next `wanted` lies at or after a position; remembers it, so that asking for rising
+/// positions costs one pass over the text.
+class Finder {
+public:
+    Finder(QStringView searched, char16_t wantedCharacter)
+        : text(searched), wanted(wantedCharacter) {}
+
+    /// The text's length if there is none.
+    qsizetype next(qsizetype position) {
+        if (found < position) {
+            found = text.indexOf(wanted, position);
+            if (found < 0) found = text.size();
+        }
+        return found;
+    }
+
+private:
+    QStringView text;
+    char16_t wanted;
+    qsizetype found = -1;
+};
+
 constexpr qsizetype stretch = 32;
 
 /// Whether one of the next `stretch` characters ends a line. The loop has a fixed length and no
@@ -87,6 +109,25 @@ void dropPrefixes(std::u16string& text, Matcher match) {
     compactor.finish();
 }
 
+/// The same for prefixes that begin with one character, which is quicker to look for than line
+/// starts.
+template <typename Matcher>
+void dropPrefixesOf(char16_t first, std::u16string& text, Matcher match) {
+    Compactor compactor(text);
+    const QStringView original = compactor.original();
+    Finder candidates(original, first);
+    for (qsizetype start = candidates.next(0); start < original.size();) {
+        const Prefix prefix =
+            isLineStart(original, start) ? match(original, start) : Prefix{false, start};
+        if (prefix.found) {
+            compactor.keepUntil(start);
+            compactor.dropUntil(prefix.end);
+        }
+        start = candidates.next(std::max(prefix.end, start + 1));
+    }
+    compactor.finish();
+}
+
 Prefix matchHeader(QStringView text, qsizetype start) {
     qsizetype end = start;
     while (end < text.size() && end - start < 6 && text[end] == u'#')
@@ -125,28 +166,6 @@ Prefix matchRule(QStringView text, qsizetype start) {
 void dropEmphasisAndCodeMarkers(std::u16string& text) {
     std::erase_if(text, [](char16_t c) { return c == u'*' || c == u'_' || c == u'`'; });
 }
-
-/// Where the next `wanted` lies at or after a position; remembers it, so that asking for rising
-/// positions costs one pass over the text.
-class Finder {
-public:
-    Finder(QStringView searched, char16_t wantedCharacter)
-        : text(searched), wanted(wantedCharacter) {}
-
-    /// The text's length if there is none.
-    qsizetype next(qsizetype position) {
-        if (found < position) {
-            found = text.indexOf(wanted, position);
-            if (found < 0) found = text.size();
-        }
-        return found;
-    }
-
-private:
-    QStringView text;
-    char16_t wanted;
-    qsizetype found = -1;
-};
 
 /// The parts of `[label](target)`.
 struct Link {
@@ -234,13 +253,13 @@ qsizetype countWords(QStringView markdown) {
     // The order is part of the result: a link is unwrapped before images are looked for, so that an
     // image with a description counts as a word, and only rules of hyphens are left to be dropped
     // because the other markers are gone by then. So are the fences of code.
-    dropPrefixes(text, matchHeader);
+    dropPrefixesOf(u'#', text, matchHeader);
     dropEmphasisAndCodeMarkers(text);
     unwrapLinks(text);
     dropImages(text);
     dropPrefixes(text, matchBullet);
     dropPrefixes(text, matchNumber);
-    dropPrefixes(text, matchRule);
+    dropPrefixesOf(u'-', text, matchRule);
     return countPieces(text);
 }
 
