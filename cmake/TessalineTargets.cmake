@@ -41,16 +41,19 @@ endfunction()
 
 add_custom_target(threaded_tests)
 
-# tessaline_test(NAME SOURCES ... LIBRARIES ... [LABELS ...])
+# tessaline_test(NAME [OPTIMISED] SOURCES ... LIBRARIES ... [LABELS ...])
 # declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. The target
 # threaded_tests builds all those with the label "threads".
+# Tests are compiled more often than they run, so only what they test is optimised, unless they
+# compute much themselves: OPTIMISED.
 function(tessaline_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "OPTIMISED" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   add_executable(test_${name} ${ARG_SOURCES})
   target_include_directories(test_${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
   target_link_libraries(test_${name} PRIVATE tessaline_options GTest::gmock ${ARG_LIBRARIES})
-  # Tests are compiled more often than they run; what they test is optimised.
-  target_compile_options(test_${name} PRIVATE -O0)
+  if(NOT ARG_OPTIMISED)
+    target_compile_options(test_${name} PRIVATE -O0)
+  endif()
   set(properties TIMEOUT 120)
   if(ARG_LABELS)
     list(APPEND properties LABELS "${ARG_LABELS}")
