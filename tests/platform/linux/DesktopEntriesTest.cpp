@@ -14,7 +14,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 namespace tessaline {
 namespace {
@@ -23,8 +22,7 @@ class DesktopEntriesTest : public ::testing::Test {
 protected:
     /// Creates an entry in one of the data folders, and the program that it starts.
     QString putEntry(const QString& dataFolder, const QString& name) const {
-        const QString program =
-            folder.filePath("bin/"_L1 + dataFolder + u'-' + name + ".program"_L1);
+        QString program = folder.filePath("bin/"_L1 + dataFolder + u'-' + name + ".program"_L1);
         QDir().mkpath(folder.filePath(u"bin"_s));
         putFile(program, "");
         QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
@@ -34,7 +32,7 @@ protected:
 
     QString putEntryText(const QString& dataFolder, const QString& name,
                          const QByteArray& lines) const {
-        const QString path = folder.filePath(dataFolder + "/applications/"_L1 + name);
+        QString path = folder.filePath(dataFolder + "/applications/"_L1 + name);
         QDir().mkpath(QFileInfo(path).path());
         putFile(path, "[Desktop Entry]\nType=Application\n" + lines + '\n');
         return path;
