@@ -10,16 +10,33 @@ target_compile_definitions(
 target_compile_options(
   tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                               -Woverloaded-virtual -Wno-missing-field-initializers -Werror)
-# Compiled together, files are included, and gcc takes their unnamed namespaces for a header's.
-if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  target_compile_options(tessaline_options INTERFACE -Wno-subobject-linkage)
-endif()
 if(TESSALINE_SANITIZE)
   target_compile_options(
     tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer
                                 -fno-sanitize-recover=all)
   target_link_options(tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE})
 endif()
+
+# Compiling is mostly the reading of headers: those of Qt and of the standard library are read once for
+# the program, and with those of the test frameworks once for tests of logic and once for tests of
+# widgets.
+# tessaline_precompiled(NAME HEADER [LIBRARIES ...] [HEADERS_OF ...])
+# HEADERS_OF are libraries that not everybody links: their headers may be read, their definitions stay
+# away, as the compiler takes only what was read under the definitions of the source at hand.
+function(tessaline_precompiled name header)
+  cmake_parse_arguments(ARG "" "" "LIBRARIES;HEADERS_OF" ${ARGN})
+  set(folder "${CMAKE_SOURCE_DIR}/cmake/precompiled")
+  add_library(tessaline_precompiled_${name} OBJECT "${folder}/Empty.cpp")
+  target_precompile_headers(tessaline_precompiled_${name} PRIVATE "${folder}/${header}")
+  target_link_libraries(tessaline_precompiled_${name} PRIVATE tessaline_options Qt6::Core ${ARG_LIBRARIES})
+  foreach(library IN LISTS ARG_HEADERS_OF)
+    target_include_directories(
+      tessaline_precompiled_${name} SYSTEM
+      PRIVATE "$<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>")
+  endforeach()
+endfunction()
+
+tessaline_precompiled(program Program.h HEADERS_OF Qt6::Gui Qt6::Widgets)
 
 # tessaline_library(NAME SOURCES ... [PUBLIC ...] [PRIVATE ...])
 # declares the static library tessaline_NAME, known to others as tessaline::NAME.
@@ -31,15 +48,26 @@ function(tessaline_library name)
     tessaline_${name}
     PUBLIC tessaline_options ${ARG_PUBLIC}
     PRIVATE ${ARG_PRIVATE})
-endfunction()
-
-# tessaline_compile_apart(FILE...) keeps files of this folder out of unity builds: a neighbour has the
-# same name in its unnamed namespace.
-function(tessaline_compile_apart)
-  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  target_precompile_headers(tessaline_${name} REUSE_FROM tessaline_precompiled_program)
 endfunction()
 
 add_custom_target(threaded_tests)
+
+if(TESSALINE_BUILD_TESTS)
+  find_package(GTest REQUIRED)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  # Qt Test defines each test's folder for each source, which nothing here asks for and which no
+  # precompiled header could share.
+  add_library(tessaline_qt_test INTERFACE)
+  target_link_libraries(tessaline_qt_test INTERFACE Qt6::Widgets "$<LINK_ONLY:Qt6::Test>")
+  target_include_directories(
+    tessaline_qt_test SYSTEM INTERFACE "$<TARGET_PROPERTY:Qt6::Test,INTERFACE_INCLUDE_DIRECTORIES>")
+
+  tessaline_precompiled(tests Tests.h LIBRARIES GTest::gmock)
+  tessaline_precompiled(widget_tests WidgetTests.h LIBRARIES GTest::gmock tessaline_qt_test)
+  target_compile_options(tessaline_precompiled_tests PRIVATE -O0)
+  target_compile_options(tessaline_precompiled_widget_tests PRIVATE -O0)
+endif()
 
 # tessaline_test(NAME [OPTIMISED] SOURCES ... LIBRARIES ... [LABELS ...])
 # declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. The target
@@ -53,6 +81,11 @@ function(tessaline_test name)
   target_link_libraries(test_${name} PRIVATE tessaline_options GTest::gmock ${ARG_LIBRARIES})
   if(NOT ARG_OPTIMISED)
     target_compile_options(test_${name} PRIVATE -O0)
+    set(precompiled tests)
+    if("tessaline::widget_test_support" IN_LIST ARG_LIBRARIES)
+      set(precompiled widget_tests)
+    endif()
+    target_precompile_headers(test_${name} REUSE_FROM tessaline_precompiled_${precompiled})
   endif()
   set(properties TIMEOUT 120)
   if(ARG_LABELS)

@@ -1,0 +1,1 @@
+// A library needs a source; these libraries are only there for their precompiled headers.
