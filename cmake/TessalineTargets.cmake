@@ -95,6 +95,7 @@ function(tessaline_test name)
     test_${name}
     TEST_PREFIX "${name}."
     DISCOVERY_MODE PRE_TEST
+    NO_PRETTY_VALUES
     PROPERTIES ${properties})
   if("threads" IN_LIST ARG_LABELS)
     add_dependencies(threaded_tests test_${name})
