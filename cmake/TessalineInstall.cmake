@@ -22,8 +22,16 @@ function(compressed_document source name)
 endfunction()
 compressed_document("${TESSALINE_DOCUMENTS}/tessaline.1" tessaline.1)
 compressed_document("${CMAKE_SOURCE_DIR}/CHANGELOG.md" changelog)
-add_custom_target(compressed_documents ALL DEPENDS "${generated}/tessaline.1.gz"
-                                                   "${generated}/changelog.gz")
+set(compressed "${generated}/tessaline.1.gz" "${generated}/changelog.gz")
+if(EXISTS "/etc/debian_version")
+  execute_process(
+    COMMAND date --utc --rfc-email "--date=${TESSALINE_RELEASE_DATE}"
+    OUTPUT_VARIABLE release_time OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  configure_file("${linux_resources}/changelog.Debian.in" "${generated}/changelog.Debian.txt" @ONLY)
+  compressed_document("${generated}/changelog.Debian.txt" changelog.Debian)
+  list(APPEND compressed "${generated}/changelog.Debian.gz")
+endif()
+add_custom_target(compressed_documents ALL DEPENDS ${compressed})
 add_dependencies(compressed_documents documents)
 
 # The program finds its resources beside itself in the build folder as well.
@@ -79,6 +87,13 @@ install(FILES "${TESSALINE_DOCUMENTS}/tessaline.fish"
 set(document_folder "${CMAKE_INSTALL_DATADIR}/doc/tessaline")
 install(FILES "${linux_resources}/copyright" "${generated}/changelog.gz"
               "${CMAKE_SOURCE_DIR}/docs/shortcuts.md" DESTINATION "${document_folder}")
+if(EXISTS "/etc/debian_version")
+  install(FILES "${generated}/changelog.Debian.gz" DESTINATION "${document_folder}")
+  install(
+    FILES "${linux_resources}/lintian-overrides"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
+    RENAME tessaline)
+endif()
 install(
   FILES "${linux_resources}/autostart.desktop"
   DESTINATION "${document_folder}/examples"

@@ -17,6 +17,15 @@ if(TESSALINE_SANITIZE)
   target_link_options(tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE})
 endif()
 
+# What distributions ask of a program that reads foreign files. Sanitizers check more than this does,
+# and want the C library as it is.
+add_library(tessaline_hardening INTERFACE)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT TESSALINE_SANITIZE)
+  target_compile_options(tessaline_hardening INTERFACE -fstack-protector-strong)
+  target_compile_definitions(tessaline_hardening INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+  target_link_options(tessaline_hardening INTERFACE LINKER:-z,relro,-z,now)
+endif()
+
 # Compiling is mostly the reading of headers: those of Qt and of the standard library are read once for
 # the program, and with those of the test frameworks once for tests of logic and once for tests of
 # widgets.
@@ -36,7 +45,7 @@ function(tessaline_precompiled name header)
   endforeach()
 endfunction()
 
-tessaline_precompiled(program Program.h HEADERS_OF Qt6::Gui Qt6::Widgets)
+tessaline_precompiled(program Program.h LIBRARIES tessaline_hardening HEADERS_OF Qt6::Gui Qt6::Widgets)
 
 # tessaline_library(NAME SOURCES ... [PUBLIC ...] [PRIVATE ...])
 # declares the static library tessaline_NAME, known to others as tessaline::NAME.
@@ -47,7 +56,7 @@ function(tessaline_library name)
   target_link_libraries(
     tessaline_${name}
     PUBLIC tessaline_options ${ARG_PUBLIC}
-    PRIVATE ${ARG_PRIVATE})
+    PRIVATE tessaline_hardening ${ARG_PRIVATE})
   target_precompile_headers(tessaline_${name} REUSE_FROM tessaline_precompiled_program)
 endfunction()
 
