@@ -1,6 +1,7 @@
 #include "analytics/UsageRecorder.h"
 
 #include "analytics/BooleanText.h"
+#include "settings/PersistedSettings.h"
 
 namespace tessaline {
 
@@ -48,6 +49,13 @@ void UsageRecorder::trackAutoScrollToggled(bool enabled, ScrollRate rate) {
 void UsageRecorder::trackSettingChanged(const QString& name, const QString& value) {
     record({.name = u"setting_changed"_s,
             .properties = {{u"setting_name"_s, name}, {u"setting_value"_s, value}}});
+}
+
+void UsageRecorder::trackDisplaySettings(const PersistedSettings& settings) {
+    trackSettingChanged(u"width"_s, QString::number(int(settings.width)));
+    trackSettingChanged(u"height"_s, QString::number(int(settings.height)));
+    trackSettingChanged(u"fontSize"_s, QString::number(int(settings.fontSize)));
+    trackSettingChanged(u"scrollRate"_s, rawValue(settings.scrollRate));
 }
 
 void UsageRecorder::trackScreenChanged(int screenIndex) {

@@ -11,6 +11,7 @@
 namespace tessaline {
 
 class AppSettings;
+struct PersistedSettings;
 
 /// Receives usage events. Any thread, unless a function says otherwise.
 class UsageRecorder {
@@ -36,6 +37,9 @@ public:
     virtual void trackContentPasted(qsizetype wordCount);
     virtual void trackAutoScrollToggled(bool enabled, ScrollRate rate);
     virtual void trackSettingChanged(const QString& name, const QString& value);
+    /// Four of them, for whichever of these settings changed: width, height, font size, scroll
+    /// rate. The position is nobody's business.
+    void trackDisplaySettings(const PersistedSettings& settings);
     virtual void trackScreenChanged(int screenIndex);
     virtual void trackObsidianPluginInstalled(bool success);
     virtual void trackPermissionStatus(PermissionType type, bool granted);

@@ -27,6 +27,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -308,19 +310,29 @@ void AppDelegate::trackPaste() {
 }
 
 void AppDelegate::setScrollSpeed(double speed) {
-    settings.scrollSpeed = speed;
-    if (speed > 0) settings.lastNonZeroScrollSpeed = speed;
+    const double chosen = std::clamp(speed, 0.0, AppSettings::maxScrollSpeed);
+    settings.scrollSpeed = chosen;
+    if (chosen > 0) settings.lastNonZeroScrollSpeed = chosen;
     settings.save();
     prompter().updateScrollParameters();
-    environment.recorder.trackSettingChanged(u"scrollSpeed"_s, QString::number(speed));
+    environment.recorder.trackSettingChanged(u"scrollSpeed"_s, QString::number(chosen));
 }
 
 void AppDelegate::chooseScrollRate(ScrollRate rate) {
-    config().chooseScrollRate(rate);
+    settings.scrollRate = rate;
+    settings.save();
+    config().refreshUI();
+    settingsChanged();
+    environment.recorder.trackDisplaySettings(settings);
 }
 
 bool AppDelegate::chooseSource(SourceType source) {
-    return config().chooseSource(source);
+    const auto enabled = settings.getEnabledSources();
+    if (std::find(enabled.begin(), enabled.end(), source) == enabled.end()) return false;
+    sources().setActiveSource(source);
+    config().refreshUI();
+    handleSourceChange(source);
+    return true;
 }
 
 void AppDelegate::performScroll(double deltaY) {

@@ -57,9 +57,11 @@ public:
     // What the shortcuts and remote control do besides.
     void performScroll(double deltaY);
     void pasteFromClipboard();
-    void setScrollSpeed(double speed);
+
+    // Each changes one setting and no other, saves once and announces it.
+    void setScrollSpeed(double speed); ///< within its limits
     void chooseScrollRate(ScrollRate rate);
-    bool chooseSource(SourceType source); ///< false: it is not enabled
+    bool chooseSource(SourceType source); ///< false, and no change: it is not enabled
 
     /// Whether the normal start has happened: the first-run window is done with.
     bool hasStarted() const { return shortcuts != nullptr; }

@@ -8,8 +8,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
-
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -100,7 +98,7 @@ QString RemoteControl::setAutoScroll(bool on) {
 }
 
 QString RemoteControl::setSpeed(double speed) {
-    delegate.setScrollSpeed(std::clamp(speed, 0.0, AppSettings::maxScrollSpeed));
+    delegate.setScrollSpeed(speed);
     return u"speed %1"_s.arg(delegate.currentSettings().scrollSpeed);
 }
 

@@ -103,14 +103,6 @@ void ConfigWindow::fitBelowPrompter() {
     fitToContent(*this, display->roomBelowPrompter());
 }
 
-void ConfigWindow::chooseScrollRate(ScrollRate rate) {
-    display->chooseScrollRate(rate);
-}
-
-bool ConfigWindow::chooseSource(SourceType source) {
-    return sources->chooseSource(source);
-}
-
 void ConfigWindow::startPeriodicRefresh() {
     refreshTimer.reset();
     refreshTimer = ports.permissions.timers.every(refreshInterval, [this] {

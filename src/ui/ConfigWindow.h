@@ -1,7 +1,6 @@
 #pragma once
 
 #include "permissions/PermissionManager.h"
-#include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
 #include "ui/WindowPorts.h"
 
@@ -39,11 +38,6 @@ public:
 
     /// Looks every 2 seconds after the plug-in and the permission, until the window closes.
     void startPeriodicRefresh();
-
-    /// What happens when the user picks this scroll rate, or this source; the latter is false when
-    /// the source is not on offer.
-    void chooseScrollRate(ScrollRate rate);
-    bool chooseSource(SourceType source);
 
     /// Lists the displays that are attached now.
     void rebuildScreenPopup();

@@ -5,14 +5,21 @@
 #include "prompter/view/ScriptView.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindow.h"
+#include "ui/controls/PopupButton.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <gmock/gmock.h>
+
+#include <utility>
+#include <vector>
 
 namespace tessaline {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using ::testing::ElementsAre;
 
 class RemoteControlTest : public AppDelegateFixture {
 protected:
@@ -42,6 +49,16 @@ protected:
         delegate->openText(u"# heading\nline\n"_s.repeated(100));
         mainQueue.runAll();
         prompter()->textView().completeLayout();
+    }
+
+    /// The names and values of the settings whose change was recorded.
+    std::vector<std::pair<QString, QString>> changedSettings() const {
+        std::vector<std::pair<QString, QString>> changes;
+        for (const AnalyticsEvent& event : recorder.events)
+            if (event.name == u"setting_changed")
+                changes.emplace_back(event.properties.value(u"setting_name"_s),
+                                     event.properties.value(u"setting_value"_s));
+        return changes;
     }
 
     double position() { return prompter()->textView().scrollPosition(); }
@@ -74,6 +91,47 @@ TEST_F(RemoteControlTest, ChangesSpeedAndRate) {
     EXPECT_EQ(textOf(u"faster"_s), u"speed 5"_s);
     EXPECT_EQ(textOf(u"rate fast"_s), u"rate fast"_s);
     EXPECT_EQ(savedSettings().scrollRate, ScrollRate::fast);
+}
+
+TEST_F(RemoteControlTest, ChangesNothingButTheRate) {
+    configure([](AppSettings& settings) {
+        settings.hasCompletedOnboarding = true;
+        settings.width = 1234.5; // more than the slider can show
+        settings.height = 77.25;
+        settings.fontSize = 42.5;
+        settings.xOffset = 7;
+        settings.scrollSpeed = 1.5;
+    });
+    const PersistedSettings before = savedSettings();
+    launch();
+    recorder.events.clear();
+    EXPECT_EQ(textOf(u"rate slow"_s), u"rate slow"_s);
+    PersistedSettings expected = before;
+    expected.scrollRate = ScrollRate::slow;
+    EXPECT_EQ(PersistedSettings(savedSettings()), expected);
+    const auto* popup = config()->findChild<PopupButton*>(u"tickFactorPopup"_s);
+    ASSERT_TRUE(popup);
+    EXPECT_EQ(popup->currentText(), u"Slow"_s);
+    EXPECT_THAT(changedSettings(),
+                ElementsAre(std::pair(u"width"_s, u"1234"_s), std::pair(u"height"_s, u"77"_s),
+                            std::pair(u"fontSize"_s, u"42"_s),
+                            std::pair(u"scrollRate"_s, u"slow"_s)));
+}
+
+TEST_F(RemoteControlTest, ChangesNothingButTheSource) {
+    configure([](AppSettings& settings) {
+        settings.hasCompletedOnboarding = true;
+        settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
+        settings.width = 1234.5;
+    });
+    PersistedSettings expected = savedSettings();
+    launch();
+    expected.activeSourceType = SourceType::obsidian;
+    EXPECT_EQ(textOf(u"source obsidian"_s), u"source obsidian"_s);
+    EXPECT_EQ(PersistedSettings(savedSettings()), expected);
+    const auto* popup = config()->findChild<PopupButton*>(u"config_sourcePopup"_s);
+    ASSERT_TRUE(popup);
+    EXPECT_EQ(popup->currentText(), u"Obsidian"_s);
 }
 
 TEST_F(RemoteControlTest, MovesTheText) {

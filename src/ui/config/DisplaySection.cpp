@@ -22,10 +22,6 @@ namespace {
 constexpr int sliderWidth = 260;
 constexpr quint32 automaticDisplay = 0;
 
-QString wholePart(double value) {
-    return PositionRange::valueText(value, {});
-}
-
 } // namespace
 
 DisplaySection::DisplaySection(AppSettings& shared, const Screens& attached,
@@ -154,12 +150,6 @@ void DisplaySection::selectScrollRate() {
     tickFactorPopup->setCurrentText(title(settings.scrollRate));
 }
 
-void DisplaySection::chooseScrollRate(ScrollRate rate) {
-    showSettings();
-    tickFactorPopup->setCurrentText(title(rate));
-    configChanged();
-}
-
 void DisplaySection::configChanged() {
     settings.width = widthSlider->points();
     settings.height = heightSlider->points();
@@ -176,15 +166,7 @@ void DisplaySection::configChanged() {
     settings.save();
     updateValueLabels();
     if (onSettingsChanged) onSettingsChanged();
-    recordChange();
-}
-
-// All four at every change; the position is nobody's business.
-void DisplaySection::recordChange() const {
-    recorder.trackSettingChanged(u"width"_s, wholePart(settings.width));
-    recorder.trackSettingChanged(u"height"_s, wholePart(settings.height));
-    recorder.trackSettingChanged(u"fontSize"_s, wholePart(settings.fontSize));
-    recorder.trackSettingChanged(u"scrollRate"_s, rawValue(settings.scrollRate));
+    recorder.trackDisplaySettings(settings);
 }
 
 void DisplaySection::rebuildScreenPopup() {

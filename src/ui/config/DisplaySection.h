@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/Screen.h"
-#include "settings/ScrollRate.h"
 
 #include <QWidget>
 
@@ -38,9 +37,6 @@ public:
     /// Shows the settings' sizes, position and scroll rate.
     void showSettings();
 
-    /// What happens when the user picks this rate.
-    void chooseScrollRate(ScrollRate rate);
-
     /// Lists the displays that are attached now and selects the preferred one.
     void rebuildScreenPopup();
 
@@ -74,7 +70,6 @@ private:
     void updateXOffsetLabel();
     void selectScrollRate();
     void configChanged();
-    void recordChange() const;
     void screenSelectionChanged();
 
     AppSettings& settings;

@@ -114,13 +114,6 @@ void SourceSection::showNoteName() {
     noteNameField->showText(note ? note->noteName : u"No note selected"_s);
 }
 
-bool SourceSection::chooseSource(SourceType source) {
-    rebuildSourcePopup();
-    if (!sourcePopup->selectItemCarrying(QVariant::fromValue(source))) return false;
-    sourceTypeChanged();
-    return true;
-}
-
 void SourceSection::sourceTypeChanged() {
     const QVariant selected = sourcePopup->currentData();
     if (!selected.canConvert<SourceType>()) return;

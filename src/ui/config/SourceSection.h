@@ -33,9 +33,6 @@ public:
     /// Selects the active source.
     void selectActiveSource();
 
-    /// What happens when the user picks this source. False when it is not on offer.
-    bool chooseSource(SourceType source);
-
     /// Shows the rows that the active source needs.
     void updateSourceConfigVisibility();
 

@@ -194,17 +194,6 @@ INSTANTIATE_TEST_SUITE_P(Rates, ScrollRateChoice,
                                          Rate{ScrollRate::medium, u"Medium"_s, u"medium"_s},
                                          Rate{ScrollRate::fast, u"Fast"_s, u"fast"_s}));
 
-TEST_F(DisplaySettings, ARateChosenFromElsewhereIsTakenLikeTheUsers) {
-    window();
-    stage.settings.width = 700; // changed without a refresh of the window
-    window().chooseScrollRate(ScrollRate::fast);
-    EXPECT_EQ(stage.settings.scrollRate, ScrollRate::fast);
-    EXPECT_EQ(stage.settings.width, 700);
-    EXPECT_EQ(control<PopupButton>("tickFactorPopup").currentText(), u"Fast"_s);
-    EXPECT_EQ(settingsChanges, 1);
-    EXPECT_EQ(recorded().size(), 4u);
-}
-
 TEST_F(DisplaySettings, WithoutASelectedRateTheRateStays) {
     stage.settings.scrollRate = ScrollRate::slow;
     control<PopupButton>("tickFactorPopup").setCurrentIndex(-1);

@@ -77,17 +77,6 @@ TEST_F(SourceSettings, ChoosingASourceNeedsNoManagerAndNobodyToTell) {
     EXPECT_EQ(AppSettings(stage.configPath).activeSourceType, SourceType::obsidian);
 }
 
-TEST_F(SourceSettings, ASourceChosenFromElsewhereIsTakenLikeTheUsersIfItIsEnabled) {
-    window();
-    EXPECT_FALSE(window().chooseSource(SourceType::obsidian));
-    EXPECT_THAT(sources, IsEmpty());
-    EXPECT_EQ(sourcePopup().currentText(), u"Clipboard"_s);
-    enableObsidian();
-    EXPECT_TRUE(window().chooseSource(SourceType::obsidian));
-    EXPECT_EQ(AppSettings(stage.configPath).activeSourceType, SourceType::obsidian);
-    EXPECT_THAT(sources, ElementsAre(SourceType::obsidian));
-}
-
 TEST_F(SourceSettings, AnItemWithoutASourceChangesNothing) {
     window();
     sourcePopup().addItem(u"Stray"_s);
