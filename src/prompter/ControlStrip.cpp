@@ -21,15 +21,32 @@ constexpr int margin = 10;
 constexpr int gap = 4;
 constexpr int closeButtonSide = 12;
 constexpr int sourceIconSide = 12;
+constexpr int minimizeButtonSide = 18; // room for each of its glyphs
 constexpr double stripGlyphSize = 16.0;
 constexpr double smallGlyphSize = 12.0;
 constexpr double sourceGlyphSize = 14.0;
+
+QString shownName(SourceType source) {
+    return displayName(source).toUpper();
+}
 
 void describe(QWidget& control, const QString& identifier, const QString& name,
               const QString& toolTip) {
     control.setObjectName(identifier);
     control.setAccessibleName(name);
     control.setToolTip(toolTip);
+}
+
+/// The width that a label needs for each name it may show.
+int widthOfWidestSource(const QFont& font) {
+    QLabel label;
+    label.setFont(font);
+    int widest = 0;
+    for (const SourceType source : availableSources) {
+        label.setText(shownName(source));
+        widest = std::max(widest, label.sizeHint().width());
+    }
+    return widest;
 }
 
 /// Puts a control to the right of `x`, centred on a height; returns where the next may begin.
@@ -63,6 +80,8 @@ ControlStrip::ControlStrip(QWidget* parent)
     describe(*statsLabel, u"prompter_statsLabel"_s, {}, u"Reading statistics"_s);
     sourceLabel->setFont(systemFont(9, QFont::Bold));
     sourceLabel->setAlignment(Qt::AlignCenter);
+    // Whoever presses the button beside it again and again finds it in the same place.
+    sourceLabel->setMinimumWidth(widthOfWidestSource(sourceLabel->font()));
     sourceIconView->hide();
     statsLabel->setFont(systemFont(11, QFont::Medium));
     showSourceMode(SourceMode::file);
@@ -80,11 +99,12 @@ void ControlStrip::resizeEvent(QResizeEvent*) {
 void ControlStrip::arrange() {
     const double centre = stripHeight / 2;
     const auto control = [&](QWidget& widget, int x) {
-        return place(widget, x, centre, widget.sizeHint());
+        return place(widget, x, centre, widget.sizeHint().expandedTo(widget.minimumSize()));
     };
     quitButton->setGeometry(margin, int(std::lround(closeButtonTop(stripHeight))), closeButtonSide,
                             closeButtonSide);
-    int x = control(*minimizeButton, margin + closeButtonSide + gap);
+    int x = place(*minimizeButton, margin + closeButtonSide + gap, centre,
+                  {minimizeButtonSide, minimizeButtonSide});
     x = control(*configButton, x);
     x = control(*autoScrollButton, x);
     if (!sourceIconView->isHidden())
@@ -124,7 +144,7 @@ void ControlStrip::showSource(SourceType source) {
     sourceIconView->show();
     pasteButton->setGlyph(source == SourceType::clipboard ? u"📄"_s : u"📋"_s, sourceGlyphSize);
     pasteButton->setToolTip(u"Cycle content source (current: %1)"_s.arg(displayName(source)));
-    showSourceName(displayName(source).toUpper(), sourceColor(source));
+    showSourceName(shownName(source), sourceColor(source));
 }
 
 void ControlStrip::showCollapsed(bool collapsed) {

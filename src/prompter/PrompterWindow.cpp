@@ -62,6 +62,8 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
     , self(std::make_shared<PrompterWindow*>(this)) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
+    // The keyboard is another program's most of the time.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     resizing.setEasingCurve(QEasingCurve::InOutSine);
     connect(&resizing, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
         // It also tells values while it is being set up.

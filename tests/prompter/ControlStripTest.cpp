@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -102,6 +103,27 @@ TEST_F(ControlStripTest, LinesTheOthersUpWithTheCloseButtonSideBySide) {
         EXPECT_LE(space, 4) << i;
     }
     EXPECT_EQ(QRectF(strip.statsLabel->geometry()).right(), 440);
+}
+
+TEST_F(ControlStripTest, KeepsItsPlacesWhenTheSourceOrTheFoldingChanges) {
+    strip.showSource(SourceType::obsidian);
+    const auto places = [&] {
+        std::vector<QRect> found;
+        for (const QWidget* control : std::initializer_list<QWidget*>{
+                 strip.quitButton, strip.minimizeButton, strip.configButton, strip.autoScrollButton,
+                 strip.sourceIconView, strip.sourceLabel, strip.pasteButton, strip.statsLabel})
+            found.push_back(control->geometry());
+        return found;
+    };
+    const auto before = places();
+    strip.showSource(SourceType::clipboard);
+    EXPECT_EQ(places(), before);
+    strip.showCollapsed(true);
+    EXPECT_EQ(places(), before);
+    strip.showCollapsed(false);
+    EXPECT_EQ(places(), before);
+    EXPECT_GE(strip.minimizeButton->width(), strip.minimizeButton->sizeHint().width());
+    EXPECT_GE(strip.minimizeButton->height(), strip.minimizeButton->sizeHint().height());
 }
 
 TEST_F(ControlStripTest, SetsTheStatisticsInTheirColorAtTheRight) {
