@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+
 namespace tessaline {
 namespace {
 
@@ -38,6 +41,33 @@ TEST_P(SourceIcon, IsDrawnInTheColourOfItsSource) {
 INSTANTIATE_TEST_SUITE_P(EverySource, SourceIcon,
                          testing::Values(SourceType::obsidian, SourceType::appleNotes,
                                          SourceType::clipboard));
+
+TEST(SourceIcons, OfSheetsHaveTheirEdgesBetweenPixels) {
+    for (const SourceType source : {SourceType::appleNotes, SourceType::clipboard}) {
+        for (const int side : {12, 15, 18, 24}) {
+            const QImage picture = iconOf(source, side);
+            for (int i = 0; i < side; ++i) {
+                const int alpha = qAlpha(picture.pixel(i, side * 2 / 3));
+                EXPECT_TRUE(alpha == 0 || alpha == 255) << side << ", column " << i;
+                const int below = qAlpha(picture.pixel(side / 2, i));
+                EXPECT_TRUE(below == 0 || below == 255) << side << ", row " << i;
+            }
+        }
+    }
+}
+
+TEST(SourceIcons, ShadeTheFacetsOfTheStoneAlsoOnFewPixels) {
+    const QImage picture = iconOf(SourceType::obsidian, 12);
+    std::map<int, int> pixelsOfShade;
+    for (int y = 0; y < 12; ++y) {
+        for (int x = 0; x < 12; ++x)
+            ++pixelsOfShade[qAlpha(picture.pixel(x, y))];
+    }
+    pixelsOfShade.erase(0);
+    const auto facets =
+        std::ranges::count_if(pixelsOfShade, [](const auto& shade) { return shade.second >= 4; });
+    EXPECT_GE(facets, 3);
+}
 
 TEST(SourceIcons, TellTheSourcesApartByTheirShape) {
     const auto shapeOf = [](SourceType source) {

@@ -3,6 +3,7 @@
 #include <QPolygonF>
 #include <QTransform>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <initializer_list>
@@ -16,9 +17,9 @@ namespace {
 constexpr QChar textPresentation{0xFE0E};
 
 // Shapes are drawn in a square of side 1 around the origin. Where one lies within another, the
-// inner is a hole.
+// inner is a hole. Those of straight strokes take how many device pixels long the side will be.
 
-QPainterPath gear(QFont::Weight) {
+QPainterPath gear(QFont::Weight, double) {
     constexpr int teeth = 8;
     constexpr double tipRadius = 0.5;
     constexpr double rootRadius = 0.37;
@@ -40,7 +41,7 @@ QPainterPath gear(QFont::Weight) {
     return path;
 }
 
-QPainterPath playPause(QFont::Weight) {
+QPainterPath playPause(QFont::Weight, double) {
     QPainterPath path;
     path.addPolygon(QPolygonF{{-0.5, -0.35}, {0.06, 0.0}, {-0.5, 0.35}});
     path.closeSubpath();
@@ -54,7 +55,7 @@ void addTextLines(QPainterPath& path, std::initializer_list<double> tops) {
         path.addRect(QRectF(-0.19, top, 0.38, 0.09));
 }
 
-QPainterPath clipboard(QFont::Weight) {
+QPainterPath clipboard(QFont::Weight, double) {
     QPainterPath board;
     board.addRoundedRect(QRectF(-0.4, -0.42, 0.8, 0.92), 0.1, 0.1);
     board.addRect(QRectF(-0.31, -0.33, 0.62, 0.74));
@@ -65,7 +66,7 @@ QPainterPath clipboard(QFont::Weight) {
     return path;
 }
 
-QPainterPath page(QFont::Weight) {
+QPainterPath page(QFont::Weight, double) {
     QPainterPath path;
     path.addPolygon(
         QPolygonF{{-0.38, -0.5}, {0.12, -0.5}, {0.38, -0.24}, {0.38, 0.5}, {-0.38, 0.5}});
@@ -81,16 +82,23 @@ double strokeOf(QFont::Weight weight) {
     return 0.02 + 0.00016 * static_cast<int>(weight);
 }
 
-QPainterPath dash(QFont::Weight weight) {
-    const double stroke = strokeOf(weight);
+/// A part of the side that is nearest to it and a whole number of pixels long.
+double whole(double part, double pixels) {
+    return std::max(std::round(part * pixels), 1.0) / pixels;
+}
+
+QPainterPath dash(QFont::Weight weight, double pixels) {
+    const double length = whole(1.0, pixels);
+    const double stroke = whole(strokeOf(weight), pixels);
     QPainterPath path;
-    path.addRect(QRectF(-0.5, -stroke / 2, 1.0, stroke));
+    path.addRect(QRectF(-length / 2, -stroke / 2, length, stroke));
     return path;
 }
 
-QPainterPath square(QFont::Weight weight) {
-    const double stroke = strokeOf(weight);
-    const QRectF outer(-0.5, -0.5, 1.0, 1.0);
+QPainterPath square(QFont::Weight weight, double pixels) {
+    const double side = whole(1.0, pixels);
+    const double stroke = whole(strokeOf(weight), pixels);
+    const QRectF outer(-side / 2, -side / 2, side, side);
     QPainterPath path;
     path.addRect(outer);
     path.addRect(outer.adjusted(stroke, stroke, -stroke, -stroke));
@@ -99,24 +107,26 @@ QPainterPath square(QFont::Weight weight) {
 
 struct Glyph {
     QStringView text;
-    QPainterPath (*shape)(QFont::Weight);
+    QPainterPath (*shape)(QFont::Weight, double pixels);
     double side; // of the shape's square, in parts of the font's size
 };
 
 constexpr std::array glyphs{
-    Glyph{u"\u2014", dash, 0.8},           Glyph{u"\u25A1", square, 0.74},
+    Glyph{u"\u2014", dash, 0.82},          Glyph{u"\u25A1", square, 0.74},
     Glyph{u"\u2699", gear, 0.88},          Glyph{u"\u23EF", playPause, 0.92},
     Glyph{u"\U0001F4CB", clipboard, 0.96}, Glyph{u"\U0001F4C4", page, 0.96},
 };
 
 } // namespace
 
-std::optional<QPainterPath> glyphOutline(const QString& text, double points, QFont::Weight weight) {
+std::optional<QPainterPath> glyphOutline(const QString& text, double points, QFont::Weight weight,
+                                         double pixelRatio) {
     QStringView glyph = text;
     if (glyph.endsWith(textPresentation)) glyph.chop(1);
     for (const auto& [name, shape, side] : glyphs) {
         if (name != glyph) continue;
-        return QTransform::fromScale(side * points, side * points).map(shape(weight));
+        return QTransform::fromScale(side * points, side * points)
+            .map(shape(weight, side * points * pixelRatio));
     }
     return std::nullopt;
 }

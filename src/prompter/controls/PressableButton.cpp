@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -20,25 +21,27 @@ constexpr double cornerRadius = 4.0;
 constexpr double glyphMargin = 3.0;
 
 // The shape that a text makes. None where its font has pictures instead of outlines.
-QPainterPath outlineOf(const QString& text, const QFont& font) {
-    if (auto glyph = glyphOutline(text, pointsOf(font), font.weight())) return *std::move(glyph);
+QPainterPath outlineOf(const QString& text, const QFont& font, double pixelRatio) {
+    if (auto glyph = glyphOutline(text, pointsOf(font), font.weight(), pixelRatio))
+        return *std::move(glyph);
     QPainterPath path;
     path.addText(QPointF(), font, text);
     return path;
 }
 
-QRectF inkOf(const QString& text, const QFont& font) {
-    const QPainterPath outline = outlineOf(text, font);
+QRectF inkOf(const QString& text, const QFont& font, double pixelRatio) {
+    const QPainterPath outline = outlineOf(text, font, pixelRatio);
     return outline.isEmpty() ? QFontMetricsF(font).tightBoundingRect(text) : outline.boundingRect();
 }
 
 // Where to move ink so that it is centred with its upper left corner on a device pixel, which keeps
-// upright edges sharp.
-QPointF centringOffset(const QRectF& ink, const QRectF& bounds, double pixelRatio) {
+// upright edges sharp. At a fractional scale the widget itself may begin within a pixel.
+QPointF centringOffset(const QRectF& ink, const QRectF& bounds, const QTransform& toDevice) {
     QRectF centred = ink;
     centred.moveCenter(bounds.center());
-    const QPointF corner = centred.topLeft() * pixelRatio;
-    return QPointF(std::round(corner.x()), std::round(corner.y())) / pixelRatio - ink.topLeft();
+    const QPointF corner = toDevice.map(centred.topLeft());
+    const QPointF onPixel(std::round(corner.x()), std::round(corner.y()));
+    return toDevice.inverted().map(onPixel) - ink.topLeft();
 }
 
 } // namespace
@@ -66,7 +69,7 @@ std::optional<QColor> PressableButton::backgroundColor() const {
 
 QSize PressableButton::sizeHint() const {
     if (!icon().isNull()) return iconSize();
-    const QRectF ink = inkOf(text(), font());
+    const QRectF ink = inkOf(text(), font(), devicePixelRatioF());
     const double side = std::ceil(pointsOf(font())) + glyphMargin;
     return {static_cast<int>(std::ceil(std::max(ink.width() + 2 * glyphMargin, side))),
             static_cast<int>(std::ceil(std::max(ink.height() + 2 * glyphMargin, side)))};
@@ -95,8 +98,10 @@ void PressableButton::paintEvent(QPaintEvent*) {
 
 void PressableButton::paintGlyph(QPainter& painter) const {
     painter.save();
-    painter.translate(centringOffset(inkOf(text(), font()), rect(), devicePixelRatioF()));
-    if (const auto outline = glyphOutline(text(), pointsOf(font()), font().weight())) {
+    const double pixelRatio = devicePixelRatioF();
+    const QRectF ink = inkOf(text(), font(), pixelRatio);
+    painter.translate(centringOffset(ink, rect(), painter.deviceTransform()));
+    if (const auto outline = glyphOutline(text(), pointsOf(font()), font().weight(), pixelRatio)) {
         painter.fillPath(*outline, SystemPalette::white);
     } else {
         painter.setFont(font());

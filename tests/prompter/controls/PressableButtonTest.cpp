@@ -250,6 +250,26 @@ INSTANTIATE_TEST_SUITE_P(
                                          GlyphCase{u"Ag"_s, 14, QFont::Bold}),
                        ::testing::Values(1, 2)));
 
+TEST(PressableButtonGlyphs, OfStraightStrokesAreSharp) {
+    PressableButton button;
+    pointerEnters(button);
+    button.resize(18, 18);
+    for (const auto& [glyph, points, weight] :
+         {GlyphCase{u"\u2014"_s, 12, QFont::Normal}, GlyphCase{u"\u2014"_s, 14, QFont::Bold},
+          GlyphCase{u"\u25A1"_s, 14, QFont::DemiBold}}) {
+        button.setGlyph(glyph, points, weight);
+        for (const int pixelsPerPoint : {1, 2, 3}) {
+            const QImage picture = pictureOf(button, pixelsPerPoint);
+            const QRectF shades = boundsOf(picture, [&](int x, int y) {
+                const int alpha = qAlpha(picture.pixel(x, y));
+                return alpha > 0 && alpha < 255;
+            });
+            EXPECT_TRUE(shades.isEmpty())
+                << glyph.toStdString() << ' ' << points << ' ' << pixelsPerPoint;
+        }
+    }
+}
+
 // In a window of its own, because focus and painting need one.
 class ShownPressableButton : public ::testing::Test {
 protected:
