@@ -229,6 +229,21 @@ TEST_F(PrompterWindowTest, TellsTheTimeForWhatIsLeftToScroll) {
     EXPECT_EQ(statistics(), u"200 words • ~%1m%2s"_s.arg(seconds / 60).arg(seconds % 60));
 }
 
+TEST_F(PrompterWindowTest, CorrectsTheTimeOnceAQuestionHasMeasuredTheRestOfTheText) {
+    window().updateText(u"iiii "_s.repeated(1500) + u"\n"_s + u"iiii "_s.repeated(1500));
+    queue.runAll();
+    auto& view = window().textView();
+    ASSERT_FALSE(view.isLayoutComplete());
+    const QString estimate = statistics();
+    view.caretRect(0);
+    view.caretRect(view.script().styled.text.size());
+    ASSERT_TRUE(view.isLayoutComplete());
+    const QString told = statistics();
+    window().updateStats();
+    EXPECT_EQ(told, statistics());
+    EXPECT_NE(told, estimate);
+}
+
 TEST_F(PrompterWindowTest, ShowsTheRateInTheColorOfTheStatistics) {
     show(u"text"_s);
     settings.scrollRate = ScrollRate::fast;

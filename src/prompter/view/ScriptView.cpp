@@ -134,6 +134,7 @@ void ScriptView::setScript(Script script) {
 }
 
 void ScriptView::completeLayout() {
+    if (layout.isMeasured()) return;
     const Place place = placeAtTop();
     layout.measureMore(std::numeric_limits<qsizetype>::max(), 0);
     restorePlace(place);
@@ -184,23 +185,31 @@ void ScriptView::layoutChanged() {
     }
 }
 
-/// Does something that may lay paragraphs out, and keeps what is seen in its place when that
-/// changes heights. Returns whether it did.
+/// Does something that may lay paragraphs out: keeps what is seen in its place when that changes
+/// heights, and tells when no paragraph is left. Returns whether heights changed.
 template <typename Action>
 bool ScriptView::keepPlaceDuring(Action action) {
+    if (layout.isMeasured()) {
+        action();
+        return false;
+    }
     const double height = layout.height();
     const bool atEnd = scrollTop > 0.0 && scrollTop == maximumScrollPosition();
     const std::size_t anchor = layout.paragraphAt(scrollTop - verticalInset);
     const double before = layout.topOf(anchor);
     action();
     const double moved = layout.topOf(anchor) - before;
-    if (moved == 0.0 && layout.height() == height) return false;
-    if (scrollTop > 0.0) scrollTop += moved;
-    const double maximum = maximumScrollPosition();
-    scrollTop = atEnd ? maximum : std::clamp(scrollTop, 0.0, maximum);
-    strips.invalidate();
-    update();
-    return true;
+    const bool changed = moved != 0.0 || layout.height() != height;
+    if (changed) {
+        if (scrollTop > 0.0) scrollTop += moved;
+        const double maximum = maximumScrollPosition();
+        scrollTop = atEnd ? maximum : std::clamp(scrollTop, 0.0, maximum);
+        strips.invalidate();
+        updateScroller();
+        update();
+    }
+    if (layout.isMeasured()) Q_EMIT layoutCompleted();
+    return changed;
 }
 
 /// Lays out all that the strips of the next frame show, so that drawing them changes no height.
@@ -217,8 +226,6 @@ void ScriptView::measureVisible() {
 
 void ScriptView::continueLayout() {
     keepPlaceDuring([this] { layout.measureMore(unitsLaidOutPerSlice, 0); });
-    updateScroller();
-    if (layout.isMeasured()) Q_EMIT layoutCompleted();
 }
 
 void ScriptView::prepareStrips() {
@@ -272,12 +279,12 @@ void ScriptView::sizeFrame() {
 void ScriptView::paintEvent(QPaintEvent*) {
     sizeFrame(); // the screen, and with it the pixel ratio, may be another one now
     if (frame.isNull()) return;
-    composeFrame();
+    measureVisible();
+    keepPlaceDuring([this] { composeFrame(); });
     QPainter(this).drawImage(QPointF(0, 0), frame);
 }
 
 void ScriptView::composeFrame() {
-    measureVisible();
     const double firstRow = scrollTop * frame.devicePixelRatio();
     auto row = qsizetype(std::floor(firstRow));
     const auto lowerWeight = unsigned(std::lround((firstRow - double(row)) * wholeRow));

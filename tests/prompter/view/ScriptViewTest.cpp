@@ -210,6 +210,61 @@ TEST_F(ScriptViewTest, LaysLongTextsOutWhileTheProgramGoesOn) {
     EXPECT_TRUE(view.isLayoutComplete());
 }
 
+/// A way by which the last open paragraph of a text comes to be measured.
+struct Measuring {
+    const char* name;
+    void (*measureTheEnd)(ScriptView& view);
+};
+
+class ScriptViewMeasuring : public ScriptViewFixture,
+                            public testing::WithParamInterface<Measuring> {};
+
+TEST_P(ScriptViewMeasuring, IsToldOnceWhenItIsComplete) {
+    // Of two paragraphs that are laid out later, the first one at once.
+    view.setScript(Script(MarkdownRenderer(16).render(u"words "_s.repeated(1300) + u"\n"_s +
+                                                      u"wider words "_s.repeated(650))));
+    view.caretRect(0);
+    int completions = 0;
+    QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { ++completions; });
+    ASSERT_FALSE(view.isLayoutComplete());
+    const double estimate = view.maximumScrollPosition();
+
+    GetParam().measureTheEnd(view);
+
+    EXPECT_TRUE(view.isLayoutComplete());
+    EXPECT_NE(view.maximumScrollPosition(), estimate);
+    EXPECT_EQ(completions, 1);
+    EXPECT_EQ(view.findChild<ThemedScroller*>()->maximum(), int(view.maximumScrollPosition() * 8));
+    for (int turn = 0; turn < 10; ++turn)
+        QCoreApplication::processEvents();
+    view.completeLayout();
+    EXPECT_EQ(completions, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EveryWay, ScriptViewMeasuring,
+    testing::Values(
+        Measuring{"Caret",
+                  [](ScriptView& view) { view.caretRect(view.script().styled.text.size()); }},
+        Measuring{"Point",
+                  [](ScriptView& view) {
+                      view.offsetAt({20, view.documentHeight() - 20});
+                  }},
+        Measuring{"Reveal",
+                  [](ScriptView& view) { view.reveal(view.script().styled.text.size()); }},
+        Measuring{"Paint",
+                  [](ScriptView& view) {
+                      view.scrollTo(view.maximumScrollPosition());
+                      view.grab();
+                  }},
+        Measuring{"Events",
+                  [](ScriptView& view) {
+                      while (!view.isLayoutComplete())
+                          QCoreApplication::processEvents();
+                  }},
+        Measuring{"Request", [](ScriptView& view) { view.completeLayout(); }}),
+    [](const auto& tested) { return tested.param.name; });
+
 TEST_F(ScriptViewTest, DoesNotMoveTheReaderWhileALongTextIsLaidOut) {
     const QString text = (u"words "_s.repeated(70) + u"\n"_s).repeated(2000);
     view.setScript(Script(MarkdownRenderer(16).render(text)));
