@@ -185,6 +185,22 @@ class Use(PrompterTestCase):
         wait_until(lambda: self.text_pixels() != before, "the text has moved")
         self.desktop.run("xdotool", "click", 4)
         wait_until(lambda: self.text_pixels() == before, "the text is back")
+        self.assert_wheel_moves_the_same_at(LEFT + WIDTH - 14)
+
+    def assert_wheel_moves_the_same_at(self, x):
+        """As over the middle of the text, with Control and without, and back."""
+        for click in (("click", "5"), ("keydown", "ctrl", "click", "5", "keyup", "ctrl")):
+            back = [word.replace("5", "4") for word in click]
+            moved = []
+            for column in (LEFT + 200, x):
+                before = self.ink_rows()
+                self.desktop.move_mouse(column, 150)
+                self.desktop.run("xdotool", *click)
+                wait_until(lambda: self.ink_rows() != before, "the text has moved")
+                moved.append(self.ink_rows())
+                self.desktop.run("xdotool", *back)
+                wait_until(lambda: self.ink_rows() == before, "the text is back")
+            self.assertEqual(moved[0], moved[1])
 
     def test_scrolls_with_the_keys_once_it_is_clicked(self):
         before = self.text_pixels()

@@ -23,6 +23,15 @@ protected:
                           Qt::NoButton, Qt::ControlModifier, phase, false);
         QApplication::sendEvent(&window(), &event);
     }
+
+    /// Turns a wheel by a notch over a place in the window, which finds the widget there by itself.
+    void turnWheelAt(QPoint place, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent event(place, window().mapToGlobal(QPointF(place)), {}, {0, -120}, Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
+        // Wheels that the program made up do not reach the widgets below.
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(window().windowHandle(), &event);
+    }
 };
 
 TEST_F(PrompterWindowScrolling, StaysWithinTheText) {
@@ -47,6 +56,21 @@ TEST_F(PrompterWindowScrolling, GoesEightyPointsForALineOfTheWheelWithControl) {
 TEST_F(PrompterWindowScrolling, GoesByNotchesWhereAWheelTellsPixelsToo) {
     turnWheel(-15, -120, Qt::NoScrollPhase);
     EXPECT_EQ(position(), 80);
+}
+
+TEST_F(PrompterWindowScrolling, GoesAsFarOverTheScrollerAsOverTheText) {
+    const QPoint overText(200, 150);
+    const QPoint overScroller(436, 150);
+    ASSERT_EQ(window().childAt(overText), &window().textView());
+    ASSERT_EQ(window().childAt(overScroller)->parent(), &window().textView());
+    for (const auto modifiers : {Qt::NoModifier, Qt::ControlModifier}) {
+        turnWheelAt(overText, modifiers);
+        const double distance = position();
+        EXPECT_GE(distance, 20);
+        turnWheelAt(overScroller, modifiers);
+        EXPECT_EQ(position(), 2 * distance);
+        window().performScroll(1e9);
+    }
 }
 
 TEST_F(PrompterWindowScrolling, FollowsATrackpadWithControlExactly) {

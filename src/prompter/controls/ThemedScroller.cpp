@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QStyleOptionSlider>
+#include <QWheelEvent>
 
 namespace tessaline {
 
@@ -67,6 +68,11 @@ void ThemedScroller::leaveEvent(QEvent* event) {
 void ThemedScroller::hideEvent(QHideEvent* event) {
     QScrollBar::hideEvent(event);
     fade.conceal();
+}
+
+// It would scroll by eighths of a point, and by pages with Control.
+void ThemedScroller::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 // Scrolling calls this for every frame, and the bases would repaint each time.

@@ -11,7 +11,7 @@ namespace tessaline {
 /// A thin vertical scroller that lies over the content: a translucent track with a pill. It is seen
 /// while the reader scrolls or points at it and fades out a second later. Setting the value moves
 /// the pill but does not show it, and repaints nothing while it is hidden or the pill stays on the
-/// same pixels. Main thread.
+/// same pixels. The wheel goes to the content underneath. Main thread.
 class ThemedScroller final : public QScrollBar {
     Q_OBJECT
 
@@ -38,6 +38,7 @@ protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void sliderChange(SliderChange change) override;
 
 private:
