@@ -172,7 +172,10 @@ void PrompterWindow::arrangeContent() {
     const int textHeight = collapsed ? 0 : std::max(height() - textTop - textMargin, 0);
     const int textWidth = std::max(int(textLayoutWidth(width())), 0);
     scrollArea->setGeometry(textMargin, textTop, textWidth, textHeight);
+    const bool heightChanges = textHeight != view->height();
     view->resize(scrollArea->size());
+    // The hint is set for one height, and for none while nothing of it is seen.
+    if (heightChanges && textHeight > 0 && lastRawContent == placeholderContent) renderPlaceholder();
 }
 
 void PrompterWindow::resizeEvent(QResizeEvent*) {

@@ -54,6 +54,14 @@ protected:
 
     QString statistics() { return window().controls().statsLabel->text(); }
 
+    /// The hint takes sixty points, about, in the middle of the text view.
+    void expectHintInTheMiddle() {
+        auto& view = window().textView();
+        const double margin = view.caretRect(0).top() + view.scrollPosition();
+        const double textMargin = 10;
+        EXPECT_EQ(margin, (view.height() - 60) / 2.0 + textMargin);
+    }
+
     /// Lets the resize animation run to its end.
     void finishResizing(int height) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return window().height() == height; }, 3000))

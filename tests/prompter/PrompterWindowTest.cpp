@@ -166,10 +166,25 @@ TEST_F(PrompterWindowTest, ShowsAHintInPlaceOfThePlaceholder) {
     show(u"PLACEHOLDER"_s);
     EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
     EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
-    // In the middle of the view: as much black above the first line as below the second, about.
-    const QRectF first = window().textView().caretRect(0);
-    const QRectF last = window().textView().caretRect(5);
-    EXPECT_NEAR(first.top(), 202 - last.bottom(), 25);
+    expectHintInTheMiddle();
+}
+
+TEST_F(PrompterWindowTest, CentresTheHintAnewWhenItsHeightChanges) {
+    show(u"PLACEHOLDER"_s);
+    for (const double height : {600.0, 180.0, 256.0}) {
+        settings.height = height;
+        window().updateFrame();
+        expectHintInTheMiddle();
+    }
+}
+
+TEST_F(PrompterWindowTest, CentresTheHintThatCameWhileItWasCollapsed) {
+    window().toggleCollapsed();
+    finishResizing(32);
+    show(u"PLACEHOLDER"_s);
+    window().toggleCollapsed();
+    finishResizing(256);
+    expectHintInTheMiddle();
 }
 
 TEST_F(PrompterWindowTest, KeepsTheHintWhenALongTextBeforeItIsRenderedTooLate) {

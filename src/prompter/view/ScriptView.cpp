@@ -128,7 +128,7 @@ void ScriptView::setScript(Script script) {
         layout.measureMore(unitsLaidOutAtOnce + 1, 0);
     keepPlaceAcross(change, before.paragraphs.size(), place);
     layoutChanged();
-    if (!QAccessible::isActive()) return;
+    if (!QAccessible::isActive() || before.styled.text == layout.script().styled.text) return;
     QAccessibleTextUpdateEvent event(this, 0, before.styled.text, layout.script().styled.text);
     QAccessible::updateAccessibility(&event);
 }
