@@ -22,6 +22,7 @@
 #include "platform/FolderChooser.h"
 #include "platform/GlobalKeyMonitor.h"
 #include "platform/LocalKeyMonitor.h"
+#include "platform/ReservedEdges.h"
 #include "platform/SystemAdapters.h"
 #include "platform/ThreadTaskRunner.h"
 #include "platform/WindowTraits.h"
@@ -82,7 +83,7 @@ struct Machine {
     std::unique_ptr<ApplicationLookup> applications = makeApplicationLookup();
     std::unique_ptr<FileIcons> icons = makeFileIcons();
     std::unique_ptr<FolderChooser> folderChooser = makeFolderChooser();
-    QtScreens screens{notifications, mainQueue, identifyScreen};
+    QtScreens screens{notifications, mainQueue, identifyScreen, makeReservedEdges()};
     InstalledObsidian obsidian{homeFolderPath(), *applications, *bundle, *folderChooser};
     AppleNotesLibrary notes{mainQueue, noteTasks, processes, urlOpener};
     ProgramSurroundings surroundings{obsidian, *trust, screens};

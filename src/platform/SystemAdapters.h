@@ -22,6 +22,7 @@ class FileIcons;
 class FolderChooser;
 class GlobalKeyMonitor;
 class LocalKeyMonitor;
+class ReservedEdges;
 class WindowTraits;
 
 // The adapters of the system that the program was built for: each system defines these functions in
@@ -39,6 +40,9 @@ std::unique_ptr<WindowTraits> makeWindowTraits();
 
 /// What tells a screen from others, in every session.
 ScreenIdentity identifyScreen(const QScreen& screen);
+
+/// What panels keep of the screens; null where the toolkit knows all of it.
+std::unique_ptr<ReservedEdges> makeReservedEdges();
 
 /// What the program says about itself. Needs a QCoreApplication only.
 std::unique_ptr<BundleInformation> makeBundleInformation();

@@ -4,10 +4,13 @@ import json
 import os
 import unittest
 
-from harness import DesktopTestCase, wait_until
+from harness import DesktopTestCase, TessalineTestCase, wait_until
+from harness.session import PANEL_COLOR
+from harness.waiting import holds_for
 
 NOTEBOOK = {"eDP-1": (0, 0, 1280, 800)}
 PROJECTOR = {"HDMI-1": (1280, 0, 1024, 768)}
+A_FOLDING = 1.0
 
 
 class Screens(DesktopTestCase):
@@ -51,6 +54,19 @@ class Screens(DesktopTestCase):
         after = self.wait_for_screens(["eDP-1", "HDMI-1"], 3)
         self.assertEqual({s["name"]: s["id"] for s in after["all"]}, before)
 
+    def test_lose_what_a_panel_on_one_of_them_keeps(self):
+        self.wait_for_screens(["eDP-1", "HDMI-1"], 1)
+        self.desktop.start_panel(height=40, monitor=2)
+
+        def visible_frames():
+            return {s["name"]: s["visibleFrame"] for s in self.reports()[-1]["all"]}
+
+        whole = {"eDP-1": [0, 0, 1280, 800], "HDMI-1": [1280, 32, 1024, 768]}
+        with_panel = {**whole, "HDMI-1": [1280, 32, 1024, 728]}
+        wait_until(lambda: visible_frames() == with_panel, "the panel's strip is known")
+        self.desktop.process("tint2").end()
+        wait_until(lambda: visible_frames() == whole, "the strip is free again")
+
     def test_leave_the_program_running_when_the_built_in_one_goes(self):
         self.wait_for_screens(["eDP-1", "HDMI-1"], 1)
         self.desktop.set_monitors(PROJECTOR)
@@ -58,6 +74,46 @@ class Screens(DesktopTestCase):
         self.assertEqual(report["preferred"]["name"], "HDMI-1")
         self.assertEqual(report["preferred"]["frame"], [0, 0, 1024, 768])
         self.assertTrue(self.probe.running)
+
+
+class Panels(TessalineTestCase):
+    """A panel on the first of two monitors, and the prompter over it."""
+
+    desktop_options = {"size": (2304, 800), "panel": False, "monitors": {**NOTEBOOK, **PROJECTOR}}
+    height = 40  # points
+    floor = 24
+    centre = NOTEBOOK["eDP-1"][2] // 2
+
+    def start_at(self, scale):
+        self.scale = scale
+        self.desktop.start_panel(height=self.height * scale, monitor=1)
+        self.start(self.write_script("# Hello"), QT_SCALE_FACTOR=str(scale))
+
+    def folds_to(self, pixels):
+        self.call("ctl", "expand")
+        self.call("ctl", "minimize")
+        return not holds_for(lambda: self.desktop.geometry(self.window)[3] != pixels, A_FOLDING)
+
+    def wait_for_strip(self, points):
+        wait_until(lambda: self.folds_to(points * self.scale), f"it folds to {points} points")
+
+    def check_panel_is_covered_and_followed(self):
+        self.wait_for_strip(self.height)
+        beside = self.centre - self.desktop.geometry(self.window)[2] // 2 - 10
+        last_row = self.height * self.scale - 1
+        self.desktop.wait_for_pixel(beside, last_row, PANEL_COLOR)
+        picture = self.desktop.picture()
+        self.assertEqual(picture.pixel(self.centre, last_row), (0, 0, 0))
+        self.desktop.process("tint2").end()
+        self.wait_for_strip(self.floor)
+
+    def test_are_covered_by_the_folded_prompter(self):
+        self.start_at(scale=1)
+        self.check_panel_is_covered_and_followed()
+
+    def test_are_covered_at_scale_two(self):
+        self.start_at(scale=2)
+        self.check_panel_is_covered_and_followed()
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
 #include "platform/qt/QtScreens.h"
 
 #include "platform/NotificationCenter.h"
+#include "platform/ReservedEdges.h"
 #include "support/FakeMainQueue.h"
 
 #include <QGuiApplication>
@@ -9,16 +10,27 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <utility>
 
 namespace tessaline {
 namespace {
 
+class FakeReservedEdges final : public ReservedEdges {
+public:
+    QMarginsF of(const QScreen& /*screen*/) const override { return edges; }
+
+    QMarginsF edges;
+};
+
 class QtScreensTest : public ::testing::Test {
 protected:
     std::unique_ptr<QtScreens> makeScreens() {
-        return std::make_unique<QtScreens>(notifications, queue, [](const QScreen&) {
-            return ScreenIdentity{.id = 7, .builtIn = true};
-        });
+        auto owned = std::make_unique<FakeReservedEdges>();
+        panels = owned.get();
+        return std::make_unique<QtScreens>(
+            notifications, queue,
+            [](const QScreen&) { return ScreenIdentity{.id = 7, .builtIn = true}; },
+            std::move(owned));
     }
 
     /// What Qt does when a desktop reports a change, without the desktop.
@@ -30,6 +42,7 @@ protected:
 
     NotificationCenter notifications;
     FakeMainQueue queue;
+    FakeReservedEdges* panels = nullptr; ///< of the screens that were made last
     int posts = 0;
     const void* sender = nullptr;
     NotificationCenter::Observation observer = notifications.observe(
@@ -53,6 +66,24 @@ TEST_F(QtScreensTest, DescribesEveryScreen) {
     const QSize size = primary->geometry().size();
     EXPECT_EQ(first.frame, (Rect{0, 0, double(size.width()), double(size.height())}));
     EXPECT_EQ(screens->mainScreen(), first);
+}
+
+TEST_F(QtScreensTest, LeavesOutWhatPanelsKeep) {
+    const auto screens = makeScreens();
+    const Rect frame = screens->mainScreen()->frame;
+    EXPECT_EQ(screens->mainScreen()->visibleFrame, frame);
+    panels->edges = {1.5, 40, 3, 20};
+    EXPECT_EQ(screens->mainScreen()->visibleFrame,
+              (Rect{1.5, 20, frame.width - 4.5, frame.height - 60}));
+    panels->edges = {0, frame.height + 10, 0, 0};
+    EXPECT_EQ(screens->mainScreen()->visibleFrame.height, 0);
+}
+
+TEST_F(QtScreensTest, AnnouncesPanelsThatChange) {
+    const auto screens = makeScreens();
+    panels->onChange();
+    queue.runAll();
+    EXPECT_EQ(posts, 1);
 }
 
 TEST_F(QtScreensTest, AnnouncesTheSignalsOfOneChangeOnce) {

@@ -2,6 +2,7 @@
 
 #include "platform/linux/XcbAtom.h"
 #include "platform/linux/XcbReply.h"
+#include "platform/linux/XcbWindows.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +10,6 @@
 namespace tessaline {
 namespace {
 
-constexpr std::uint32_t maxManagedWindows = 4096;
 constexpr std::uint8_t sentEventBit = 0x80;
 
 } // namespace
@@ -68,30 +68,16 @@ void X11Stacking::raiseAboveManagedWindows(XWindow window) const {
 }
 
 std::vector<X11Stacking::XWindow> X11Stacking::topLevelWindows() const {
-    const XcbReply<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(connection, xcb_query_tree(connection, root), nullptr));
-    if (!tree) return {};
-    const xcb_window_t* children = xcb_query_tree_children(tree.get());
-    return {children, children + xcb_query_tree_children_length(tree.get())};
+    return childrenOf(connection, {{root}}).front();
 }
 
 std::vector<X11Stacking::XWindow> X11Stacking::managedWindows() const {
     std::vector<XWindow> windows;
     for (const auto list : managedWindowLists) {
-        const auto listed = windowsIn(list);
+        const auto listed = windowsListedIn(connection, root, list);
         windows.insert(windows.end(), listed.begin(), listed.end());
     }
     return windows;
-}
-
-std::vector<X11Stacking::XWindow> X11Stacking::windowsIn(std::uint32_t property) const {
-    const auto cookie =
-        xcb_get_property(connection, 0, root, property, XCB_ATOM_WINDOW, 0, maxManagedWindows);
-    const XcbReply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(connection, cookie, nullptr));
-    if (!reply || reply->format != 32) return {};
-    const auto* windows = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
-    return {windows, windows + reply->value_len};
 }
 
 /// Window managers put clients into frames of their own, some into frames within frames. All

@@ -31,7 +31,6 @@ public:
 private:
     std::vector<XWindow> topLevelWindows() const;
     std::vector<XWindow> managedWindows() const;
-    std::vector<XWindow> windowsIn(std::uint32_t property) const;
     std::vector<XWindow> framesOf(std::vector<XWindow> windows) const;
 
     xcb_connection_t* connection;

@@ -2,6 +2,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "platform/ReservedEdges.h"
 #include "platform/ScreenCoordinates.h"
 
 #include <QGuiApplication>
@@ -9,12 +10,36 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessaline {
 
-QtScreens::QtScreens(NotificationCenter& center, MainQueue& mainQueue, Identify identifyScreen)
-    : notifications(center), queue(mainQueue), identify(std::move(identifyScreen)) {
+namespace {
+
+Rect intersection(const Rect& a, const Rect& b) {
+    const double left = std::max(a.minX(), b.minX());
+    const double bottom = std::max(a.minY(), b.minY());
+    const double right = std::min(a.maxX(), b.maxX());
+    const double top = std::min(a.maxY(), b.maxY());
+    return {left, bottom, std::max(right - left, 0.0), std::max(top - bottom, 0.0)};
+}
+
+Rect without(const QMarginsF& edges, const Rect& frame) {
+    return {frame.x + edges.left(), frame.y + edges.bottom(),
+            frame.width - edges.left() - edges.right(),
+            frame.height - edges.top() - edges.bottom()};
+}
+
+} // namespace
+
+QtScreens::QtScreens(NotificationCenter& center, MainQueue& mainQueue, Identify identifyScreen,
+                     std::unique_ptr<ReservedEdges> reservedByPanels)
+    : notifications(center)
+    , queue(mainQueue)
+    , identify(std::move(identifyScreen))
+    , panels(std::move(reservedByPanels)) {
+    if (panels) panels->onChange = [this] { announceChange(); };
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
         watch(screen);
         announceChange();
@@ -25,6 +50,8 @@ QtScreens::QtScreens(NotificationCenter& center, MainQueue& mainQueue, Identify 
     for (QScreen* screen : screens)
         watch(screen);
 }
+
+QtScreens::~QtScreens() = default;
 
 std::vector<Screen> QtScreens::all() const {
     std::vector<Screen> result;
@@ -44,12 +71,22 @@ std::optional<Screen> QtScreens::mainScreen() const {
 Screen QtScreens::describe(const QScreen& screen) const {
     const QRect primary = QGuiApplication::primaryScreen()->geometry();
     const auto [id, builtIn] = identify(screen);
+    const Rect frame = fromQtCoordinates(screen.geometry(), primary);
     return {.id = id,
             .name = screen.name(),
-            .frame = fromQtCoordinates(screen.geometry(), primary),
-            .visibleFrame = fromQtCoordinates(screen.availableGeometry(), primary),
+            .frame = frame,
+            .visibleFrame = visiblePartOf(frame, screen, primary),
             .builtIn = builtIn,
             .refreshRate = screen.refreshRate()};
+}
+
+/// Where panels have to be asked, what Qt knows is the area that is left of the whole desktop.
+Rect QtScreens::visiblePartOf(const Rect& frame, const QScreen& screen,
+                              const QRect& primary) const {
+    const Rect available = fromQtCoordinates(screen.availableGeometry(), primary);
+    if (!panels) return available;
+    const bool isWholeDesktop = QGuiApplication::screens().size() == 1;
+    return intersection(isWholeDesktop ? available : frame, without(panels->of(screen), frame));
 }
 
 void QtScreens::watch(QScreen* screen) {

@@ -56,8 +56,8 @@ class Desktop:
             self.processes.pop().end()
         shutil.rmtree(self.folder, ignore_errors=True)
 
-    def start_panel(self, tray=None):
-        session.start_panel(self.start, self.env, self.size[1], tray)
+    def start_panel(self, tray=None, **options):
+        session.start_panel(self.start, self.env, self.size[1], tray, **options)
 
     @property
     def home(self):

@@ -12,17 +12,17 @@ from .waiting import wait_until
 PANEL_HEIGHT = 30
 PANEL_COLOR = (0, 255, 0)
 
-PANEL_CONFIG = f"""\
-panel_monitor = all
+PANEL_CONFIG = """\
+panel_monitor = {monitor}
 panel_position = top center horizontal
-panel_size = 100% {PANEL_HEIGHT}
-panel_items = {{items}}
+panel_size = 100% {height}
+panel_items = {items}
 panel_layer = top
 strut_policy = follow_size
 taskbar_mode = multi_desktop
 rounded = 0
 border_width = 0
-background_color = {{color}} 100
+background_color = {color} 100
 panel_background_id = 1
 systray_padding = 4 4 4
 systray_icon_size = 22
@@ -100,12 +100,15 @@ def start_window_manager(start, env):
     wait_until(lambda: root_property(env, "_NET_SHOWING_DESKTOP"), "openbox manages the screen")
 
 
-def start_panel(start, env, screen_height, tray):
-    """A panel with a taskbar or, painted in the colour `tray`, with a taskbar and a tray."""
+def start_panel(start, env, screen_height, tray=None, height=PANEL_HEIGHT, monitor="all"):
+    """A panel with a taskbar or, painted in the colour `tray`, with a taskbar and a tray. Monitors
+    count from 1."""
     require("tint2")
     config = pathlib.Path(env["HOME"]) / "tint2rc"
     config.write_text(
-        PANEL_CONFIG.format(items="TS" if tray else "T", color=tray or "#00ff00")
+        PANEL_CONFIG.format(
+            items="TS" if tray else "T", color=tray or "#00ff00", height=height, monitor=monitor
+        )
     )
     start("tint2", ["tint2", "-c", config])
 

@@ -2,6 +2,7 @@
 #include "ProbeWindow.h"
 
 #include "platform/NotificationCenter.h"
+#include "platform/ReservedEdges.h"
 #include "platform/SystemAdapters.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FocusOnClick.h"
@@ -64,7 +65,7 @@ int main(int argc, char** argv) {
 
     NotificationCenter notifications;
     QtMainQueue queue;
-    const QtScreens screens(notifications, queue, identifyScreen);
+    const QtScreens screens(notifications, queue, identifyScreen, makeReservedEdges());
     ScreenManager manager(screens, notifications);
     manager.onScreenChange = [&] { reportScreens(screens, manager); };
     reportScreens(screens, manager);
