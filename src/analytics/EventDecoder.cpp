@@ -153,8 +153,11 @@ private:
 
 bool decodeEvents(const QByteArray& bytes, const EventVisitor& visit, QString* error) {
     EventReader reader(visit);
-    if (nlohmann::json::sax_parse(bytes.begin(), bytes.end(), &reader)) return true;
-    if (error) *error = reader.problem();
+    const bool isRead = nlohmann::json::sax_parse(bytes.begin(), bytes.end(), &reader);
+    // The parser takes a NUL for the end of the text.
+    const qsizetype nul = isRead ? bytes.indexOf('\0') : -1;
+    if (isRead && nul < 0) return true;
+    if (error) *error = isRead ? u"Invalid JSON at byte %1"_s.arg(nul + 1) : reader.problem();
     return false;
 }
 

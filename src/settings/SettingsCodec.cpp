@@ -1,5 +1,7 @@
 #include "settings/SettingsCodec.h"
 
+#include "settings/JsonReader.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -11,7 +13,6 @@
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
-using nlohmann::json;
 using nlohmann::ordered_json;
 
 namespace {
@@ -23,19 +24,22 @@ void report(QString* error, const QString& description) {
 // Each `decode` takes the one form of JSON value that its target accepts, and tells whether the
 // value had that form.
 
-bool decode(const json& value, bool& target) {
-    if (!value.is_boolean()) return false;
-    target = value.get<bool>();
-    return true;
+template <typename T>
+bool decodeAs(const JsonValue& value, T& target) {
+    const T* content = value.as<T>();
+    if (content) target = *content;
+    return content;
 }
 
-bool decode(const json& value, double& target) {
-    if (!value.is_number()) return false;
-    target = value.get<double>();
-    return true;
+bool decode(const JsonValue& value, bool& target) {
+    return decodeAs(value, target);
 }
 
-bool decode(const json& value, std::uint32_t& target) {
+bool decode(const JsonValue& value, double& target) {
+    return decodeAs(value, target);
+}
+
+bool decode(const JsonValue& value, std::uint32_t& target) {
     constexpr double greatest = std::numeric_limits<std::uint32_t>::max();
     double number = 0;
     if (!decode(value, number) || number < 0 || number > greatest || number != std::floor(number))
@@ -44,24 +48,23 @@ bool decode(const json& value, std::uint32_t& target) {
     return true;
 }
 
-bool decode(const json& value, QString& target) {
-    if (!value.is_string()) return false;
-    target = QString::fromStdString(value.get_ref<const std::string&>());
-    return true;
+bool decode(const JsonValue& value, QString& target) {
+    return decodeAs(value, target);
 }
 
-bool decode(const json& value, QByteArray& target) {
-    if (!value.is_string()) return false;
-    const auto text = QByteArray::fromStdString(value.get_ref<const std::string&>());
-    auto result = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+bool decode(const JsonValue& value, QByteArray& target) {
+    const auto* text = value.as<QString>();
+    if (!text) return false;
+    auto result =
+        QByteArray::fromBase64Encoding(text->toUtf8(), QByteArray::AbortOnBase64DecodingErrors);
     // Qt lets missing padding pass.
-    if (!result || text.size() % 4 != 0) return false;
+    if (!result || text->size() % 4 != 0) return false;
     target = std::move(*result);
     return true;
 }
 
 template <typename Enumeration>
-bool decode(const json& value, Enumeration& target,
+bool decode(const JsonValue& value, Enumeration& target,
             std::optional<Enumeration> (*fromRawValue)(QStringView)) {
     QString raw;
     if (!decode(value, raw)) return false;
@@ -70,51 +73,53 @@ bool decode(const json& value, Enumeration& target,
     return result.has_value();
 }
 
-bool decode(const json& value, ScrollRate& target) {
+bool decode(const JsonValue& value, ScrollRate& target) {
     return decode(value, target, scrollRateFromRawValue);
 }
 
-bool decode(const json& value, SourceType& target) {
+bool decode(const JsonValue& value, SourceType& target) {
     return decode(value, target, sourceTypeFromRawValue);
 }
 
-bool decode(const json& value, std::set<SourceType>& target) {
-    if (!value.is_array()) return false;
+bool decode(const JsonValue& value, std::set<SourceType>& target) {
+    const auto* array = value.as<JsonValue::Array>();
+    if (!array) return false;
     target.clear();
-    return std::all_of(value.begin(), value.end(), [&target](const json& element) {
+    return std::all_of(array->begin(), array->end(), [&target](const JsonValue& element) {
         SourceType source{};
         return decode(element, source) && (target.insert(source), true);
     });
 }
 
-bool decode(const json& value, AppleNotesConfiguration& target) {
-    return value.is_object() && value.contains("noteId") &&
-           decode(value["noteId"], target.noteId) && value.contains("noteName") &&
-           decode(value["noteName"], target.noteName);
+bool decode(const JsonValue& value, AppleNotesConfiguration& target) {
+    const JsonValue* identifier = value.find(u"noteId");
+    const JsonValue* name = value.find(u"noteName");
+    return identifier && decode(*identifier, target.noteId) && name &&
+           decode(*name, target.noteName);
 }
 
 template <typename T>
-bool decode(const json& value, std::optional<T>& target) {
+bool decode(const JsonValue& value, std::optional<T>& target) {
     return decode(value, target.emplace());
 }
 
 /// The members of the file's object. Remembers the first one that was of the wrong form.
 class Members {
 public:
-    explicit Members(const json& members) : object(members) {}
+    explicit Members(const JsonValue& members) : object(members) {}
 
     /// Takes the key's value over into `target`, which stays when the key is absent or null.
     template <typename T>
     void take(const char* key, T& target) {
-        const auto member = object.find(key);
-        if (member == object.end() || member->is_null() || wrongKey) return;
+        const JsonValue* member = object.find(QString::fromLatin1(key));
+        if (!member || member->isNull() || wrongKey) return;
         if (!decode(*member, target)) wrongKey = key;
     }
 
     const char* firstWrongKey() const { return wrongKey; }
 
 private:
-    const json& object;
+    const JsonValue& object;
     const char* wrongKey = nullptr;
 };
 
@@ -155,42 +160,11 @@ PersistedSettings takeSettings(Members& members) {
     return settings;
 }
 
-/// Whether brackets nest deeper than any configuration's. Building a value out of millions of
-/// nested brackets would take many times the file's size in memory.
-bool nestsTooDeep(const QByteArray& bytes) {
-    constexpr int greatestDepth = 512;
-    int depth = 0;
-    bool inString = false;
-    for (auto byte = bytes.begin(); byte != bytes.end(); ++byte) {
-        if (*byte == '"') {
-            inString = !inString;
-        } else if (inString) {
-            if (*byte == '\\' && byte + 1 != bytes.end()) ++byte;
-        } else if (*byte == '[' || *byte == '{') {
-            if (++depth > greatestDepth) return true;
-        } else if (*byte == ']' || *byte == '}') {
-            --depth;
-        }
-    }
-    return false;
-}
-
 /// The file's one object.
-std::optional<json> parseObject(const QByteArray& bytes, QString* error) {
-    if (nestsTooDeep(bytes)) {
-        report(error, u"The JSON is nested too deeply"_s);
-        return std::nullopt;
-    }
-    try {
-        // Not the ordered type: that one looks for a key by going through all others.
-        json object = json::parse(bytes.begin(), bytes.end());
-        if (object.is_object()) return object;
-        report(error, u"The JSON is not an object"_s);
-    } catch (const json::parse_error& failure) {
-        report(error, u"Invalid JSON at byte %1"_s.arg(failure.byte));
-    } catch (const json::out_of_range&) {
-        report(error, u"The JSON holds a number out of range"_s);
-    }
+std::optional<JsonValue> parseObject(const QByteArray& bytes, QString* error) {
+    auto value = parseJson(bytes, error);
+    if (!value || value->as<JsonValue::Object>()) return value;
+    report(error, u"The JSON is not an object"_s);
     return std::nullopt;
 }
 

@@ -74,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
         Undecodable{"Truncated", '[' + good + ',', u"Invalid JSON at byte 71"_s},
         Undecodable{"Unclosed", '[' + good, u"Invalid JSON at byte 70"_s},
         Undecodable{"Twice", '[' + good + "][]", u"Invalid JSON at byte 71"_s},
+        Undecodable{"AfterANul", "[]" + QByteArray(1, '\0') + '[' + good + ']',
+                    u"Invalid JSON at byte 3"_s},
         Undecodable{"Binary", QByteArray("\x7f\0\0", 3), u"Invalid JSON at byte 1"_s},
         Undecodable{"InvalidUtf8", "[{\"name\": \"\xff\"}]", u"Invalid JSON at byte 12"_s},
         Undecodable{"LoneSurrogate", R"([{"name": "\ud800"}])", u"Invalid JSON at byte 18"_s},

@@ -68,6 +68,56 @@ TEST(SettingsDecoding, IgnoresUnknownAndUnpersistedKeys) {
               PersistedSettings());
 }
 
+struct UnusableValue {
+    const char* name;
+    QByteArray json;
+};
+
+std::ostream& operator<<(std::ostream& out, const UnusableValue& value) {
+    return out << value.name;
+}
+
+class UnusableValueDecoding : public testing::TestWithParam<UnusableValue> {};
+
+TEST_P(UnusableValueDecoding, DoesNotMatterUnderAnUnknownKey) {
+    const QByteArray& value = GetParam().json;
+    EXPECT_EQ(decoded("{\"x\": " + value + ", \"fontSize\": 20}").fontSize, 20.0);
+    EXPECT_EQ(decoded("{\"fontSize\": 20, \"x\": {\"y\": [" + value + "," + value + "]}}").fontSize,
+              20.0);
+    EXPECT_EQ(decoded("{\"appleNotesConfig\": {\"noteId\": \"7\", \"x\": " + value +
+                      ", \"noteName\": \"Talk\"}}")
+                  .appleNotesConfig,
+              (AppleNotesConfiguration{u"7"_s, u"Talk"_s}));
+}
+
+TEST_P(UnusableValueDecoding, FailsUnderEveryKnownKey) {
+    for (const char* key :
+         {"notePath", "fontSize", "autoScrollEnabled", "scrollRate", "activeSourceType",
+          "appleNotesConfig", "enabledSourceTypes", "obsidianBookmarkData", "preferredDisplayID"}) {
+        EXPECT_EQ(decodingError("{\"x\": 1, \"" + QByteArray(key) + "\": " + GetParam().json + "}"),
+                  u"Invalid value for \"%1\""_s.arg(QLatin1String(key)));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Such, UnusableValueDecoding,
+                         testing::Values(UnusableValue{"LargeExponent", "1e400"},
+                                         UnusableValue{"NegativeNumber", "-1.5E+400"},
+                                         UnusableValue{"ManyDigits", QByteArray(400, '9')},
+                                         UnusableValue{"HighSurrogate", R"("\ud83c")"},
+                                         UnusableValue{"LowSurrogate", R"("a \" \\ \uDFA4 b")"},
+                                         UnusableValue{"SwappedPair", R"("\udfa4\ud83c")"},
+                                         UnusableValue{"HighSurrogateBeforeAPair",
+                                                       R"("\ud83c\ud83c\udfa4")"}),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(SettingsDecoding, IgnoresAnUnknownKeyWithHalfOfASurrogatePair) {
+    EXPECT_EQ(decoded(R"({"\ud83c" : "\udfa4", "fontSize": 20})").fontSize, 20.0);
+}
+
+TEST(SettingsDecoding, TakesTinyNumbersForZero) {
+    EXPECT_EQ(decoded(R"({"xOffset": 1e-400})").xOffset, 0.0);
+}
+
 TEST(SettingsDecoding, AcceptsIntegersAndFractionsAndExponentsForDoubles) {
     EXPECT_EQ(decoded(R"({"width": 600})").width, 600.0);
     EXPECT_EQ(decoded(R"({"xOffset": -12})").xOffset, -12.0);
@@ -295,19 +345,31 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenFile{"NotANumber", R"({"fontSize": NaN})", u"Invalid JSON at byte 14"_s},
         BrokenFile{"InvalidUtf8", "{\"notePath\": \"\xC3(\"}", u"Invalid JSON at byte 16"_s},
         BrokenFile{"InvalidUtf8InUnknownKey", "{\"x\": \"\xFF\"}", u"Invalid JSON at byte 8"_s},
-        BrokenFile{"LoneSurrogate", R"({"notePath": "\ud83c"})", u"Invalid JSON at byte 21"_s},
-        BrokenFile{"NumberOutOfRange", R"({"fontSize": 1e400})",
-                   u"The JSON holds a number out of range"_s},
+        BrokenFile{"AfterANul", QByteArray("{\"fontSize\": 20}\0{\"width\": 500}", 33),
+                   u"Invalid JSON at byte 17"_s},
+        BrokenFile{"NulAtTheEnd", QByteArray("{}\n\0", 4), u"Invalid JSON at byte 4"_s},
+        BrokenFile{"NulInAText", QByteArray("{\"notePath\": \"a\0b\"}", 19),
+                   u"Invalid JSON at byte 16"_s},
+        BrokenFile{"HalfOfAPairInABrokenText", R"({"x": "\ud83c \q"})",
+                   u"Invalid JSON at byte 16"_s},
+        BrokenFile{"TwoLargeExponents", R"({"x": 1e400e400})", u"Invalid JSON at byte 11"_s},
+        BrokenFile{"ErrorAfterALargeNumber", R"({"x": 1e400, "y": tru})",
+                   u"Invalid JSON at byte 22"_s},
         BrokenFile{"Array", "[]", u"The JSON is not an object"_s},
         BrokenFile{"Null", "null", u"The JSON is not an object"_s},
         BrokenFile{"Text", R"("config")", u"The JSON is not an object"_s}),
     [](const auto& test) { return std::string(test.param.name); });
 
 TEST(SettingsDecoding, RefusesMillionsOfNestedBracketsWithoutBuildingThem) {
-    for (const char bracket : {'[', '{'}) {
-        EXPECT_EQ(decodingError("{\"x\": " + QByteArray(10'000'000, bracket)),
+    for (const char* opening : {"[", "{\"x\":"}) {
+        EXPECT_EQ(decodingError("{\"x\": " + QByteArray(opening).repeated(2'000'000)),
                   u"The JSON is nested too deeply"_s);
     }
+}
+
+TEST(SettingsDecoding, RefusesMillionsOfValuesWithoutBuildingThem) {
+    EXPECT_EQ(decodingError("{\"x\": [" + QByteArray("0,").repeated(5'000'000) + "0]}"),
+              u"The JSON holds too many values"_s);
 }
 
 TEST(SettingsDecoding, CountsNestingOutsideOfStringsOnly) {

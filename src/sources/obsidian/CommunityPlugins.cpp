@@ -1,9 +1,11 @@
 #include "sources/obsidian/CommunityPlugins.h"
 
+#include "settings/JsonReader.h"
 #include "settings/WholeFile.h"
 #include "sources/obsidian/CompanionPlugin.h"
 
 #include <QFile>
+#include <QStringList>
 
 #include <nlohmann/json.hpp>
 
@@ -13,24 +15,31 @@
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
-using nlohmann::json;
 
 namespace {
 
-constexpr qint64 listLimit = qint64{1} << 20;
-
-std::optional<json> readList(const QString& path, QString* error) {
-    const auto bytes = readWholeFile(path, error, listLimit);
+std::optional<QStringList> readList(const QString& path, QString* error) {
+    const auto bytes = readWholeFile(path, error, jsonFileLimit);
     if (!bytes) return std::nullopt;
-    auto list = json::parse(bytes->begin(), bytes->end(), nullptr, false);
-    const auto isString = [](const json& element) { return element.is_string(); };
-    if (list.is_array() && std::all_of(list.begin(), list.end(), isString)) return list;
+    const auto value = parseJson(*bytes);
+    QStringList list;
+    const auto isString = [&list](const JsonValue& element) {
+        const auto* text = element.as<QString>();
+        if (text) list += *text;
+        return text != nullptr;
+    };
+    const auto* array = value ? value->as<JsonValue::Array>() : nullptr;
+    if (array && std::all_of(array->begin(), array->end(), isString)) return list;
     *error = u"The list of plug-ins is not a JSON array of strings"_s;
     return std::nullopt;
 }
 
-bool names(const json& list, const QString& identifier) {
-    return std::find(list.begin(), list.end(), identifier.toStdString()) != list.end();
+/// As Obsidian itself writes it: two spaces, no line break at the end.
+QByteArray written(const QStringList& list) {
+    auto array = nlohmann::json::array();
+    for (const QString& text : list)
+        array.push_back(text.toStdString());
+    return QByteArray::fromStdString(array.dump(2));
 }
 
 } // namespace
@@ -41,16 +50,14 @@ CommunityPlugins::CommunityPlugins(const QString& vault)
 bool CommunityPlugins::contain(const QString& identifier) const {
     QString error;
     const auto list = readList(path, &error);
-    return list && names(*list, identifier);
+    return list && list->contains(identifier);
 }
 
 bool CommunityPlugins::enable(const QString& identifier, QString* error) const {
-    auto list = QFile::exists(path) ? readList(path, error) : json::array();
+    auto list = QFile::exists(path) ? readList(path, error) : QStringList();
     if (!list) return false;
-    if (names(*list, identifier)) return true;
-    list->push_back(identifier.toStdString());
-    // As Obsidian itself writes it: two spaces, no line break at the end.
-    return writeWholeFile(path, QByteArray::fromStdString(list->dump(2)), error);
+    if (list->contains(identifier)) return true;
+    return writeWholeFile(path, written(*list << identifier), error);
 }
 
 } // namespace tessaline

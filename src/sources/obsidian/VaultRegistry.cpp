@@ -1,33 +1,36 @@
 #include "sources/obsidian/VaultRegistry.h"
 
-#include "settings/WholeFile.h"
-
-#include <nlohmann/json.hpp>
+#include "settings/JsonReader.h"
 
 #include <algorithm>
-#include <string>
 
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
-using nlohmann::ordered_json;
 
 namespace {
 
-/// Thousands of vaults. Looking keys up in an object that keeps its order costs the square of their
-/// number, which a longer file could make felt.
-constexpr qint64 registryLimit = qint64{256} << 10;
+template <typename T>
+T valueOr(const JsonValue* value, T standard) {
+    const T* content = value ? value->as<T>() : nullptr;
+    return content ? *content : standard;
+}
 
-std::optional<VaultInfo> decodeVault(const ordered_json& entry) {
-    if (!entry.is_object()) return std::nullopt;
-    const auto path = entry.find("path");
-    if (path == entry.end() || !path->is_string()) return std::nullopt;
-    VaultInfo vault{QString::fromStdString(path->get_ref<const std::string&>())};
-    const auto timestamp = entry.find("ts");
-    if (timestamp != entry.end() && timestamp->is_number()) vault.timestamp = *timestamp;
-    const auto open = entry.find("open");
-    if (open != entry.end() && open->is_boolean()) vault.isOpen = *open;
-    return vault;
+std::optional<VaultInfo> decodeVault(const JsonValue& entry) {
+    const JsonValue* path = entry.find(u"path");
+    if (!path || !path->as<QString>()) return std::nullopt;
+    return VaultInfo{*path->as<QString>(), valueOr(entry.find(u"ts"), 0.0),
+                     valueOr(entry.find(u"open"), false)};
+}
+
+std::optional<std::vector<VaultInfo>> decodeRegistry(const JsonValue& registry) {
+    const JsonValue* entries = registry.find(u"vaults");
+    const auto* members = entries ? entries->as<JsonValue::Object>() : nullptr;
+    if (!members) return std::nullopt;
+    std::vector<VaultInfo> vaults;
+    for (const auto& [identifier, entry] : *members)
+        if (auto vault = decodeVault(entry)) vaults.push_back(*std::move(vault));
+    return vaults;
 }
 
 bool wasUsedBefore(const VaultInfo& one, const VaultInfo& other) {
@@ -37,14 +40,8 @@ bool wasUsedBefore(const VaultInfo& one, const VaultInfo& other) {
 } // namespace
 
 std::optional<std::vector<VaultInfo>> parseVaultRegistry(const QByteArray& bytes) {
-    const auto registry = ordered_json::parse(bytes.begin(), bytes.end(), nullptr, false);
-    if (!registry.is_object()) return std::nullopt;
-    const auto entries = registry.find("vaults");
-    if (entries == registry.end() || !entries->is_object()) return std::nullopt;
-    std::vector<VaultInfo> vaults;
-    for (const ordered_json& entry : *entries)
-        if (auto vault = decodeVault(entry)) vaults.push_back(*std::move(vault));
-    return vaults;
+    const auto registry = parseJson(bytes);
+    return registry ? decodeRegistry(*registry) : std::nullopt;
 }
 
 std::optional<QString> preferredVault(const std::vector<VaultInfo>& vaults) {
@@ -67,9 +64,8 @@ VaultRegistry::VaultRegistry(const QString& homeFolder) {
 
 std::optional<QString> VaultRegistry::findVault() const {
     for (const QString& place : places) {
-        const auto bytes = readWholeFile(place, nullptr, registryLimit);
-        if (!bytes) continue;
-        const auto vaults = parseVaultRegistry(*bytes);
+        const auto registry = readJsonFile(place);
+        const auto vaults = registry ? decodeRegistry(*registry) : std::nullopt;
         if (!vaults) continue;
         if (auto vault = preferredVault(*vaults)) return vault;
     }

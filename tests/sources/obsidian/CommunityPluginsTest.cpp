@@ -85,11 +85,23 @@ TEST_P(OtherCommunityList, IsLeftAlone) {
     EXPECT_EQ(fileBytes(path), GetParam());
 }
 
+TEST_F(CommunityPluginsTest, AreLeftAloneWhenSomethingFollowsTheList) {
+    const QByteArray list = R"(["obsidian-tessaline"])";
+    for (const QByteArray& bytes : {list + '\0', list + '\0' + list}) {
+        putFile(path, bytes);
+        EXPECT_FALSE(contain());
+        EXPECT_EQ(enable(), u"The list of plug-ins is not a JSON array of strings"_s);
+        EXPECT_EQ(fileBytes(path), bytes);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Such, OtherCommunityList,
                          ::testing::Values("", "null", "{}", R"({"obsidian-tessaline":true})",
                                            R"(["obsidian-tessaline")", R"(["obsidian-tessaline",])",
                                            R"(["obsidian-tessaline",1])",
                                            R"(["obsidian-tessaline",["a"]])",
+                                           R"(["obsidian-tessaline",1e400])",
+                                           R"(["obsidian-tessaline","\ud83c"])",
                                            R"("obsidian-tessaline")", "[\"\xFF\"]"));
 
 TEST_F(CommunityPluginsTest, MayBeAListThatNestsDeeply) {
@@ -101,10 +113,10 @@ TEST_F(CommunityPluginsTest, MayBeAListThatNestsDeeply) {
 }
 
 TEST_F(CommunityPluginsTest, AreLeftAloneWhenTheListIsHuge) {
-    const QByteArray bytes = "[\"obsidian-tessaline\"" + QByteArray(2 << 20, ' ') + "]";
+    const QByteArray bytes = "[\"obsidian-tessaline\"" + QByteArray(16 << 20, ' ') + "]";
     putFile(path, bytes);
     EXPECT_FALSE(contain());
-    EXPECT_EQ(enable(), u"The file is larger than 1048576 bytes"_s);
+    EXPECT_EQ(enable(), u"The file is larger than 16777216 bytes"_s);
     EXPECT_EQ(fileBytes(path), bytes);
 }
 

@@ -43,6 +43,12 @@ TEST(VaultRegistryFile, LeavesOutWhatHasNoPath) {
                 Optional(ElementsAre(VaultInfo{u"/f"_s, 0, false})));
 }
 
+TEST(VaultRegistryFile, LeavesOutWhatNobodyCanUse) {
+    EXPECT_THAT(parseVaultRegistry(R"({"x":-1e999,"vaults":{"a":{"path":"/\ud83c"},
+                    "b":{"path":"/b","ts":1e400,"name":"\udfa4"}}})"),
+                Optional(ElementsAre(VaultInfo{u"/b"_s, 0, false})));
+}
+
 TEST(VaultRegistryFile, ReplacesValuesOfAnotherKind) {
     EXPECT_THAT(parseVaultRegistry(R"({"vaults":{"a":{"path":"/a","ts":"5","open":1}}})"),
                 Optional(ElementsAre(VaultInfo{u"/a"_s, 0, false})));
@@ -62,17 +68,26 @@ INSTANTIATE_TEST_SUITE_P(Such, OtherRegistryFile,
                                            R"({"vaults":{"a":{"path":"/a"}}}x)",
                                            "{\"vaults\":{\"a\":{\"path\":\"/\xFF\"}}}"));
 
+TEST(VaultRegistryFile, EndsWhereItsObjectEnds) {
+    const QByteArray registry = R"({"vaults":{"a":{"path":"/a"}}})";
+    EXPECT_EQ(vaultIn(registry + "\r\n"), u"/a"_s);
+    EXPECT_EQ(vaultIn(registry + '\0'), std::nullopt);
+    EXPECT_EQ(vaultIn(registry + '\0' + registry), std::nullopt);
+}
+
 TEST(VaultRegistryFile, MayNameNoVault) {
     EXPECT_THAT(parseVaultRegistry(R"({"vaults":{}})"), Optional(IsEmpty()));
     EXPECT_EQ(vaultIn(R"({"vaults":{}})"), std::nullopt);
 }
 
-TEST(VaultRegistryFile, MayNestDeeply) {
-    constexpr qsizetype depth = 100'000;
-    const QByteArray nested = QByteArray(depth, '[') + QByteArray(depth, ']');
-    EXPECT_EQ(vaultIn(nested), std::nullopt);
-    EXPECT_EQ(vaultIn(QByteArray(depth, '[')), std::nullopt);
-    EXPECT_EQ(vaultIn("{\"vaults\":{\"a\":{\"path\":\"/a\",\"x\":" + nested + "}}}"), u"/a"_s);
+TEST(VaultRegistryFile, MayNestAsDeepAsPeopleDo) {
+    const auto nested = [](qsizetype depth) {
+        return "{\"vaults\":{\"a\":{\"path\":\"/a\",\"x\":" + QByteArray(depth, '[') +
+               QByteArray(depth, ']') + "}}}";
+    };
+    EXPECT_EQ(vaultIn(nested(500)), u"/a"_s);
+    EXPECT_EQ(vaultIn(nested(100'000)), std::nullopt);
+    EXPECT_EQ(vaultIn(QByteArray(100'000, '[')), std::nullopt);
 }
 
 TEST(PreferredVault, IsTheMostRecentOneWhenNoneIsOpen) {
@@ -140,8 +155,22 @@ TEST_F(VaultRegistryPlaces, AreReadAnewEachTime) {
     EXPECT_EQ(registry.findVault(), u"/two"_s);
 }
 
-TEST_F(VaultRegistryPlaces, AreIgnoredWhenTheirFileIsHuge) {
-    put(u".config/obsidian"_s, naming("/vault") + QByteArray(1 << 20, ' '));
+TEST_F(VaultRegistryPlaces, MayNameTensOfThousandsOfVaults) {
+    QByteArray bytes = "{\"vaults\":{";
+    for (int number = 0; number < 50'000; ++number) {
+        const QByteArray name = QByteArray::number(number);
+        bytes += '"' + name + "\":{\"path\":\"/vaults/" + name + "\",\"ts\":" + name + "},";
+    }
+    put(u".config/obsidian"_s, bytes + R"("last":{"path":"/last","open":true}}})");
+    EXPECT_EQ(registry.findVault(), u"/last"_s);
+}
+
+TEST_F(VaultRegistryPlaces, MayHoldAFileOfTheGreatestSize) {
+    const QByteArray file = naming("/vault");
+    const QByteArray spaces((16 << 20) - file.size(), ' ');
+    put(u".config/obsidian"_s, file + spaces);
+    EXPECT_EQ(registry.findVault(), u"/vault"_s);
+    put(u".config/obsidian"_s, file + spaces + ' ');
     EXPECT_EQ(registry.findVault(), std::nullopt);
 }
 
