@@ -1,12 +1,15 @@
 """The first run on a fresh home, from the first window to the prompter."""
 
 import pathlib
+import shutil
+import signal
 import unittest
 
 from harness import wait_until
 from harness.accessible_case import AccessibleTestCase
+from harness.clipboard import Clipboard
 from harness.obsidian import ICON_COLOR, PLUGIN, Obsidian
-from harness.tessaline import WELCOME
+from harness.tessaline import PROMPTER, WELCOME
 from harness.waiting import holds_for
 
 TITLE = "Welcome to Tessaline"
@@ -282,6 +285,50 @@ class WithoutAVault(OnboardingTestCase):
         self.obsidian.install()
         self.start_first()
         self.assert_obsidian_is_locked("No Obsidian vault found")
+
+
+class Afterwards(OnboardingTestCase):
+    """The window manager answers the end of the first-run window after the prompter has come."""
+
+    window_manager = "openbox"
+
+    def setUp(self):
+        self.desktop_options = {"panel": False, "window_manager": self.window_manager}
+        super().setUp()
+        self.clipboard = Clipboard(self.desktop)
+
+    def press_amid_delay(self, key):
+        """Presses a key while the window manager is busy with something else."""
+        manager = self.desktop.process(self.window_manager)
+        manager.send(signal.SIGSTOP)
+        self.desktop.key(key)
+        self.wait_for_prompter()
+        manager.send(signal.SIGCONT)
+
+    def assert_paste_after(self, finish, text):
+        self.write_settings()
+        self.clipboard.offer(text.encode())
+        self.start_first()
+        finish()
+        self.window = self.desktop.wait_for_window(PROMPTER, self.prompter.pid)
+        wait_until(lambda: self.welcome not in self.desktop.managed_windows(), "it is gone")
+        wait_until(lambda: self.desktop.focused_window() == self.window, "it has the keyboard")
+        self.assertTrue(holds_for(lambda: self.desktop.focused_window() == self.window, 0.3))
+        self.desktop.key("ctrl+v")
+        pasted = self.support_folder() / "clipboard-content.md"
+        wait_until(lambda: pasted.exists() and pasted.read_text() == text, f"{text} is pasted")
+        self.prompter.end()
+
+    def test_the_prompter_has_the_keyboard(self):
+        self.assert_paste_after(lambda: self.press_amid_delay("Return"), "one")
+        self.desktop.start("other", [self.probe(), "normal", "blue"])
+        self.assert_paste_after(lambda: self.press_amid_delay("space"), "two")
+        self.assert_paste_after(lambda: self.desktop.close_by_keys(self.welcome), "three")
+
+
+@unittest.skipUnless(shutil.which("mutter"), "mutter is not installed")
+class AfterwardsOnGnome(Afterwards):
+    window_manager = "mutter"
 
 
 if __name__ == "__main__":

@@ -19,6 +19,7 @@ X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
     : connection(serverConnection)
     , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
     , stacking(serverConnection, root)
+    , managerTurn(serverConnection, root)
     , compositorSelection(xcbAtom(serverConnection, "_NET_WM_CM_S0")) {
     // Restacking comes as a series of events, which one look at the result answers.
     raiseTimer.setSingleShot(true);
@@ -58,13 +59,19 @@ void X11WindowTraits::floatAboveEverything(NativeWindow window) {
 }
 
 void X11WindowTraits::takeKeyboard(NativeWindow window) {
-    const auto own = static_cast<XWindow>(window);
+    claiming = static_cast<XWindow>(window);
+    claimKeyboard();
+    managerTurn.await();
+}
+
+void X11WindowTraits::claimKeyboard() {
     const auto current = focusedWindow();
-    if (!current || *current == own) return;
-    if (focus(own)) previousFocus = *current;
+    if (!current || *current == claiming) return;
+    if (focus(claiming)) previousFocus = *current;
 }
 
 void X11WindowTraits::giveKeyboardBack(NativeWindow window) {
+    claiming = XCB_NONE;
     const auto previous = std::exchange(previousFocus, XWindow{XCB_NONE});
     if (previous == XCB_NONE) return;
     // Hiding the window has passed the keyboard on to the root window.
@@ -77,8 +84,12 @@ void X11WindowTraits::giveKeyboardBack(NativeWindow window) {
 
 bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
                                         qintptr* /*result*/) {
-    if (floating == XCB_NONE || type != "xcb_generic_event_t") return false;
-    if (stacking.isChange(message)) raiseTimer.start();
+    if (type != "xcb_generic_event_t") return false;
+    if (floating != XCB_NONE && stacking.isChange(message)) raiseTimer.start();
+    if (claiming != XCB_NONE && managerTurn.isAnswer(message)) {
+        claimKeyboard();
+        claiming = XCB_NONE;
+    }
     return false;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/WindowTraits.h"
+#include "platform/linux/X11ManagerTurn.h"
 #include "platform/linux/X11Stacking.h"
 
 #include <QAbstractNativeEventFilter>
@@ -18,7 +19,9 @@ namespace tessaline {
 /// full-screen window that has the keyboard, may be moved away from panels, and is listed. What the
 /// window manager would do is done here instead:
 /// - it may raise a managed window above ours, so ours is put back on top after restacking;
-/// - it never directs the keyboard to our window, so a click has to: see `FocusOnClick`.
+/// - it never directs the keyboard to our window, so a click has to: see `FocusOnClick`;
+/// - it directs the keyboard elsewhere when one of our other windows goes, and that only after we
+///   have taken it: so it is taken once more when the window manager has had its turn.
 /// X11 has no way to keep a window out of captures.
 class X11WindowTraits final : public WindowTraits, private QAbstractNativeEventFilter {
 public:
@@ -44,13 +47,16 @@ private:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
     std::optional<XWindow> focusedWindow() const;
     bool focus(XWindow window) const;
+    void claimKeyboard();
 
     xcb_connection_t* connection;
     XWindow root;
     X11Stacking stacking;
+    X11ManagerTurn managerTurn;
     std::uint32_t compositorSelection; ///< names the running compositor
     XWindow floating = 0;
     XWindow previousFocus = 0;
+    XWindow claiming = 0; ///< takes the keyboard until the window manager has had its turn
     bool reportedCapture = false;
     QTimer raiseTimer;
 };

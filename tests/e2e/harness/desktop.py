@@ -23,7 +23,13 @@ class Desktop:
     a tray if this is the colour to paint it with, such as "#202020"."""
 
     def __init__(
-        self, size=(1280, 800), panel=True, compositor=False, monitors=None, tray=None
+        self,
+        size=(1280, 800),
+        panel=True,
+        compositor=False,
+        monitors=None,
+        tray=None,
+        window_manager="openbox",
     ):
         session.require("xdotool", "xprop", "xrandr", "import")
         self.size = size
@@ -35,7 +41,7 @@ class Desktop:
             if monitors:
                 self.set_monitors(monitors)
             session.start_bus(self.start, self.env)
-            session.start_window_manager(self.start, self.env)
+            session.start_window_manager(self.start, self.env, window_manager)
             if compositor:
                 session.start_compositor(self.start, self.env)
             if panel:

@@ -12,6 +12,13 @@ from .waiting import wait_until
 PANEL_HEIGHT = 30
 PANEL_COLOR = (0, 255, 0)
 
+# How each is started, and a property that it sets near the end of its start, when it takes windows
+# already.
+WINDOW_MANAGERS = {
+    "openbox": (["openbox", "--sm-disable"], "_NET_SHOWING_DESKTOP"),
+    "mutter": (["mutter", "--x11", "--sm-disable"], "_NET_WORKAREA"),
+}
+
 PANEL_CONFIG = """\
 panel_monitor = {monitor}
 panel_position = top center horizontal
@@ -93,11 +100,11 @@ def root_property(env, name):
     return property_value(result.stdout)
 
 
-def start_window_manager(start, env):
-    require("openbox", "xprop")
-    start("openbox", ["openbox", "--sm-disable"])
-    # Set near the end of its start, when it takes windows already.
-    wait_until(lambda: root_property(env, "_NET_SHOWING_DESKTOP"), "openbox manages the screen")
+def start_window_manager(start, env, name):
+    command, last_property = WINDOW_MANAGERS[name]
+    require(name, "xprop")
+    start(name, command)
+    wait_until(lambda: root_property(env, last_property), f"{name} manages the screen")
 
 
 def start_panel(start, env, screen_height, tray=None, height=PANEL_HEIGHT, monitor="all"):
