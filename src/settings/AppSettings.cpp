@@ -1,11 +1,14 @@
 #include "settings/AppSettings.h"
 
+#include "settings/JsonReader.h"
+#include "settings/KeptCopy.h"
 #include "settings/SettingsCodec.h"
 #include "settings/SupportFolder.h"
 #include "settings/WholeFile.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <cstdio>
@@ -17,12 +20,27 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Far above any real configuration. Keeps a damaged one from filling the memory.
-constexpr qint64 configFileLimit = qint64{16} << 20;
+Q_LOGGING_CATEGORY(settingsLog, "app.tessaline.Tessaline.settings", QtInfoMsg)
 
 void printLine(const QString& line) {
     std::fputs((line + u'\n').toUtf8().constData(), stdout);
     std::fflush(stdout);
+}
+
+/// The next save replaces the file, and somebody may have written it by hand. Returns whether that
+/// is no loss any more.
+bool keepUnusableFile(const QString& path) {
+    if (!QFileInfo(path).isFile()) return true;
+    QString error;
+    const QString copy = keepCopy(path, &error);
+    if (copy.isEmpty()) {
+        qCWarning(settingsLog, "No copy can be made of the configuration that cannot be used: %ls",
+                  qUtf16Printable(error));
+    } else {
+        qCWarning(settingsLog, "The configuration that cannot be used is kept as %ls",
+                  qUtf16Printable(copy));
+    }
+    return !copy.isEmpty();
 }
 
 } // namespace
@@ -42,14 +60,14 @@ void AppSettings::loadSettings() {
         return;
     }
     QString error;
-    const auto bytes = readWholeFile(path, &error, configFileLimit);
+    const auto bytes = readWholeFile(path, &error, jsonFileLimit);
     const auto loaded = bytes ? decodeSettings(*bytes, &error) : std::nullopt;
     if (!loaded) {
         printLine(u"⚠️ Failed to load config: "_s + error);
-        // The next save replaces the file: what somebody wrote by hand is kept beside it.
-        if (bytes) writeWholeFile(path + ".unreadable"_L1, *bytes);
+        if (!keepUnusableFile(path)) unwritten = *this;
         return;
     }
+    unwritten.reset();
     PersistedSettings::operator=(*loaded);
     if (scrollSpeed > 0) {
         lastNonZeroScrollSpeed = scrollSpeed;
@@ -59,6 +77,11 @@ void AppSettings::loadSettings() {
 }
 
 void AppSettings::save() const {
+    if (unwritten) {
+        if (*unwritten == *this) return;
+        keepUnusableFile(configPath());
+        unwritten.reset();
+    }
     QString error;
     const auto bytes = encodeSettings(*this, &error);
     if (!bytes || !writeWholeFile(configPath(), *bytes, &error))

@@ -26,8 +26,8 @@ public:
 
     /// Reads the configuration file into this instance and repairs the resume speed. Writes the
     /// present values where there is no file. A file that cannot be read or decoded is reported on
-    /// standard output, stays as it is, and changes nothing here; a copy that later saves do not
-    /// touch is made beside it, named ".unreadable".
+    /// standard output, stays as it is, and changes nothing here; a copy of it is kept beside it,
+    /// and the log tells where. Where none can be made, only changed values are saved over it.
     void loadSettings();
 
     /// Writes every persisted field, whole or not at all. A failure is reported on standard output.
@@ -46,6 +46,9 @@ public:
 
 private:
     QString configPath() const;
+
+    /// What was in memory when a file could be neither used nor copied.
+    mutable std::optional<PersistedSettings> unwritten;
 };
 
 } // namespace tessaline

@@ -96,29 +96,29 @@ QString overwrite(const QString& target, const FilePieces& pieces) {
     return isWritten ? synchronise(file) : file.errorString();
 }
 
-/// Like the old version, the new one is at no moment open to others than those who may see it.
-/// Not every file system knows permissions.
-bool openNew(QFile& file, const QFileInfo& old) {
+/// Like its model, the new file is at no moment open to others than those who may see it. Not every
+/// file system knows permissions.
+bool openNew(QFile& file, const QFileInfo& model) {
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
-    if (!old.exists()) return file.open(mode);
+    if (!model.exists()) return file.open(mode);
     const bool isOpen = file.open(mode, QFile::ReadOwner | QFile::WriteOwner);
-    if (isOpen) file.setPermissions(old.permissions());
+    if (isOpen) file.setPermissions(model.permissions());
     return isOpen;
 }
 
-QString putInPlace(const QFile& file, const QString& target) {
-    const QByteArray from = QFile::encodeName(file.fileName());
+QString putInPlace(const QString& file, const QString& target) {
+    const QByteArray from = QFile::encodeName(file);
     const bool isDone = ::rename(from.constData(), QFile::encodeName(target).constData()) == 0;
     return isDone ? QString() : qt_error_string(errno);
 }
 
 QString writeBeside(const QFileInfo& old, const FilePieces& pieces) {
     const QString target = old.filePath();
-    QFile file(stemBeside(target) + randomDigits());
-    if (!openNew(file, old)) return file.errorString();
-    QString problem = writeAll(file, pieces) ? synchronise(file) : file.errorString();
-    if (problem.isEmpty()) problem = putInPlace(file, target);
-    if (!problem.isEmpty()) file.remove();
+    const QString beside = stemBeside(target) + randomDigits();
+    QString problem = createFile(beside, pieces, old);
+    if (!problem.isEmpty()) return problem;
+    problem = putInPlace(beside, target);
+    if (!problem.isEmpty()) QFile::remove(beside);
     return problem;
 }
 
@@ -134,6 +134,14 @@ QString replaceFile(const QString& path, const FilePieces& pieces) {
     }
     removeStaleFilesBeside(target);
     return writeBeside(old, pieces);
+}
+
+QString createFile(const QString& path, const FilePieces& pieces, const QFileInfo& model) {
+    QFile file(path);
+    if (!openNew(file, model)) return file.errorString();
+    const QString problem = writeAll(file, pieces) ? synchronise(file) : file.errorString();
+    if (!problem.isEmpty()) file.remove();
+    return problem;
 }
 
 } // namespace tessaline

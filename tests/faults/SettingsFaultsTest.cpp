@@ -37,7 +37,13 @@ TEST_P(SettingsLoadFaults, LeaveTheFileAsItIs) {
     settings.fontSize = 30;
     put(u"config.json"_s, encodeSettings(settings).value());
     failEachCall({u"load"_s, pathOf(u"config.json"_s)}, [this](const Outcome& outcome) {
-        EXPECT_EQ(outcome.files, before);
+        Files files = outcome.files;
+        const auto copy = files.find(u"config.json.unreadable"_s);
+        if (copy != files.end()) {
+            EXPECT_EQ(copy->second, before.at(u"config.json"_s));
+            files.erase(copy);
+        }
+        EXPECT_EQ(files, before);
         EXPECT_THAT(outcome.output,
                     AnyOf("font size 30\n", saysWhy("^⚠️ Failed to load config: ")));
         EXPECT_NE(outcome.output, "font size 16\n");

@@ -1,7 +1,10 @@
 #include "settings/AppSettings.h"
 
+#include "settings/JsonReader.h"
 #include "settings/TemporaryHome.h"
 #include "support/OrdinaryUser.h"
+#include "support/RecordedLog.h"
+#include "support/SmallDisk.h"
 #include "support/TestFiles.h"
 
 #include <QDir>
@@ -89,15 +92,132 @@ INSTANTIATE_TEST_SUITE_P(
                      "The file is larger than 16777216 bytes"}),
     [](const auto& test) { return std::string(test.param.name); });
 
-TEST_F(AppSettingsFile, KeepsACopyOfWhatItCouldNotDecodeWhenItIsSavedOver) {
+/// A file that somebody wrote by hand, with a mistake.
+class AppSettingsCopy : public AppSettingsFile {
+protected:
     const QByteArray typo = R"({"fontSize": 20,, "width": 500})";
+    const QString copy = path + u".unreadable"_s;
+
+    QStringList names() const { return QDir(home.path()).entryList(QDir::Files, QDir::Name); }
+
+    /// What a start of the program does. Returns what it logs.
+    QStringList loadAndSave() const {
+        const RecordedLog log;
+        testing::internal::CaptureStdout();
+        const AppSettings settings(path);
+        settings.save();
+        testing::internal::GetCapturedStdout();
+        return log.entries();
+    }
+
+    static QStringList logged(const QString& message) {
+        return {u"app.tessaline.Tessaline.settings: "_s + message};
+    }
+
+    static QStringList isKeptAs(const QString& name) {
+        return logged(u"The configuration that cannot be used is kept as "_s + name);
+    }
+
+    static QStringList cannotBeCopied(const QString& reason) {
+        return logged(u"No copy can be made of the configuration that cannot be used: "_s + reason);
+    }
+};
+
+TEST_F(AppSettingsCopy, IsKeptWhenTheFileIsSavedOver) {
     putFile(path, typo);
+    EXPECT_EQ(loadAndSave(), isKeptAs(copy));
+    EXPECT_NE(fileBytes(path), typo);
+    EXPECT_EQ(fileBytes(copy), typo);
+    EXPECT_EQ(loadAndSave(), QStringList());
+}
+
+TEST_F(AppSettingsCopy, HasTheSamePermissions) {
+    for (const auto permissions : {QFile::Permissions(QFile::ReadOwner | QFile::WriteOwner),
+                                   QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup}) {
+        QFile::remove(copy);
+        putFile(path, typo);
+        ASSERT_TRUE(QFile::setPermissions(path, permissions));
+        loadAndSave();
+        struct stat status {};
+        ASSERT_EQ(::stat(QFile::encodeName(copy).constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777, permissions & QFile::ReadGroup ? 0640U : 0600U);
+    }
+}
+
+TEST_F(AppSettingsCopy, NeverReplacesAnEarlierOne) {
+    const QByteArray other = "no JSON either";
+    for (const QByteArray& bytes : {typo, other}) {
+        putFile(path, bytes);
+        loadAndSave();
+    }
+    putFile(path, "the third");
+    EXPECT_EQ(loadAndSave(), isKeptAs(copy + u"-3"_s));
+    EXPECT_EQ(fileBytes(copy), typo);
+    EXPECT_EQ(fileBytes(copy + u"-2"_s), other);
+    EXPECT_EQ(fileBytes(copy + u"-3"_s), "the third");
+}
+
+TEST_F(AppSettingsCopy, IsMadeOnce) {
+    putFile(path, "something else");
+    loadAndSave();
+    for (int start = 0; start < 3; ++start) {
+        putFile(path, typo);
+        EXPECT_EQ(loadAndSave(), isKeptAs(copy + u"-2"_s));
+    }
+    EXPECT_EQ(names(), (QStringList{u"config.json"_s, u"config.json.unreadable"_s,
+                                    u"config.json.unreadable-2"_s}));
+}
+
+TEST_F(AppSettingsCopy, NeverFollowsALink) {
+    const QString precious = home.path() + u"/precious"_s;
+    const QString missing = home.path() + u"/missing"_s;
+    putFile(precious, typo);
+    ASSERT_TRUE(QFile::link(precious, copy));
+    ASSERT_TRUE(QFile::link(missing, copy + u"-2"_s));
+    putFile(path, typo);
+    EXPECT_EQ(loadAndSave(), isKeptAs(copy + u"-3"_s));
+    EXPECT_EQ(fileBytes(precious), typo);
+    EXPECT_FALSE(QFileInfo::exists(missing));
+    EXPECT_EQ(fileBytes(copy + u"-3"_s), typo);
+}
+
+TEST_F(AppSettingsCopy, IsMadeOfAFileThatIsTooLargeToo) {
+    const QByteArray large(jsonFileLimit + 1, ' ');
+    putFile(path, large);
+    EXPECT_EQ(loadAndSave(), isKeptAs(copy));
+    EXPECT_TRUE(fileBytes(copy) == large);
+}
+
+TEST_F(AppSettingsCopy, IsNotNeededOfWhatIsNoFile) {
+    ASSERT_TRUE(QDir().mkdir(path));
+    EXPECT_EQ(loadAndSave(), QStringList());
+}
+
+TEST_F(AppSettingsCopy, MissingMakesEverySaveKeepTheFileUntilSomethingChanges) {
+    const SmallDisk disk(home.path());
+    if (!disk.exists())
+        GTEST_SKIP() << "mounting a small disk needs more rights than this user has";
+    const QByteArray large = typo.repeated(500);
+    putFile(path, large);
+    disk.fill();
+    EXPECT_EQ(loadAndSave(), cannotBeCopied(u"No space left on device"_s));
+    EXPECT_EQ(fileBytes(path), large);
+    EXPECT_FALSE(QFileInfo::exists(copy));
+
+    const RecordedLog log;
     testing::internal::CaptureStdout();
     AppSettings settings(path);
+    settings.setSourceEnabled(SourceType::obsidian, false);
+    EXPECT_EQ(fileBytes(path), large);
+    disk.empty();
+    settings.fontSize = 21;
+    settings.save();
+    settings.fontSize = 16;
     settings.save();
     testing::internal::GetCapturedStdout();
-    EXPECT_NE(fileBytes(path), typo);
-    EXPECT_EQ(fileBytes(path + u".unreadable"_s), typo);
+    EXPECT_EQ(log.entries(), cannotBeCopied(u"No space left on device"_s) + isKeptAs(copy));
+    EXPECT_EQ(fileBytes(copy), large);
+    EXPECT_EQ(AppSettings(path).fontSize, 16.0);
 }
 
 TEST_F(AppSettingsFile, LoadsAFileOfTheGreatestSize) {
