@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLoggingCategory>
 
 #include <utility>
 #include <variant>
@@ -14,6 +15,12 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace tessaline {
+
+namespace {
+
+Q_LOGGING_CATEGORY(clipboardLog, "app.tessaline.Tessaline.clipboard", QtInfoMsg)
+
+} // namespace
 
 QString ClipboardSource::placeholder() {
     return u"PLACEHOLDER"_s;
@@ -28,6 +35,11 @@ ClipboardSource::ClipboardSource(const Pasteboard& clipboard, QString filePath)
 
 void ClipboardSource::startWatching(ContentCallback onChange) {
     watchCallback = onChange;
+    if (!isKept) {
+        // Of the file, an earlier text would come back.
+        onChange(QString(content));
+        return;
+    }
     const auto loaded = readContentFile(path, ByteOrderMark::keep);
     const auto* text = std::get_if<QString>(&loaded);
     if (text && !text->isEmpty()) {
@@ -56,9 +68,13 @@ std::optional<QString> ClipboardSource::pasteText(const QString& text) {
     return text;
 }
 
-void ClipboardSource::persist() const {
+void ClipboardSource::persist() {
     QDir().mkpath(QFileInfo(path).path());
-    writeWholeFile(path, content.toUtf8());
+    QString error;
+    isKept = writeWholeFile(path, content.toUtf8(), &error);
+    if (!isKept)
+        qCWarning(clipboardLog, "The pasted text is not kept for the next start: %ls",
+                  qUtf16Printable(error));
 }
 
 } // namespace tessaline

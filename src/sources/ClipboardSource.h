@@ -22,13 +22,14 @@ public:
 
     explicit ClipboardSource(const Pasteboard& pasteboard, QString path = contentFilePath());
 
-    /// Delivers the kept text, or the placeholder, before it returns.
+    /// Delivers the kept text, or the placeholder, before it returns. In place of the kept text, it
+    /// delivers the one that was pasted last if that could not be kept.
     void startWatching(ContentCallback onChange) override;
     void stopWatching() override;
 
     /// Takes the clipboard's text: keeps it, delivers it and returns it. None, and no change, when
     /// the clipboard holds no text or an empty one. A text that cannot be saved is shown all the
-    /// same.
+    /// same, and the log tells why.
     std::optional<QString> pasteFromClipboard();
 
     /// As above, with `text` in the clipboard's place.
@@ -38,11 +39,12 @@ public:
     QString currentContent() const { return content; }
 
 private:
-    void persist() const;
+    void persist();
 
     const Pasteboard& pasteboard;
     const QString path;
     QString content;
+    bool isKept = true; ///< `content` is in the file, or nothing was pasted yet
     ContentCallback watchCallback;
 };
 

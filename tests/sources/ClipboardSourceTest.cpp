@@ -3,9 +3,12 @@
 #include "settings/SupportFolder.h"
 #include "support/FakePasteboard.h"
 #include "support/NotAFile.h"
+#include "support/OrdinaryUser.h"
 #include "support/PrintQt.h"
+#include "support/RecordedLog.h"
 #include "support/TestFiles.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -13,8 +16,12 @@
 
 #include <vector>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
+using ::testing::SizeIs;
 
 namespace tessaline {
 namespace {
@@ -122,11 +129,57 @@ TEST_F(ClipboardSourceTest, DropsThePreviousCallbackAtANewStart) {
     EXPECT_THAT(second, ElementsAre(u"PLACEHOLDER"_s, u"abc"_s));
 }
 
-TEST_F(ClipboardSourceTest, ShowsAPasteThatCannotBeSaved) {
-    putFile(folder.filePath(u"missing"_s), "a file where a folder should be");
+TEST_F(ClipboardSourceTest, ShowsAPasteThatCannotBeSavedAndTriesAgainWithTheNext) {
+    const QString obstacle = folder.filePath(u"missing"_s);
+    putFile(obstacle, "a file where a folder should be");
+    const RecordedLog log;
     watch(source);
     EXPECT_EQ(source.pasteText(u"abc"_s), u"abc"_s);
     EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s, u"abc"_s));
+    EXPECT_THAT(log.entries(),
+                ElementsAre(u"app.tessaline.Tessaline.clipboard: The pasted text is not kept for "
+                            "the next start: Not a directory"_s));
+    ASSERT_TRUE(QFile::remove(obstacle));
+    source.pasteText(u"def"_s);
+    EXPECT_EQ(fileBytes(path), "def");
+    EXPECT_THAT(log.entries(), SizeIs(1));
+}
+
+// Permissions do not bind the superuser, hence the child process that gives such powers up.
+TEST_F(ClipboardSourceTest, ShowsAPasteAndSaysSoWhenTheFileIsReadOnly) {
+    source.pasteText(u"old"_s);
+    ASSERT_TRUE(
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    for (const QString& place :
+         {folder.path(), folder.filePath(u"missing"_s), folder.filePath(u"missing/folders"_s)})
+        ASSERT_EQ(::chmod(QFile::encodeName(place).constData(), 0777), 0);
+    EXPECT_EXIT(
+        {
+            becomeOrdinaryUser();
+            watch(source);
+            source.pasteText(u"new"_s);
+            source.pasteText(u"newer"_s);
+            ::_exit(delivered == std::vector{u"old"_s, u"new"_s, u"newer"_s} ? 0 : 1);
+        },
+        testing::ExitedWithCode(0),
+        "not kept for the next start: The file is not writable\n"
+        "[^\n]*not kept for the next start: The file is not writable\n");
+    EXPECT_EQ(fileBytes(path), "old");
+}
+
+TEST_F(ClipboardSourceTest, DeliversAPasteThatCouldNotBeSavedAtEachNewStart) {
+    source.pasteText(u"old"_s);
+    placeNotAFile(NotAFile::folder, path);
+    source.pasteText(u"new"_s);
+    watch(source);
+    ASSERT_TRUE(QDir().rmdir(path));
+    putFile(path, "old");
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(u"new"_s, u"new"_s));
+    source.pasteText(u"newer"_s);
+    putFile(path, "newest");
+    watch(source);
+    EXPECT_THAT(delivered, ElementsAre(u"new"_s, u"new"_s, u"newer"_s, u"newest"_s));
 }
 
 TEST_F(ClipboardSourceTest, LetsTheCallbackStopTheWatching) {
