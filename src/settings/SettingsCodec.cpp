@@ -1,5 +1,6 @@
 #include "settings/SettingsCodec.h"
 
+#include "settings/EnumerationCodec.h"
 #include "settings/JsonReader.h"
 
 #include <nlohmann/json.hpp>
@@ -63,31 +64,13 @@ bool decode(const JsonValue& value, QByteArray& target) {
     return true;
 }
 
-template <typename Enumeration>
-bool decode(const JsonValue& value, Enumeration& target,
-            std::optional<Enumeration> (*fromRawValue)(QStringView)) {
-    QString raw;
-    if (!decode(value, raw)) return false;
-    const auto result = fromRawValue(raw);
-    if (result) target = *result;
-    return result.has_value();
-}
-
-bool decode(const JsonValue& value, ScrollRate& target) {
-    return decode(value, target, scrollRateFromRawValue);
-}
-
-bool decode(const JsonValue& value, SourceType& target) {
-    return decode(value, target, sourceTypeFromRawValue);
-}
-
 bool decode(const JsonValue& value, std::set<SourceType>& target) {
     const auto* array = value.as<JsonValue::Array>();
     if (!array) return false;
     target.clear();
     return std::all_of(array->begin(), array->end(), [&target](const JsonValue& element) {
         SourceType source{};
-        return decode(element, source) && (target.insert(source), true);
+        return tessaline::decode(element, source) && (target.insert(source), true);
     });
 }
 
@@ -172,10 +155,15 @@ ordered_json encode(const AppleNotesConfiguration& note) {
     return {{"noteId", note.noteId.toStdString()}, {"noteName", note.noteName.toStdString()}};
 }
 
+template <typename Enumeration>
+std::string encodeText(Enumeration value) {
+    return tessaline::encode(value).template as<QString>()->toStdString();
+}
+
 ordered_json encode(const std::set<SourceType>& sources) {
     ordered_json array = ordered_json::array();
     for (const SourceType source : sources)
-        array.push_back(rawValue(source).toStdString());
+        array.push_back(encodeText(source));
     return array;
 }
 
@@ -189,9 +177,9 @@ ordered_json encode(const PersistedSettings& settings) {
         {"scrollSpeed", settings.scrollSpeed},
         {"lastNonZeroScrollSpeed", settings.lastNonZeroScrollSpeed},
         {"autoScrollEnabled", settings.autoScrollEnabled},
-        {"scrollRate", rawValue(settings.scrollRate).toStdString()},
+        {"scrollRate", encodeText(settings.scrollRate)},
         {"hasCompletedOnboarding", settings.hasCompletedOnboarding},
-        {"activeSourceType", rawValue(settings.activeSourceType).toStdString()},
+        {"activeSourceType", encodeText(settings.activeSourceType)},
     };
     if (settings.appleNotesConfig) object["appleNotesConfig"] = encode(*settings.appleNotesConfig);
     object["enabledSourceTypes"] = encode(settings.enabledSourceTypes);
