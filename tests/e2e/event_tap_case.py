@@ -39,6 +39,37 @@ class Keyboard:
             self.x11.XSync(self.display, 0)
 
 
+class CoreGrab:
+    """A program that holds a key with modifiers as most do, with the common lock keys on and off."""
+
+    CAPS_LOCK, NUM_LOCK = 2, 16
+    ASYNC, KEY_PRESS, EVENT_LONGS = 1, 2, 24
+
+    def __init__(self, display, key, modifiers):
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
+        root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
+        for locks in (0, self.CAPS_LOCK, self.NUM_LOCK, self.CAPS_LOCK | self.NUM_LOCK):
+            self.x11.XGrabKey(self.display, key, modifiers | locks, root, 0, self.ASYNC, self.ASYNC)
+        self.x11.XSync(self.display, 0)
+
+    def close(self):
+        if self.display:
+            self.x11.XCloseDisplay(self.display)
+        self.display = None
+
+    def presses(self):
+        """How often the key was pressed since the last question."""
+        event = (ctypes.c_long * self.EVENT_LONGS)()
+        count = 0
+        while self.x11.XPending(self.display):
+            self.x11.XNextEvent(self.display, event)
+            count += (event[0] & 0xFF) == self.KEY_PRESS
+        return count
+
+
 class Application:
     """A probe, whose output tells what it received."""
 

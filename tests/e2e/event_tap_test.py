@@ -12,6 +12,7 @@ from event_tap_case import (
     WHEEL_DOWN,
     WHEEL_UP,
     Application,
+    CoreGrab,
     EventTapCase,
     Xev,
     click,
@@ -294,6 +295,64 @@ class AnotherHolder(EventTapCase):
         self.click(WHEEL_UP)
         self.assert_nothing_more(xev.buttons)
         self.assertEqual(xev.buttons(), lost)
+
+
+class AnotherHolderOfTheShortcut(EventTapCase):
+    QWERTY_T, DVORAK_T = 28, 45
+    MODIFIERS = 0x45  # Control, Shift, Super
+    REFUSED = "Another program holds the shortcut"
+
+    def hold(self, key):
+        holder = CoreGrab(self.desktop.env["DISPLAY"], key, self.MODIFIERS)
+        self.addCleanup(holder.close)
+        return holder
+
+    def wait_for_our_toggle(self, tap, key):
+        keyboard = self.open_keyboard()
+
+        def toggles():
+            keyboard.press(CONTROL, SHIFT, SUPER, key)
+            return tap.toggles()
+
+        wait_until(toggles, "the shortcut is ours")
+
+    def test_keeps_it_whole_until_it_is_gone(self):
+        holder = Application(self.desktop, "hold-chord", str(self.QWERTY_T), name="holder")
+        tap = self.start_tap()
+        tap.process.wait_for_output(self.REFUSED)
+        self.desktop.key(TOGGLE)
+        self.assert_nothing_more(tap.toggles)
+        holder.process.end()
+        self.wait_for_our_toggle(tap, self.QWERTY_T)
+        self.assertEqual(tap.process.stderr().count(self.REFUSED), 1)
+
+    def test_keeps_it_when_it_took_it_the_old_way(self):
+        holder = self.hold(self.QWERTY_T)
+        tap = self.start_tap()
+        tap.process.wait_for_output(self.REFUSED)
+        self.desktop.key(TOGGLE)
+        wait_until(holder.presses, "the other program gets it")
+        self.assertEqual(tap.toggles(), 0)
+        holder.close()
+        self.wait_for_our_toggle(tap, self.QWERTY_T)
+
+    def test_keeps_it_on_the_layout_where_it_has_it(self):
+        holder = self.hold(self.DVORAK_T)
+        tap = self.start_tap()
+        self.desktop.key(TOGGLE)
+        self.wait_for_toggles(tap, 1)
+        self.desktop.run("setxkbmap", "dvorak")
+        tap.process.wait_for_output("On this keyboard layout another program holds the shortcut")
+        self.open_keyboard().press(CONTROL, SHIFT, SUPER, self.DVORAK_T)
+        wait_until(holder.presses, "the other program gets it")
+        self.assertEqual(tap.toggles(), 1)
+        holder.close()
+
+        def toggles_again():
+            self.open_keyboard().press(CONTROL, SHIFT, SUPER, self.DVORAK_T)
+            return tap.toggles() > 1
+
+        wait_until(toggles_again, "the shortcut is ours on this layout too")
 
 
 class ABusyMainThread(EventTapCase):

@@ -1,5 +1,6 @@
 #include "platform/linux/X11KeyGrab.h"
 
+#include "platform/linux/X11CoreKeyGrab.h"
 #include "platform/linux/X11Modifiers.h"
 #include "platform/linux/X11PassiveGrab.h"
 #include "platform/linux/XcbReply.h"
@@ -9,6 +10,8 @@
 
 #include <xcb/xinput.h>
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace tessaline {
@@ -17,10 +20,21 @@ namespace {
 
 Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
 
+using namespace std::chrono_literals;
+
+constexpr auto retryInterval = 2s;
+
+std::vector<std::uint32_t> combinationsOf(ModifierFlags modifiers) {
+    return modifierCombinations(x11ModifiersFrom(modifiers), X11Modifier::ignored);
+}
+
 X11PassiveGrab grabOf(std::uint32_t key, ModifierFlags modifiers) {
-    return {.kind = X11PassiveGrab::Kind::key,
-            .detail = key,
-            .modifiers = modifierCombinations(x11ModifiersFrom(modifiers), X11Modifier::ignored)};
+    return {
+        .kind = X11PassiveGrab::Kind::key, .detail = key, .modifiers = combinationsOf(modifiers)};
+}
+
+X11CoreKeyGrab coreGrabOf(std::uint32_t key, ModifierFlags modifiers) {
+    return {.key = key, .modifiers = combinationsOf(modifiers)};
 }
 
 } // namespace
@@ -33,6 +47,11 @@ X11KeyGrab::X11KeyGrab(std::unique_ptr<X11Connection> ownConnection,
     , letters(KeyboardLetters::read(connection->xcb()))
     , notifier(connection->descriptor(), QSocketNotifier::Read) {
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [this] { readEvents(); });
+    retryTimer.setInterval(retryInterval);
+    QObject::connect(&retryTimer, &QTimer::timeout, &retryTimer, [this] {
+        if (grabKeys()) retryTimer.stop();
+        readEvents();
+    });
 }
 
 bool X11KeyGrab::take() {
@@ -97,9 +116,12 @@ void X11KeyGrab::press(const xcb_input_button_press_event_t& event) {
 void X11KeyGrab::followKeyboard() {
     if (std::exchange(keyboardChanged, false)) letters = KeyboardLetters::read(connection->xcb());
     layoutChanged = false;
-    if (!grabKeys()) {
-        qCWarning(inputLog, "The shortcut for other applications cannot be had on this keyboard "
-                            "layout.");
+    if (grabKeys()) {
+        retryTimer.stop();
+    } else if (!retryTimer.isActive()) {
+        qCWarning(inputLog, "On this keyboard layout another program holds the shortcut for other "
+                            "applications, or no key types it.");
+        retryTimer.start();
     }
     QMetaObject::invokeMethod(
         &notifier, [this] { readEvents(); }, Qt::QueuedConnection);
@@ -108,16 +130,24 @@ void X11KeyGrab::followKeyboard() {
 bool X11KeyGrab::grabKeys() {
     const auto keys = letters.keysFor(chord.characters, layout);
     if (keys == grabbedKeys) return !keys.empty();
-    for (const std::uint32_t key : grabbedKeys)
-        grabOf(key, chord.modifiers).release(*connection);
+    releaseKeys();
     grabbedKeys = keys;
-    bool tookSome = false;
-    for (const std::uint32_t key : keys) {
-        const X11PassiveGrab grab = grabOf(key, chord.modifiers);
-        tookSome = grab.take(*connection).size() < grab.modifiers.size() || tookSome;
-    }
+    const bool hasAll = std::ranges::all_of(keys, [this](std::uint32_t key) { return grab(key); });
+    if (!hasAll) releaseKeys();
     xcb_flush(connection->xcb());
-    return tookSome;
+    return !grabbedKeys.empty();
+}
+
+bool X11KeyGrab::grab(std::uint32_t key) const {
+    return coreGrabOf(key, chord.modifiers).take(*connection) &&
+           grabOf(key, chord.modifiers).take(*connection).empty();
+}
+
+void X11KeyGrab::releaseKeys() {
+    for (const std::uint32_t key : std::exchange(grabbedKeys, {})) {
+        grabOf(key, chord.modifiers).release(*connection);
+        coreGrabOf(key, chord.modifiers).release(*connection);
+    }
 }
 
 } // namespace tessaline

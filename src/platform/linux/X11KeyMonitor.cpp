@@ -25,7 +25,7 @@ std::unique_ptr<GlobalKeyMonitor::Registration> X11KeyMonitor::start(const Chord
     }
     if (!std::exchange(reportedRefusal, true)) {
         qCWarning(inputLog, "Another program holds the shortcut for other applications, or no key "
-                            "types it; it stays with that program until it ends.");
+                            "types it; it is left to that program until it gives it up.");
     }
     return nullptr;
 }

@@ -66,11 +66,21 @@ bool hold(const X11Connection& connection, std::uint32_t button) {
     return grab.take(connection).empty();
 }
 
+/// Holds the shortcut on this key as programs of today do: for the common lock keys on and off.
+bool holdChord(const X11Connection& connection, std::uint32_t key) {
+    const X11PassiveGrab grab{.kind = X11PassiveGrab::Kind::key,
+                              .detail = key,
+                              .modifiers = modifierCombinations(
+                                  X11Modifier::control | X11Modifier::shift | X11Modifier::super,
+                                  X11Modifier::capsLock | X11Modifier::numLock)};
+    return grab.take(connection).empty();
+}
+
 } // namespace
 } // namespace tessaline
 
-/// Roles: "tap" sets the shortcuts up; "hold" holds a button together with Control; "watch" does
-/// neither. Each shows a window if asked to.
+/// Roles: "tap" sets the shortcuts up; "hold" holds a button together with Control; "hold-chord"
+/// the shortcut on a key; "watch" does none of it. Each shows a window if asked to.
 int main(int argc, char** argv) {
     using namespace tessaline;
     QApplication application(argc, argv);
@@ -80,15 +90,17 @@ int main(int argc, char** argv) {
     const QCommandLineOption field(u"field"_s, u"Put a text field into the window"_s);
     const QCommandLineOption busy(u"busy"_s, u"Block the main thread this long"_s, u"seconds"_s);
     parser.addOptions({window, field, busy});
-    parser.addPositionalArgument(u"role"_s, u"tap, hold or watch"_s);
+    parser.addPositionalArgument(u"role"_s, u"tap, hold, hold-chord or watch"_s);
     parser.addPositionalArgument(u"button"_s, u"what to hold"_s);
     parser.process(application);
     const QString role = parser.positionalArguments().value(0);
 
     std::optional<Prompter> prompter;
     if (role == "tap"_L1) prompter.emplace();
-    const auto connection = role == "hold"_L1 ? X11Connection::open() : nullptr;
-    if (connection && !hold(*connection, parser.positionalArguments().value(1).toUInt())) return 1;
+    const auto connection = role.startsWith("hold"_L1) ? X11Connection::open() : nullptr;
+    const std::uint32_t detail = parser.positionalArguments().value(1).toUInt();
+    if (role == "hold"_L1 && !hold(*connection, detail)) return 1;
+    if (role == "hold-chord"_L1 && !holdChord(*connection, detail)) return 1;
 
     InputWindow shown(parser.isSet(field));
     if (parser.isSet(window)) {
