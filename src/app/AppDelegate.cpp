@@ -8,6 +8,7 @@
 #include "platform/ActivationPolicy.h"
 #include "platform/BundleInformation.h"
 #include "platform/MainQueue.h"
+#include "platform/Pasteboard.h"
 #include "platform/ScreenCoordinates.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FrameMarginsWatch.h"
@@ -24,6 +25,7 @@
 #include "ui/OnboardingWindow.h"
 
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QScreen>
 #include <QWindow>
 
@@ -34,6 +36,8 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
 
 /// The object, which the launch must have made by now.
 template <typename Object>
@@ -181,7 +185,7 @@ void AppDelegate::setupShortcuts() {
     Shortcuts::Actions actions;
     actions.performScroll = weakly(&AppDelegate::performScroll);
     actions.toggleScroll = weakly(&AppDelegate::toggleScroll);
-    actions.paste = weakly(&AppDelegate::pasteFromClipboard);
+    actions.paste = weakly<>(&AppDelegate::pasteFromClipboard);
     shortcuts = std::make_unique<Shortcuts>(ports, std::move(actions));
     shortcuts->setupShortcuts();
 }
@@ -291,10 +295,22 @@ void AppDelegate::followFile(const QString& path, const QString& text) {
 }
 
 void AppDelegate::pasteFromClipboard() {
+    pasteFromClipboard([](const QString& /*problem*/) {});
+}
+
+void AppDelegate::pasteFromClipboard(std::function<void(const QString& problem)> done) {
     followedFile.reset();
     makeClipboardActive();
-    sources().pasteFromClipboard();
-    trackPaste();
+    environment.pasteboard.refresh(
+        [weak = std::weak_ptr(self), done = std::move(done)](const QString& problem) {
+            const auto delegate = weak.lock();
+            if (!delegate) return;
+            (*delegate)->sources().pasteFromClipboard();
+            (*delegate)->trackPaste();
+            if (!problem.isEmpty())
+                qCWarning(shellLog, "Nothing was pasted: %ls", qUtf16Printable(problem));
+            done(problem);
+        });
 }
 
 void AppDelegate::makeClipboardActive() {

@@ -57,6 +57,9 @@ public:
     // What the shortcuts and remote control do besides.
     void performScroll(double deltaY);
     void pasteFromClipboard();
+    /// As above; `done` is told why nothing was pasted, in one line, or an empty text. Not called
+    /// once the delegate is gone.
+    void pasteFromClipboard(std::function<void(const QString& problem)> done);
 
     // Each changes one setting and no other, saves once and announces it.
     void setScrollSpeed(double speed); ///< within its limits

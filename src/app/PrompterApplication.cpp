@@ -22,12 +22,12 @@
 #include "platform/FolderChooser.h"
 #include "platform/GlobalKeyMonitor.h"
 #include "platform/LocalKeyMonitor.h"
+#include "platform/Pasteboard.h"
 #include "platform/ReservedEdges.h"
 #include "platform/SystemAdapters.h"
 #include "platform/ThreadTaskRunner.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/QtMainQueue.h"
-#include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtProcessRunner.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/QtTimerMaker.h"
@@ -63,16 +63,17 @@ struct Machine {
     QtMainQueue mainQueue;
     QtTimerMaker timers;
     NotificationCenter notifications;
-    QtPasteboard pasteboard;
     QtUrlOpener urlOpener;
     QtUserDefaults defaults;
     QtProcessRunner processes;
     ThreadTaskRunner renderTasks;
     ThreadTaskRunner fileTasks;
     ThreadTaskRunner noteTasks;
+    ThreadTaskRunner pasteTasks;
     ThreadTaskRunner historyTasks;
     QNetworkAccessManager network;
     std::unique_ptr<BundleInformation> bundle = makeBundleInformation();
+    std::unique_ptr<Pasteboard> pasteboard = makePasteboard(mainQueue, pasteTasks);
     std::unique_ptr<DisplayLinkMaker> displayLinks = makeDisplayLinkMaker();
     std::unique_ptr<WindowTraits> windowTraits = makeWindowTraits();
     std::unique_ptr<AccessibilityTrust> trust = makeAccessibilityTrust();
@@ -106,7 +107,7 @@ struct Machine {
             .prompter = {mainQueue, renderTasks, timers, *displayLinks, screens, *windowTraits},
             .fileTasks = fileTasks,
             .notifications = notifications,
-            .pasteboard = pasteboard,
+            .pasteboard = *pasteboard,
             .trust = *trust,
             .processes = processes,
             .bundle = *bundle,

@@ -22,7 +22,10 @@ class FileIcons;
 class FolderChooser;
 class GlobalKeyMonitor;
 class LocalKeyMonitor;
+class MainQueue;
+class Pasteboard;
 class ReservedEdges;
+class TaskRunner;
 class WindowTraits;
 
 // The adapters of the system that the program was built for: each system defines these functions in
@@ -54,6 +57,9 @@ std::unique_ptr<EventTapMaker> makeEventTapMaker();
 
 /// Keys in windows of ours, with the meaning that the modifiers have on this system.
 std::unique_ptr<LocalKeyMonitor> makeLocalKeyMonitor();
+
+/// The clipboard. Borrows the queue and the tasks, which may have to wait for another program.
+std::unique_ptr<Pasteboard> makePasteboard(MainQueue& queue, TaskRunner& tasks);
 
 /// How the program presents itself to this desktop.
 std::unique_ptr<ActivationPolicy> makeActivationPolicy();

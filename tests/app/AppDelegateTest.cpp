@@ -8,6 +8,8 @@
 #include "ui/ConfigWindow.h"
 #include "ui/controls/PopupButton.h"
 
+#include "support/RecordedLog.h"
+
 #include <QAction>
 #include <QFile>
 #include <QWindow>
@@ -219,6 +221,40 @@ TEST_F(AppDelegateTest, PastesWithCommandV) {
     EXPECT_EQ(keptScript(), u"# Three words here"_s);
     EXPECT_EQ(recorder.events.back().name, u"content_pasted"_s);
     EXPECT_EQ(recorder.events.back().properties.value(u"word_count"_s), u"3"_s);
+}
+
+TEST_F(AppDelegateTest, PastesOnceTheClipboardsOwnerHasAnswered) {
+    launch();
+    pasteboard.answersAtOnce = false;
+    localKeys.press({.characters = u"v"_s, .modifiers = Modifier::command});
+    EXPECT_FALSE(recorded(u"content_pasted"_s));
+    pasteboard.text = u"Hello"_s;
+    pasteboard.answer();
+    EXPECT_EQ(keptScript(), u"Hello"_s);
+    EXPECT_TRUE(recorded(u"content_pasted"_s));
+}
+
+TEST_F(AppDelegateTest, SaysWhyNothingWasPasted) {
+    launch().openText(u"Shown before"_s);
+    const RecordedLog log;
+    pasteboard.problem = u"the owner does not answer"_s;
+    QString told;
+    delegate->pasteFromClipboard([&told](const QString& problem) { told = problem; });
+    EXPECT_EQ(told, u"the owner does not answer"_s);
+    EXPECT_EQ(log.entries(), QStringList(u"app.tessaline.Tessaline.shell: Nothing was pasted: "
+                                         "the owner does not answer"_s));
+    EXPECT_EQ(keptScript(), u"Shown before"_s);
+}
+
+TEST_F(AppDelegateTest, DropsAPasteThatComesAfterItsEnd) {
+    launch();
+    pasteboard.answersAtOnce = false;
+    bool told = false;
+    delegate->pasteFromClipboard([&told](const QString& /*problem*/) { told = true; });
+    delegate.reset();
+    pasteboard.text = u"Hello"_s;
+    pasteboard.answer();
+    EXPECT_FALSE(told);
 }
 
 TEST_F(AppDelegateTest, PastesIntoTheClipboardSourceWhateverIsActive) {

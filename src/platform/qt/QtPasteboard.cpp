@@ -8,11 +8,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace tessaline {
 
-std::optional<QString> QtPasteboard::plainText() const {
-    // Not hasText(), which is true for a list of files as well.
+void QtPasteboard::refresh(std::function<void(const QString& problem)> done) {
     const auto* data = QGuiApplication::clipboard()->mimeData();
-    if (!data || !data->hasFormat(u"text/plain"_s)) return std::nullopt;
-    return data->text();
+    // Not hasText(), which is true for a list of files as well.
+    const bool holdsText = data && (data->hasFormat(u"text/plain"_s) ||
+                                    data->hasFormat(u"text/plain;charset=utf-8"_s));
+    text = holdsText ? std::optional(data->text()) : std::nullopt;
+    done(text && !text->isEmpty() ? QString() : noTextProblem());
 }
 
 } // namespace tessaline

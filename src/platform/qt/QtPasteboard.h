@@ -4,10 +4,15 @@
 
 namespace tessaline {
 
-/// The clipboard of the display that Qt is connected to. Needs a QGuiApplication.
+/// The clipboard as Qt reads it: for systems where that asks no other program. Needs a
+/// QGuiApplication.
 class QtPasteboard final : public Pasteboard {
 public:
-    std::optional<QString> plainText() const override;
+    void refresh(std::function<void(const QString& problem)> done) override;
+    std::optional<QString> plainText() const override { return text; }
+
+private:
+    std::optional<QString> text;
 };
 
 } // namespace tessaline

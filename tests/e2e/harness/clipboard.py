@@ -1,5 +1,6 @@
 """The clipboard, as another application fills and reads it."""
 
+import signal
 import subprocess
 
 from . import session
@@ -13,17 +14,20 @@ class Clipboard:
         self.desktop = desktop
         self.owner = None
 
-    def offer(self, data):
-        """Offers these bytes as a text, until another program offers something else."""
+    def offer(self, data, target=None):
+        """Offers these bytes as a text, or as this target alone, until another program offers
+        something else."""
         file = self.desktop.folder / "clipboard"
         file.write_bytes(data)
         self.clear()
         command = ["xclip", "-verbose", "-selection", "clipboard", "-in", file]
+        command += ["-target", target] if target else []
         self.owner = self.desktop.start("xclip", command)
         self.owner.wait_for_output("Waiting for selection request")
 
     def clear(self):
         if self.owner:
+            self.owner.send(signal.SIGCONT)  # one that a scenario has stopped
             self.owner.end()
             self.desktop.processes.remove(self.owner)
         self.owner = None
