@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QImage>
+#include <QRawFont>
 
 namespace tessaline {
 
@@ -51,6 +52,10 @@ QFont withPoints(QFont font, double points) {
 double pointsOf(const QFont& font) {
     if (font.pixelSize() > 0) return font.pixelSize();
     return font.pointSizeF() * fontDotsPerInch() / typographicPointsPerInch;
+}
+
+double drawnPointsOf(const QFont& font) {
+    return QRawFont::fromFont(font).pixelSize();
 }
 
 } // namespace tessaline

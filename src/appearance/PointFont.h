@@ -5,10 +5,8 @@
 namespace tessaline {
 
 /// The desktop's interface font. Sizes here are in points of one logical pixel each, whatever the
-/// screen's dots per inch. The font keeps the fraction of its size; drawing does not everywhere: on
-/// Linux Qt rasterises and measures at the nearest whole pixel, so text that must follow a fraction
-/// is laid out at a multiple of its size under a scaled painter. Main thread, after the
-/// QGuiApplication is made.
+/// screen's dots per inch. The font keeps the fraction of its size, but Qt draws and measures it at
+/// a whole one: see `drawnPointsOf`. Main thread, after the QGuiApplication is made.
 QFont systemFont(double points, QFont::Weight weight = QFont::Normal);
 
 /// The desktop's fixed-width font, sized in the same way. Main thread.
@@ -23,5 +21,9 @@ QFont withPoints(QFont font, double points);
 
 /// The font's size in points of one logical pixel each, fraction included.
 double pointsOf(const QFont& font);
+
+/// The size at which Qt draws and measures the font, where it has no fraction. Text that is to
+/// follow the fraction is laid out in these and drawn under a painter scaled by what is missing.
+double drawnPointsOf(const QFont& font);
 
 } // namespace tessaline

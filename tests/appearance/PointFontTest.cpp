@@ -2,7 +2,6 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
-#include <QRawFont>
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -12,10 +11,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-double renderedPixels(const QFont& font) {
-    return QRawFont::fromFont(font).pixelSize();
-}
-
 class PointFontSize : public ::testing::TestWithParam<double> {};
 
 TEST_P(PointFontSize, IsKeptWithItsFraction) {
@@ -24,12 +19,18 @@ TEST_P(PointFontSize, IsKeptWithItsFraction) {
 }
 
 TEST_P(PointFontSize, IsDrawnInLogicalPixelsToTheNearestPixelAtLeast) {
-    EXPECT_NEAR(renderedPixels(systemFont(GetParam())), GetParam(), 0.5);
-    EXPECT_NEAR(renderedPixels(monospacedFont(GetParam())), GetParam(), 0.5);
+    EXPECT_NEAR(drawnPointsOf(systemFont(GetParam())), GetParam(), 0.5);
+    EXPECT_NEAR(drawnPointsOf(monospacedFont(GetParam())), GetParam(), 0.5);
 }
 
-TEST_P(PointFontSize, IsDrawnToTheEighthOfAPixelWhenLaidOutEightTimesAsLarge) {
-    EXPECT_NEAR(renderedPixels(systemFont(8 * GetParam())) / 8, GetParam(), 0.5 / 8);
+TEST_P(PointFontSize, IsMeasuredAsItIsDrawn) {
+    const auto widthOf = [](const QFont& font) {
+        return QFontMetricsF(font).horizontalAdvance(u"Hamburgefonts"_s.repeated(20));
+    };
+    QFont font = systemFont(GetParam());
+    font.setHintingPreference(QFont::PreferNoHinting);
+    const double hundredPoints = widthOf(withPoints(font, 100));
+    EXPECT_NEAR(widthOf(font) / hundredPoints, drawnPointsOf(font) / 100, 0.001);
 }
 
 INSTANTIATE_TEST_SUITE_P(WholeAndFractional, PointFontSize,

@@ -7,6 +7,7 @@ from harness import wait_until
 from harness.waiting import holds_for
 from settings_case import CONTROLS, HEIGHT, TITLE, WIDTH, SettingsTestCase
 
+TEXT = (10, 44, 430, 202)  # x, y, width, height in the prompter
 TALK = "A line of the talk that is long enough to be broken where the prompter is narrow\n\n" * 300
 
 
@@ -75,6 +76,14 @@ class Sliders(SettingsTestCase):
         self.drag("Font Size", 25)
         wait_until(lambda: self.desktop.picture(self.window).ppm != before, "the text has changed")
         self.assertAlmostEqual(self.settings()["fontSize"], 25, delta=0.2)
+        x, y = self.place_of(self.slider("Font Size"), 18)
+        for pixel in range(4):
+            before = self.desktop.picture(self.window).region(*TEXT)
+            self.desktop.move_mouse(x + pixel, y)
+            wait_until(
+                lambda: self.desktop.picture(self.window).region(*TEXT) != before,
+                f"the text is another at pixel {pixel}",
+            )
         self.desktop.release_button()
 
     def test_the_position_snaps_at_the_centre(self):

@@ -26,6 +26,11 @@ QFont::Weight resolvedWeight(TextFont::Weight weight) {
     Q_UNREACHABLE();
 }
 
+double scaleOf(const QFont& font) {
+    const double drawn = drawnPointsOf(font);
+    return drawn > 0.0 ? pointsOf(font) / drawn : 1.0;
+}
+
 FormatTable::Entry makeEntry(const TextAttributes& attributes) {
     const QFont font = attributes.font ? resolvedFont(*attributes.font) : defaultTextFont();
     FormatTable::Entry entry;
@@ -33,10 +38,11 @@ FormatTable::Entry makeEntry(const TextAttributes& attributes) {
     entry.font.setStrikeOut(attributes.strikethrough != 0);
     entry.format.setFont(entry.font);
     entry.format.setForeground(resolvedColor(attributes.foreground.value_or(TextColor{})));
-    if (attributes.background) entry.format.setBackground(resolvedColor(*attributes.background));
+    if (attributes.background) entry.background = resolvedColor(*attributes.background);
     const QFontMetricsF metrics(font);
-    entry.lineHeight = std::ceil(metrics.height() + std::max(metrics.leading(), 0.0));
-    entry.averageAdvance = metrics.averageCharWidth();
+    entry.scale = scaleOf(font);
+    entry.lineHeight = scaledLineHeight(metrics.height(), metrics.leading(), entry.scale);
+    entry.averageAdvance = metrics.averageCharWidth() * entry.scale;
     return entry;
 }
 
@@ -68,6 +74,10 @@ QFont resolvedFont(const TextFont& font) {
 QFont defaultTextFont() {
     return resolvedFont(
         {TextFont::Family::system, TextFont::Weight::regular, false, defaultFontSize});
+}
+
+double scaledLineHeight(double height, double leading, double scale) {
+    return std::ceil(height * scale) + std::max(leading, 0.0) * scale;
 }
 
 FormatTable::FormatTable() : plainEntry(makeEntry({})) {}

@@ -19,6 +19,11 @@ QFont resolvedFont(const TextFont& font);
 /// The font of text without attributes.
 QFont defaultTextFont();
 
+/// How high a line is, in points, when it is drawn scaled: a whole number, so that lines are evenly
+/// spaced, and the leading. The measures are those of the unscaled font; the height is ascent and
+/// descent together.
+double scaledLineHeight(double height, double leading, double scale);
+
 /// What the attribute sets of a text look like in Qt's terms, resolved once for each set.
 class FormatTable {
 public:
@@ -26,6 +31,8 @@ public:
     struct Entry {
         QTextCharFormat format;
         QFont font; ///< the format's, kept because its copies share what was looked up for it
+        QColor background;  ///< invalid where there is none
+        double scale = 1.0; ///< by how much the font is larger than Qt draws it
         double lineHeight = 0.0;
         double averageAdvance = 0.0;
     };

@@ -1,15 +1,20 @@
 #include "prompter/layout/ParagraphLayout.h"
 
+#include <QGlyphRun>
+#include <QPainter>
 #include <QTextOption>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tessaline {
 
 namespace {
 
 constexpr double tabStopDistance = 28.0;
+
+constexpr QColor selectionColor(63, 99, 139);
 
 /// However deep the indent, this share of the column is left for the text.
 constexpr double leastTextShare = 0.25;
@@ -40,40 +45,21 @@ ParagraphStyle styleOf(const Script& script, const Script::Paragraph& paragraph)
     return style;
 }
 
-QList<QTextLayout::FormatRange>
-formatRanges(const Script& script, const Script::Paragraph& paragraph, const FormatTable& formats) {
-    QList<QTextLayout::FormatRange> ranges;
-    const qsizetype end = paragraph.start + paragraph.length;
-    const auto& runs = script.styled.runs;
-    for (auto run = std::size_t(paragraph.firstRun); run < runs.size() && runs[run].start < end;
-         ++run) {
-        const qsizetype from = std::max(runs[run].start, paragraph.start);
-        const qsizetype to = std::min(runs[run].start + runs[run].length, end);
-        ranges.push_back(
-            {int(from - paragraph.start), int(to - from), formats[runs[run].style].format});
-    }
-    return ranges;
-}
-
-/// The entry that the whole paragraph looks like, or null where it takes more than a font and a
-/// pen. Text that is not split into formats is laid out in half the time.
-const FormatTable::Entry* singleEntry(const Script& script, const Script::Paragraph& paragraph,
-                                      const FormatTable& formats) {
+/// Whether the whole paragraph looks alike. Text that is not split into formats is laid out in half
+/// the time.
+bool looksAlike(const Script& script, const Script::Paragraph& paragraph) {
     const StyledText::Run* run = runOf(script, paragraph);
-    if (!run || paragraph.length == 0) return &entryOf(script, paragraph, formats);
-    const bool single = run->start + run->length >= paragraph.start + paragraph.length;
-    if (!single || script.styled.attributes(*run).background) return nullptr;
-    return &formats[run->style];
+    return !run || run->start + run->length >= paragraph.start + paragraph.length;
 }
 
 double fittingIndent(double indent, double tail, double textWidth) {
     return std::clamp(indent, 0.0, std::max(textWidth * (1 - leastTextShare) - tail, 0.0));
 }
 
-QTextOption textOption(const ParagraphStyle& style, bool rightToLeft) {
+QTextOption textOption(const ParagraphStyle& style, bool rightToLeft, double scale) {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTabStopDistance(tabStopDistance);
+    option.setTabStopDistance(tabStopDistance / scale);
     option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     if (style.alignment == ParagraphStyle::Alignment::center) {
         option.setAlignment(Qt::AlignHCenter);
@@ -83,41 +69,137 @@ QTextOption textOption(const ParagraphStyle& style, bool rightToLeft) {
     return option;
 }
 
+/// From where to where a range reaches on a line, from left to right. Where text runs both ways it
+/// may be in several places.
+std::vector<std::pair<double, double>> stretches(const QTextLayout& text, const QTextLine& line,
+                                                 const TextRange& range) {
+    std::vector<std::pair<double, double>> found;
+    for (const QGlyphRun& run : line.glyphRuns(int(range.begin), int(range.length())))
+        found.emplace_back(run.boundingRect().left(), run.boundingRect().right());
+    for (auto i = int(range.begin); i < range.end; ++i) {
+        if (text.text()[i] == u'\t') // which has no glyph
+            found.push_back(std::minmax({line.cursorToX(i), line.cursorToX(i + 1)}));
+    }
+    std::sort(found.begin(), found.end());
+    std::vector<std::pair<double, double>> joined;
+    for (const auto& [left, right] : found) {
+        if (joined.empty() || left > joined.back().second) {
+            joined.emplace_back(left, right);
+        } else {
+            joined.back().second = std::max(joined.back().second, right);
+        }
+    }
+    return joined;
+}
+
 } // namespace
 
-ParagraphLayout layOutParagraph(const Script& script, std::size_t index, const FormatTable& formats,
-                                double textWidth) {
+ParagraphLayout::ParagraphLayout(const Script& script, std::size_t index,
+                                 const FormatTable& formats, double textWidth) {
     const Script::Paragraph& paragraph = script.paragraphs[index];
     const ParagraphStyle style = styleOf(script, paragraph);
-    const QString text = script.textOf(paragraph).toString();
-    const bool rightToLeft = text.isRightToLeft();
+    const FormatTable::Entry& first = entryOf(script, paragraph, formats);
+    const QString content = script.textOf(paragraph).toString();
+    const bool rightToLeft = content.isRightToLeft();
+
+    pen = first.format.foreground().color();
+    scale = first.scale; // fonts of other sizes in the paragraph have the same fraction
+    text = std::make_unique<QTextLayout>(content, first.font);
+    text->setCacheEnabled(true);
+    text->setTextOption(textOption(style, rightToLeft, scale));
+    setFormats(script, paragraph, formats);
+    breakLines(style, rightToLeft, textWidth);
+}
+
+void ParagraphLayout::setFormats(const Script& script, const Script::Paragraph& paragraph,
+                                 const FormatTable& formats) {
+    const bool alike = looksAlike(script, paragraph);
+    const qsizetype end = paragraph.start + paragraph.length;
+    const auto& runs = script.styled.runs;
+    QList<QTextLayout::FormatRange> ranges;
+    for (auto run = std::size_t(paragraph.firstRun); run < runs.size() && runs[run].start < end;
+         ++run) {
+        const FormatTable::Entry& entry = formats[runs[run].style];
+        const TextRange range = TextRange{runs[run].start - paragraph.start,
+                                          runs[run].start + runs[run].length - paragraph.start}
+                                    .intersected({0, paragraph.length});
+        if (entry.background.isValid()) grounds.push_back({range, entry.background});
+        if (!alike) ranges.push_back({int(range.begin), int(range.length()), entry.format});
+    }
+    if (!alike) text->setFormats(ranges);
+}
+
+void ParagraphLayout::breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth) {
     const double tail = std::max(-style.tailIndent, 0.0);
-
-    const FormatTable::Entry* single = singleEntry(script, paragraph, formats);
-    const FormatTable::Entry& base = single ? *single : formats.plain();
-
-    ParagraphLayout result;
-    result.lines = std::make_unique<QTextLayout>(text, base.font);
-    result.pen = base.format.foreground().color();
-    QTextLayout& layout = *result.lines;
-    layout.setCacheEnabled(true);
-    layout.setTextOption(textOption(style, rightToLeft));
-    if (!single) layout.setFormats(formatRanges(script, paragraph, formats));
-
     double y = style.spacingBefore;
     double indent = style.firstLineHeadIndent;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    text->beginLayout();
+    for (QTextLine line = text->createLine(); line.isValid(); line = text->createLine()) {
         const double head = fittingIndent(indent, tail, textWidth);
-        line.setLeadingIncluded(true);
-        line.setLineWidth(textWidth - head - tail);
-        line.setPosition({rightToLeft ? tail : head, y});
-        y += line.height();
+        line.setLineWidth((textWidth - head - tail) / scale);
+        line.setPosition({(rightToLeft ? tail : head) / scale, 0});
+        const double height =
+            scaledLineHeight(line.ascent() + line.descent(), line.leading(), scale);
+        lines.push_back({y, height});
+        y += height;
         indent = style.headIndent;
     }
-    layout.endLayout();
-    result.height = y + style.spacingAfter;
-    return result;
+    text->endLayout();
+    wholeHeight = y + style.spacingAfter;
+}
+
+void ParagraphLayout::draw(QPainter& painter, double top, double bottom,
+                           const TextRange& selection) const {
+    std::size_t first = 0;
+    while (first < lines.size() && lines[first].top + lines[first].height < top)
+        ++first;
+    std::size_t last = first;
+    while (last < lines.size() && lines[last].top < bottom)
+        ++last;
+
+    // All grounds before any text, which may reach into the lines around its own.
+    for (std::size_t line = first; line < last; ++line) {
+        fill(painter, int(line), {selection, selectionColor});
+        for (const Ground& ground : grounds)
+            fill(painter, int(line), ground);
+    }
+    const QTransform unscaled = painter.transform();
+    painter.setPen(pen);
+    for (std::size_t line = first; line < last; ++line) {
+        painter.translate(0, lines[line].top);
+        painter.scale(scale, scale);
+        text->lineAt(int(line)).draw(&painter, {0, 0});
+        painter.setTransform(unscaled);
+    }
+}
+
+/// Colours what lies behind a range on a line, as high as the line, so that the next one follows
+/// without a gap.
+void ParagraphLayout::fill(QPainter& painter, int line, const Ground& ground) const {
+    const QTextLine textLine = text->lineAt(line);
+    const int begin = textLine.textStart();
+    const TextRange range = ground.range.intersected({begin, begin + textLine.textLength()});
+    if (range.isEmpty()) return;
+    const auto& [top, height] = lines[std::size_t(line)];
+    for (const auto& [from, to] : stretches(*text, textLine, range)) {
+        const double left = std::floor(from * scale);
+        painter.fillRect(QRectF(left, top, std::ceil(to * scale) - left, height), ground.color);
+    }
+}
+
+qsizetype ParagraphLayout::positionAt(const QPointF& point) const {
+    std::size_t line = 0;
+    while (line + 1 < lines.size() && lines[line + 1].top <= point.y())
+        ++line;
+    return text->lineAt(int(line)).xToCursor(point.x() / scale);
+}
+
+QRectF ParagraphLayout::caretRect(qsizetype position) const {
+    int cursor = int(std::clamp<qsizetype>(position, 0, text->text().size()));
+    const QTextLine line = text->lineForTextPosition(cursor);
+    if (!line.isValid()) return {0, 0, 0, wholeHeight};
+    const auto& [top, height] = lines[std::size_t(line.lineNumber())];
+    return {line.cursorToX(&cursor) * scale, top, 0, height};
 }
 
 double estimatedHeight(const Script& script, std::size_t index, const FormatTable& formats,

@@ -2,25 +2,68 @@
 
 #include "prompter/layout/FormatTable.h"
 #include "prompter/layout/Script.h"
+#include "prompter/layout/TextRange.h"
 
 #include <QColor>
+#include <QPointF>
+#include <QRectF>
 #include <QTextLayout>
 
 #include <cstddef>
 #include <memory>
+#include <vector>
+
+class QPainter;
 
 namespace tessaline {
 
-/// One paragraph laid out in lines.
-struct ParagraphLayout {
-    std::unique_ptr<QTextLayout> lines; ///< its top is at 0, spacing included
-    QColor pen;                         ///< what the lines are drawn in where they do not say
-    double height = 0.0;                ///< points, with the spacing before and after
-};
+/// One paragraph laid out in lines. Coordinates are points from the paragraph's top left corner,
+/// spacing included; positions are UTF-16 units from its beginning. Qt lays text out in fonts of
+/// whole pixels: the lines are drawn under a scale that makes up for the fraction.
+class ParagraphLayout {
+public:
+    ParagraphLayout() = default;
 
-/// Lays a paragraph of a script out for a column of this width in points.
-ParagraphLayout layOutParagraph(const Script& script, std::size_t index, const FormatTable& formats,
-                                double textWidth);
+    /// Lays a paragraph of a script out for a column of this width.
+    ParagraphLayout(const Script& script, std::size_t index, const FormatTable& formats,
+                    double textWidth);
+
+    /// With the spacing before and after.
+    double height() const { return wholeHeight; }
+
+    /// Draws the lines that reach between two heights, what is selected of them highlighted.
+    void draw(QPainter& painter, double top, double bottom, const TextRange& selection) const;
+
+    /// The position nearest to a point.
+    qsizetype positionAt(const QPointF& point) const;
+
+    /// The place of the caret before a position, without width.
+    QRectF caretRect(qsizetype position) const;
+
+private:
+    /// A line's place; its text begins at the left edge of the column, unscaled.
+    struct Line {
+        double top;
+        double height;
+    };
+
+    struct Ground {
+        TextRange range;
+        QColor color;
+    };
+
+    void setFormats(const Script& script, const Script::Paragraph& paragraph,
+                    const FormatTable& formats);
+    void breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth);
+    void fill(QPainter& painter, int line, const Ground& ground) const;
+
+    std::unique_ptr<QTextLayout> text;
+    std::vector<Line> lines;
+    std::vector<Ground> grounds; ///< behind parts of the text
+    QColor pen;                  ///< what the text is drawn in where its formats do not say
+    double scale = 1.0;
+    double wholeHeight = 0.0;
+};
 
 /// What the paragraph's height will be, judged from its length alone.
 double estimatedHeight(const Script& script, std::size_t index, const FormatTable& formats,

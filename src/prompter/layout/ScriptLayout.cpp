@@ -12,10 +12,6 @@ namespace {
 /// How many paragraphs around what was drawn last stay laid out.
 constexpr std::size_t keptLayouts = 48;
 
-constexpr QColor selectionColor() {
-    return QColor(63, 99, 139);
-}
-
 } // namespace
 
 ScriptLayout::ScriptLayout() {
@@ -95,7 +91,7 @@ double ScriptLayout::measureMore(qsizetype units, double anchor) {
             continue;
         }
         setMeasured(nextToMeasure,
-                    layOutParagraph(currentScript, nextToMeasure, formats, columnWidth).height);
+                    ParagraphLayout(currentScript, nextToMeasure, formats, columnWidth).height());
     }
     return topOf(anchored) - before;
 }
@@ -111,8 +107,8 @@ void ScriptLayout::measureBetween(double top, double bottom) {
 const ParagraphLayout& ScriptLayout::laidOut(std::size_t index) {
     const auto [entry, isNew] = layouts.try_emplace(index);
     if (isNew) {
-        entry->second = layOutParagraph(currentScript, index, formats, columnWidth);
-        setMeasured(index, entry->second.height);
+        entry->second = ParagraphLayout(currentScript, index, formats, columnWidth);
+        setMeasured(index, entry->second.height());
     }
     return entry->second;
 }
@@ -129,34 +125,21 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
     for (double y = topOf(first); y < bottom && index < measured.size(); ++index) {
         const ParagraphLayout& layout = laidOut(index);
         const Script::Paragraph& paragraph = currentScript.paragraphs[index];
-        const TextRange selected =
-            selection.intersected({paragraph.start, paragraph.start + paragraph.length});
-        QList<QTextLayout::FormatRange> highlights;
-        if (!selected.isEmpty()) {
-            QTextCharFormat highlight;
-            highlight.setBackground(selectionColor());
-            highlights.push_back(
-                {int(selected.begin - paragraph.start), int(selected.length()), highlight});
-        }
         // Lines are placed in fixed point, which does not reach the end of very long documents.
         painter.translate(0, y);
-        painter.setPen(layout.pen);
-        layout.lines->draw(&painter, {0, 0}, highlights,
-                           QRectF(0, top - y, columnWidth, bottom - top));
+        layout.draw(painter, top - y, bottom - y,
+                    {selection.begin - paragraph.start, selection.end - paragraph.start});
         painter.translate(0, -y);
-        y += layout.height;
+        y += layout.height();
     }
     forgetLayoutsOutside(first, index);
 }
 
 qsizetype ScriptLayout::offsetAt(const QPointF& point) {
     const std::size_t index = paragraphAt(point.y());
-    const QTextLayout& lines = *laidOut(index).lines;
-    const double y = point.y() - topOf(index);
-    int line = 0;
-    while (line + 1 < lines.lineCount() && lines.lineAt(line + 1).y() <= y)
-        ++line;
-    return currentScript.paragraphs[index].start + lines.lineAt(line).xToCursor(point.x());
+    const ParagraphLayout& layout = laidOut(index);
+    return currentScript.paragraphs[index].start +
+           layout.positionAt({point.x(), point.y() - topOf(index)});
 }
 
 std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
@@ -170,12 +153,9 @@ std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
 
 QRectF ScriptLayout::caretRect(qsizetype offset) {
     const std::size_t index = paragraphOf(offset);
-    const auto& paragraph = currentScript.paragraphs[index];
-    const QTextLayout& lines = *laidOut(index).lines;
-    int position = int(std::clamp<qsizetype>(offset - paragraph.start, 0, paragraph.length));
-    const QTextLine line = lines.lineForTextPosition(position);
-    if (!line.isValid()) return {0, topOf(index), 0, heightOf(index)};
-    return {line.cursorToX(&position), topOf(index) + line.y(), 0, line.height()};
+    const ParagraphLayout& layout = laidOut(index);
+    return layout.caretRect(offset - currentScript.paragraphs[index].start)
+        .translated(0, topOf(index));
 }
 
 } // namespace tessaline

@@ -62,7 +62,7 @@ TEST(FormatTable, SetsTextWithoutAttributesInTwelvePointsOfTheTextColor) {
     EXPECT_NEAR(pointsOf(table.plain().font), 12, 0.01);
     EXPECT_EQ(table.plain().font.weight(), QFont::Normal);
     EXPECT_EQ(table.plain().format.foreground().color(), SystemPalette::amber());
-    EXPECT_EQ(table.plain().format.background().style(), Qt::NoBrush);
+    EXPECT_FALSE(table.plain().background.isValid());
     EXPECT_FALSE(table.plain().font.strikeOut());
 }
 
@@ -79,7 +79,7 @@ TEST(FormatTable, TakesEveryAttributeOver) {
     EXPECT_TRUE(entry.font.strikeOut());
     EXPECT_TRUE(entry.format.fontStrikeOut());
     EXPECT_EQ(entry.format.foreground().color(), SystemPalette::green);
-    expectColor(entry.format.background().color(), 1, 1, 1, 0.08);
+    expectColor(entry.background, 1, 1, 1, 0.08);
 }
 
 } // namespace
