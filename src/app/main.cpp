@@ -4,6 +4,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/ExitStatus.h"
 #include "app/cli/RenderCommand.h"
+#include "settings/FilePath.h"
 
 #include <QStringList>
 
@@ -14,7 +15,7 @@ namespace {
 QStringList argumentsOf(int argc, char** argv) {
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
-        arguments += QString::fromLocal8Bit(argv[i]);
+        arguments += pathText(argv[i]);
     return arguments;
 }
 

@@ -1,5 +1,6 @@
 #include "settings/WholeFile.h"
 
+#include "settings/FilePath.h"
 #include "settings/Replacement.h"
 
 #include <QFile>
@@ -35,7 +36,7 @@ QString objection(const QByteArray& path, bool& missing) {
 }
 
 /// Opens a file that was regular a moment ago. Without blocking, since it may have become a FIFO.
-QString openRegular(const QByteArray& path, QFile& file) {
+QString openCautiously(const QByteArray& path, QFile& file) {
     const int descriptor = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) return qt_error_string(errno);
     if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
@@ -47,16 +48,20 @@ QString openRegular(const QByteArray& path, QFile& file) {
 
 } // namespace
 
-std::optional<QByteArray> readWholeFile(const QString& path, QString* error, qint64 limit) {
-    const QByteArray nativePath = QFile::encodeName(path);
-    QFile file;
+bool openRegularFile(const QString& path, QFile& file, QString* error) {
+    const QByteArray native = nativePath(path);
     bool missing = false;
-    QString problem = objection(nativePath, missing);
-    if (problem.isEmpty()) problem = openRegular(nativePath, file);
-    if (problem.isEmpty() && file.size() > limit)
-        problem = u"The file is larger than %1 bytes"_s.arg(limit);
-    if (!problem.isEmpty()) {
-        report(error, problem);
+    QString problem = objection(native, missing);
+    if (problem.isEmpty()) problem = openCautiously(native, file);
+    report(error, problem);
+    return problem.isEmpty();
+}
+
+std::optional<QByteArray> readWholeFile(const QString& path, QString* error, qint64 limit) {
+    QFile file;
+    if (!openRegularFile(path, file, error)) return std::nullopt;
+    if (file.size() > limit) {
+        report(error, u"The file is larger than %1 bytes"_s.arg(limit));
         return std::nullopt;
     }
     QByteArray bytes = file.readAll();
@@ -73,8 +78,12 @@ bool writeWholeFile(const QString& path, const QByteArray& bytes, QString* error
 
 bool writeWholeFile(const QString& path, const FilePieces& pieces, QString* error) {
     bool missing = false;
-    QString problem = objection(QFile::encodeName(path), missing);
-    if (problem.isEmpty() || missing) problem = replaceFile(path, pieces);
+    QString problem = objection(nativePath(path), missing);
+    if (hasForeignBytes(path)) {
+        problem = u"The name is not valid UTF-8"_s;
+    } else if (problem.isEmpty() || missing) {
+        problem = replaceFile(path, pieces);
+    }
     report(error, problem);
     return problem.isEmpty();
 }

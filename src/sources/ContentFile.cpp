@@ -1,6 +1,6 @@
 #include "sources/ContentFile.h"
 
-#include "settings/WholeFile.h"
+#include "settings/TextFile.h"
 
 #include <QFile>
 
@@ -8,9 +8,7 @@ namespace tessaline {
 
 ContentResult readContentFile(const QString& path, ByteOrderMark mark) {
     if (!QFile::exists(path)) return ContentSourceError::noContent();
-    const auto bytes = readWholeFile(path);
-    if (!bytes) return ContentSourceError::fileNotReadable(path);
-    auto text = decodeUtf8(*bytes, mark);
+    auto text = readTextFile(path, mark);
     if (!text) return ContentSourceError::fileNotReadable(path);
     return *std::move(text);
 }

@@ -3,14 +3,14 @@
 #include "platform/MainQueue.h"
 #include "platform/TaskRunner.h"
 #include "platform/TimerMaker.h"
-#include "sources/ContentFile.h"
+#include "settings/TextFile.h"
+#include "settings/WholeFile.h"
 
 #include <QDateTime>
-#include <QFileInfo>
+#include <QFile>
 
 #include <optional>
 #include <utility>
-#include <variant>
 
 namespace tessaline {
 
@@ -28,8 +28,10 @@ struct Stamp {
 };
 
 Stamp stampOf(const QString& path) {
-    const QFileInfo file(path);
-    return {file.size(), file.lastModified(), file.metadataChangeTime()};
+    QFile file;
+    if (!openRegularFile(path, file)) return {};
+    return {file.size(), file.fileTime(QFileDevice::FileModificationTime),
+            file.fileTime(QFileDevice::FileMetadataChangeTime)};
 }
 
 /// A file saved so recently may be saved once more without another stamp.
@@ -62,15 +64,13 @@ void FollowedFile::check() {
     taskRunner.run(
         [weak = std::weak_ptr(follow), &queue = mainQueue, path = filePath, known = follow->stamp] {
             const Stamp stamp = stampOf(path);
-            ContentResult result = QString();
-            const bool isSame = known == stamp;
-            if (!isSame) result = readContentFile(path, ByteOrderMark::drop);
-            queue.post([weak, stamp, isSame, result = std::move(result)] {
+            std::optional<QString> text;
+            if (known != stamp) text = readTextFile(path, ByteOrderMark::drop);
+            queue.post([weak, stamp, text = std::move(text)] {
                 const auto state = weak.lock();
                 if (!state) return;
                 state->isReading = false;
-                const auto* text = std::get_if<QString>(&result);
-                if (isSame || !text) return;
+                if (!text) return;
                 state->stamp = isSettled(stamp) ? std::optional(stamp) : std::nullopt;
                 if (std::exchange(state->text, *text) == *text) return;
                 // The handler may end the following, and with it itself.

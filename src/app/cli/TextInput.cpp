@@ -1,9 +1,8 @@
 #include "app/cli/TextInput.h"
 
+#include "settings/FilePath.h"
 #include "settings/Utf8.h"
 #include "settings/WholeFile.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -37,7 +36,7 @@ QString readAll(int descriptor, QByteArray& bytes) {
 }
 
 QString readFile(const QString& path, QByteArray& bytes) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int descriptor = ::open(nativePath(path).constData(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0) return qt_error_string(errno);
     struct stat status {};
     if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
