@@ -31,6 +31,8 @@ int runControl(const ControlRequest& request) {
         InstanceClient::Clock::now() + longestWait);
     if (std::holds_alternative<SingleInstance::IsUs>(outcome))
         return fail(u"no prompter is running"_s);
+    if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
+        return fail(u"no prompter can be reached: "_s + failure->problem);
     const auto* answer = std::get_if<QJsonObject>(&outcome);
     if (!answer) return fail(u"the prompter does not answer"_s);
     if (!answer->value("ok"_L1).toBool()) return fail(answer->value("error"_L1).toString());

@@ -68,6 +68,7 @@ struct Machine {
     QtProcessRunner processes;
     ThreadTaskRunner renderTasks;
     ThreadTaskRunner fileTasks;
+    ThreadTaskRunner scriptTasks;
     ThreadTaskRunner noteTasks;
     ThreadTaskRunner pasteTasks;
     ThreadTaskRunner historyTasks;
@@ -145,10 +146,12 @@ void hearLaterStarts(InstanceServer& server, const QString& path) {
 
 /// Runs the event loop until the program is to end, and returns the exit status. Later starts are
 /// heard for as long; one that comes afterwards waits for its turn to be the program.
-int runUntilStopped(AppDelegate& delegate, TimerMaker& timers, const QString& socketPath) {
-    RemoteCommands commands(delegate);
-    InstanceServer server(
-        timers, [&commands](const QJsonObject& message) { return commands.carryOut(message); });
+int runUntilStopped(AppDelegate& delegate, Machine& machine, const QString& socketPath) {
+    RemoteCommands commands(delegate, machine.scriptTasks, machine.mainQueue);
+    InstanceServer server(machine.timers, [&commands](const QJsonObject& message,
+                                                      const InstanceServer::Reply& reply) {
+        commands.carryOut(message, reply);
+    });
     hearLaterStarts(server, socketPath);
     return QApplication::exec();
 }
@@ -216,7 +219,7 @@ int runPrompter(const PrompterStart& start) {
 
     // The toolkit exits where it is when the display server goes away.
     const AbruptExit abruptExit(recordTheEnd);
-    const int status = runUntilStopped(delegate, machine.timers, start.socketPath);
+    const int status = runUntilStopped(delegate, machine, start.socketPath);
     hideEverything();
     machine.stop();
     constexpr std::chrono::seconds longestTeardown{1};

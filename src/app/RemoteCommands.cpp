@@ -2,10 +2,14 @@
 
 #include "app/AppDelegate.h"
 #include "app/RemoteControl.h"
-#include "app/cli/TextInput.h"
+#include "platform/MainQueue.h"
+#include "platform/TaskRunner.h"
+#include "settings/TextFile.h"
 
-#include <QFileInfo>
 #include <QJsonArray>
+
+#include <optional>
+#include <utility>
 
 namespace tessaline {
 
@@ -36,32 +40,52 @@ QJsonObject RemoteCommands::control(const ControlRequest& request) {
             {u"words"_s, QJsonArray::fromStringList(request.words())}};
 }
 
-RemoteCommands::RemoteCommands(AppDelegate& borrowed) : delegate(borrowed) {}
+RemoteCommands::RemoteCommands(AppDelegate& borrowed, TaskRunner& runner, MainQueue& queue)
+    : delegate(borrowed)
+    , taskRunner(runner)
+    , mainQueue(queue)
+    , self(std::make_shared<RemoteCommands*>(this)) {}
 
-QJsonObject RemoteCommands::carryOut(const QJsonObject& message) {
+void RemoteCommands::carryOut(const QJsonObject& message, const Reply& reply) {
+    if (message.value("command"_L1) == "open"_L1) {
+        openFile(message.value("path"_L1).toString(), message.value("follow"_L1).toBool(), reply);
+    } else {
+        reply(answerTo(message));
+    }
+}
+
+QJsonObject RemoteCommands::answerTo(const QJsonObject& message) {
     const QString command = message.value("command"_L1).toString();
-    if (command == "open"_L1)
-        return openFile(message.value("path"_L1).toString(), message.value("follow"_L1).toBool());
     if (command == "control"_L1) return drive(message);
     if (command != "show"_L1) return failed(u"there is no command '%1'"_s.arg(command));
     delegate.reveal();
     return done();
 }
 
-QJsonObject RemoteCommands::openFile(const QString& path, bool follow) {
-    // Anything but a file of its own could keep the prompter waiting.
-    if (!path.startsWith(u'/') || !QFileInfo(path).isFile())
-        return failed(u"cannot read %1: Not a file"_s.arg(path));
-    QString error;
-    const auto text = readTextInput(path, &error);
-    if (!text) return failed(error);
+void RemoteCommands::openFile(const QString& path, bool follow, const Reply& reply) {
+    if (!path.startsWith(u'/')) {
+        reply(failed(u"cannot read %1: Not a path from the root"_s.arg(path)));
+        return;
+    }
+    taskRunner.run([weak = std::weak_ptr(self), &queue = mainQueue, path, follow, reply] {
+        QString problem;
+        auto text = readTextFile(path, ByteOrderMark::drop, &problem);
+        queue.post([weak, path, follow, reply, problem, text = std::move(text)] {
+            const auto commands = weak.lock();
+            if (!commands) return;
+            if (text) (*commands)->showFile(path, *text, follow);
+            reply(text ? done() : failed(u"cannot read %1: %2"_s.arg(path, problem)));
+        });
+    });
+}
+
+void RemoteCommands::showFile(const QString& path, const QString& text, bool follow) {
     if (follow) {
-        delegate.followFile(path, *text);
+        delegate.followFile(path, text);
     } else {
-        delegate.openText(*text);
+        delegate.openText(text);
     }
     delegate.reveal();
-    return done();
 }
 
 QJsonObject RemoteCommands::drive(const QJsonObject& message) {

@@ -5,9 +5,14 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <functional>
+#include <memory>
+
 namespace tessaline {
 
 class AppDelegate;
+class MainQueue;
+class TaskRunner;
 
 /// Carries out what a later command line asks the running program for. Main thread only.
 class RemoteCommands {
@@ -19,17 +24,27 @@ public:
     /// Drives the prompter.
     static QJsonObject control(const ControlRequest& request);
 
-    explicit RemoteCommands(AppDelegate& delegate);
+    /// Gets the answer: "ok" tells whether it was done, "text" what is to be said then, "error" why
+    /// it was not, each in one line.
+    using Reply = std::function<void(const QJsonObject& answer)>;
 
-    /// The answer: "ok" tells whether it was done, "text" what is to be said then, "error" why it
-    /// was not, each in one line.
-    QJsonObject carryOut(const QJsonObject& message);
+    /// Borrows everything. The runner reads files: nothing else waits behind one that hangs.
+    RemoteCommands(AppDelegate& delegate, TaskRunner& taskRunner, MainQueue& mainQueue);
+
+    /// Replies once it is done: at once or, where a file has to be read, later. Not at all when
+    /// this is gone by then.
+    void carryOut(const QJsonObject& message, const Reply& reply);
 
 private:
-    QJsonObject openFile(const QString& path, bool follow);
+    QJsonObject answerTo(const QJsonObject& message);
+    void openFile(const QString& path, bool follow, const Reply& reply);
+    void showFile(const QString& path, const QString& text, bool follow);
     QJsonObject drive(const QJsonObject& message);
 
     AppDelegate& delegate;
+    TaskRunner& taskRunner;
+    MainQueue& mainQueue;
+    std::shared_ptr<RemoteCommands*> self; ///< what tasks hold weakly
 };
 
 } // namespace tessaline

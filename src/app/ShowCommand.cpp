@@ -5,10 +5,10 @@
 #include "app/cli/Console.h"
 #include "app/cli/ExitStatus.h"
 #include "app/cli/TextInput.h"
+#include "app/remote/HandedScript.h"
 #include "app/remote/SingleInstance.h"
-
-#include <QFileInfo>
-#include <QTemporaryFile>
+#include "app/remote/TemporaryFolder.h"
+#include "settings/FilePath.h"
 
 #include <chrono>
 
@@ -20,67 +20,67 @@ namespace {
 
 constexpr std::chrono::seconds longestWait{10};
 
-/// A script that the running program can read by itself.
-class HandedOver {
-public:
-    /// A file goes by its path. What came through a pipe is put into a private file in the folder,
-    /// which goes away with this object.
-    HandedOver(const QString& input, const QString& text, const QString& folder)
-        : spool(folder + u"/script-XXXXXX.md"_s) {
-        const QFileInfo file(input);
-        if (input != u"-" && file.isFile()) {
-            path = file.absoluteFilePath();
-        } else if (spool.open() && spool.write(text.toUtf8()) >= 0 && spool.flush()) {
-            path = spool.fileName();
-        } else {
-            reportError(u"cannot write %1: %2"_s.arg(spool.fileTemplate(), spool.errorString()));
-        }
-    }
-
-    QString path; ///< empty: it cannot, which has been reported
-
-private:
-    QTemporaryFile spool;
-};
+int fail(const QString& reason) {
+    reportError(reason);
+    return ExitStatus::failure;
+}
 
 int reportAnswer(const QJsonObject& answer) {
     if (answer.value("ok"_L1).toBool()) return ExitStatus::success;
-    reportError(answer.value("error"_L1).toString());
-    return ExitStatus::failure;
+    return fail(answer.value("error"_L1).toString());
+}
+
+/// Reads what the arguments name, if anything. Returns what is wrong with it.
+QString readScript(const CommandLine::Show& request, PrompterStart& start) {
+    if (!request.input) return {};
+    QString problem;
+    start.text = readTextInput(*request.input, &problem);
+    if (!start.text || !request.follow) return problem;
+    if (!HandedScript::isSameForAll(*request.input))
+        return u"cannot follow %1: Not a lasting file"_s.arg(*request.input);
+    start.followed = absolutePath(*request.input);
+    return {};
+}
+
+HandedScript handOver(const QString& input, const QString& text, const QString& folder) {
+    const bool isNamed = input != "-"_L1 && HandedScript::isSameForAll(input);
+    return isNamed ? HandedScript(absolutePath(input))
+                   : HandedScript(text, {folder, temporaryFolder()});
+}
+
+int runUnheard(const PrompterStart& start, const QString& problem) {
+    reportError(u"later starts will not find this one: "_s + problem);
+    return runPrompter(start);
 }
 
 } // namespace
 
 int runShow(int argc, char** argv, const CommandLine::Show& request) {
     PrompterStart start{.argc = argc, .argv = argv, .text = {}, .followed = {}, .socketPath = {}};
-    QString problem;
-    if (request.input) {
-        start.text = readTextInput(*request.input, &problem);
-        if (!start.text) {
-            reportError(problem);
-            return ExitStatus::usage;
-        }
-        if (request.follow) start.followed = QFileInfo(*request.input).absoluteFilePath();
+    QString problem = readScript(request, start);
+    if (!problem.isEmpty()) {
+        reportError(problem);
+        return ExitStatus::usage;
     }
     const auto address = InstanceAddress::ofThisSession(&problem);
-    if (!address) {
-        reportError(u"later starts will not find this one: "_s + problem);
-        return runPrompter(start);
-    }
+    if (!address) return runUnheard(start, problem);
 
-    std::optional<HandedOver> script;
-    const auto composeMessage = [&] {
+    std::optional<HandedScript> script; // until it has been read
+    const auto composeMessage = [&]() -> std::optional<QJsonObject> {
         if (!start.text) return RemoteCommands::show();
-        script.emplace(*request.input, *start.text, address->folder);
-        return RemoteCommands::open(script->path, request.follow);
+        script.emplace(handOver(*request.input, *start.text, address->folder));
+        if (script->path().isEmpty()) return std::nullopt;
+        return RemoteCommands::open(script->path(), request.follow);
     };
     const auto outcome =
         SingleInstance::join(*address, composeMessage, InstanceClient::Clock::now() + longestWait);
     if (const auto* answer = std::get_if<QJsonObject>(&outcome)) return reportAnswer(*answer);
-    if (std::holds_alternative<SingleInstance::Silence>(outcome)) {
-        reportError(u"the Tessaline that runs on this display does not answer"_s);
-        return ExitStatus::failure;
-    }
+    if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
+        return runUnheard(start, failure->problem);
+    if (std::holds_alternative<SingleInstance::NothingToSay>(outcome))
+        return fail(script->problem());
+    if (std::holds_alternative<SingleInstance::Silence>(outcome))
+        return fail(u"the Tessaline that runs on this display does not answer"_s);
     start.socketPath = address->socketPath();
     return runPrompter(start);
 }

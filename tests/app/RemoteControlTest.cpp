@@ -27,7 +27,11 @@ protected:
     QJsonObject answerTo(const QString& words) {
         const auto request = ControlRequest::parse(words.split(u' '), &problem);
         EXPECT_TRUE(request) << problem.toStdString();
-        return RemoteCommands(*delegate).carryOut(RemoteCommands::control(*request));
+        QJsonObject answer;
+        RemoteCommands(*delegate, fileTasks, mainQueue)
+            .carryOut(RemoteCommands::control(*request),
+                      [&](const QJsonObject& reply) { answer = reply; });
+        return answer;
     }
 
     QString textOf(const QString& words) {

@@ -103,7 +103,8 @@ class SingleInstance(TessalineTestCase):
         self.connect().sendall(b'{"command":"sh')  # and vanishes
         os.mkfifo(self.desktop.home / "fifo")
         path = str(self.desktop.home / "fifo").encode()
-        self.assertIn("Not a file", self.exchange(b'{"command":"open","path":"' + path + b'"}\n'))
+        answer = self.exchange(b'{"command":"open","path":"' + path + b'"}\n')
+        self.assertIn("Not a regular file", answer)
         self.assertEqual(self.call(), (0, "", ""))
 
     def test_answers_among_a_thousand_connections_that_say_nothing(self):

@@ -16,8 +16,8 @@ constexpr HelpEntry wrongUse{u"2",
 
 constexpr CommandOption programOptions[] = {
     {.name = u"follow",
-     .help = u"Show FILE again whenever it changes on disk, and keep the\n"
-             u"reader's place."},
+     .help = u"Show FILE, a regular file, again whenever it changes on disk,\n"
+             u"and keep the reader's place."},
     helpOption,
     {.name = u"version", .help = u"Print the program's name and version."},
 };

@@ -1,11 +1,13 @@
 #include "app/remote/InstanceAddress.h"
 
+#include "app/remote/InstanceLock.h"
+#include "app/remote/TemporaryFolder.h"
+#include "settings/FilePath.h"
+
 #include <QByteArray>
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 
-#include <cerrno>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -25,8 +27,9 @@ bool isPrivateFolder(const QString& path) {
 
 bool makePrivateFolder(const QString& path) {
     constexpr mode_t ownerOnly = 0700;
-    const bool made = ::mkdir(QFile::encodeName(path).constData(), ownerOnly) == 0;
-    return (made || errno == EEXIST) && isPrivateFolder(path);
+    if (isPrivateFolder(path)) return true;
+    ::mkdir(QFile::encodeName(path).constData(), ownerOnly); // another start may be faster
+    return isPrivateFolder(path);
 }
 
 /// A file name for the display. Screens of one X display share it.
@@ -51,27 +54,36 @@ bool fitsSocketAddress(const QString& path) {
     return QFile::encodeName(path).size() + reserve < qsizetype(sizeof(sockaddr_un::sun_path));
 }
 
+/// Our folder in the session's folder for such things, which is made if nobody has done so yet;
+/// empty where that cannot be had. The toolkit cannot listen where the name is not UTF-8.
+QString runtimeFolderOfOurs(const QString& runtimeFolder) {
+    if (!runtimeFolder.startsWith(u'/') || hasForeignBytes(runtimeFolder)) return {};
+    return makePrivateFolder(runtimeFolder) ? runtimeFolder + u"/tessaline"_s : QString();
+}
+
+bool isUsable(const InstanceAddress& address) {
+    return fitsSocketAddress(address.socketPath()) && makePrivateFolder(address.folder);
+}
+
 } // namespace
 
 std::optional<InstanceAddress> InstanceAddress::ofSession(const Variable& variable,
                                                           const QString& temporaryFolder,
                                                           QString* problem) {
-    InstanceAddress address{.display = displayName(variable)};
-    const QString runtimeFolder = variable("XDG_RUNTIME_DIR");
-    if (runtimeFolder.startsWith(u'/') && isPrivateFolder(runtimeFolder)) {
-        address.folder = runtimeFolder + u"/tessaline"_s;
-        if (fitsSocketAddress(address.socketPath()) && makePrivateFolder(address.folder))
-            return address;
-    }
-    address.folder = temporaryFolder + u"/tessaline-%1"_s.arg(::geteuid());
-    if (fitsSocketAddress(address.socketPath()) && makePrivateFolder(address.folder))
-        return address;
-    *problem = u"%1 cannot be used as a private folder"_s.arg(address.folder);
+    const QString display = displayName(variable);
+    const InstanceAddress usual{runtimeFolderOfOurs(variable("XDG_RUNTIME_DIR")), display};
+    const InstanceAddress other{temporaryFolder + u"/tessaline-%1"_s.arg(::geteuid()), display};
+    // Whoever runs may have started while there was no usual place.
+    const bool isElsewhere =
+        isPrivateFolder(other.folder) && InstanceLock::isHeld(other.lockPath());
+    if (!isElsewhere && !usual.folder.isEmpty() && isUsable(usual)) return usual;
+    if (isUsable(other)) return other;
+    *problem = u"%1 cannot be used as a private folder"_s.arg(other.folder);
     return std::nullopt;
 }
 
 std::optional<InstanceAddress> InstanceAddress::ofThisSession(QString* problem) {
-    return ofSession([](const char* name) { return qEnvironmentVariable(name); }, QDir::tempPath(),
+    return ofSession([](const char* name) { return pathText(qgetenv(name)); }, temporaryFolder(),
                      problem);
 }
 

@@ -13,7 +13,8 @@ struct InstanceAddress {
     using Variable = std::function<QString(const char* name)>;
 
     /// The address of this session, by its environment variables: in XDG_RUNTIME_DIR or, without a
-    /// usable one, below the folder for temporary files. Makes the folder. None, with the reason in
+    /// usable one and while somebody is met there, below the folder for temporary files. Makes the
+    /// folder. None, with the reason in
     /// `problem`, where there is no place that others cannot enter.
     static std::optional<InstanceAddress>
     ofSession(const Variable& variable, const QString& temporaryFolder, QString* problem);

@@ -2,22 +2,43 @@
 
 #include <QFile>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
 namespace tessaline {
 
-std::unique_ptr<InstanceLock> InstanceLock::take(const QString& path) {
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// For reading only, which a lock that was made before allows also where nothing can be written any
+/// more; without waiting, whatever lies there.
+int openLock(const QString& path, int flags) {
     constexpr mode_t ownerOnly = 0600;
-    const int descriptor = ::open(QFile::encodeName(path).constData(),
-                                  O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
-    if (descriptor < 0) return nullptr;
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        ::close(descriptor);
-        return nullptr;
-    }
-    return std::unique_ptr<InstanceLock>(new InstanceLock(descriptor));
+    return ::open(QFile::encodeName(path).constData(),
+                  O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | flags, ownerOnly);
+}
+
+} // namespace
+
+std::unique_ptr<InstanceLock> InstanceLock::take(const QString& path, QString* problem) {
+    problem->clear();
+    const int descriptor = openLock(path, O_CREAT);
+    if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+        return std::unique_ptr<InstanceLock>(new InstanceLock(descriptor));
+    if (errno != EWOULDBLOCK) *problem = u"cannot lock %1: %2"_s.arg(path, qt_error_string(errno));
+    if (descriptor >= 0) ::close(descriptor);
+    return nullptr;
+}
+
+bool InstanceLock::isHeld(const QString& path) {
+    const int descriptor = openLock(path, 0);
+    if (descriptor < 0) return false;
+    const bool held = ::flock(descriptor, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    ::close(descriptor);
+    return held;
 }
 
 InstanceLock::~InstanceLock() {

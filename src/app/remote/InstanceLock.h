@@ -10,9 +10,12 @@ namespace tessaline {
 /// however that happens.
 class InstanceLock {
 public:
-    /// The lock on the file, which is made if need be; null while another process holds it, or
-    /// where the file cannot be opened. Any thread.
-    static std::unique_ptr<InstanceLock> take(const QString& path);
+    /// The lock on the file, which is made if need be. Null while another process holds it, and
+    /// where the file cannot be opened or locked: only then, `problem` is not empty. Any thread.
+    static std::unique_ptr<InstanceLock> take(const QString& path, QString* problem);
+
+    /// Whether a process holds the lock now. Makes no file.
+    static bool isHeld(const QString& path);
 
     ~InstanceLock();
     InstanceLock(const InstanceLock&) = delete;

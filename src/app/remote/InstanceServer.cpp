@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QLocalSocket>
+#include <QPointer>
 
 #include <iterator>
 #include <utility>
@@ -55,27 +56,31 @@ void InstanceServer::acceptAll() {
 }
 
 void InstanceServer::read(Connections::iterator connection) {
-    if (connection->answered) return;
+    if (connection->heard) return;
     QLocalSocket& socket = *connection->socket;
     if (socket.canReadLine()) {
         QByteArray line = socket.readLine();
         line.chop(1);
-        answer(*connection, line);
+        handle(*connection, line);
     } else if (socket.bytesAvailable() >= remoteMessage::mostBytes) {
-        answer(*connection, {});
+        handle(*connection, {});
     }
 }
 
-void InstanceServer::answer(Connection& connection, const QByteArray& line) {
-    connection.answered = true;
-    QLocalSocket& socket = *connection.socket;
-    const auto message = remoteMessage::decode(line);
-    const QJsonObject reply =
-        message ? handler(*message)
-                : QJsonObject{{u"ok"_s, false}, {u"error"_s, u"this is no message"_s}};
-    socket.write(remoteMessage::encode(reply));
-    socket.flush(); // the message may have ended the program
-    socket.disconnectFromServer();
+void InstanceServer::handle(Connection& connection, const QByteArray& line) {
+    connection.heard = true;
+    connection.timeout.reset(); // how long they wait is the others' business now
+    const Reply reply = [socket = QPointer(connection.socket.get())](const QJsonObject& answer) {
+        if (!socket) return;
+        socket->write(remoteMessage::encode(answer));
+        socket->flush(); // the message may have ended the program
+        socket->disconnectFromServer();
+    };
+    if (const auto message = remoteMessage::decode(line)) {
+        handler(*message, reply);
+    } else {
+        reply({{u"ok"_s, false}, {u"error"_s, u"this is no message"_s}});
+    }
 }
 
 void InstanceServer::drop(Connections::iterator connection) {

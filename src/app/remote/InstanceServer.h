@@ -20,12 +20,14 @@ class TimerMaker;
 /// moment of a connection. Main thread only.
 class InstanceServer {
 public:
-    /// Carries a message out and returns the answer.
-    using Handler = std::function<QJsonObject(const QJsonObject& message)>;
+    /// Takes the answer to a message, once, at any later time; nobody may be waiting any more.
+    using Reply = std::function<void(const QJsonObject& answer)>;
+    /// Carries a message out and replies.
+    using Handler = std::function<void(const QJsonObject& message, const Reply& reply)>;
 
     /// As many connections are open at a time; one more, and the oldest is dropped.
     static constexpr std::size_t mostConnections = 64;
-    /// A connection that is not done by then is dropped.
+    /// A connection that has not sent its message by then is dropped.
     static constexpr double secondsPerConnection = 5.0;
 
     /// Borrows the timers.
@@ -44,13 +46,13 @@ private:
     struct Connection {
         std::unique_ptr<QLocalSocket> socket;
         std::unique_ptr<RepeatingTimer> timeout;
-        bool answered = false;
+        bool heard = false;
     };
     using Connections = std::list<Connection>;
 
     void acceptAll();
     void read(Connections::iterator connection);
-    void answer(Connection& connection, const QByteArray& line);
+    void handle(Connection& connection, const QByteArray& line);
     void drop(Connections::iterator connection);
 
     TimerMaker& timers;

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <variant>
 
 namespace tessaline {
@@ -19,13 +20,19 @@ public:
     using IsUs = std::unique_ptr<InstanceLock>;
     /// Somebody is, but does not answer.
     struct Silence {};
-    using Outcome = std::variant<IsUs, QJsonObject, Silence>;
+    /// Nobody can tell whether somebody is.
+    struct NoLock {
+        QString problem;
+    };
+    /// Somebody is, but there was no message to send.
+    struct NothingToSay {};
+    using Outcome = std::variant<IsUs, QJsonObject, Silence, NoLock, NothingToSay>;
 
     /// Becomes the instance or, while another process is, sends it the message, which is asked for
-    /// only then, and waits for its answer until the deadline. An instance that is just starting or
-    /// ending is waited for.
+    /// only then and may be none, and waits for its answer until the deadline. An instance that is
+    /// just starting or ending is waited for.
     static Outcome join(const InstanceAddress& address,
-                        const std::function<QJsonObject()>& composeMessage,
+                        const std::function<std::optional<QJsonObject>()>& composeMessage,
                         InstanceClient::Clock::time_point deadline);
 };
 

@@ -1,5 +1,8 @@
 #include "app/remote/InstanceAddress.h"
 
+#include "app/remote/InstanceLock.h"
+#include "settings/FilePath.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -71,12 +74,43 @@ TEST_F(InstanceAddressTest, TrustsNoRuntimeFolderThatOthersCanEnter) {
     EXPECT_TRUE(QDir(runtimeFolder).isEmpty());
 }
 
-TEST_F(InstanceAddressTest, TrustsNoRuntimeFolderThatIsRelativeOrMissing) {
-    for (const auto& path : {u"run"_s, runtimeFolder + u"/missing"_s}) {
+TEST_F(InstanceAddressTest, TrustsNoRuntimeFolderThatIsRelativeOrCannotBeHad) {
+    for (const auto& path : {u"run"_s, runtimeFolder + u"/missing/run"_s}) {
         environment["XDG_RUNTIME_DIR"] = path;
         ASSERT_TRUE(address());
         EXPECT_EQ(address()->folder, fallbackFolder());
     }
+}
+
+TEST_F(InstanceAddressTest, MakesTheRuntimeFolderBeforeOthersDo) {
+    environment["XDG_RUNTIME_DIR"] = runtimeFolder + u"/missing"_s;
+    ASSERT_TRUE(address());
+    EXPECT_EQ(address()->folder, runtimeFolder + u"/missing/tessaline"_s);
+    struct stat status {};
+    ASSERT_EQ(::stat(qPrintable(runtimeFolder + u"/missing"_s), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0700u);
+}
+
+TEST_F(InstanceAddressTest, StaysWhereTheRunningOneIsWhenTheRuntimeFolderComesLater) {
+    environment["XDG_RUNTIME_DIR"] = runtimeFolder + u"/later/run"_s;
+    const auto first = address();
+    ASSERT_TRUE(first);
+    auto lock = InstanceLock::take(first->lockPath(), &problem);
+    ASSERT_TRUE(lock);
+    makeFolder(runtimeFolder + u"/later"_s, 0700);
+    EXPECT_EQ(address()->folder, first->folder);
+    lock.reset();
+    EXPECT_EQ(address()->folder, runtimeFolder + u"/later/run/tessaline"_s);
+}
+
+TEST_F(InstanceAddressTest, HasOneAnswerForARuntimeFolderWhoseNameIsNoText) {
+    const QString foreign = folder.path() + u'/' + pathText("run-\xE9");
+    environment["XDG_RUNTIME_DIR"] = foreign;
+    ASSERT_EQ(::mkdir(nativePath(foreign).constData(), 0700), 0);
+    ASSERT_TRUE(address());
+    EXPECT_EQ(address()->folder, fallbackFolder());
+    makeFolder(folder.filePath(u"run-\uFFFD"_s), 0700); // what the toolkit may take it for
+    EXPECT_EQ(address()->folder, fallbackFolder());
 }
 
 TEST_F(InstanceAddressTest, TrustsNoFolderThatOthersCanEnter) {

@@ -51,11 +51,15 @@ protected:
     QTemporaryDir folder;
     QString path = folder.filePath(u"socket"_s);
     FakeTimerMaker timers;
+    const QJsonObject success{{u"ok"_s, true}};
     std::vector<QJsonObject> heard;
-    std::unique_ptr<InstanceServer> server =
-        std::make_unique<InstanceServer>(timers, [this](const QJsonObject& message) {
+    std::vector<InstanceServer::Reply> replies;
+    bool repliesAtOnce = true;
+    std::unique_ptr<InstanceServer> server = std::make_unique<InstanceServer>(
+        timers, [this](const QJsonObject& message, const InstanceServer::Reply& reply) {
             heard.push_back(message);
-            return QJsonObject{{u"ok"_s, true}};
+            replies.push_back(reply);
+            if (repliesAtOnce) reply(success);
         });
 };
 
@@ -112,6 +116,36 @@ TEST_F(InstanceServerTest, DropsAClientThatSaysNothingForTooLong) {
     EXPECT_TRUE(timers.liveIntervals().empty());
 }
 
+TEST_F(InstanceServerTest, AnswersWhenItIsReadyHoweverLongThatTakes) {
+    repliesAtOnce = false;
+    const auto client = connectSilently();
+    client->write("{}\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !replies.empty(); }));
+    timers.advance(10 * InstanceServer::secondsPerConnection);
+    QTest::qWait(0);
+    EXPECT_EQ(client->state(), QLocalSocket::ConnectedState);
+    replies.front()(success);
+    EXPECT_TRUE(waitForEnd(*client));
+    EXPECT_EQ(client->readAll(), "{\"ok\":true}\n");
+}
+
+TEST_F(InstanceServerTest, TellsNobodyWhoIsGoneByThen) {
+    repliesAtOnce = false;
+    auto client = connectSilently();
+    client->write("{}\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !replies.empty(); }));
+    client.reset();
+    QTest::qWait(0);
+    replies.front()(success);
+    const auto other = connectSilently();
+    other->write("{}\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return replies.size() == 2; }));
+    server.reset();
+    replies.back()(success);
+    EXPECT_TRUE(waitForEnd(*other));
+    EXPECT_EQ(other->readAll(), "");
+}
+
 TEST_F(InstanceServerTest, DropsTheOldestOfTooManyClients) {
     std::vector<std::unique_ptr<QLocalSocket>> silent;
     for (std::size_t i = 0; i < InstanceServer::mostConnections; ++i)
@@ -128,13 +162,13 @@ TEST_F(InstanceServerTest, TakesThePlaceOfASocketThatWasLeftBehind) {
     QFile left(path);
     ASSERT_TRUE(left.open(QIODevice::WriteOnly));
     QString problem;
-    InstanceServer next(timers, [](const QJsonObject&) { return QJsonObject(); });
+    InstanceServer next(timers, [](const QJsonObject&, const InstanceServer::Reply&) {});
     EXPECT_TRUE(next.listen(path, &problem)) << problem.toStdString();
 }
 
 TEST_F(InstanceServerTest, SaysWhyItCannotListen) {
     QString problem;
-    InstanceServer next(timers, [](const QJsonObject&) { return QJsonObject(); });
+    InstanceServer next(timers, [](const QJsonObject&, const InstanceServer::Reply&) {});
     EXPECT_FALSE(next.listen(u"/nowhere/socket"_s, &problem));
     EXPECT_FALSE(problem.isEmpty());
 }

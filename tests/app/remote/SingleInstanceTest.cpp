@@ -3,6 +3,7 @@
 #include "app/remote/InstanceServer.h"
 #include "support/FakeTimerMaker.h"
 
+#include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
@@ -25,7 +26,7 @@ protected:
             address,
             [this] {
                 ++composed;
-                return QJsonObject{{u"command"_s, u"show"_s}};
+                return message;
             },
             Clock::now() + patience);
     }
@@ -46,6 +47,8 @@ protected:
     QTemporaryDir folder;
     InstanceAddress address{.folder = folder.path(), .display = u":7"_s};
     FakeTimerMaker timers;
+    QString problem;
+    std::optional<QJsonObject> message = QJsonObject{{u"command"_s, u"show"_s}};
     int composed = 0;
 };
 
@@ -55,11 +58,11 @@ TEST_F(SingleInstanceTest, IsUsWhenNobodyElseRuns) {
 }
 
 TEST_F(SingleInstanceTest, TellsTheOneThatRuns) {
-    const auto lock = InstanceLock::take(address.lockPath());
-    InstanceServer server(timers, [](const QJsonObject& message) {
-        return QJsonObject{{u"heard"_s, message.value(u"command"_s)}};
-    });
-    QString problem;
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
+    InstanceServer server(timers,
+                          [](const QJsonObject& received, const InstanceServer::Reply& reply) {
+                              reply({{u"heard"_s, received.value(u"command"_s)}});
+                          });
     ASSERT_TRUE(server.listen(address.socketPath(), &problem));
     const auto outcome = joinBeside(std::chrono::seconds(10));
     ASSERT_TRUE(std::holds_alternative<QJsonObject>(outcome));
@@ -68,11 +71,11 @@ TEST_F(SingleInstanceTest, TellsTheOneThatRuns) {
 }
 
 TEST_F(SingleInstanceTest, WaitsForTheOneThatIsJustStarting) {
-    const auto lock = InstanceLock::take(address.lockPath());
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
     auto outcome = std::async(std::launch::async, [&] { return join(std::chrono::seconds(10)); });
     QTest::qWait(50);
-    InstanceServer server(timers, [](const QJsonObject&) { return QJsonObject(); });
-    QString problem;
+    InstanceServer server(
+        timers, [](const QJsonObject&, const InstanceServer::Reply& reply) { reply({}); });
     ASSERT_TRUE(server.listen(address.socketPath(), &problem));
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
@@ -80,22 +83,39 @@ TEST_F(SingleInstanceTest, WaitsForTheOneThatIsJustStarting) {
 }
 
 TEST_F(SingleInstanceTest, TakesOverFromTheOneThatIsJustEnding) {
-    auto lock = InstanceLock::take(address.lockPath());
+    auto lock = InstanceLock::take(address.lockPath(), &problem);
     auto outcome = std::async(std::launch::async, [&] { return join(std::chrono::seconds(10)); });
     QTest::qWait(50);
     lock.reset();
     EXPECT_TRUE(isUs(outcome.get()));
 }
 
+TEST_F(SingleInstanceTest, TellsALockThatCannotBeOpenedFromOneThatIsHeld) {
+    ASSERT_TRUE(QDir().mkpath(address.lockPath()));
+    const auto outcome = join(std::chrono::seconds(10));
+    const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->problem, u"cannot lock %1: Is a directory"_s.arg(address.lockPath()));
+    EXPECT_EQ(composed, 0);
+}
+
+TEST_F(SingleInstanceTest, SendsNothingWithoutAMessage) {
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
+    message.reset();
+    const auto outcome = join(std::chrono::seconds(10));
+    EXPECT_TRUE(std::holds_alternative<SingleInstance::NothingToSay>(outcome));
+    EXPECT_EQ(composed, 1);
+}
+
 TEST_F(SingleInstanceTest, GivesUpOnOneThatDoesNotListen) {
-    const auto lock = InstanceLock::take(address.lockPath());
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
     const auto outcome = join(std::chrono::milliseconds(60));
     EXPECT_TRUE(std::holds_alternative<SingleInstance::Silence>(outcome));
     EXPECT_EQ(composed, 1);
 }
 
 TEST_F(SingleInstanceTest, GivesUpOnOneThatDoesNotAnswer) {
-    const auto lock = InstanceLock::take(address.lockPath());
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
     QLocalServer hangs;
     ASSERT_TRUE(hangs.listen(address.socketPath()));
     const auto outcome = join(std::chrono::milliseconds(60));
@@ -103,7 +123,7 @@ TEST_F(SingleInstanceTest, GivesUpOnOneThatDoesNotAnswer) {
 }
 
 TEST_F(SingleInstanceTest, GivesUpOnOneThatIsTooBusyToListen) {
-    const auto lock = InstanceLock::take(address.lockPath());
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
     QLocalServer hangs;
     hangs.setListenBacklogSize(0);
     ASSERT_TRUE(hangs.listen(address.socketPath()));
@@ -114,7 +134,7 @@ TEST_F(SingleInstanceTest, GivesUpOnOneThatIsTooBusyToListen) {
 }
 
 TEST_F(SingleInstanceTest, GivesUpOnOneThatAnswersWithGarbage) {
-    const auto lock = InstanceLock::take(address.lockPath());
+    const auto lock = InstanceLock::take(address.lockPath(), &problem);
     QLocalServer confused;
     ASSERT_TRUE(confused.listen(address.socketPath()));
     QObject::connect(&confused, &QLocalServer::newConnection, &confused, [&] {
