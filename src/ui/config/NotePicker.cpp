@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int listWidth = 300;
+constexpr int listHeight = 25;
 constexpr int selectButton = 0;
 
 /// What an item of the list carries: notes of the same name differ in their ids.
@@ -57,6 +58,7 @@ void NotePicker::showNoteSelectionSheet(QWidget& window,
                                         const std::vector<NoteLibrary::Note>& notes,
                                         const Picked& picked) {
     auto* list = new PopupButton(u"Note"_s, listWidth);
+    list->setFixedHeight(listHeight);
     list->setObjectName(u"notePopup"_s);
     for (const NoteLibrary::Note& note : notes)
         list->addItem(note.name, represent(note));

@@ -142,7 +142,7 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
     ASSERT_EQ(picker->buttons.size(), 2u);
     EXPECT_EQ(picker->buttons[0]->text(), u"Select"_s);
     EXPECT_EQ(picker->buttons[1]->text(), u"Cancel"_s);
-    EXPECT_EQ(notePopup().width(), 300);
+    EXPECT_EQ(notePopup().size(), QSize(300, 25));
     EXPECT_THAT(titlesOf(notePopup()), ElementsAre(u"Zebra"_s, u"Ant"_s, u"Zebra"_s));
 
     EXPECT_THAT(spokenControls(*picker),
