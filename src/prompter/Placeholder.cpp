@@ -1,5 +1,6 @@
 #include "prompter/Placeholder.h"
 
+#include "platform/PlatformTexts.h"
 #include "render/StyledTextBuilder.h"
 
 #include <algorithm>
@@ -25,8 +26,9 @@ TextAttributes hintAttributes(double size, TextFont::Weight weight, double alpha
 StyledText placeholderText(double visibleHeight) {
     const double spacingBefore = std::max((visibleHeight - hintHeight) / 2, 0.0);
     StyledTextBuilder builder;
-    builder.append(u"⌘V\n", builder.styleIndex(
-                                hintAttributes(28, TextFont::Weight::medium, 0.5, spacingBefore)));
+    builder.append(
+        platformTexts().pasteHint + u'\n',
+        builder.styleIndex(hintAttributes(28, TextFont::Weight::medium, 0.5, spacingBefore)));
     builder.append(u"to paste",
                    builder.styleIndex(hintAttributes(14, TextFont::Weight::regular, 0.3, 0.0)));
     return builder.take();

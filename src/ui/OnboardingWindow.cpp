@@ -4,6 +4,7 @@
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
 #include "platform/AccessibilityTrust.h"
+#include "platform/PlatformTexts.h"
 #include "settings/AppSettings.h"
 #include "sources/ObsidianIntegration.h"
 #include "sources/SourceManager.h"
@@ -77,9 +78,8 @@ QWidget* OnboardingWindow::createContent() {
         makeLabel(u"Welcome to Tessaline"_s, systemFont(24, QFont::Bold), SystemPalette::label);
     titleLabel->setObjectName(u"onboarding_title"_s);
     titleLabel->setAlignment(Qt::AlignCenter);
-    subtitleLabel = makeWrappingLabel(
-        u"Turn your Mac's notch into a teleprompter. Read scripts, notes, or any text right from the top of your screen."_s,
-        systemFont(13), SystemPalette::secondaryLabel);
+    subtitleLabel =
+        makeWrappingLabel(platformTexts().subtitle, systemFont(13), SystemPalette::secondaryLabel);
     subtitleLabel->setObjectName(u"onboarding_subtitle"_s);
     subtitleLabel->setAlignment(Qt::AlignCenter);
     subtitleLabel->setContentsMargins(10, 0, 10, 0);
@@ -115,7 +115,7 @@ QLabel* OnboardingWindow::createSectionLabel(const QString& text) {
 
 PermissionStatusView* OnboardingWindow::createAccessibilityStatusView() {
     auto* view = new PermissionStatusView(
-        u"Accessibility Access"_s,
+        platformTexts().permissionTitle,
         u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s,
         ports.permissions.trust.isTrusted());
     view->setObjectName(u"accessibilityStatusView"_s);
@@ -190,8 +190,7 @@ void OnboardingWindow::installObsidianPlugin() {
     AlertContent content;
     if (success) {
         content.messageText = u"Notes Bridge Installed"_s;
-        content.informativeText =
-            u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press ⌘P and type \"tessaline\"."_s;
+        content.informativeText = platformTexts().pluginInstalled;
         content.icon = obsidianIcon(ports);
     } else {
         content.messageText = u"Plugin Installation"_s;

@@ -19,9 +19,9 @@ PANEL = "Grant Access to Obsidian Vault"
 INSTALLED_TEXT = (
     "Restart Obsidian to activate.\n\n"
     'In Obsidian, you\'ll find a "Send to Tessaline" icon in the sidebar, '
-    'or press ⌘P and type "tessaline".'
+    'or press Ctrl+P and type "tessaline".'
 )
-INVITATION = "Send notes from Obsidian straight into the notch"
+INVITATION = "Send notes from Obsidian straight into the prompter"
 PLUGIN_FILES = pathlib.Path(__file__).resolve().parents[2] / "resources/ObsidianPlugin"
 
 
@@ -94,10 +94,10 @@ class WithAVault(OnboardingTestCase):
             [text for text in self.open_window(TITLE).texts() if text not in "📋📄"],
             [
                 "Welcome to Tessaline",
-                "Turn your Mac's notch into a teleprompter. Read scripts, notes, or any text right "
-                "from the top of your screen.",
+                "Turn the top of your screen into a teleprompter. Read scripts, notes, or any text "
+                "right below your camera.",
                 "Optional Permissions",
-                "Accessibility Access",
+                "Shortcuts in Any Application",
                 "Lets you pause/resume auto-scroll and scroll through text even when Tessaline is "
                 "not focused.",
                 "Content Sources",
@@ -113,7 +113,7 @@ class WithAVault(OnboardingTestCase):
         obsidian = self.obsidian_switch()
         self.assertNotIn("checked", obsidian.states)
         self.assertIn("enabled", obsidian.states)
-        granted = self.control(TITLE, "push button", "Permission Granted ✓")
+        granted = self.control(TITLE, "push button", "Available ✓")
         self.assertNotIn("enabled", granted.states)
         self.assertIn("is-default", self.control(TITLE, "push button", "Get Started").states)
 
@@ -274,12 +274,12 @@ class WithoutAVault(OnboardingTestCase):
 
     def test_cannot_switch_an_absent_obsidian_on(self):
         self.start_first()
-        self.assert_obsidian_is_locked("Obsidian not detected on this Mac")
+        self.assert_obsidian_is_locked("Obsidian not detected on this computer")
 
     def test_does_not_take_a_vault_for_the_application(self):
         self.obsidian.add_vault()
         self.start_first()
-        self.assert_obsidian_is_locked("Obsidian not detected on this Mac")
+        self.assert_obsidian_is_locked("Obsidian not detected on this computer")
 
     def test_cannot_switch_obsidian_on_without_a_vault(self):
         self.obsidian.install()

@@ -225,7 +225,7 @@ class LowScreen(SettingsTestCase):
         before = self.settings()
         self.desktop.run("xdotool", "click", "--repeat", 40, 5)
         wait_until(
-            lambda: self.is_in_sight(self.control(TITLE, "label", "Accessibility")),
+            lambda: self.is_in_sight(self.control(TITLE, "label", "Shortcuts in Any Application")),
             "the last row is in sight",
         )
         self.assertEqual(self.settings(), before)

@@ -9,7 +9,7 @@ from settings_case import HEIGHT, WIDTH
 from talk_case import PROMPTER, TalkTestCase, talk
 
 STRIP = 30  # the panel's height
-HINT = "⌘V\nto paste"
+HINT = "Ctrl+V\nto paste"
 
 
 class FirstTalk(TalkTestCase):

@@ -10,7 +10,7 @@ namespace {
 
 TEST(Placeholder, IsAHintInTwoSizes) {
     const StyledText hint = placeholderText(200);
-    EXPECT_EQ(hint.text, u"⌘V\nto paste"_s);
+    EXPECT_EQ(hint.text, u"Ctrl+V\nto paste"_s);
     ASSERT_EQ(hint.runs.size(), 2u);
     const TextAttributes& keys = hint.attributes(hint.runs[0]);
     const TextAttributes& words = hint.attributes(hint.runs[1]);

@@ -164,7 +164,7 @@ TEST_F(PrompterWindowTest, IgnoresATextThatArrivesAfterItsEnd) {
 
 TEST_F(PrompterWindowTest, ShowsAHintInPlaceOfThePlaceholder) {
     show(u"PLACEHOLDER"_s);
-    EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
+    EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
     EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
     expectHintInTheMiddle();
 }
@@ -195,7 +195,7 @@ TEST_F(PrompterWindowTest, KeepsTheHintWhenALongTextBeforeItIsRenderedTooLate) {
     queue.runAll();
     tasks.runAll();
     queue.runAll();
-    EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
+    EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
 }
 
 TEST_F(PrompterWindowTest, RerendersWithTheFontSizeOfTheSettings) {
@@ -216,7 +216,7 @@ TEST_F(PrompterWindowTest, RerendersThePlaceholderAsItsHint) {
     show(u"PLACEHOLDER"_s);
     settings.fontSize = 30;
     window().rerender();
-    EXPECT_EQ(window().textView().script().styled.text, u"⌘V\nto paste"_s);
+    EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
     EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
 }
 

@@ -2,6 +2,7 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "platform/PlatformTexts.h"
 #include "ui/controls/BezelButton.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/Rows.h"
@@ -14,27 +15,37 @@ using namespace Qt::Literals::StringLiterals;
 AccessibilityRow::AccessibilityRow(QWidget* parent)
     : QWidget(parent)
     , accessibilityDot(new StatusDot(10))
-    , accessibilityLabel(makeLabel(u"Accessibility"_s, systemFont(13), SystemPalette::label))
-    , accessibilityFixButton(new BezelButton(u"Grant Access"_s, 11)) {
+    , accessibilityLabel(
+          makeLabel(platformTexts().permissionLabel, systemFont(13), SystemPalette::label))
+    , accessibilityFixButton(new BezelButton(u"Grant Access"_s, 11))
+    , alternativeLabel(makeWrappingLabel(platformTexts().permissionAlternative, systemFont(11),
+                                         SystemPalette::secondaryLabel)) {
     setFixedWidth(settingsColumnWidth);
     accessibilityDot->setObjectName(u"accessibilityDot"_s);
     accessibilityLabel->setObjectName(u"accessibilityLabel"_s);
     accessibilityFixButton->setObjectName(u"accessibilityFixButton"_s);
     accessibilityFixButton->setAccessibleName(u"Grant Accessibility access"_s);
-    QHBoxLayout* row = layOutRow(*this, 6);
+    alternativeLabel->setObjectName(u"accessibilityAlternative"_s);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
     row->addWidget(accessibilityDot);
     row->addWidget(accessibilityLabel);
     row->addStretch();
     row->addWidget(accessibilityFixButton);
     // As high without the button as with it, so that the window keeps its size.
-    setMinimumHeight(accessibilityFixButton->sizeHint().height());
+    row->addStrut(accessibilityFixButton->sizeHint().height());
+    QVBoxLayout* column = layOutColumn(*this, 4);
+    column->addLayout(row);
+    column->addWidget(alternativeLabel);
 }
 
 void AccessibilityRow::updateStatus(bool trusted) {
+    const PlatformTexts& texts = platformTexts();
     accessibilityDot->setStatus(trusted ? SystemPalette::green : SystemPalette::orange,
-                                trusted ? u"Granted"_s : u"Not granted"_s);
-    accessibilityLabel->setText(u"Accessibility"_s);
-    accessibilityFixButton->setVisible(!trusted);
+                                trusted ? texts.granted : texts.notGranted);
+    const bool canBeGranted = texts.permissionAlternative.isEmpty();
+    accessibilityFixButton->setVisible(!trusted && canBeGranted);
+    alternativeLabel->setVisible(!trusted && !canBeGranted);
 }
 
 } // namespace tessaline

@@ -9,8 +9,8 @@ namespace tessaline {
 
 class StatusDot;
 
-/// Tells whether the Accessibility permission is granted, with a button to ask for it while it is
-/// not. Main thread only.
+/// Tells whether the Accessibility permission is granted. While it is not, a button asks for it, or
+/// a text says what to do where nobody can grant it. Main thread only.
 class AccessibilityRow : public QWidget {
     Q_OBJECT
 
@@ -23,6 +23,7 @@ public:
     StatusDot* accessibilityDot = nullptr;
     QLabel* accessibilityLabel = nullptr;
     QPushButton* accessibilityFixButton = nullptr;
+    QLabel* alternativeLabel = nullptr;
 };
 
 } // namespace tessaline

@@ -2,7 +2,9 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "platform/PlatformTexts.h"
 #include "ui/controls/Labels.h"
+#include "ui/controls/Rows.h"
 
 #include <QGridLayout>
 
@@ -23,8 +25,8 @@ ShortcutsGrid::ShortcutsGrid(QWidget* parent) : QWidget(parent) {
     grid->setContentsMargins({});
     grid->setVerticalSpacing(4);
     grid->setHorizontalSpacing(8);
-    grid->setColumnMinimumWidth(0, keyColumnWidth);
-    makeRow(*grid, u"⌘ + V"_s, u"Paste content"_s);
+    const PlatformTexts& texts = platformTexts();
+    makeRow(*grid, texts.pasteKeys, u"Paste content"_s);
     // A row without anything in it would get no spacing.
     auto* spacer = new QWidget;
     spacer->setFixedHeight(spacerHeight);
@@ -32,9 +34,10 @@ ShortcutsGrid::ShortcutsGrid(QWidget* parent) : QWidget(parent) {
     grid->addWidget(
         makeLabel(u"Works from any app:"_s, systemFont(10), SystemPalette::tertiaryLabel),
         grid->rowCount(), 0, 1, columns, Qt::AlignLeading);
-    makeRow(*grid, u"⌃ + Scroll"_s, u"Scroll up or down"_s);
-    makeRow(*grid, u"⌃ + Scroll click"_s, u"Toggle auto-scroll"_s);
-    makeRow(*grid, u"⌃ + Two-finger tap"_s, u"Toggle auto-scroll"_s);
+    makeRow(*grid, texts.scrollKeys, u"Scroll up or down"_s);
+    makeRow(*grid, texts.scrollClickKeys, u"Toggle auto-scroll"_s);
+    makeRow(*grid, texts.twoFingerTapKeys, u"Toggle auto-scroll"_s);
+    setColumnWidths(*grid);
 }
 
 void ShortcutsGrid::makeRow(QGridLayout& grid, const QString& key, const QString& desc) {
@@ -45,6 +48,13 @@ void ShortcutsGrid::makeRow(QGridLayout& grid, const QString& key, const QString
     grid.addWidget(keyLabel, row, 0, Qt::AlignLeading);
     grid.addWidget(arrow, row, 1, Qt::AlignLeading);
     grid.addWidget(description, row, 2, Qt::AlignLeading);
+}
+
+/// The keys' column gives way to the descriptions where fonts run wide.
+void ShortcutsGrid::setColumnWidths(QGridLayout& grid) {
+    grid.setColumnStretch(columns - 1, 1);
+    grid.setColumnMinimumWidth(0, keyColumnWidth);
+    if (sizeHint().width() > settingsColumnWidth) grid.setColumnMinimumWidth(0, 0);
 }
 
 } // namespace tessaline

@@ -6,7 +6,7 @@ class QGridLayout;
 
 namespace tessaline {
 
-/// Lists the keyboard and mouse shortcuts. Main thread only.
+/// Lists the keyboard and mouse shortcuts in the width of the settings' column. Main thread only.
 class ShortcutsGrid : public QWidget {
     Q_OBJECT
 
@@ -15,6 +15,7 @@ public:
 
 private:
     void makeRow(QGridLayout& grid, const QString& key, const QString& desc);
+    void setColumnWidths(QGridLayout& grid);
 };
 
 } // namespace tessaline

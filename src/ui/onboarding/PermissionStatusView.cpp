@@ -2,6 +2,7 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "platform/PlatformTexts.h"
 #include "ui/controls/BezelButton.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/StatusDot.h"
@@ -26,7 +27,8 @@ PermissionStatusView::PermissionStatusView(const QString& title, const QString& 
     , titleLabel(makeLabel(title, systemFont(14, QFont::DemiBold), SystemPalette::label))
     , descriptionLabel(
           makeWrappingLabel(description, systemFont(12), SystemPalette::secondaryLabel))
-    , grantButton(new BezelButton(u"Open System Preferences"_s)) {
+    , grantButton(new BezelButton(u"Open System Preferences"_s))
+    , purpose(description) {
     grantButton->setMinimumWidth(leastButtonWidth);
     grantButton->setObjectName(u"grantButton"_s);
     connect(grantButton, &QPushButton::clicked, this, &PermissionStatusView::grantButtonClicked);
@@ -45,10 +47,15 @@ PermissionStatusView::PermissionStatusView(const QString& title, const QString& 
 }
 
 void PermissionStatusView::updateStatus(bool isGranted) {
+    const PlatformTexts& texts = platformTexts();
     statusIndicator->setStatus(isGranted ? SystemPalette::green : SystemPalette::orange,
-                               isGranted ? u"Granted"_s : u"Not granted"_s);
-    grantButton->setText(isGranted ? u"Permission Granted ✓"_s : u"Grant Access"_s);
+                               isGranted ? texts.granted : texts.notGranted);
+    grantButton->setText(isGranted ? texts.permissionGranted : u"Grant Access"_s);
     grantButton->setEnabled(!isGranted);
+    const bool isOutOfReach = !isGranted && !texts.permissionAlternative.isEmpty();
+    grantButton->setVisible(!isOutOfReach);
+    descriptionLabel->setText(isOutOfReach ? purpose + u'\n' + texts.permissionAlternative
+                                           : purpose);
 }
 
 void PermissionStatusView::grantButtonClicked() {

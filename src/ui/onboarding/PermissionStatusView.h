@@ -2,6 +2,8 @@
 
 #include "ui/onboarding/Card.h"
 
+#include <QString>
+
 #include <functional>
 
 class QLabel;
@@ -20,7 +22,8 @@ public:
     PermissionStatusView(const QString& title, const QString& description, bool isGranted,
                          QWidget* parent = nullptr);
 
-    /// Shows the state. Granted, the button says so and cannot be pressed.
+    /// Shows the state. Granted, the button says so and cannot be pressed. Where nobody can grant
+    /// it, there is no button; the description then says what to do instead.
     void updateStatus(bool isGranted);
 
     /// Called when the user asks for the permission.
@@ -33,6 +36,8 @@ public:
 
 private:
     void grantButtonClicked();
+
+    QString purpose;
 };
 
 } // namespace tessaline

@@ -9,7 +9,9 @@
 #include "ui/controls/StatusDot.h"
 #include "ui/controls/TruncatingLabel.h"
 
-#include <QFontInfo>
+#include <QFontMetricsF>
+
+#include <set>
 
 namespace tessaline {
 namespace {
@@ -79,13 +81,13 @@ INSTANTIATE_TEST_SUITE_P(
         Text{u"Position"_s, name, SystemPalette::label},
         Text{u"Center"_s, name, SystemPalette::secondaryLabel},
         Text{u"Scroll Speed"_s, name, SystemPalette::label},
-        Text{u"⌘ + V"_s, key, SystemPalette::label},
+        Text{u"Ctrl + V"_s, key, SystemPalette::label},
         Text{u"→"_s, small, SystemPalette::tertiaryLabel},
         Text{u"Paste content"_s, small, SystemPalette::secondaryLabel},
         Text{u"Works from any app:"_s, {10, QFont::Normal}, SystemPalette::tertiaryLabel},
-        Text{u"⌃ + Scroll"_s, key, SystemPalette::label},
+        Text{u"Ctrl + Scroll"_s, key, SystemPalette::label},
         Text{u"Scroll up or down"_s, small, SystemPalette::secondaryLabel},
-        Text{u"Accessibility"_s, name, SystemPalette::label}));
+        Text{u"Shortcuts in Any Application"_s, name, SystemPalette::label}));
 
 TEST_F(SettingsLook, TheSmallButtonsHaveSmallTitles) {
     EXPECT_EQ(typeOf(control<QPushButton>("obsidianConfigButton")), small);
@@ -93,6 +95,8 @@ TEST_F(SettingsLook, TheSmallButtonsHaveSmallTitles) {
 }
 
 TEST_F(SettingsLook, ThePartsStandTenPointsApartAndTwentyFromTheEdges) {
+    stage.screens.main->frame.height = 1600;
+    window().refreshUI();
     shown();
     const QWidget& integrations = *control<QWidget>("clipboardToggle").parentWidget();
     const QRect top = bounds(label(u"Enabled Integrations"_s));
@@ -157,6 +161,28 @@ TEST_F(SettingsLook, TheSourcesRowHasItsSizes) {
     EXPECT_EQ(bounds(control<QPushButton>("selectNoteButton")).left(), 20 + 150 + 8);
 }
 
+TEST_F(SettingsLook, TheShortcutsFitIntoTheColumnWithTheirArrowsInLine) {
+    shown();
+    const auto& grid = *parts<ShortcutsGrid>().at(0);
+    EXPECT_LE(grid.sizeHint().width(), 280);
+    std::set<int> arrows;
+    for (const QLabel* part : grid.findChildren<QLabel*>()) {
+        const QRect place = bounds(*part);
+        EXPECT_GE(place.left(), 20);
+        EXPECT_LE(place.right(), 299) << part->text().toStdString();
+        EXPECT_GE(place.width(), part->sizeHint().width()) << part->text().toStdString();
+        if (part->text() == u"→"_s) arrows.insert(place.left());
+    }
+    EXPECT_THAT(arrows, SizeIs(1));
+}
+
+TEST_F(SettingsLook, TheKeysColumnIs170PointsWideUnlessTheRestNeedsTheRoom) {
+    const QRect arrow = bounds(label(u"→"_s));
+    const int keys = bounds(label(u"Ctrl + Two-finger tap"_s)).width();
+    const int rest = 8 + arrow.width() + 8 + bounds(label(u"Toggle auto-scroll"_s)).width();
+    EXPECT_EQ(arrow.left(), 20 + (170 + rest <= 280 ? 170 : keys) + 8);
+}
+
 TEST_F(SettingsLook, TheShortcutsKeepTheirDistances) {
     const QRect paste = bounds(label(u"Paste content"_s));
     const QRect heading = bounds(label(u"Works from any app:"_s));
@@ -166,7 +192,8 @@ TEST_F(SettingsLook, TheShortcutsKeepTheirDistances) {
     EXPECT_EQ(scroll.top(), heading.bottom() + 1 + 4);
     EXPECT_EQ(scroll.left(), paste.left());
     EXPECT_EQ(bounds(label(u"→"_s)).right() + 1 + 8, paste.left());
-    EXPECT_TRUE(QFontInfo(label(u"⌘ + V"_s).font()).fixedPitch());
+    const QFontMetricsF keys(label(u"Ctrl + V"_s).font());
+    EXPECT_EQ(keys.horizontalAdvance(u"iiii"_s), keys.horizontalAdvance(u"MMMM"_s));
 }
 
 } // namespace

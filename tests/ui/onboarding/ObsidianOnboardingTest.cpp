@@ -25,7 +25,7 @@ protected:
 TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutTheApplication) {
     stage.obsidian.vault = u"/vault"_s;
     window();
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Obsidian not detected on this Mac"_s);
+    EXPECT_EQ(obsidian().statusLabel->text(), u"Obsidian not detected on this computer"_s);
     EXPECT_FALSE(obsidian().toggleSwitch->isEnabled());
     EXPECT_TRUE(obsidian().iconLabel);
     switchObsidian();
@@ -45,7 +45,7 @@ TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
     stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
     window();
     EXPECT_EQ(obsidian().statusLabel->text(),
-              u"Send notes from Obsidian straight into the notch"_s);
+              u"Send notes from Obsidian straight into the prompter"_s);
     EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
     EXPECT_FALSE(obsidian().toggleSwitch->isChecked());
     EXPECT_TRUE(obsidian().iconImageView);
@@ -67,7 +67,7 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
     EXPECT_EQ(sheet()->messageLabel->text(), u"Notes Bridge Installed"_s);
     EXPECT_EQ(
         sheet()->informativeLabel->text(),
-        u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press ⌘P and type \"tessaline\"."_s);
+        u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press Ctrl+P and type \"tessaline\"."_s);
     EXPECT_EQ(sheet()->iconLabel->grab().toImage().pixelColor(24, 24), QColor(Qt::red));
     ASSERT_EQ(sheet()->buttons.size(), 1u);
     EXPECT_EQ(sheet()->buttons[0]->text(), u"OK"_s);
@@ -125,7 +125,7 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOffRecordsAndUninstallsNothing) {
     EXPECT_THAT(stage.recorder.events, IsEmpty());
     EXPECT_FALSE(sheet());
     EXPECT_EQ(obsidian().statusLabel->text(),
-              u"Send notes from Obsidian straight into the notch"_s);
+              u"Send notes from Obsidian straight into the prompter"_s);
 }
 
 TEST_F(ObsidianOnboarding, TakesAnActiveObsidianFromTheSourceManagerAtFirst) {

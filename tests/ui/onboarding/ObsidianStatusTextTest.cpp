@@ -23,14 +23,15 @@ TEST_P(ObsidianStatus, SaysWhatIsMissingFirst) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, ObsidianStatus,
     testing::Values(
-        Row{{}, u"Obsidian not detected on this Mac"_s},
-        Row{{.vaultFound = true, .sourceEnabled = true}, u"Obsidian not detected on this Mac"_s},
+        Row{{}, u"Obsidian not detected on this computer"_s},
+        Row{{.vaultFound = true, .sourceEnabled = true},
+            u"Obsidian not detected on this computer"_s},
         Row{{.appFound = true}, u"No Obsidian vault found"_s},
         Row{{.appFound = true, .sourceEnabled = true}, u"No Obsidian vault found"_s},
         Row{{.appFound = true, .vaultFound = true},
-            u"Send notes from Obsidian straight into the notch"_s},
+            u"Send notes from Obsidian straight into the prompter"_s},
         Row{{.appFound = true, .vaultFound = true, .pluginInstalled = true, .pluginEnabled = true},
-            u"Send notes from Obsidian straight into the notch"_s},
+            u"Send notes from Obsidian straight into the prompter"_s},
         Row{{.appFound = true, .vaultFound = true, .sourceEnabled = true}, u"Plugin not found"_s},
         Row{{.appFound = true, .vaultFound = true, .sourceEnabled = true, .pluginEnabled = true},
             u"Plugin not found"_s},
@@ -41,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ObsidianStatusText, NeedsNoApplicationOnceTheVaultIsKnown) {
     EXPECT_EQ(ObsidianStatusText{.sourceEnabled = true}.textWithVault(), u"Plugin not found"_s);
     EXPECT_EQ(ObsidianStatusText{}.textWithVault(),
-              u"Send notes from Obsidian straight into the notch"_s);
+              u"Send notes from Obsidian straight into the prompter"_s);
 }
 
 } // namespace
