@@ -233,7 +233,10 @@ class WithAVault(OnboardingTestCase):
         self.click_on(self.obsidian_switch())
         self.open_window(PANEL)
         self.desktop.key("Escape")
-        self.assertIn("Failed to install plugin: ", self.read_alert(FAILED))
+        self.assertEqual(
+            self.read_alert(FAILED),
+            f"Failed to install plugin: {self.obsidian.plugin_folder}: Not a directory",
+        )
         self.desktop.key("Escape")
         self.wait_until_closed(FAILED)
         self.assertIn("checked", self.obsidian_switch().states)

@@ -78,7 +78,10 @@ class ObsidianSwitch(SettingsTestCase):
         self.switch()
         self.open_window("Grant Access to Obsidian Vault")
         self.desktop.key("Escape")
-        self.assertIn("Failed to install plugin: ", self.read_alert("Installation Failed"))
+        self.assertEqual(
+            self.read_alert("Installation Failed"),
+            f"Failed to install plugin: {self.obsidian.plugin_folder}: Not a directory",
+        )
         self.desktop.key("Escape")
         self.wait_for_text(TITLE, "Plugin not found")
         self.assertEqual(self.enabled_sources(), ["clipboard", "obsidian"])

@@ -37,7 +37,7 @@ protected:
     void expectTruth(const Outcome& outcome) const {
         if (outcome.output.find("success: ") == std::string::npos) {
             EXPECT_THAT(outcome.output,
-                        AnyOf(saysWhy("^failure: Failed to install plugin: "),
+                        AnyOf(saysWhy("^failure: Failed to install plugin: /[^\n]+: "),
                               HasSubstr("failure: Could not find an Obsidian vault.")));
             EXPECT_FALSE(isNew(outcome, list));
             return;

@@ -19,9 +19,14 @@ std::filesystem::path nativePath(const QString& path) {
     return QFile::encodeName(path).toStdString();
 }
 
-bool succeeded(const std::error_code& code, QString* error) {
-    if (code) *error = QString::fromLocal8Bit(code.message().c_str());
-    return !code;
+/// Says what went wrong, and with which file.
+bool fail(const QString& path, const QString& reason, QString* error) {
+    *error = path + u": "_s + reason;
+    return false;
+}
+
+bool succeeded(const std::error_code& code, const QString& path, QString* error) {
+    return !code || fail(path, QString::fromLocal8Bit(code.message().c_str()), error);
 }
 
 } // namespace
@@ -29,23 +34,21 @@ bool succeeded(const std::error_code& code, QString* error) {
 bool createFolders(const QString& path, QString* error) {
     std::error_code code;
     std::filesystem::create_directories(nativePath(path), code);
-    return succeeded(code, error);
+    return succeeded(code, path, error);
 }
 
 bool replaceWithCopy(const QString& source, const QString& target, QString* error) {
-    const auto bytes = readWholeFile(source, error);
-    if (!bytes) return false;
+    QString reason;
+    const auto bytes = readWholeFile(source, &reason);
+    if (!bytes) return fail(source, reason, error);
     // In a folder of its own beside the target, so that no name can be taken already.
     const QTemporaryDir workshop(QFileInfo(target).path() + "/.tessaline-XXXXXX"_L1);
-    if (!workshop.isValid()) {
-        *error = workshop.errorString();
-        return false;
-    }
+    if (!workshop.isValid()) return fail(target, workshop.errorString(), error);
     const QString copy = workshop.filePath(u"copy"_s);
-    if (!writeWholeFile(copy, *bytes, error)) return false;
+    if (!writeWholeFile(copy, *bytes, &reason)) return fail(target, reason, error);
     std::error_code code;
     std::filesystem::rename(nativePath(copy), nativePath(target), code);
-    return succeeded(code, error);
+    return succeeded(code, target, error);
 }
 
 } // namespace tessaline

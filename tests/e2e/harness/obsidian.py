@@ -14,6 +14,7 @@ class Obsidian:
     def __init__(self, home):
         self.home = home
         self.vault = home / "Notes"
+        self.plugin_folder = self.vault / ".obsidian/plugins" / PLUGIN
 
     def install(self):
         program = self.home / ".local/bin/obsidian"
@@ -44,10 +45,9 @@ class Obsidian:
 
     def plugin_files(self):
         """The files of our plug-in, {name: bytes}."""
-        folder = self.vault / ".obsidian/plugins" / PLUGIN
-        if not folder.is_dir():
+        if not self.plugin_folder.is_dir():
             return {}
-        return {file.name: file.read_bytes() for file in folder.iterdir()}
+        return {file.name: file.read_bytes() for file in self.plugin_folder.iterdir()}
 
     def plugins(self):
         """The community plug-ins that are switched on."""

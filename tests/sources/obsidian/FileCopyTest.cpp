@@ -71,7 +71,7 @@ TEST_F(FileCopyTest, ReplacesALinkThatLeadsNowhere) {
 TEST_F(FileCopyTest, LeavesAFolderAlone) {
     ASSERT_TRUE(QDir().mkdir(target));
     putFile(target + "/note"_L1, "the user's");
-    EXPECT_EQ(copy(), u"Is a directory"_s);
+    EXPECT_EQ(copy(), target + ": Is a directory"_L1);
     EXPECT_EQ(fileBytes(target + "/note"_L1), "the user's");
     EXPECT_EQ(leftInTargetFolder().size(), 1);
 }
@@ -79,14 +79,15 @@ TEST_F(FileCopyTest, LeavesAFolderAlone) {
 TEST_F(FileCopyTest, KeepsTheOldTargetWhenTheSourceCannotBeRead) {
     putFile(target, "old");
     ASSERT_TRUE(QFile::remove(source));
-    EXPECT_EQ(copy(), u"No such file or directory"_s);
+    EXPECT_EQ(copy(), source + ": No such file or directory"_L1);
     EXPECT_EQ(fileBytes(target), "old");
 }
 
 TEST_F(FileCopyTest, FailsWhereTheTargetsFolderIsMissing) {
     QString error;
-    EXPECT_FALSE(replaceWithCopy(source, folder.filePath(u"missing/target"_s), &error));
-    EXPECT_EQ(error, u"No such file or directory"_s);
+    const QString missing = folder.filePath(u"missing/target"_s);
+    EXPECT_FALSE(replaceWithCopy(source, missing, &error));
+    EXPECT_EQ(error, missing + ": No such file or directory"_L1);
 }
 
 TEST_F(FileCopyTest, CreatesFoldersWithThoseAbove) {
@@ -100,7 +101,7 @@ TEST_F(FileCopyTest, CreatesFoldersWithThoseAbove) {
 TEST_F(FileCopyTest, TellsWhyAFolderCannotBeCreated) {
     QString error;
     EXPECT_FALSE(createFolders(source + "/below"_L1, &error));
-    EXPECT_EQ(error, u"Not a directory"_s);
+    EXPECT_EQ(error, source + "/below: Not a directory"_L1);
 }
 
 } // namespace

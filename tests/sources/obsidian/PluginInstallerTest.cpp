@@ -37,6 +37,13 @@ protected:
 
     QString obstacle() const { return home.vault + "/.obsidian/plugins"_L1; }
 
+    /// Nothing was installed because of what happened to this file or folder.
+    static PluginInstaller::Result failed(const QString& path, const char* reason) {
+        return {false, "Failed to install plugin: "_L1 + path + ": "_L1 + QLatin1String(reason)};
+    }
+
+    QString program() const { return home.pluginFolder() + "/main.js"_L1; }
+
     void expectInstalled() const {
         EXPECT_EQ(fileBytes(home.pluginFolder() + "/main.js"_L1), "the program");
         EXPECT_EQ(fileBytes(home.pluginFolder() + "/manifest.json"_L1), "the manifest");
@@ -46,7 +53,7 @@ protected:
     FakeFolderChooser chooser;
     const PluginInstaller::Result success{
         true, u"Plugin installed in \"My Vault\".\nRestart Obsidian to activate it."_s};
-    const PluginInstaller::Result obstructed{false, u"Failed to install plugin: Not a directory"_s};
+    const PluginInstaller::Result obstructed = failed(home.pluginFolder(), "Not a directory");
 };
 
 TEST_F(PluginInstallerTest, InstallsAndEnablesWithoutAsking) {
@@ -137,8 +144,7 @@ TEST_F(PluginInstallerTest, DescribesTheFailureOfTheSecondAttempt) {
         QFile::remove(obstacle());
         QDir().mkpath(home.pluginFolder() + "/main.js/folder"_L1);
     };
-    EXPECT_EQ(install(),
-              (PluginInstaller::Result{false, u"Failed to install plugin: Is a directory"_s}));
+    EXPECT_EQ(install(), failed(program(), "Is a directory"));
 }
 
 TEST_F(PluginInstallerTest, MayAskBeforeTheFirstAttemptAndAfterIt) {
@@ -220,8 +226,7 @@ TEST_F(PluginInstallerTest, ReportsAFullDiskAndLeavesNoHalfFile) {
     EXPECT_TRUE(QDir().mkpath(home.pluginFolder()));
     putFile(home.pluginFolder() + "/main.js"_L1, "old");
     putFile(home.pluginSource() + "/main.js"_L1, QByteArray(100'000, 'x'));
-    EXPECT_EQ(install(), (PluginInstaller::Result{
-                             false, u"Failed to install plugin: No space left on device"_s}));
+    EXPECT_EQ(install(), failed(program(), "No space left on device"));
     EXPECT_EQ(fileBytes(home.pluginFolder() + "/main.js"_L1), "old");
     EXPECT_EQ(
         QDir(home.pluginFolder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -261,7 +266,7 @@ TEST_F(PluginInstallerAsOrdinaryUser, AsksBeforeItTouchesAReadOnlyVault) {
 TEST_F(PluginInstallerAsOrdinaryUser, FailsInAVaultThatStaysReadOnly) {
     QFile::setPermissions(home.vault + "/.obsidian"_L1, readable);
     chooser.answer = home.vault;
-    EXPECT_EXIT(installAndExpect({false, u"Failed to install plugin: Permission denied"_s}, 2),
+    EXPECT_EXIT(installAndExpect(failed(home.pluginFolder(), "Permission denied"), 2),
                 ::testing::ExitedWithCode(0), "");
 }
 
@@ -270,7 +275,7 @@ TEST_F(PluginInstallerAsOrdinaryUser, FailsWhereThePluginsFolderIsReadOnly) {
     ASSERT_TRUE(QDir().mkpath(home.pluginFolder()));
     putFile(home.pluginFolder() + "/main.js"_L1, "old");
     QFile::setPermissions(home.pluginFolder(), readable);
-    EXPECT_EXIT(installAndExpect({false, u"Failed to install plugin: Permission denied"_s}, 1),
+    EXPECT_EXIT(installAndExpect(failed(program(), "Permission denied"), 1),
                 ::testing::ExitedWithCode(0), "");
     EXPECT_EQ(fileBytes(home.pluginFolder() + "/main.js"_L1), "old");
 }
