@@ -6,6 +6,7 @@ import subprocess
 import unittest
 
 from harness import TessalineTestCase, wait_until
+from harness.small_disk import SmallDisk
 
 LARGE = "A line of a large script, żółć and all.\n" * 100_000
 
@@ -55,6 +56,22 @@ class Opening(TessalineTestCase):
         self.wait_for_script(LARGE)
         left = [path.name for path in self.socket_path().parent.iterdir()]
         self.assertEqual([name for name in left if name.startswith("script")], [])
+
+    def test_later_starts_hand_over_texts_where_there_is_no_room_for_them(self):
+        runtime, temporary = self.desktop.folder / "full", self.desktop.folder / "tmp"
+        runtime.mkdir()
+        temporary.mkdir()
+        disk = SmallDisk(runtime)
+        if not disk.exists:
+            self.skipTest(disk.problem)
+        self.addCleanup(disk.remove)
+        runtime.chmod(0o700)
+        self.desktop.env.update(XDG_RUNTIME_DIR=str(runtime), TMPDIR=str(temporary))
+        self.start()
+        disk.fill()
+        self.assertEqual(self.call("-", stdin=LARGE), (0, "", ""))
+        self.wait_for_script(LARGE)
+        self.assertEqual(list(temporary.iterdir()), [])
 
     def test_nobody_follows_what_does_not_last(self):
         for command in ('"$0" --follow <(printf "text")', '"$0" --follow /dev/stdin < /etc/passwd'):
