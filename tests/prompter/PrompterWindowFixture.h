@@ -2,6 +2,7 @@
 
 #include "prompter/ControlStrip.h"
 #include "prompter/ElidingLabel.h"
+#include "prompter/Placeholder.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
 #include "settings/AppSettings.h"
@@ -60,6 +61,11 @@ protected:
         const double margin = view.caretRect(0).top() + view.scrollPosition();
         const double textMargin = 10;
         EXPECT_EQ(margin, (view.height() - 60) / 2.0 + textMargin);
+
+        ScriptView fresh(timers);
+        fresh.resize(view.size());
+        fresh.setScript(Script(placeholderText(view.height())));
+        EXPECT_EQ(view.grab().toImage(), fresh.grab().toImage());
     }
 
     /// Lets the resize animation run to its end.
