@@ -1,6 +1,9 @@
 """Control and the scroll axes of touchpads and today's wheels: applications read them from motion,
 which a grab of buttons does not keep from them."""
 
+import pathlib
+import signal
+import sys
 import time
 import unittest
 from unittest import mock
@@ -11,6 +14,22 @@ from harness import DesktopTestCase, session, wait_until
 from harness.waiting import holds_for
 
 A_REST = 0.4  # more than the pointer has to stand still
+LONGEST_HOLD = 2.0  # seconds without the program's own progress
+
+
+def children_of(pid):
+    """Of all its threads."""
+    tasks = pathlib.Path(f"/proc/{pid}/task").iterdir()
+    return [int(child) for task in tasks for child in (task / "children").read_text().split()]
+
+
+def name_of(pid):
+    """None once it has ended, whether somebody has noticed or not."""
+    status = pathlib.Path(f"/proc/{pid}/status")
+    if not status.exists():
+        return None
+    lines = dict(line.split(":\t") for line in status.read_text().splitlines() if ":\t" in line)
+    return None if lines["State"].startswith("Z") else lines["Name"]
 
 
 @unittest.skipIf(what_is_missing(), what_is_missing())
@@ -138,6 +157,46 @@ class SmoothScrolling(DesktopTestCase):
         before = len(self.other.events("move"))
         self.device.move(x=2)
         wait_until(lambda: len(self.other.events("move")) > before, "nothing holds the pointer")
+
+    def test_is_the_applications_again_when_the_program_is_stopped(self):
+        self.hold_control()
+        self.scroll(1)
+        self.wait_for_scrolls([-80])
+        moves = len(self.other.events("move"))
+        self.tap.process.send(signal.SIGSTOP)
+        stopped = time.monotonic()
+
+        def is_seen_by_the_application():
+            self.device.move(x=1)
+            return len(self.other.events("move")) > moves
+
+        wait_until(is_seen_by_the_application, "the pointer is free")
+        print(f"free {time.monotonic() - stopped:.2f} s after the stop", file=sys.stderr)
+        self.assertLess(time.monotonic() - stopped, LONGEST_HOLD)
+        self.scroll_until(lambda: self.other.wheel()[-1:] == [(0, -120)], 1)
+        self.release_control()
+
+        self.tap.process.send(signal.SIGCONT)
+        before = len(self.tap.scrolled())
+
+        def is_ours_again():
+            self.hold_control()
+            self.scroll(1)
+            self.release_control()
+            return len(self.tap.scrolled()) > before
+
+        wait_until(is_ours_again, "the program is back")
+
+    def test_leaves_no_process_behind(self):
+        self.hold_control()
+        self.scroll(1)
+        self.wait_for_scrolls([-80])
+        guards = children_of(self.tap.process.pid)
+        self.assertEqual([name_of(guard) for guard in guards], ["pointer-guard"])
+        self.tap.process.send(signal.SIGKILL)
+        self.tap.process.wait()
+        wait_until(lambda: name_of(guards[0]) is None, "its guard is gone")
+        self.release_control()
 
     def test_sideways_is_the_applications(self):
         self.device.scroll_sideways(1)

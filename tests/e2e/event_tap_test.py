@@ -125,6 +125,19 @@ class AnotherApplication(EventTapCase):
         self.wait_for_buttons(self.xev, click(WHEEL_UP, 1))
 
 
+class AStoppedPrompter(EventTapCase):
+    def test_takes_no_button_from_anybody(self):
+        tap, xev = self.start_tap(), Xev(self.desktop)
+        self.desktop.run("xdotool", "keydown", "ctrl", "click", WHEEL_UP)
+        self.wait_for_scrolls(tap, [80])
+        tap.process.send(signal.SIGSTOP)
+        self.desktop.run("xdotool", "click", 1, "keyup", "ctrl", "click", 1, "click", WHEEL_UP)
+        self.wait_for_buttons(xev, click(1, 1, WHEEL_UP))
+        tap.process.send(signal.SIGCONT)
+        self.click(WHEEL_UP)
+        self.wait_for_scrolls(tap, [80, 80])
+
+
 class TheShortcut(EventTapCase):
     def setUp(self):
         super().setUp()

@@ -3,6 +3,7 @@
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11TapSession.h"
 
+#include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -11,16 +12,17 @@
 
 namespace tessaline {
 
+namespace {
+
+constexpr std::chrono::milliseconds noTime{0};
+constexpr std::chrono::milliseconds reopenInterval{2000};
+
+} // namespace
+
 std::unique_ptr<EventTap> X11EventTap::create(Handler handler) {
-    auto connection = X11Connection::open();
-    if (!connection) return nullptr;
     std::unique_ptr<X11EventTap> tap(new X11EventTap(std::move(handler)));
-    auto session = std::make_unique<X11TapSession>(
-        std::move(connection), [tap = tap.get()](const TapEvent& event) {
-            QMetaObject::invokeMethod(
-                &tap->mainThread, [tap, event] { tap->handler(event); }, Qt::QueuedConnection);
-        });
-    if (tap->stopDescriptor < 0 || !session->takeGrabs()) return nullptr;
+    auto session = tap->openSession();
+    if (!session || tap->stopDescriptor < 0 || !session->takeGrabs()) return nullptr;
     tap->start(std::move(session));
     return tap;
 }
@@ -38,9 +40,38 @@ X11EventTap::~X11EventTap() {
 
 void X11EventTap::enable() {}
 
+std::unique_ptr<X11TapSession> X11EventTap::openSession() {
+    auto connection = X11Connection::open();
+    if (!connection) return nullptr;
+    return std::make_unique<X11TapSession>(std::move(connection), [this](const TapEvent& event) {
+        QMetaObject::invokeMethod(
+            &mainThread, [this, event] { handler(event); }, Qt::QueuedConnection);
+    });
+}
+
 void X11EventTap::start(std::unique_ptr<X11TapSession> newSession) {
     session = std::move(newSession);
-    worker = std::thread([this] { session->run(stopDescriptor); });
+    worker = std::thread([this] { work(); });
+}
+
+/// The guard of the pointer ends a session whose program was stopped: once it goes on, it begins
+/// another one.
+void X11EventTap::work() {
+    session->run(stopDescriptor);
+    while (!isToldToStop(noTime)) {
+        session = openSession();
+        if (session) {
+            session->takeGrabs(); // what others hold is tried again later
+            session->run(stopDescriptor);
+        } else if (isToldToStop(reopenInterval)) {
+            return;
+        }
+    }
+}
+
+bool X11EventTap::isToldToStop(std::chrono::milliseconds longestWait) const {
+    pollfd source{stopDescriptor, POLLIN, 0};
+    return poll(&source, 1, static_cast<int>(longestWait.count())) > 0;
 }
 
 } // namespace tessaline

@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
 #include <thread>
 
@@ -31,7 +32,10 @@ public:
 
 private:
     explicit X11EventTap(Handler handler);
+    std::unique_ptr<X11TapSession> openSession();
     void start(std::unique_ptr<X11TapSession> newSession);
+    void work();
+    bool isToldToStop(std::chrono::milliseconds longestWait) const;
 
     QObject mainThread; ///< drops what has not been delivered when it goes away
     Handler handler;

@@ -18,6 +18,9 @@ public:
     /// Learns which devices there are and where their axes stand. One round trip.
     void refresh(const X11Connection& connection);
 
+    /// Whether any device has such an axis.
+    bool areThere() const { return !devices.empty(); }
+
     /// By how much a motion event scrolls, if it does.
     std::optional<ScrollAxis::Delta> scrolledBy(const xcb_input_button_press_event_t& motion);
 

@@ -104,6 +104,14 @@ void X11TapSession::listen() {
                               XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0, 0, 0, 0, &details);
     learnModifierKeys();
     createWindowElsewhere();
+    selectInput(*connection, XCB_INPUT_DEVICE_ALL, XCB_INPUT_XI_EVENT_MASK_HIERARCHY);
+    learnScrollAxes();
+}
+
+void X11TapSession::learnScrollAxes() {
+    axes.refresh(*connection);
+    // Beforehand, as nobody's scrolling waits for a process to start.
+    if (axes.areThere() && !guard) guard = PointerGuard::start(elsewhere);
 }
 
 /// Nobody sees it, and no window manager takes it.
@@ -133,6 +141,7 @@ void X11TapSession::run(int stopDescriptor) {
         const Time now = PointerHold::Clock::now();
         if (!refused.empty() && now >= nextRetry) takeRefusedGrabs();
         updateHold();
+        reassureGuard();
         // What waited for an answer of the server may have brought events with it.
         handleEvents();
         xcb_flush(connection->xcb());
@@ -149,6 +158,7 @@ void X11TapSession::run(int stopDescriptor) {
 int X11TapSession::waitTime(Time now) const {
     auto next = hold.nextLook(now);
     if (!refused.empty()) next = std::min(next.value_or(nextRetry), nextRetry);
+    if (holding) next = std::min(next.value_or(nextSign), nextSign);
     if (!next) return -1;
     const auto wait = std::chrono::ceil<std::chrono::milliseconds>(*next - now);
     return std::max(0, static_cast<int>(wait.count()));
@@ -178,6 +188,8 @@ void X11TapSession::handleInput(const xcb_generic_event_t& event, std::uint16_t 
         return handleRelease(reinterpret_cast<const xcb_input_button_press_event_t&>(event));
     case XCB_INPUT_MOTION:
         return handleMotion(reinterpret_cast<const xcb_input_button_press_event_t&>(event));
+    case XCB_INPUT_HIERARCHY:
+        return learnScrollAxes();
     case XCB_INPUT_RAW_KEY_PRESS:
     case XCB_INPUT_RAW_BUTTON_PRESS:
     case XCB_INPUT_RAW_BUTTON_RELEASE:
@@ -264,7 +276,8 @@ void X11TapSession::controlChanged(bool isDown) {
 
 void X11TapSession::updateHold() {
     // While we held the pointer, nobody else's grabs would work.
-    const bool wanted = refused.empty() && hold.isWanted(PointerHold::Clock::now());
+    const bool wanted =
+        axes.areThere() && refused.empty() && hold.isWanted(PointerHold::Clock::now());
     if (wanted && !holding) holdPointer();
     if (!wanted && holding) letPointerGo();
 }
@@ -277,6 +290,13 @@ void X11TapSession::holdPointer() {
             connection->xcb(), xcb_input_xi_get_client_pointer(connection->xcb(), XCB_NONE),
             nullptr));
     if (!client) return;
+    if (!guard) guard = PointerGuard::start(elsewhere);
+    guardIsWatching = guard && guard->watch();
+    if (!guardIsWatching) {
+        guard.reset();
+        return hold.refused(PointerHold::Clock::now());
+    }
+    nextSign = PointerHold::Clock::now() + PointerGuard::signInterval;
     pointer = client->deviceid;
     const std::uint32_t events = XCB_INPUT_XI_EVENT_MASK_BUTTON_PRESS |
                                  XCB_INPUT_XI_EVENT_MASK_BUTTON_RELEASE |
@@ -292,6 +312,20 @@ void X11TapSession::holdPointer() {
     holding = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
     if (!holding) return hold.refused(PointerHold::Clock::now());
     axes.refresh(*connection);
+}
+
+void X11TapSession::reassureGuard() {
+    if (!guard) return;
+    const Time now = PointerHold::Clock::now();
+    if (holding && now >= nextSign) {
+        nextSign = now + PointerGuard::signInterval;
+        guardIsWatching = guard->watch();
+        if (!guardIsWatching) {
+            letPointerGo();
+            return guard.reset();
+        }
+    }
+    if (!holding && std::exchange(guardIsWatching, false)) guard->rest();
 }
 
 void X11TapSession::letPointerGo() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/TapEvent.h"
+#include "platform/linux/PointerGuard.h"
 #include "platform/linux/PointerHold.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11PassiveGrab.h"
@@ -21,7 +22,8 @@ namespace tessaline {
 ///
 /// Wheel, middle, right and fourth button are grabbed together with Control and every combination
 /// of other modifiers, locks included. The grabs do not make the server wait for us, so their
-/// events are swallowed whatever becomes of us. Scroll axes need more, see `PointerHold`.
+/// events are swallowed whatever becomes of us. Scroll axes need more, see `PointerHold`: where a
+/// device has one, the whole pointer is held at times, under the eyes of a `PointerGuard`.
 class X11TapSession {
 public:
     /// Receives what was swallowed, on the thread of `run`.
@@ -42,6 +44,7 @@ private:
     void listen();
     void learnModifierKeys();
     void createWindowElsewhere();
+    void learnScrollAxes();
     int waitTime(Time now) const;
 
     void handleEvents();
@@ -56,6 +59,7 @@ private:
     void updateHold();
     void holdPointer();
     void letPointerGo();
+    void reassureGuard();
     void answer(std::uint8_t mode) const;
 
     std::unique_ptr<X11Connection> connection;
@@ -66,6 +70,9 @@ private:
     std::bitset<256> modifierKeys;
     X11ScrollAxes axes;
     PointerHold hold;
+    std::unique_ptr<PointerGuard> guard; ///< as soon as the pointer may have to be held
+    Time nextSign{};                     ///< of life, while it is
+    bool guardIsWatching = false;
     bool controlIsDown = false;
     bool holding = false;
     std::uint16_t pointer = 0; ///< the device that is held
