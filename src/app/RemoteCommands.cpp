@@ -49,6 +49,8 @@ RemoteCommands::RemoteCommands(AppDelegate& borrowed, TaskRunner& runner, MainQu
 void RemoteCommands::carryOut(const QJsonObject& message, const Reply& reply) {
     if (message.value("command"_L1) == "open"_L1) {
         openFile(message.value("path"_L1).toString(), message.value("follow"_L1).toBool(), reply);
+    } else if (message.value("command"_L1) == "control"_L1) {
+        drive(message, reply);
     } else {
         reply(answerTo(message));
     }
@@ -56,7 +58,6 @@ void RemoteCommands::carryOut(const QJsonObject& message, const Reply& reply) {
 
 QJsonObject RemoteCommands::answerTo(const QJsonObject& message) {
     const QString command = message.value("command"_L1).toString();
-    if (command == "control"_L1) return drive(message);
     if (command != "show"_L1) return failed(u"there is no command '%1'"_s.arg(command));
     delegate.reveal();
     return done();
@@ -88,18 +89,20 @@ void RemoteCommands::showFile(const QString& path, const QString& text, bool fol
     delegate.reveal();
 }
 
-QJsonObject RemoteCommands::drive(const QJsonObject& message) {
+void RemoteCommands::drive(const QJsonObject& message, const Reply& reply) {
     QStringList words;
     for (const auto& word : message.value("words"_L1).toArray())
         words += word.toString();
     QString problem;
     const auto request = ControlRequest::parse(words, &problem);
-    if (!request) return failed(problem);
-    const auto answer = RemoteControl(delegate).carryOut(*request, &problem);
-    if (!answer) return failed(problem);
-    QJsonObject result = done();
-    result.insert(u"text"_s, *answer);
-    return result;
+    if (!request) return reply(failed(problem));
+    RemoteControl(delegate).carryOut(*request,
+                                     [reply](const QString& answer, const QString& reason) {
+                                         if (!reason.isEmpty()) return reply(failed(reason));
+                                         QJsonObject result = done();
+                                         result.insert(u"text"_s, answer);
+                                         reply(result);
+                                     });
 }
 
 } // namespace tessaline

@@ -31,15 +31,15 @@ public:
     /// Borrows everything. The runner reads files: nothing else waits behind one that hangs.
     RemoteCommands(AppDelegate& delegate, TaskRunner& taskRunner, MainQueue& mainQueue);
 
-    /// Replies once it is done: at once or, where a file has to be read, later. Not at all when
-    /// this is gone by then.
+    /// Replies once it is done: at once or, where a file or the clipboard has to be read, later.
+    /// Not at all when this is gone by then.
     void carryOut(const QJsonObject& message, const Reply& reply);
 
 private:
     QJsonObject answerTo(const QJsonObject& message);
     void openFile(const QString& path, bool follow, const Reply& reply);
     void showFile(const QString& path, const QString& text, bool follow);
-    QJsonObject drive(const QJsonObject& message);
+    void drive(const QJsonObject& message, const Reply& reply);
 
     AppDelegate& delegate;
     TaskRunner& taskRunner;

@@ -23,14 +23,13 @@ bool worksBeforeTheNormalStart(ControlCommand command) {
 
 RemoteControl::RemoteControl(AppDelegate& borrowed) : delegate(borrowed) {}
 
-std::optional<QString> RemoteControl::carryOut(const ControlRequest& request, QString* problem) {
-    problem->clear();
-    if (!delegate.hasStarted() && !worksBeforeTheNormalStart(request.command)) {
-        *problem = u"the first-run window is still open"_s;
-        return std::nullopt;
-    }
-    const QString answer = answerTo(request, problem);
-    return problem->isEmpty() ? std::optional(answer) : std::nullopt;
+void RemoteControl::carryOut(const ControlRequest& request, const Reply& reply) {
+    if (!delegate.hasStarted() && !worksBeforeTheNormalStart(request.command))
+        return reply({}, u"the first-run window is still open"_s);
+    if (request.command == ControlCommand::paste) return paste(reply);
+    QString problem;
+    const QString answer = answerTo(request, &problem);
+    reply(answer, problem);
 }
 
 QString RemoteControl::answerTo(const ControlRequest& request, QString* problem) {
@@ -79,8 +78,6 @@ QString RemoteControl::answerTo(const ControlRequest& request, QString* problem)
     case ControlCommand::settings:
         delegate.showConfig();
         return u"settings shown"_s;
-    case ControlCommand::paste:
-        return paste();
     case ControlCommand::source:
         return chooseSource(request.argument, problem);
     case ControlCommand::quit:
@@ -88,6 +85,8 @@ QString RemoteControl::answerTo(const ControlRequest& request, QString* problem)
         return u"ending"_s;
     case ControlCommand::status:
         return status();
+    case ControlCommand::paste:
+        break; // has its answer later
     }
     Q_UNREACHABLE();
 }
@@ -119,9 +118,8 @@ QString RemoteControl::setCollapsed(bool collapsed) {
     return collapsed ? u"minimized"_s : u"expanded"_s;
 }
 
-QString RemoteControl::paste() {
-    delegate.pasteFromClipboard();
-    return u"pasted"_s;
+void RemoteControl::paste(const Reply& reply) {
+    delegate.pasteFromClipboard([reply](const QString& problem) { reply(u"pasted"_s, problem); });
 }
 
 QString RemoteControl::position() const {

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include <optional>
+#include <functional>
 
 namespace tessaline {
 
@@ -19,9 +19,12 @@ public:
 
     explicit RemoteControl(AppDelegate& delegate);
 
-    /// The answer for the user, in one line; none when the command cannot be carried out now, with
-    /// the reason in `problem`.
-    std::optional<QString> carryOut(const ControlRequest& request, QString* problem);
+    /// Gets the answer for the user, in one line, or why the command could not be carried out: then
+    /// `problem` is not empty.
+    using Reply = std::function<void(const QString& answer, const QString& problem)>;
+
+    /// Replies at once or, where another program has to be asked, later, when this may be gone.
+    void carryOut(const ControlRequest& request, const Reply& reply);
 
 private:
     QString answerTo(const ControlRequest& request, QString* problem);
@@ -30,7 +33,7 @@ private:
     QString chooseRate(const QString& rate);
     QString chooseSource(const QString& source, QString* problem);
     QString setCollapsed(bool collapsed);
-    QString paste();
+    void paste(const Reply& reply);
     QString position() const;
     QString status() const;
 

@@ -23,15 +23,16 @@ using ::testing::ElementsAre;
 
 class RemoteControlTest : public AppDelegateFixture {
 protected:
-    /// What the running program answers to `tessaline ctl` with these words.
+    /// What the running program answers to `tessaline ctl` with these words; empty so far if it
+    /// does so later.
     QJsonObject answerTo(const QString& words) {
         const auto request = ControlRequest::parse(words.split(u' '), &problem);
         EXPECT_TRUE(request) << problem.toStdString();
-        QJsonObject answer;
+        lastAnswer = {};
         RemoteCommands(*delegate, fileTasks, mainQueue)
             .carryOut(RemoteCommands::control(*request),
-                      [&](const QJsonObject& reply) { answer = reply; });
-        return answer;
+                      [this](const QJsonObject& reply) { lastAnswer = reply; });
+        return lastAnswer;
     }
 
     QString textOf(const QString& words) {
@@ -68,6 +69,7 @@ protected:
     double position() { return prompter()->textView().scrollPosition(); }
 
     QString problem;
+    QJsonObject lastAnswer;
 };
 
 TEST_F(RemoteControlTest, StartsAndStopsTheText) {
@@ -183,6 +185,25 @@ TEST_F(RemoteControlTest, OpensTheSettingsPastesAndEnds) {
     EXPECT_TRUE(config()->isVisible());
     EXPECT_EQ(textOf(u"quit"_s), u"ending"_s);
     EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(RemoteControlTest, SaysThatNothingWasPasted) {
+    launch();
+    EXPECT_EQ(errorOf(u"paste"_s), u"the clipboard holds no text"_s);
+    pasteboard.text = u""_s;
+    EXPECT_EQ(errorOf(u"paste"_s), u"the clipboard holds no text"_s);
+    pasteboard.problem = u"the owner does not answer"_s;
+    EXPECT_EQ(errorOf(u"paste"_s), u"the owner does not answer"_s);
+}
+
+TEST_F(RemoteControlTest, SaysPastedOnceThatIsTrue) {
+    launch();
+    pasteboard.answersAtOnce = false;
+    EXPECT_EQ(answerTo(u"paste"_s), QJsonObject());
+    pasteboard.text = u"Hello"_s;
+    pasteboard.answer();
+    EXPECT_EQ(lastAnswer.value(u"text"_s), u"pasted"_s);
+    EXPECT_EQ(keptScript(), u"Hello"_s);
 }
 
 TEST_F(RemoteControlTest, ChoosesAmongTheEnabledSources) {

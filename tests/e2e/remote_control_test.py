@@ -1,10 +1,12 @@
 """The running prompter, driven by commands from other programs."""
 
 import json
+import signal
 import socket
 import unittest
 
 from harness import TessalineTestCase, wait_until
+from harness.clipboard import Clipboard
 from harness.waiting import holds_for
 from prompter_test import PrompterTestCase
 
@@ -132,7 +134,15 @@ class RemoteControl(PrompterTestCase):
         self.assertEqual(self.events().count("source_changed"), 2)
 
     def test_pastes(self):
-        self.ctl("paste")
+        self.assertEqual(self.refusal("paste"), "tessaline: the clipboard holds no text\n")
+        clipboard = Clipboard(self.desktop)
+        self.addCleanup(clipboard.clear)
+        clipboard.offer("Zwei Wörter".encode(), "text/plain;charset=utf-8")
+        self.assertEqual(self.ctl("paste"), "pasted")
+        self.assertEqual(self.status()["words"], 2)
+        clipboard.owner.send(signal.SIGSTOP)
+        self.assertIn("does not answer", self.refusal("paste"))
+        clipboard.clear()
         self.assertIn("content_pasted", self.events())
 
     def test_ends_the_program(self):
