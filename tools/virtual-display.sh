@@ -29,8 +29,9 @@ await() {
     done
 }
 
+# start_display SIZE
 start_display() {
-    Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/xvfb.log" &
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$work/display" 2>"$work/xvfb.log" &
     xvfb=$!
     started=$xvfb
     await "$xvfb" "$work/display" "$work/xvfb.log"
