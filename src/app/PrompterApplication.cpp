@@ -69,7 +69,7 @@ struct Machine {
     ThreadTaskRunner renderTasks;
     ThreadTaskRunner fileTasks;
     ThreadTaskRunner scriptTasks;
-    ThreadTaskRunner noteTasks;
+    ThreadTaskRunner queryTasks; ///< what is asked of other applications
     ThreadTaskRunner pasteTasks;
     ThreadTaskRunner historyTasks;
     QNetworkAccessManager network;
@@ -86,8 +86,11 @@ struct Machine {
     std::unique_ptr<FileIcons> icons = makeFileIcons();
     std::unique_ptr<FolderChooser> folderChooser = makeFolderChooser();
     QtScreens screens{notifications, mainQueue, identifyScreen, makeReservedEdges()};
-    InstalledObsidian obsidian{homeFolderPath(), *applications, *bundle, *folderChooser};
-    AppleNotesLibrary notes{mainQueue, noteTasks, processes, urlOpener};
+    InstalledObsidian obsidian{
+        homeFolderPath(),
+        VaultRegistry(homeFolderPath(), qEnvironmentVariable("XDG_CONFIG_HOME")),
+        {*applications, *bundle, *folderChooser, mainQueue, queryTasks}};
+    AppleNotesLibrary notes{mainQueue, queryTasks, processes, urlOpener};
     ProgramSurroundings surroundings{obsidian, *trust, screens};
 
     SharedInstance<TelemetryDeckClient> telemetry{[this] {

@@ -18,6 +18,9 @@ public:
     /// Where the workspace would start the application with this identifier from, if it knows one.
     virtual std::optional<QString>
     workspaceApplicationPath(const QString& bundleIdentifier) const = 0;
+
+    /// Whether an application that is not found is not installed.
+    virtual bool knowsEveryApplication() const = 0;
 };
 
 } // namespace tessaline

@@ -106,7 +106,7 @@ void ConfigWindow::fitBelowPrompter() {
 void ConfigWindow::startPeriodicRefresh() {
     refreshTimer.reset();
     refreshTimer = ports.permissions.timers.every(refreshInterval, [this] {
-        integrations->updateObsidianStatus();
+        integrations->refreshObsidianStatus();
         updateAccessibilityStatus();
     });
 }

@@ -127,7 +127,7 @@ QWidget* OnboardingWindow::createIntegrationsSection() {
     auto* clipboard = new IntegrationToggleView(SourceType::clipboard, true);
     clipboard->setupUI(true, u"Default — paste any text"_s, {});
     ObsidianStatusText status = pluginStatus();
-    status.appFound = ports.obsidian.obsidianAppPath().has_value();
+    status.appFound = ports.obsidian.isObsidianPresent();
     status.vaultFound = status.appFound && ports.obsidian.findObsidianVault().has_value();
     const bool usable = status.appFound && status.vaultFound;
     auto* obsidian = new IntegrationToggleView(SourceType::obsidian, !usable);

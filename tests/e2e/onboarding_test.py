@@ -279,8 +279,18 @@ class WithoutAVault(OnboardingTestCase):
         self.start_first()
         self.assert_obsidian_is_locked("Obsidian not detected on this computer")
 
-    def test_does_not_take_a_vault_for_the_application(self):
+    def test_takes_a_vault_in_the_users_folder_for_an_obsidian_without_a_menu_entry(self):
+        self.desktop.env["XDG_CONFIG_HOME"] = str(self.desktop.home / "settings")
+        self.obsidian.add_vault(configurations="settings")
+        self.start_first()
+        self.assertIn(INVITATION, self.open_window(TITLE).texts())
+        self.click_on(self.obsidian_switch())
+        self.assertEqual(self.read_alert(INSTALLED), INSTALLED_TEXT)
+        self.assertEqual(self.obsidian.plugins(), [PLUGIN])
+
+    def test_takes_no_vault_that_is_gone_for_an_obsidian(self):
         self.obsidian.add_vault()
+        self.obsidian.vault.rename(self.desktop.home / "moved")
         self.start_first()
         self.assert_obsidian_is_locked("Obsidian not detected on this computer")
 

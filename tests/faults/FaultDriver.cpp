@@ -7,7 +7,9 @@
 #include "support/FakeApplicationLookup.h"
 #include "support/FakeBundleInformation.h"
 #include "support/FakeFolderChooser.h"
+#include "support/FakeMainQueue.h"
 #include "support/FakePasteboard.h"
+#include "support/FakeTaskRunner.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -113,7 +115,10 @@ void install(const QString& home, bool accessIsGranted) {
     bundle.resources = home + u"/resources"_s;
     FakeFolderChooser chooser;
     if (accessIsGranted) chooser.answer = home;
-    InstalledObsidian obsidian(home, lookup, bundle, chooser);
+    FakeMainQueue mainQueue;
+    FakeTaskRunner tasks;
+    InstalledObsidian obsidian(home, VaultRegistry(home),
+                               {lookup, bundle, chooser, mainQueue, tasks});
     const Armed armed;
     const auto result = obsidian.installPlugin();
     print((result.success ? u"success: "_s : u"failure: "_s) + result.message + u'\n');

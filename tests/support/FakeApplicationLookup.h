@@ -17,8 +17,11 @@ public:
         return workspacePath;
     }
 
+    bool knowsEveryApplication() const override { return isComplete; }
+
     QStringList paths;
     std::optional<QString> workspacePath;
+    bool isComplete = true;
     mutable QStringList askedFor;
 };
 

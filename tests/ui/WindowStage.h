@@ -62,6 +62,7 @@ public:
     /// Lets time pass, with what it makes the program do.
     void pass(double seconds) {
         timers.advance(seconds);
+        obsidian.finishLookUps();
         mainQueue.runAll();
     }
 

@@ -14,6 +14,9 @@ public:
     QStringList applicationPaths(const QString& bundleIdentifier) const override;
     std::optional<QString> workspaceApplicationPath(const QString& bundleIdentifier) const override;
 
+    /// An AppImage, for one, has an entry only if the user made one, named as they liked.
+    bool knowsEveryApplication() const override { return false; }
+
 private:
     DesktopEntries entries;
 };

@@ -28,6 +28,8 @@ public:
         if (!url) return std::nullopt;
         return QString::fromNSString(url.path);
     }
+
+    bool knowsEveryApplication() const override { return true; }
 };
 
 } // namespace

@@ -5,8 +5,8 @@
 namespace tessaline {
 
 /// The list of the plug-ins that are switched on in a vault. Obsidian owns it: it is changed only
-/// where it has to be, and never when it is not the array of strings that Obsidian writes. Main
-/// thread only.
+/// where it has to be, and never when it is not the array of strings that Obsidian writes. Any
+/// thread.
 class CommunityPlugins {
 public:
     explicit CommunityPlugins(const QString& vault);

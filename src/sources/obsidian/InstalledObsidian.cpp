@@ -1,24 +1,48 @@
 #include "sources/obsidian/InstalledObsidian.h"
 
+#include "platform/ApplicationLookup.h"
+#include "platform/MainQueue.h"
+#include "platform/TaskRunner.h"
 #include "sources/obsidian/CommunityPlugins.h"
 #include "sources/obsidian/CompanionPlugin.h"
 #include "sources/obsidian/ObsidianLocator.h"
 
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace tessaline {
 
-InstalledObsidian::InstalledObsidian(const QString& home, const ApplicationLookup& applications,
-                                     const BundleInformation& bundle, FolderChooser& chooser)
+namespace {
+
+bool isInstalledIn(const QString& vault) {
+    return QFileInfo::exists(companionPlugin::pluginFolder(vault) + "/main.js"_L1);
+}
+
+bool isEnabledIn(const QString& vault) {
+    return CommunityPlugins(vault).contain(companionPlugin::identifier());
+}
+
+} // namespace
+
+InstalledObsidian::InstalledObsidian(const QString& home, VaultRegistry vaults,
+                                     const Ports& borrowed)
     : homeFolder(home)
-    , lookup(applications)
-    , registry(home)
-    , installer(registry, bundle, chooser) {}
+    , registry(std::move(vaults))
+    , ports(borrowed)
+    , installer(registry, ports.bundle, ports.chooser) {}
 
 std::optional<QString> InstalledObsidian::obsidianAppPath() const {
-    return locateObsidian(lookup, homeFolder);
+    return locateObsidian(ports.applications, homeFolder);
+}
+
+bool InstalledObsidian::isObsidianPresent() const {
+    if (obsidianAppPath()) return true;
+    if (ports.applications.knowsEveryApplication()) return false;
+    const auto vault = findObsidianVault();
+    return vault && QFileInfo(*vault).isDir();
 }
 
 std::optional<QString> InstalledObsidian::findObsidianVault() const {
@@ -27,12 +51,23 @@ std::optional<QString> InstalledObsidian::findObsidianVault() const {
 
 bool InstalledObsidian::isPluginInstalled() const {
     const auto vault = findObsidianVault();
-    return vault && QFileInfo::exists(companionPlugin::pluginFolder(*vault) + "/main.js"_L1);
+    return vault && isInstalledIn(*vault);
 }
 
 bool InstalledObsidian::isPluginEnabled() const {
     const auto vault = findObsidianVault();
-    return vault && CommunityPlugins(*vault).contain(companionPlugin::identifier());
+    return vault && isEnabledIn(*vault);
+}
+
+void InstalledObsidian::lookUpPlugin(std::function<void(PluginState)> deliver) const {
+    ports.tasks.run(
+        [registry = registry, &queue = ports.mainQueue, deliver = std::move(deliver)]() mutable {
+            PluginState state;
+            if (const auto vault = registry.findVault())
+                state = {isInstalledIn(*vault), isEnabledIn(*vault)};
+            // The callback moves on with the state, so that it is destroyed on the main thread.
+            queue.post([state, deliver = std::move(deliver)] { deliver(state); });
+        });
 }
 
 ObsidianIntegration::InstallResult InstalledObsidian::installPlugin() {

@@ -2,6 +2,8 @@
 
 #include "settings/JsonReader.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 namespace tessaline {
@@ -52,14 +54,14 @@ std::optional<QString> preferredVault(const std::vector<VaultInfo>& vaults) {
     return std::max_element(vaults.begin(), vaults.end(), wasUsedBefore)->path;
 }
 
-VaultRegistry::VaultRegistry(const QString& homeFolder) {
-    for (const QLatin1StringView folder : {
-             "/Library/Application Support/obsidian"_L1,
-             "/.config/obsidian"_L1,
-             "/.var/app/md.obsidian.Obsidian/config/obsidian"_L1,
-             "/snap/obsidian/current/.config/obsidian"_L1,
-         })
-        places += homeFolder + folder + "/obsidian.json"_L1;
+VaultRegistry::VaultRegistry(const QString& homeFolder, const QString& configFolder) {
+    QStringList folders{homeFolder + "/Library/Application Support"_L1};
+    if (QDir::isAbsolutePath(configFolder)) folders += configFolder;
+    folders += homeFolder + "/.config"_L1;
+    folders += homeFolder + "/.var/app/md.obsidian.Obsidian/config"_L1;
+    folders += homeFolder + "/snap/obsidian/current/.config"_L1;
+    for (const QString& folder : folders)
+        places += folder + "/obsidian/obsidian.json"_L1;
 }
 
 std::optional<QString> VaultRegistry::findVault() const {

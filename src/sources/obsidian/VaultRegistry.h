@@ -18,12 +18,13 @@ std::optional<std::vector<VaultInfo>> parseVaultRegistry(const QByteArray& bytes
 /// The folder of the first open vault, else of the one used last, if there is any.
 std::optional<QString> preferredVault(const std::vector<VaultInfo>& vaults);
 
-/// Obsidian's list of vaults, read anew at each question. Main thread only.
+/// Obsidian's list of vaults, read anew at each question. Any thread.
 class VaultRegistry {
 public:
-    /// Looks below this home folder, in all places where an installation of Obsidian may keep its
-    /// list: the first of them that names a vault counts.
-    explicit VaultRegistry(const QString& homeFolder);
+    /// Looks below these folders, in all places where an installation of Obsidian may keep its
+    /// list: the first of them that names a vault counts. `configFolder` is the user's own choice
+    /// of a folder for configurations; it counts if it is an absolute path.
+    explicit VaultRegistry(const QString& homeFolder, const QString& configFolder = {});
 
     /// The vault that the user works with, if there is any.
     std::optional<QString> findVault() const;

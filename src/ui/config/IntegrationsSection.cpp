@@ -14,6 +14,10 @@
 #include "ui/controls/StatusDot.h"
 #include "ui/controls/Switch.h"
 
+#include <QPointer>
+
+#include <utility>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -97,6 +101,7 @@ void IntegrationsSection::showSettings() {
 }
 
 void IntegrationsSection::updateObsidianStatus() {
+    ++updates;
     const bool enabled = isObsidianEnabled();
     statusRow->setVisible(enabled);
     obsidianConfigButton->setVisible(enabled);
@@ -104,8 +109,25 @@ void IntegrationsSection::updateObsidianStatus() {
         obsidianStatusLabel->clear();
         return;
     }
-    const bool installed = ports.obsidian.isPluginInstalled();
-    const bool active = ports.obsidian.isPluginEnabled() && installed;
+    showPlugin(ports.obsidian.isPluginInstalled(), ports.obsidian.isPluginEnabled());
+}
+
+void IntegrationsSection::refreshObsidianStatus() {
+    if (!isObsidianEnabled()) {
+        updateObsidianStatus();
+        return;
+    }
+    if (std::exchange(isLookingUp, true)) return;
+    ports.obsidian.lookUpPlugin([section = QPointer(this), asked = updates](const auto& state) {
+        if (!section) return;
+        section->isLookingUp = false;
+        // An update in the meantime knows better.
+        if (section->updates == asked) section->showPlugin(state.installed, state.enabled);
+    });
+}
+
+void IntegrationsSection::showPlugin(bool installed, bool enabled) {
+    const bool active = installed && enabled;
     const QString status = active      ? u"Plugin active"_s
                            : installed ? u"Disabled in Obsidian"_s
                                        : u"Plugin not found"_s;

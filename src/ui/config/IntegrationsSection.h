@@ -27,6 +27,9 @@ public:
     /// Looks up what the plug-in is up to, if Obsidian is enabled, and shows it.
     void updateObsidianStatus();
 
+    /// The same, a little later: files that are slow to read do not hold up the window.
+    void refreshObsidianStatus();
+
     /// Installs the plug-in, tells the outcome in an alert and shows the new status.
     void reinstallObsidianPlugin();
 
@@ -45,10 +48,13 @@ private:
     QWidget* createStatusRow();
     QLabel* createObsidianIcon() const;
     bool isObsidianEnabled() const;
+    void showPlugin(bool installed, bool enabled);
 
     const AppSettings& settings;
     const WindowPorts& ports;
     QWidget* statusRow = nullptr;
+    bool isLookingUp = false;
+    int updates = 0; ///< of the status, so far
 };
 
 } // namespace tessaline

@@ -29,9 +29,10 @@ class Obsidian:
             f"[Desktop Entry]\nType=Application\nName=Obsidian\nExec={program} %u\nIcon={icon}\n"
         )
 
-    def add_vault(self, plugins=()):
-        """Adds the vault, in which these community plug-ins are switched on."""
-        registry = self.home / ".config/obsidian/obsidian.json"
+    def add_vault(self, plugins=(), configurations=".config"):
+        """Adds the vault, in which these community plug-ins are switched on. The registry lies in
+        this folder for configurations."""
+        registry = self.home / configurations / "obsidian/obsidian.json"
         registry.parent.mkdir(parents=True, exist_ok=True)
         vaults = {"5a1d": {"path": str(self.vault), "ts": 1700000000000, "open": True}}
         registry.write_text(json.dumps({"vaults": vaults}))

@@ -3,9 +3,13 @@
 #include "sources/obsidian/ObsidianHome.h"
 #include "support/FakeApplicationLookup.h"
 #include "support/FakeFolderChooser.h"
+#include "support/FakeMainQueue.h"
+#include "support/FakeTaskRunner.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,8 +21,51 @@ protected:
     ObsidianHome home;
     FakeApplicationLookup lookup;
     FakeFolderChooser chooser;
-    InstalledObsidian obsidian{home.path(), lookup, home.bundle, chooser};
+    FakeMainQueue mainQueue;
+    FakeTaskRunner tasks;
+    InstalledObsidian obsidian{
+        home.path(), VaultRegistry(home.path()), {lookup, home.bundle, chooser, mainQueue, tasks}};
 };
+
+using PluginState = ObsidianIntegration::PluginState;
+
+TEST_F(InstalledObsidianTest, IsThereWhenItsApplicationIs) {
+    home.putRegistry("{}");
+    EXPECT_FALSE(obsidian.isObsidianPresent());
+    lookup.paths = {u"/opt/Obsidian/obsidian"_s};
+    EXPECT_TRUE(obsidian.isObsidianPresent());
+}
+
+TEST_F(InstalledObsidianTest, IsProvenByAnExistingVaultWhereApplicationsMayBeUnknown) {
+    EXPECT_FALSE(obsidian.isObsidianPresent());
+    lookup.isComplete = false;
+    EXPECT_TRUE(obsidian.isObsidianPresent());
+    home.useVault(home.path() + u"/no such folder"_s);
+    EXPECT_FALSE(obsidian.isObsidianPresent());
+    home.putRegistry("{}");
+    EXPECT_FALSE(obsidian.isObsidianPresent());
+}
+
+TEST_F(InstalledObsidianTest, LooksThePluginUpInTheBackground) {
+    std::vector<PluginState> states;
+    const auto lookUp = [&] {
+        obsidian.lookUpPlugin([&](const PluginState& state) { states.push_back(state); });
+        tasks.runAll();
+    };
+    lookUp();
+    EXPECT_TRUE(states.empty());
+    mainQueue.runAll();
+    EXPECT_EQ(states, (std::vector{PluginState{false, false}}));
+    EXPECT_TRUE(obsidian.installPlugin().success);
+    lookUp();
+    putFile(home.communityList(), "[]");
+    lookUp();
+    home.putRegistry("{}");
+    lookUp();
+    mainQueue.runAll();
+    EXPECT_EQ(states, (std::vector{PluginState{false, false}, PluginState{true, true},
+                                   PluginState{true, false}, PluginState{false, false}}));
+}
 
 TEST_F(InstalledObsidianTest, FindsTheApplicationAndTheVault) {
     lookup.paths = {u"/opt/Obsidian/obsidian"_s};

@@ -141,6 +141,17 @@ TEST_F(VaultRegistryPlaces, AreLookedAtInOrder) {
     EXPECT_EQ(registry.findVault(), u"/described"_s);
 }
 
+TEST_F(VaultRegistryPlaces, IncludeTheFolderThatTheUserHasConfigurationsIn) {
+    const VaultRegistry chosen(home.path(), home.filePath(u"my configurations"_s));
+    put(u".config/obsidian"_s, naming("/native"));
+    EXPECT_EQ(chosen.findVault(), u"/native"_s);
+    put(u"my configurations/obsidian"_s, naming("/chosen"));
+    EXPECT_EQ(chosen.findVault(), u"/chosen"_s);
+    EXPECT_EQ(registry.findVault(), u"/native"_s);
+    put(u"Library/Application Support/obsidian"_s, naming("/described"));
+    EXPECT_EQ(chosen.findVault(), u"/described"_s);
+}
+
 TEST_F(VaultRegistryPlaces, ArePassedOverWhenTheyNameNoVault) {
     put(u"Library/Application Support/obsidian"_s, "not JSON");
     put(u".config/obsidian"_s, R"({"vaults":{}})");

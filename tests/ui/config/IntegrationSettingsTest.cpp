@@ -156,6 +156,43 @@ TEST_F(IntegrationSettings, SwitchingTheActiveSourceOffFallsBackAndSaysSo) {
     EXPECT_THAT(sources, ElementsAre(SourceType::clipboard));
 }
 
+TEST_F(IntegrationSettings, ASlowLookUpIsNotAskedForAgainNorWaitedFor) {
+    enableObsidian();
+    stage.installObsidian(true, true);
+    window().startPeriodicRefresh();
+    stage.timers.advance(7);
+    EXPECT_EQ(stage.obsidian.lookUps.size(), 1U);
+    stage.obsidian.finishLookUps();
+    EXPECT_EQ(status().text(), u"Plugin active"_s);
+    stage.timers.advance(2);
+    EXPECT_EQ(stage.obsidian.lookUps.size(), 1U);
+}
+
+TEST_F(IntegrationSettings, ALookUpThatEndsAfterAnInstallationChangesNothing) {
+    enableObsidian();
+    stage.installObsidian();
+    shown().startPeriodicRefresh();
+    stage.timers.advance(2);
+    QTest::mouseClick(&reinstall(), Qt::LeftButton);
+    stage.obsidian.finishLookUps();
+    EXPECT_EQ(status().text(), u"Plugin active"_s);
+    stage.obsidian.pluginEnabled = false;
+    stage.timers.advance(2);
+    stage.obsidian.finishLookUps();
+    EXPECT_EQ(status().text(), u"Disabled in Obsidian"_s);
+}
+
+TEST_F(IntegrationSettings, ALookUpThatEndsAfterTheWindowIsHarmless) {
+    enableObsidian();
+    stage.installObsidian();
+    auto doomed = std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.ports);
+    doomed->startPeriodicRefresh();
+    stage.timers.advance(2);
+    doomed.reset();
+    ASSERT_EQ(stage.obsidian.lookUps.size(), 1U);
+    stage.obsidian.finishLookUps();
+}
+
 TEST_F(IntegrationSettings, WithoutASourceManagerSwitchingIsOnlyRecorded) {
     QTest::mouseClick(&obsidianToggle(), Qt::LeftButton);
     EXPECT_FALSE(stage.settings.enabledSourceTypes.contains(SourceType::obsidian));

@@ -32,6 +32,19 @@ TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutTheApplication) {
     EXPECT_FALSE(obsidianEnabled());
 }
 
+TEST_F(ObsidianOnboarding, ObsidianCanBeUsedWhereItsVaultIsProofEnough) {
+    stage.obsidian.vault = u"/vault"_s;
+    stage.obsidian.isProvenByVault = true;
+    shown();
+    EXPECT_EQ(obsidian().statusLabel->text(),
+              u"Send notes from Obsidian straight into the notch"_s);
+    EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
+    EXPECT_TRUE(obsidian().iconLabel);
+    switchObsidian();
+    EXPECT_TRUE(obsidianEnabled());
+    EXPECT_EQ(stage.obsidian.installations, 1);
+}
+
 TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutAVault) {
     stage.obsidian.appPath = u"/apps/obsidian"_s;
     window();
