@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <vector>
@@ -55,7 +56,8 @@ TEST_P(FractionalSizes, AreDrawnEachALittleLarger) {
         double light = 0;
         double width = 0;
         double height = 0;
-        for (double size = 15.9; size < 17.15; size += 0.1) {
+        for (int tenths = 159; tenths <= 171; ++tenths) {
+            const double size = tenths / 10.0;
             ScriptLayout layout = layoutOf(text, size);
             const double newLight = lightOf(pictureOf(layout, GetParam()));
             const double newWidth = layout.caretRect(layout.script().styled.text.size()).x();
@@ -92,7 +94,8 @@ TEST_P(FractionalSizes, AreNoLessSharpThanWholeOnes) {
 }
 
 TEST_P(FractionalSizes, HighlightTheirLinesWithoutGaps) {
-    for (double size = 16; size < 17; size += 0.1) {
+    for (int tenths = 160; tenths < 170; ++tenths) {
+        const double size = tenths / 10.0;
         ScriptLayout layout = layoutOf(u"iiii "_s.repeated(100), size);
         const QImage image = pictureOf(layout, GetParam(), {0, 500});
         for (int y = 0; y < image.height(); ++y)
@@ -130,7 +133,7 @@ TEST(WholeSize, IsDrawnUnscaled) {
     }
 }
 
-/// The columns of blue light in a picture, from the first to the last and how many.
+/// The columns of a picture that are highlighted.
 std::vector<int> blueColumns(const QImage& image) {
     std::vector<int> columns;
     for (int x = 0; x < image.width(); ++x) {
