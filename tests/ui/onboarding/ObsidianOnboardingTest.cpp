@@ -37,7 +37,7 @@ TEST_F(ObsidianOnboarding, ObsidianCanBeUsedWhereItsVaultIsProofEnough) {
     stage.obsidian.isProvenByVault = true;
     shown();
     EXPECT_EQ(obsidian().statusLabel->text(),
-              u"Send notes from Obsidian straight into the notch"_s);
+              u"Send notes from Obsidian straight into the prompter"_s);
     EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
     EXPECT_TRUE(obsidian().iconLabel);
     switchObsidian();
