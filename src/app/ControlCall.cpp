@@ -4,6 +4,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/ExitStatus.h"
 #include "app/remote/SingleInstance.h"
+#include "platform/SystemAdapters.h"
 
 #include <chrono>
 
@@ -20,6 +21,13 @@ int fail(const QString& reason) {
     return ExitStatus::failure;
 }
 
+QString nobodyRuns() {
+    const QString finding = u"no prompter is running"_s;
+    if (isInASession()) return finding;
+    return finding + u" that can be found: ctl needs the environment of the desktop's session, and "
+                     "neither DISPLAY nor WAYLAND_DISPLAY is set"_s;
+}
+
 } // namespace
 
 int runControl(const ControlRequest& request) {
@@ -29,8 +37,7 @@ int runControl(const ControlRequest& request) {
     const auto outcome = SingleInstance::join(
         *address, [&] { return RemoteCommands::control(request); },
         InstanceClient::Clock::now() + longestWait);
-    if (std::holds_alternative<SingleInstance::IsUs>(outcome))
-        return fail(u"no prompter is running"_s);
+    if (std::holds_alternative<SingleInstance::IsUs>(outcome)) return fail(nobodyRuns());
     if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
         return fail(u"no prompter can be reached: "_s + failure->problem);
     const auto* answer = std::get_if<QJsonObject>(&outcome);

@@ -35,6 +35,10 @@ class WindowTraits;
 /// there is none, in one line.
 std::optional<QString> prepareDisplay();
 
+/// Whether the environment says which session this is, so that the prompter that runs in it can be
+/// found. Needs no application object.
+bool isInASession();
+
 /// Display links of this system. Needs the QApplication, as do the others below.
 std::unique_ptr<DisplayLinkMaker> makeDisplayLinkMaker();
 

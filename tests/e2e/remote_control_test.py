@@ -4,6 +4,7 @@ import json
 import signal
 import socket
 import unittest
+import unittest.mock
 
 from harness import TessalineTestCase, wait_until
 from harness.clipboard import Clipboard
@@ -230,6 +231,15 @@ class NothingRuns(TessalineTestCase):
         self.assertEqual(
             self.call("ctl", "status"), (1, "", "tessaline: no prompter is running\n")
         )
+
+    def test_commands_from_outside_of_the_session_say_what_they_need(self):
+        with unittest.mock.patch.dict(self.desktop.env):
+            for name in ("DISPLAY", "WAYLAND_DISPLAY"):
+                self.desktop.env.pop(name, None)
+            status, _, error = self.call("ctl", "status")
+        self.assertEqual(status, 1)
+        self.assertIn("neither DISPLAY nor WAYLAND_DISPLAY is set", error)
+        self.assertEqual(error.count("\n"), 1)
 
     def test_the_first_run_window_comes_first(self):
         self.write_settings(hasCompletedOnboarding=False)

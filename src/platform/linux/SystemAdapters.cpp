@@ -32,6 +32,11 @@ std::optional<QString> prepareDisplay() {
     return std::nullopt;
 }
 
+bool isInASession() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 std::unique_ptr<DisplayLinkMaker> makeDisplayLinkMaker() {
     return std::make_unique<ClockDisplayLinkMaker>();
 }
