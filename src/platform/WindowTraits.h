@@ -3,6 +3,7 @@
 #include <Qt>
 
 #include <cstdint>
+#include <functional>
 
 namespace tessaline {
 
@@ -21,6 +22,10 @@ public:
     /// Whether translucent parts of a window show what lies below, at this moment. Otherwise the
     /// window has to be cut to its shape.
     virtual bool showsTranslucency() const = 0;
+
+    /// Calls back whenever `showsTranslucency` may answer differently from now on. A later call
+    /// replaces the callback.
+    virtual void onTranslucencyChange(std::function<void()> changed) = 0;
 
     /// Whether `excludeFromCapture` can do its work here.
     virtual bool canExcludeFromCapture() const = 0;

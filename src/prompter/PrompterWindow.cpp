@@ -81,6 +81,9 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
                            frames.add(std::chrono::steady_clock::now());
                            performScroll(deltaY);
                        });
+    ports.windowTraits.onTranslucencyChange([weak = std::weak_ptr<PrompterWindow*>(self)] {
+        if (const auto window = weak.lock()) (*window)->shape();
+    });
 }
 
 PrompterWindow::~PrompterWindow() = default;

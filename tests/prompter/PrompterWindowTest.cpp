@@ -343,6 +343,18 @@ TEST_F(PrompterWindowTest, TakesTheKeyboardWhenItIsBroughtToTheFront) {
     EXPECT_FALSE(traits.keyboardOwner);
 }
 
+TEST_F(PrompterWindowTest, ChangesItsShapeWhenTranslucencyComesOrGoes) {
+    ASSERT_TRUE(window().mask().isEmpty());
+    traits.translucency = false;
+    traits.translucencyChanged();
+    EXPECT_FALSE(window().mask().isEmpty());
+    traits.translucency = true;
+    traits.translucencyChanged();
+    EXPECT_TRUE(window().mask().isEmpty());
+    prompter.reset();
+    traits.translucencyChanged();
+}
+
 TEST_F(PrompterWindowTest, IsCutToItsShapeWhereNothingIsTranslucent) {
     EXPECT_TRUE(window().mask().isEmpty());
     traits.translucency = false;

@@ -2,7 +2,9 @@
 
 #include "platform/WindowTraits.h"
 
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace tessaline {
@@ -12,6 +14,9 @@ class FakeWindowTraits final : public WindowTraits {
 public:
     Qt::WindowFlags creationFlags() const override { return flags; }
     bool showsTranslucency() const override { return translucency; }
+    void onTranslucencyChange(std::function<void()> changed) override {
+        translucencyChanged = std::move(changed);
+    }
     bool canExcludeFromCapture() const override { return canExclude; }
 
     bool excludeFromCapture(NativeWindow window) override {
@@ -28,6 +33,7 @@ public:
 
     Qt::WindowFlags flags = Qt::BypassWindowManagerHint;
     bool translucency = true;
+    std::function<void()> translucencyChanged;
     bool canExclude = true;
     std::vector<NativeWindow> excluded;
     std::vector<NativeWindow> floating;

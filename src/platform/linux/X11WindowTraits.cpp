@@ -1,6 +1,5 @@
 #include "platform/linux/X11WindowTraits.h"
 
-#include "platform/linux/XcbAtom.h"
 #include "platform/linux/XcbReply.h"
 
 #include <QCoreApplication>
@@ -20,7 +19,7 @@ X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
     , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
     , stacking(serverConnection, root)
     , managerTurn(serverConnection, root)
-    , compositorSelection(xcbAtom(serverConnection, "_NET_WM_CM_S0")) {
+    , compositor(serverConnection, root) {
     // Restacking comes as a series of events, which one look at the result answers.
     raiseTimer.setSingleShot(true);
     QObject::connect(&raiseTimer, &QTimer::timeout, &raiseTimer,
@@ -35,10 +34,11 @@ Qt::WindowFlags X11WindowTraits::creationFlags() const {
 }
 
 bool X11WindowTraits::showsTranslucency() const {
-    const auto cookie = xcb_get_selection_owner(connection, compositorSelection);
-    const XcbReply<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(connection, cookie, nullptr));
-    return reply && reply->owner != XCB_NONE;
+    return compositor.isRunning();
+}
+
+void X11WindowTraits::onTranslucencyChange(std::function<void()> changed) {
+    translucencyChanged = std::move(changed);
 }
 
 bool X11WindowTraits::canExcludeFromCapture() const {
@@ -90,6 +90,7 @@ bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
         claimKeyboard();
         claiming = XCB_NONE;
     }
+    if (translucencyChanged && compositor.isChange(message)) translucencyChanged();
     return false;
 }
 

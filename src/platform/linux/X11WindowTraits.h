@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/WindowTraits.h"
+#include "platform/linux/X11Compositor.h"
 #include "platform/linux/X11ManagerTurn.h"
 #include "platform/linux/X11Stacking.h"
 
@@ -8,6 +9,7 @@
 #include <QTimer>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 struct xcb_connection_t;
@@ -32,6 +34,7 @@ public:
     Qt::WindowFlags creationFlags() const override;
     /// True while a compositor runs.
     bool showsTranslucency() const override;
+    void onTranslucencyChange(std::function<void()> changed) override;
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
 
@@ -53,7 +56,8 @@ private:
     XWindow root;
     X11Stacking stacking;
     X11ManagerTurn managerTurn;
-    std::uint32_t compositorSelection; ///< names the running compositor
+    X11Compositor compositor;
+    std::function<void()> translucencyChanged;
     XWindow floating = 0;
     XWindow previousFocus = 0;
     XWindow claiming = 0; ///< takes the keyboard until the window manager has had its turn

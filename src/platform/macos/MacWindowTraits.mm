@@ -22,6 +22,7 @@ public:
     Qt::WindowFlags creationFlags() const override { return {}; }
 
     bool showsTranslucency() const override { return true; }
+    void onTranslucencyChange(std::function<void()> /*changed*/) override {}
 
     bool canExcludeFromCapture() const override { return true; }
 

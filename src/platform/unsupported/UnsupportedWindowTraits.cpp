@@ -19,6 +19,8 @@ bool UnsupportedWindowTraits::showsTranslucency() const {
     return true;
 }
 
+void UnsupportedWindowTraits::onTranslucencyChange(std::function<void()> /*changed*/) {}
+
 bool UnsupportedWindowTraits::canExcludeFromCapture() const {
     return false;
 }

@@ -10,6 +10,7 @@ class UnsupportedWindowTraits final : public WindowTraits {
 public:
     Qt::WindowFlags creationFlags() const override;
     bool showsTranslucency() const override;
+    void onTranslucencyChange(std::function<void()> changed) override;
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
     void floatAboveEverything(NativeWindow window) override;

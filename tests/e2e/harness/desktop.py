@@ -43,7 +43,7 @@ class Desktop:
             session.start_bus(self.start, self.env)
             session.start_window_manager(self.start, self.env, window_manager)
             if compositor:
-                session.start_compositor(self.start, self.env)
+                self.start_compositor()
             if panel:
                 self.start_panel(tray)
         except BaseException:
@@ -64,6 +64,9 @@ class Desktop:
 
     def start_panel(self, tray=None, **options):
         session.start_panel(self.start, self.env, self.size[1], tray, **options)
+
+    def start_compositor(self):
+        session.start_compositor(self.start, self.env)
 
     @property
     def home(self):
