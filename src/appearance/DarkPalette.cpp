@@ -15,7 +15,7 @@ QPalette darkPalette() {
     palette.setColor(QPalette::AlternateBase, SystemPalette::windowBackground);
     palette.setColor(QPalette::ToolTipBase, SystemPalette::button);
     palette.setColor(QPalette::PlaceholderText, SystemPalette::secondaryLabel);
-    palette.setColor(QPalette::Highlight, SystemPalette::blue);
+    palette.setColor(QPalette::Highlight, SystemPalette::selection);
     palette.setColor(QPalette::HighlightedText, SystemPalette::white);
     palette.setColor(QPalette::Link, SystemPalette::blue);
     return palette;

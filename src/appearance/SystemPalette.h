@@ -13,6 +13,9 @@ struct SystemPalette {
     static constexpr QColor red{255, 69, 58};
     static constexpr QColor blue{10, 132, 255};
 
+    /// The ground of white text that is selected: the blue is too bright for it.
+    static constexpr QColor selection{10, 110, 220};
+
     static constexpr QColor white{255, 255, 255};
     static constexpr QColor black{0, 0, 0};
 

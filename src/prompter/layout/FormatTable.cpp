@@ -46,6 +46,11 @@ FormatTable::Entry makeEntry(const TextAttributes& attributes) {
     return entry;
 }
 
+void turnWhite(FormatTable::Entry& entry) {
+    entry.format.setForeground(SystemPalette::white);
+    entry.background = QColor();
+}
+
 } // namespace
 
 QColor resolvedColor(const TextColor& color) {
@@ -87,6 +92,13 @@ void FormatTable::assign(const std::vector<TextAttributes>& styles) {
     entries.reserve(styles.size());
     for (const auto& attributes : styles)
         entries.push_back(makeEntry(attributes));
+}
+
+FormatTable FormatTable::ofSelected() const {
+    FormatTable table = *this;
+    std::ranges::for_each(table.entries, turnWhite);
+    turnWhite(table.plainEntry);
+    return table;
 }
 
 } // namespace tessaline

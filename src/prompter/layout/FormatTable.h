@@ -42,6 +42,10 @@ public:
     /// Replaces the table by one for these sets.
     void assign(const std::vector<TextAttributes>& styles);
 
+    /// The same table for what is selected: everything in white, as colours of its own may be
+    /// faint.
+    FormatTable ofSelected() const;
+
     /// The entry of the set with this index.
     const Entry& operator[](int style) const { return entries[std::size_t(style)]; }
 

@@ -2,6 +2,7 @@
 
 #include <QGlyphRun>
 #include <QPainter>
+#include <QPainterPath>
 #include <QTextOption>
 
 #include <algorithm>
@@ -13,8 +14,6 @@ namespace tessaline {
 namespace {
 
 constexpr double tabStopDistance = 28.0;
-
-constexpr QColor selectionColor(63, 99, 139);
 
 /// However deep the indent, this share of the column is left for the text.
 constexpr double leastTextShare = 0.25;
@@ -148,20 +147,24 @@ void ParagraphLayout::breakLines(const ParagraphStyle& style, bool rightToLeft, 
     wholeHeight = y + style.spacingAfter;
 }
 
-void ParagraphLayout::draw(QPainter& painter, double top, double bottom,
-                           const TextRange& selection) const {
+std::pair<std::size_t, std::size_t> ParagraphLayout::linesBetween(double top, double bottom) const {
     std::size_t first = 0;
     while (first < lines.size() && lines[first].top + lines[first].height < top)
         ++first;
     std::size_t last = first;
     while (last < lines.size() && lines[last].top < bottom)
         ++last;
+    return {first, last};
+}
 
+void ParagraphLayout::draw(QPainter& painter, double top, double bottom) const {
+    const auto [first, last] = linesBetween(top, bottom);
     // All grounds before any text, which may reach into the lines around its own.
     for (std::size_t line = first; line < last; ++line) {
-        fill(painter, int(line), {selection, selectionColor});
-        for (const Ground& ground : grounds)
-            fill(painter, int(line), ground);
+        for (const auto& [range, color] : grounds) {
+            for (const QRectF& place : placesOf(int(line), range))
+                painter.fillRect(place, color);
+        }
     }
     const QTransform unscaled = painter.transform();
     painter.setPen(pen);
@@ -173,18 +176,36 @@ void ParagraphLayout::draw(QPainter& painter, double top, double bottom,
     }
 }
 
-/// Colours what lies behind a range on a line, as high as the line, so that the next one follows
-/// without a gap.
-void ParagraphLayout::fill(QPainter& painter, int line, const Ground& ground) const {
+void ParagraphLayout::drawOver(QPainter& painter, double top, double bottom, const TextRange& range,
+                               const QColor& ground) const {
+    QPainterPath places;
+    places.setFillRule(Qt::WindingFill);
+    const auto [first, last] = linesBetween(top, bottom);
+    for (std::size_t line = first; line < last; ++line) {
+        for (const QRectF& place : placesOf(int(line), range))
+            places.addRect(place);
+    }
+    if (places.isEmpty()) return;
+    painter.save();
+    painter.setClipPath(places, Qt::IntersectClip);
+    painter.fillRect(places.boundingRect(), ground);
+    draw(painter, top, bottom);
+    painter.restore();
+}
+
+/// Where a range is on a line, as high as the line, so that the next one follows without a gap.
+std::vector<QRectF> ParagraphLayout::placesOf(int line, const TextRange& wanted) const {
     const QTextLine textLine = text->lineAt(line);
     const int begin = textLine.textStart();
-    const TextRange range = ground.range.intersected({begin, begin + textLine.textLength()});
-    if (range.isEmpty()) return;
+    const TextRange range = wanted.intersected({begin, begin + textLine.textLength()});
+    if (range.isEmpty()) return {};
     const auto& [top, height] = lines[std::size_t(line)];
+    std::vector<QRectF> places;
     for (const auto& [from, to] : stretches(*text, textLine, range)) {
         const double left = std::floor(from * scale);
-        painter.fillRect(QRectF(left, top, std::ceil(to * scale) - left, height), ground.color);
+        places.emplace_back(left, top, std::ceil(to * scale) - left, height);
     }
+    return places;
 }
 
 qsizetype ParagraphLayout::positionAt(const QPointF& point) const {

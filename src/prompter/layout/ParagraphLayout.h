@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QPainter;
@@ -31,8 +32,12 @@ public:
     /// With the spacing before and after.
     double height() const { return wholeHeight; }
 
-    /// Draws the lines that reach between two heights, what is selected of them highlighted.
-    void draw(QPainter& painter, double top, double bottom, const TextRange& selection) const;
+    /// Draws the lines that reach between two heights.
+    void draw(QPainter& painter, double top, double bottom) const;
+
+    /// Draws what a range holds of them on a ground that hides what was drawn there before.
+    void drawOver(QPainter& painter, double top, double bottom, const TextRange& range,
+                  const QColor& ground) const;
 
     /// The position nearest to a point.
     qsizetype positionAt(const QPointF& point) const;
@@ -55,7 +60,8 @@ private:
     void setFormats(const Script& script, const Script::Paragraph& paragraph,
                     const FormatTable& formats);
     void breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth);
-    void fill(QPainter& painter, int line, const Ground& ground) const;
+    std::pair<std::size_t, std::size_t> linesBetween(double top, double bottom) const;
+    std::vector<QRectF> placesOf(int line, const TextRange& range) const;
 
     std::unique_ptr<QTextLayout> text;
     std::vector<Line> lines;

@@ -1,5 +1,6 @@
 #include "prompter/layout/ScriptLayout.h"
 
+#include <QColor>
 #include <QPainter>
 
 #include <algorithm>
@@ -11,6 +12,8 @@ namespace {
 
 /// How many paragraphs around what was drawn last stay laid out.
 constexpr std::size_t keptLayouts = 48;
+
+constexpr QColor selectionColor(63, 99, 139);
 
 } // namespace
 
@@ -127,8 +130,13 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
         const Script::Paragraph& paragraph = currentScript.paragraphs[index];
         // Lines are placed in fixed point, which does not reach the end of very long documents.
         painter.translate(0, y);
-        layout.draw(painter, top - y, bottom - y,
-                    {selection.begin - paragraph.start, selection.end - paragraph.start});
+        layout.draw(painter, top - y, bottom - y);
+        const TextRange selected{selection.begin - paragraph.start,
+                                 selection.end - paragraph.start};
+        if (!selected.intersected({0, paragraph.length}).isEmpty()) {
+            ParagraphLayout(currentScript, index, formats.ofSelected(), columnWidth)
+                .drawOver(painter, top - y, bottom - y, selected, selectionColor);
+        }
         painter.translate(0, -y);
         y += layout.height();
     }

@@ -1,6 +1,7 @@
 #include "prompter/layout/ScriptLayout.h"
 
 #include "render/MarkdownRenderer.h"
+#include "support/Contrast.h"
 
 #include <QImage>
 #include <QPainter>
@@ -37,11 +38,11 @@ double lineHeight() {
 }
 
 /// All of a script over black, 400 points wide.
-QImage pictureOf(ScriptLayout& layout) {
+QImage pictureOf(ScriptLayout& layout, const TextRange& selection = {}) {
     QImage image(400, int(layout.height()), QImage::Format_RGB32);
     image.fill(Qt::black);
     QPainter painter(&image);
-    layout.draw(painter, 0, layout.height(), {});
+    layout.draw(painter, 0, layout.height(), selection);
     painter.end();
     return image;
 }
@@ -282,6 +283,25 @@ TEST(ScriptLayout, HighlightsTheSelection) {
     layout.draw(selectedPainter, 0, 30, {0, 4});
     EXPECT_NE(plain, selected);
     EXPECT_GT(qBlue(selected.pixel(1, 2)), 80);
+}
+
+TEST(ScriptLayout, SelectedTextIsLegibleInEveryStyle) {
+    for (const QString& markdown :
+         {u"█ █"_s, u"# █ █"_s, u"~~█ █~~"_s, u"`█ █`"_s, u"> █ █"_s, u"- █ █"_s, u"- [x] █ █"_s,
+          u"**█ █**"_s, u"```\n█ █\n```"_s, u"[█ █](https://example.org)"_s}) {
+        ScriptLayout layout = layoutOf(markdown);
+        const qsizetype start = layout.script().styled.text.indexOf(u'█');
+        ASSERT_GE(start, 0) << markdown.toStdString();
+        const QImage picture = pictureOf(layout, {0, everything});
+        const auto colorBetween = [&](qsizetype offset) {
+            const QRectF caret = layout.caretRect(offset);
+            const double x = (caret.left() + layout.caretRect(offset + 1).left()) / 2;
+            const double aboveTheStrike = caret.top() + 0.3 * caret.height();
+            return picture.pixelColor(int(x), int(aboveTheStrike));
+        };
+        EXPECT_GE(contrast(colorBetween(start + 1), colorBetween(start)), 4.5)
+            << markdown.toStdString();
+    }
 }
 
 TEST(ScriptLayout, ForgetsMeasuresWhenTheColumnChanges) {
