@@ -213,7 +213,11 @@ TEST_F(ConfigWindowTest, EveryControlHasARoleAndANameForScreenReaders) {
             Pair(QAccessible::Slider, u"Height"_s), Pair(QAccessible::Slider, u"Font Size"_s),
             Pair(QAccessible::Slider, u"Position"_s),
             Pair(QAccessible::ComboBox, u"Scroll Speed"_s),
-            Pair(QAccessible::Button, u"Grant Accessibility access"_s)));
+            Pair(QAccessible::Button, u"Grant Access for Accessibility"_s)));
+}
+
+TEST_F(ConfigWindowTest, EveryButtonsNameHoldsItsText) {
+    EXPECT_THAT(buttonsNamedUnlikeTheirText(shown()), IsEmpty());
 }
 
 TEST_F(ConfigWindowTest, ShowsThatThePermissionIsMissing) {

@@ -139,6 +139,10 @@ TEST_F(OnboardingWindowTest, EveryControlHasARoleAndANameForScreenReaders) {
                                      Pair(QAccessible::Button, u"Get Started"_s)));
 }
 
+TEST_F(OnboardingWindowTest, EveryButtonsNameHoldsItsText) {
+    EXPECT_THAT(buttonsNamedUnlikeTheirText(shown()), IsEmpty());
+}
+
 TEST_F(OnboardingWindowTest, OffersTheClipboardForGoodAndNoAppleNotes) {
     window();
     EXPECT_EQ(row("clipboardToggleView").statusLabel->text(), u"Default — paste any text"_s);

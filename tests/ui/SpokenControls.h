@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QScrollBar>
 #include <QWidget>
@@ -25,6 +26,19 @@ inline std::vector<SpokenControl> spokenControls(const QWidget& window) {
         controls.emplace_back(spoken->role(), named->text(QAccessible::Name));
     }
     return controls;
+}
+
+/// The buttons whose name for screen readers lacks the text that is seen on them, which who speaks
+/// to the computer says.
+inline std::vector<SpokenControl> buttonsNamedUnlikeTheirText(const QWidget& window) {
+    std::vector<SpokenControl> buttons;
+    for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(button);
+        const QString name = spoken->text(QAccessible::Name);
+        const bool inWholeWords = (name + u' ').contains(button->text() + u' ');
+        if (!inWholeWords) buttons.emplace_back(spoken->role(), name);
+    }
+    return buttons;
 }
 
 } // namespace tessaline

@@ -24,7 +24,7 @@ AccessibilityRow::AccessibilityRow(QWidget* parent)
     accessibilityDot->setObjectName(u"accessibilityDot"_s);
     accessibilityLabel->setObjectName(u"accessibilityLabel"_s);
     accessibilityFixButton->setObjectName(u"accessibilityFixButton"_s);
-    accessibilityFixButton->setAccessibleName(u"Grant Accessibility access"_s);
+    accessibilityFixButton->setAccessibleName(u"Grant Access for Accessibility"_s);
     alternativeLabel->setObjectName(u"accessibilityAlternative"_s);
     auto* row = new QHBoxLayout;
     row->setSpacing(6);
