@@ -11,8 +11,9 @@ namespace tessaline {
 namespace {
 
 RenderedContent rendered(const QString& markdown, double fontSize) {
-    return {Script(MarkdownRenderer(fontSize).render(markdown)),
-            MarkdownRenderer::wordCount(markdown)};
+    // Counting takes a copy of the text, which is gone before rendering takes as much.
+    const qsizetype wordCount = MarkdownRenderer::wordCount(markdown);
+    return {Script(MarkdownRenderer(fontSize).render(markdown)), wordCount};
 }
 
 } // namespace

@@ -4,16 +4,21 @@
 
 #include <QString>
 
+#include <limits>
 #include <vector>
 
 namespace tessaline {
 
 /// A text with attributes: a plain value that knows no fonts, colours or views of the platform.
 struct StyledText {
-    /// A stretch of text with the same attributes; offsets in UTF-16 units.
+    /// A text has no more UTF-16 units than this.
+    static constexpr qsizetype longest = std::numeric_limits<int>::max();
+
+    /// A stretch of text with the same attributes; offsets in UTF-16 units. Small, as a long text
+    /// has millions of them.
     struct Run {
-        qsizetype start = 0;
-        qsizetype length = 0;
+        int start = 0;
+        int length = 0;
         int style = 0; ///< index into `styles`
 
         bool operator==(const Run&) const = default;

@@ -43,10 +43,10 @@ int StyledTextBuilder::styleIndex(const TextAttributes& attributes) {
 }
 
 void StyledTextBuilder::append(QStringView text, int style) {
-    if (text.isEmpty()) return;
+    if (text.isEmpty() || text.size() > StyledText::longest - result.text.size()) return;
     if (result.runs.empty() || result.runs.back().style != style)
-        result.runs.push_back({result.text.size(), 0, style});
-    result.runs.back().length += text.size();
+        result.runs.push_back({int(result.text.size()), 0, style});
+    result.runs.back().length += int(text.size());
     result.text.append(text);
 }
 

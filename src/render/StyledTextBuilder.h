@@ -18,7 +18,8 @@ public:
     /// The index of these attributes, for `append`.
     int styleIndex(const TextAttributes& attributes);
 
-    /// Adds text with the attributes of an index from `styleIndex`.
+    /// Adds text with the attributes of an index from `styleIndex`. What makes the whole longer
+    /// than a text may be is left out.
     void append(QStringView text, int style);
 
     /// Hands the text over; the builder is spent afterwards.

@@ -94,9 +94,8 @@ void ObsidianSource::loadInitially() {
 void ObsidianSource::checkForUpdates() {
     // With no read under way `lastContent` is up to date, and slow reads do not pile up.
     if (!watch->callback || watch->readsInFlight > 0) return;
-    auto read = [path = path, previous = watch->lastContent]() -> std::optional<QString> {
-        auto text = readContent(path);
-        return text == previous ? std::nullopt : std::move(text);
+    auto read = [path = path, previous = watch->lastContent] {
+        return readChangedContentFile(path, previous);
     };
     readInBackground(std::move(read), watch->callback);
 }

@@ -93,8 +93,11 @@ void SourceManager::updateAppleNotesConfig(const std::optional<AppleNotesConfigu
 }
 
 void SourceManager::handleContentUpdate(const QString& text) {
+    // A pasted text comes twice, and may be a long one.
+    const bool isCounted = text.constData() == content.constData() && text.size() == content.size();
+    if (!isCounted) wordCount = MarkdownRenderer::wordCount(text);
     content = text;
-    recorder.trackContentLoaded(settings.activeSourceType, MarkdownRenderer::wordCount(text));
+    recorder.trackContentLoaded(settings.activeSourceType, wordCount);
     notifications.post({contentDidUpdateNotification(), this, {{u"content"_s, text}}});
     if (onContentUpdate) onContentUpdate(text);
 }

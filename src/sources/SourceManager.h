@@ -73,6 +73,9 @@ public:
     /// The last text handed on.
     QString currentContent() const { return content; }
 
+    /// How many words it has.
+    qsizetype currentWordCount() const { return wordCount; }
+
     /// Called with every text handed on.
     std::function<void(const QString& text)> onContentUpdate;
 
@@ -87,6 +90,7 @@ private:
     ClipboardSource* clipboard; ///< one of `sources`
     ContentSource* active = nullptr;
     QString content;
+    qsizetype wordCount = 0;              ///< of `content`
     std::shared_ptr<SourceManager*> self; ///< what callbacks hold weakly
 };
 

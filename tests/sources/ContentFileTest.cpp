@@ -130,6 +130,26 @@ TEST_F(ContentFileTest, FollowsALink) {
     EXPECT_EQ(std::get<QString>(read()), u"linked"_s);
 }
 
+TEST_F(ContentFileTest, IsReadAgainOnlyWhenItChanged) {
+    const QString known = u"é € 👋\n"_s;
+    putFile(path, known.toUtf8());
+    EXPECT_EQ(readChangedContentFile(path, known), std::nullopt);
+    putFile(path, "\xEF\xBB\xBF" + known.toUtf8());
+    EXPECT_EQ(readChangedContentFile(path, known), std::nullopt);
+    for (const QString& other : {u"é € 👌\n"_s, u"é € 👋"_s, u"é € 👋\n\n"_s, u""_s}) {
+        putFile(path, "\xEF\xBB\xBF" + other.toUtf8());
+        EXPECT_EQ(readChangedContentFile(path, known), other);
+    }
+}
+
+TEST_F(ContentFileTest, DidNotChangeIntoWhatCannotBeRead) {
+    putFile(path, "\xFF");
+    EXPECT_EQ(readChangedContentFile(path, u"a"_s), std::nullopt);
+    EXPECT_EQ(readChangedContentFile(path, u"\uFFFD"_s), std::nullopt);
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(readChangedContentFile(path, u"a"_s), std::nullopt);
+}
+
 TEST_F(ContentFileTest, DropsOrKeepsAByteOrderMark) {
     putFile(path, "\xEF\xBB\xBFtext");
     EXPECT_EQ(std::get<QString>(read(ByteOrderMark::drop)), u"text"_s);

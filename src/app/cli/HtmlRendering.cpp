@@ -72,10 +72,10 @@ private:
     void appendRuns(QByteArray& out, const Script::Paragraph& paragraph) const {
         const QStringView text(script.styled.text);
         const auto& runs = script.styled.runs;
-        const qsizetype end = paragraph.start + paragraph.length;
-        qsizetype from = paragraph.start;
+        const int end = paragraph.start + paragraph.length;
+        int from = paragraph.start;
         for (auto run = runs.begin() + paragraph.firstRun; from < end; ++run) {
-            const qsizetype to = std::min(run->start + run->length, end);
+            const int to = std::min(run->start + run->length, end);
             appendRun(out, run->style, htmlText(text.sliced(from, to - from)));
             from = to;
         }

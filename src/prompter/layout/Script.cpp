@@ -22,7 +22,7 @@ StyledText withoutCarriageReturns(StyledText styled) {
         for (const QChar c : QStringView(styled.text).sliced(run.start, run.length)) {
             if (c != u'\r') text += c;
         }
-        if (text.size() > start) runs.push_back({start, text.size() - start, run.style});
+        if (text.size() > start) runs.push_back({int(start), int(text.size() - start), run.style});
     }
     return {std::move(text), std::move(runs), std::move(styled.styles)};
 }
@@ -33,6 +33,7 @@ Script::Script() : paragraphs(1) {}
 
 Script::Script(StyledText styledText) : styled(withoutCarriageReturns(std::move(styledText))) {
     const QStringView text(styled.text);
+    paragraphs.reserve(std::size_t(text.count(u'\n')) + 1);
     qsizetype run = 0;
     qsizetype start = 0;
     for (qsizetype newline = text.indexOf(u'\n'); newline >= 0;
@@ -50,7 +51,7 @@ void Script::appendLine(qsizetype start, qsizetype end, qsizetype& run) {
         const qsizetype piece = pieceEnd(start, end);
         while (run + 1 < runCount && styled.runs[std::size_t(run) + 1].start <= start)
             ++run;
-        paragraphs.push_back({start, piece - start, run, continues, piece < end});
+        paragraphs.push_back({int(start), int(piece - start), int(run), continues, piece < end});
         continues = true;
         start = piece;
     } while (start < end);

@@ -13,9 +13,9 @@ struct Script {
     /// A line of the text without its newline, or a piece of a very long line. Offsets in UTF-16
     /// units.
     struct Paragraph {
-        qsizetype start = 0;
-        qsizetype length = 0;
-        qsizetype firstRun = 0;         ///< the run that `start` lies in, if that is not the end
+        int start = 0;
+        int length = 0;
+        int firstRun = 0;               ///< the run that `start` lies in, if that is not the end
         bool continuesPrevious = false; ///< belongs to the same line as the paragraph before
         bool continuesInNext = false;   ///< belongs to the same line as the paragraph behind
     };

@@ -136,8 +136,8 @@ QString ScriptViewAccessible::attributes(int offset, int* startOffset, int* endO
         [](qsizetype value, const StyledText::Run& run) { return value < run.start; });
     if (behind == styled.runs.begin()) return {};
     const StyledText::Run& run = *(behind - 1);
-    *startOffset = int(run.start);
-    *endOffset = int(run.start + run.length);
+    *startOffset = run.start;
+    *endOffset = run.start + run.length;
     return describe(styled.attributes(run));
 }
 
