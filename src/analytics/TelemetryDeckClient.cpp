@@ -8,12 +8,8 @@
 #include "platform/TimerMaker.h"
 #include "platform/UserDefaults.h"
 
-#include <QByteArray>
 #include <QCryptographicHash>
 #include <QEventLoop>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QTimer>
 #include <QUuid>
 
@@ -27,7 +23,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr TimerMaker::Interval flushInterval{10.0};
-constexpr qint64 longestAnswer = 64 << 10; ///< in bytes; what follows is not heard
 
 QString newIdentifier() {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
@@ -52,12 +47,7 @@ TelemetryDeckClient::TelemetryDeckClient(Ports clientPorts, TelemetryOptions cli
     if (options.isAllowed) flushTimer = ports.timers.every(flushInterval, [this] { flush(); });
 }
 
-TelemetryDeckClient::~TelemetryDeckClient() {
-    if (!reply) return;
-    reply->disconnect(&replyContext);
-    reply->abort();
-    reply->deleteLater();
-}
+TelemetryDeckClient::~TelemetryDeckClient() = default;
 
 void TelemetryDeckClient::setAppID(const QString& id) {
     const std::scoped_lock guard(bufferLock);
@@ -84,20 +74,15 @@ void TelemetryDeckClient::signal(const QString& name, const Parameters& paramete
 }
 
 void TelemetryDeckClient::flush() {
-    if (reply) {
+    if (underWay.empty()) {
+        sendCollected();
+    } else {
         flushAgain = true;
-        return;
     }
-    Batch batch;
-    {
-        const std::scoped_lock guard(bufferLock);
-        batch.swap(buffer);
-    }
-    if (!batch.empty()) send(std::move(batch));
 }
 
 void TelemetryDeckClient::appWillTerminate() {
-    flush();
+    sendCollected();
 }
 
 bool TelemetryDeckClient::waitForRequests(std::chrono::milliseconds longest) {
@@ -107,9 +92,9 @@ bool TelemetryDeckClient::waitForRequests(std::chrono::milliseconds longest) {
     timer.setSingleShot(true);
     timer.callOnTimeout([&isOver] { isOver = true; });
     timer.start(longest);
-    while (reply && !isOver)
+    while (!underWay.empty() && !isOver)
         loop.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
-    return !reply;
+    return underWay.empty();
 }
 
 TelemetryDeckClient::Parameters TelemetryDeckClient::defaultPayload() const {
@@ -146,50 +131,42 @@ QString TelemetryDeckClient::userIdentifier() {
     return created;
 }
 
-QNetworkRequest TelemetryDeckClient::request() const {
-    QNetworkRequest request(options.baseURL);
-    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
-    request.setTransferTimeout(static_cast<int>(options.timeout.count()));
-    // A redirected POST would arrive elsewhere, as a GET without its signals.
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    // Nothing that the service says is remembered, least of all who it thinks we are.
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    return request;
+void TelemetryDeckClient::sendCollected() {
+    Batch batch;
+    {
+        const std::scoped_lock guard(bufferLock);
+        batch.swap(buffer);
+    }
+    if (!batch.empty()) send(std::move(batch));
 }
 
-void TelemetryDeckClient::send(Batch signalsToSend) {
-    inFlight = std::move(signalsToSend);
+void TelemetryDeckClient::send(Batch batch) {
     QByteArray body = "[";
-    for (const QByteArray& encoded : inFlight)
+    for (const QByteArray& encoded : batch)
         body += encoded + ',';
     body.back() = ']';
-    reply = ports.network.post(request(), body);
-    QObject::connect(reply, &QNetworkReply::finished, &replyContext, [this] { requestFinished(); });
-    // Only the answer's status matters: its text is not to fill the memory, nor to go on for ever.
-    QObject::connect(reply, &QNetworkReply::readyRead, &replyContext,
-                     [incoming = reply, left = longestAnswer]() mutable {
-                         left -= incoming->skip(incoming->bytesAvailable());
-                         if (left < 0) incoming->abort();
-                     });
+    const auto sending = underWay.insert(underWay.end(), Sending{std::move(batch), {}, {}});
+    sending->limit = ports.timers.every(options.timeout, [this, sending] {
+        finish(sending, {.status = 0, .problem = u"The server did not answer in time"_s});
+    });
+    sending->post =
+        ports.http.post(options.baseURL, body, [this, sending](const HttpPoster::Answer& answer) {
+            finish(sending, answer);
+        });
 }
 
-void TelemetryDeckClient::requestFinished() {
-    QNetworkReply* const finished = std::exchange(reply, nullptr);
-    finished->deleteLater();
-    Batch batch = std::exchange(inFlight, {});
-    // With a status the service has judged the batch, whatever became of the rest of its answer:
+void TelemetryDeckClient::finish(Sendings::iterator sending, const HttpPoster::Answer& answer) {
+    Sending over = std::move(*sending);
+    underWay.erase(sending);
+    // With a status the service has judged the batch, whatever becomes of the rest of its answer:
     // sending the batch again would count it twice.
-    const int status = finished->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (status == 0) {
-        putBack(std::move(batch));
-        qCWarning(telemetryLog, "[TelemetryDeck] Send failed: %s",
-                  qUtf8Printable(finished->errorString()));
-    } else if (status < 200 || status > 299) {
-        qCWarning(telemetryLog, "[TelemetryDeck] Server returned %d", status);
+    if (answer.status == 0) {
+        putBack(std::move(over.batch));
+        qCWarning(telemetryLog, "[TelemetryDeck] Send failed: %s", qUtf8Printable(answer.problem));
+    } else if (answer.status < 200 || answer.status > 299) {
+        qCWarning(telemetryLog, "[TelemetryDeck] Server returned %d", answer.status);
     }
-    if (std::exchange(flushAgain, false)) flush();
+    if (underWay.empty() && std::exchange(flushAgain, false)) sendCollected();
 }
 
 void TelemetryDeckClient::putBack(Batch unsent) {

@@ -2,22 +2,19 @@
 
 #include "analytics/SystemDescription.h"
 #include "analytics/TelemetryOptions.h"
+#include "platform/HttpPoster.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QMap>
-#include <QObject>
 #include <QString>
 
 #include <chrono>
 #include <functional>
+#include <list>
 #include <memory>
 #include <mutex>
 #include <vector>
-
-class QByteArray;
-class QNetworkAccessManager;
-class QNetworkReply;
-class QNetworkRequest;
 
 namespace tessaline {
 
@@ -28,8 +25,9 @@ class UserDefaults;
 
 /// Sends usage signals to the telemetry service: collects them in memory and posts a batch every 10
 /// seconds. One batch is under way at a time, so that signals arrive in order. A batch that no
-/// answer came to is sent again, ahead of newer signals; one that the service refuses is dropped,
-/// and so is one that it wants to have sent elsewhere. Main thread, except for `signal`.
+/// answer came to in a minute is sent again, ahead of newer signals; one that the service refuses
+/// is dropped, and so is one that it wants to have sent elsewhere. Main thread, except for
+/// `signal`.
 class TelemetryDeckClient {
 public:
     using Parameters = QMap<QString, QString>;
@@ -37,7 +35,7 @@ public:
     /// Everything it needs. References are borrowed.
     struct Ports {
         TimerMaker& timers;
-        QNetworkAccessManager& network;
+        HttpPoster& http;
         UserDefaults& defaults;
         const BundleInformation& bundle;
         /// The time, asked for from any thread.
@@ -64,7 +62,8 @@ public:
     /// Starts to send what was collected. With a batch under way this happens right after that one.
     void flush();
 
-    /// To be called when the program ends: starts the last flush.
+    /// To be called when the program ends: sends what was collected, whether or not a batch is
+    /// still under way.
     void appWillTerminate();
 
     /// Runs an event loop, without user input, until no request is under way any more, at most for
@@ -75,12 +74,19 @@ public:
 private:
     using Batch = std::vector<QByteArray>; ///< encoded signals
 
+    struct Sending {
+        Batch batch;
+        std::unique_ptr<HttpPoster::Post> post;
+        std::unique_ptr<RepeatingTimer> limit;
+    };
+    using Sendings = std::list<Sending>;
+
     Parameters defaultPayload() const;
     QString clientUser();
     QString userIdentifier();
-    QNetworkRequest request() const;
-    void send(Batch signalsToSend);
-    void requestFinished();
+    void sendCollected();
+    void send(Batch batch);
+    void finish(Sendings::iterator sending, const HttpPoster::Answer& answer);
     void putBack(Batch unsent);
 
     const Ports ports;
@@ -95,10 +101,8 @@ private:
     QString appID;
     Batch buffer;
 
-    Batch inFlight;
-    QNetworkReply* reply = nullptr; ///< of the batch in flight; owned by the network
+    Sendings underWay; ///< more than one only when the program ends
     bool flushAgain = false;
-    QObject replyContext; ///< ends with the client: a late answer then finds nobody
     std::unique_ptr<RepeatingTimer> flushTimer;
 };
 

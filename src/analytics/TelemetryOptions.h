@@ -19,7 +19,7 @@ struct TelemetryOptions {
     QUrl baseURL = defaultBaseURL();
     bool isAllowed = true;
     bool testMode = false;                     ///< marks signals as test signals
-    std::chrono::milliseconds timeout{60'000}; ///< how long a request may make no progress
+    std::chrono::milliseconds timeout{60'000}; ///< how long a batch may wait for its answer
 };
 
 } // namespace tessaline

@@ -27,6 +27,7 @@
 #include "platform/SystemAdapters.h"
 #include "platform/ThreadTaskRunner.h"
 #include "platform/WindowTraits.h"
+#include "platform/qt/QtHttpPoster.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtProcessRunner.h"
 #include "platform/qt/QtScreens.h"
@@ -42,7 +43,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLoggingCategory>
-#include <QNetworkAccessManager>
 #include <QSessionManager>
 #include <QWidget>
 
@@ -72,7 +72,7 @@ struct Machine {
     ThreadTaskRunner queryTasks; ///< what is asked of other applications
     ThreadTaskRunner pasteTasks;
     ThreadTaskRunner historyTasks;
-    QNetworkAccessManager network;
+    QtHttpPoster http;
     std::unique_ptr<BundleInformation> bundle = makeBundleInformation();
     std::unique_ptr<Pasteboard> pasteboard = makePasteboard(mainQueue, pasteTasks);
     std::unique_ptr<DisplayLinkMaker> displayLinks = makeDisplayLinkMaker();
@@ -95,7 +95,7 @@ struct Machine {
 
     SharedInstance<TelemetryDeckClient> telemetry{[this] {
         return std::make_unique<TelemetryDeckClient>(
-            TelemetryDeckClient::Ports{timers, network, defaults, *bundle});
+            TelemetryDeckClient::Ports{timers, http, defaults, *bundle});
     }};
     SharedInstance<Analytics> analytics{[this] {
         TelemetryDeckClient& client = TelemetryDeckClient::shared();
@@ -210,7 +210,11 @@ int runPrompter(const PrompterStart& start) {
     comeBackWithTheSession(application);
     bool isRecorded = false;
     const auto recordTheEnd = [&delegate, &isRecorded] {
-        if (!std::exchange(isRecorded, true)) delegate.applicationWillTerminate();
+        if (std::exchange(isRecorded, true)) return;
+        // The history may lie on a drive that does not answer.
+        constexpr std::chrono::seconds longestEnd{3};
+        setExitDeadline(longestEnd, ExitStatus::failure);
+        delegate.applicationWillTerminate();
     };
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, recordTheEnd);
     delegate.applicationDidFinishLaunching();

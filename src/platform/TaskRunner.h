@@ -10,7 +10,7 @@ public:
     virtual ~TaskRunner() = default;
 
     /// Starts a task in the background and returns at once. Tasks run one after another, in order.
-    /// Any thread.
+    /// A task may run before this returns where the system has no thread for it. Any thread.
     virtual void run(std::function<void()> task) = 0;
 };
 

@@ -2,7 +2,7 @@
 
 #include "analytics/AnalyticsStage.h"
 #include "analytics/TelemetryStage.h"
-#include "support/FakeNetwork.h"
+#include "support/FakeHttpPoster.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ TEST(SharedInstanceDeathTest, EndsTheProgramOutsideOfTheApplicationsRun) {
 
 TEST(SharedInstanceTest, SendsWhatTheSharedRecorderRecords) {
     TelemetryStage telemetryStage;
-    FakeNetwork network;
+    FakeHttpPoster network;
     AnalyticsStage stage;
     const SharedInstance<TelemetryDeckClient> client(
         [&] { return telemetryStage.makeClient(network); });

@@ -1,7 +1,7 @@
 #include "analytics/TelemetryDeckClient.h"
 
 #include "analytics/TelemetryStage.h"
-#include "support/FakeNetwork.h"
+#include "support/FakeHttpPoster.h"
 #include "support/PrintQt.h"
 #include "support/RecordedLog.h"
 
@@ -32,23 +32,17 @@ protected:
     }
 
     TelemetryStage stage;
-    FakeNetwork network;
+    FakeHttpPoster network;
 };
 
-TEST_F(TelemetryDeckClientTest, PostsJsonToTheAddressWithoutFollowingRedirects) {
+TEST_F(TelemetryDeckClientTest, PostsToTheAddress) {
     TelemetryOptions options;
     options.baseURL = QUrl(u"http://localhost/v2/"_s);
     const auto client = stage.makeClient(network, options);
     client->signal(u"a"_s, {});
     client->flush();
     ASSERT_EQ(network.requests.size(), 1U);
-    EXPECT_EQ(network.requests[0].operation, QNetworkAccessManager::PostOperation);
-    const QNetworkRequest& request = network.requests[0].request;
-    EXPECT_EQ(request.url(), options.baseURL);
-    EXPECT_EQ(request.header(QNetworkRequest::ContentTypeHeader), u"application/json"_s);
-    EXPECT_EQ(request.transferTimeout(), 60'000);
-    EXPECT_EQ(request.attribute(QNetworkRequest::RedirectPolicyAttribute),
-              QNetworkRequest::ManualRedirectPolicy);
+    EXPECT_EQ(network.requests[0].address, options.baseURL);
 }
 
 TEST_F(TelemetryDeckClientTest, SendsExactlyTheseBytes) {
@@ -279,6 +273,40 @@ TEST_F(TelemetryDeckClientTest, KeepsTheOrderWhenABatchFailsWithAFlushWaiting) {
     ASSERT_EQ(network.requests.size(), 2U);
     EXPECT_EQ(typesOfRequest(1), (QStringList{u"a"_s, u"b"_s}));
     network.fail();
+    EXPECT_EQ(network.requests.size(), 2U);
+}
+
+TEST_F(TelemetryDeckClientTest, GivesABatchAMinuteForItsAnswer) {
+    const RecordedLog log;
+    const auto client = stage.makeClient(network);
+    client->signal(u"a"_s, {});
+    client->flush();
+    client->signal(u"b"_s, {});
+    stage.timers.advance(59.9);
+    EXPECT_EQ(network.requests.size(), 1U);
+    EXPECT_EQ(network.pending(), 1U);
+    stage.timers.advance(0.1);
+    EXPECT_EQ(log.entries(), logged(u"Send failed: The server did not answer in time"_s));
+    ASSERT_EQ(network.requests.size(), 2U);
+    EXPECT_EQ(typesOfRequest(1), (QStringList{u"a"_s, u"b"_s}));
+    EXPECT_EQ(network.pending(), 1U) << "the first one was given up";
+    network.answer(200);
+    stage.timers.advance(120);
+    EXPECT_EQ(network.requests.size(), 2U);
+}
+
+TEST_F(TelemetryDeckClientTest, SendsWhatIsLeftAtTerminationWhateverIsUnderWay) {
+    const auto client = stage.makeClient(network);
+    client->signal(u"a"_s, {});
+    client->flush();
+    client->signal(u"app_terminate"_s, {});
+    client->appWillTerminate();
+    ASSERT_EQ(network.requests.size(), 2U);
+    EXPECT_EQ(typesOfRequest(1), QStringList{u"app_terminate"_s});
+    network.answer(200);
+    EXPECT_FALSE(client->waitForRequests(std::chrono::milliseconds(1)));
+    network.answer(200);
+    EXPECT_TRUE(client->waitForRequests(std::chrono::milliseconds(1)));
     EXPECT_EQ(network.requests.size(), 2U);
 }
 

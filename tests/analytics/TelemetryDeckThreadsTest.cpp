@@ -1,5 +1,5 @@
 #include "analytics/TelemetryStage.h"
-#include "support/FakeNetwork.h"
+#include "support/FakeHttpPoster.h"
 #include "support/PrintQt.h"
 
 #include <QLoggingCategory>
@@ -19,7 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 /// A network that loses two batches of three, and keeps what is in those that arrive.
 class LossyNetwork {
 public:
-    FakeNetwork network;
+    FakeHttpPoster network;
     QStringList arrived;
 
     void answerAll() {

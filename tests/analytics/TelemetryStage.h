@@ -24,11 +24,11 @@ inline QStringList typesIn(const QByteArray& batch) {
 
 /// A client in surroundings that the test commands.
 struct TelemetryStage {
-    std::unique_ptr<TelemetryDeckClient> makeClient(QNetworkAccessManager& network,
+    std::unique_ptr<TelemetryDeckClient> makeClient(HttpPoster& http,
                                                     const TelemetryOptions& options = {}) {
         return std::make_unique<TelemetryDeckClient>(
             TelemetryDeckClient::Ports{.timers = timers,
-                                       .network = network,
+                                       .http = http,
                                        .defaults = defaults,
                                        .bundle = bundle,
                                        .now = [this] { return now; },

@@ -98,6 +98,12 @@ class Telemetry(TessalineTestCase):
         self.assertEqual(first.wait(), 0)
         self.assertTrue(self.prompter.running)
 
+    def test_the_last_events_leave_although_an_earlier_batch_has_no_answer(self):
+        self.start_sending_to(self.start_server(status=None))
+        self.wait_for_batch()
+        self.assert_stops_in_time()
+        self.assertEqual(self.server.names(), self.event_names())
+
     def test_nothing_leaves_with_do_not_track(self):
         self.start_sending_to(self.start_server(), DO_NOT_TRACK="1")
         self.assert_stops_in_time()

@@ -1,9 +1,12 @@
 // Preloaded into a process, makes one of its calls that touch files below a folder fail. Set by the
 // environment:
-//   FAULT_FOLDER  the folder
-//   FAULT_CALL    open, read, write, fsync, rename, close, mkdir or unlink (which means rmdir too)
+//   FAULT_FOLDER  the folder, or how the paths of the files begin
+//   FAULT_CALL    open, read, write, fsync, rename, close, mkdir or unlink (which means rmdir too);
+//                 or thread: the start of one by the standard library
 //   FAULT_NUMBER  which of these calls fails, counted from 1 once the process has called armFaults
-//   FAULT_KIND    an error number; "short" for a read or write of half of the bytes; or "full" for
+//   FAULT_ARMED   1: counting begins with the process
+//   FAULT_KIND    an error number; "hang" for a call that does not return; "short" for a read or
+//   write of half of the bytes; or "full" for
 //   a
 //                 write of half of the bytes on a disk that is full then
 //   FAULT_LASTS   1: all later calls of the kind fail as well
@@ -19,6 +22,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -39,7 +43,7 @@ Function next(const char* name) {
     return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
 }
 
-std::atomic<bool> armed = false;
+std::atomic<bool> armed = number("FAULT_ARMED") == 1;
 std::atomic<int> calls = 0;
 std::atomic<bool> isFirstFailure = false;
 std::array<std::atomic<bool>, 1024> watched{};
@@ -64,7 +68,18 @@ bool fails(std::string_view call) {
     const int count = ++calls;
     const int failing = number("FAULT_NUMBER");
     isFirstFailure = count == failing;
-    return isFirstFailure || (count > failing && failing > 0 && number("FAULT_LASTS") == 1);
+    const bool isFailing =
+        isFirstFailure || (count > failing && failing > 0 && number("FAULT_LASTS") == 1);
+    while (isFailing && variable("FAULT_KIND") == "hang")
+        ::pause();
+    return isFailing;
+}
+
+/// Toolkits start threads too, which they cannot do without.
+bool isStandardLibrary(const void* caller) {
+    Dl_info library{};
+    return ::dladdr(caller, &library) != 0 && library.dli_fname &&
+           std::strstr(library.dli_fname, "libstdc++") != nullptr;
 }
 
 int failure(int error = number("FAULT_KIND")) {
@@ -213,6 +228,13 @@ int unlink(const char* path) noexcept {
 int rmdir(const char* path) noexcept {
     if (isInFolder(path) && fails("unlink")) return failure();
     return next<decltype(&::rmdir)>("rmdir")(path);
+}
+
+int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*work)(void*),
+                   void* argument) noexcept {
+    if (isStandardLibrary(__builtin_return_address(0)) && fails("thread"))
+        return number("FAULT_KIND");
+    return next<decltype(&::pthread_create)>("pthread_create")(thread, attributes, work, argument);
 }
 
 int close(int descriptor) {

@@ -3,9 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <future>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -68,6 +70,40 @@ TEST(ThreadTaskRunner, DropsTheTasksThatHaveNotStartedWhenItGoes) {
         }
     }
     EXPECT_LT(ran, count);
+}
+
+/// A system that starts no thread until it is allowed.
+class ThreadTaskRunnerWithoutThreads : public ::testing::Test {
+protected:
+    bool isAllowed = false;
+    int refusals = 0;
+    ThreadTaskRunner runner{[this](std::function<void()> work) {
+        if (isAllowed) return std::thread(std::move(work));
+        ++refusals;
+        throw std::system_error(EAGAIN, std::generic_category());
+    }};
+};
+
+TEST_F(ThreadTaskRunnerWithoutThreads, RunsTasksWhereTheyAreHandedIn) {
+    std::vector<int> ran;
+    std::thread::id thread;
+    runner.run([&] {
+        thread = std::this_thread::get_id();
+        runner.run([&] { ran.push_back(2); });
+        ran.push_back(1);
+    });
+    runner.run([&] { ran.push_back(3); });
+    EXPECT_THAT(ran, ::testing::ElementsAre(1, 2, 3));
+    EXPECT_EQ(thread, std::this_thread::get_id());
+}
+
+TEST_F(ThreadTaskRunnerWithoutThreads, AsksForTheThreadAgain) {
+    runner.run([] {});
+    EXPECT_EQ(refusals, 1);
+    isAllowed = true;
+    std::promise<std::thread::id> thread;
+    runner.run([&] { thread.set_value(std::this_thread::get_id()); });
+    EXPECT_NE(thread.get_future().get(), std::this_thread::get_id());
 }
 
 } // namespace

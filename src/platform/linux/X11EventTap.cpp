@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <system_error>
 #include <utility>
 
 namespace tessaline {
@@ -23,7 +24,11 @@ std::unique_ptr<EventTap> X11EventTap::create(Handler handler) {
     std::unique_ptr<X11EventTap> tap(new X11EventTap(std::move(handler)));
     auto session = tap->openSession();
     if (!session || tap->stopDescriptor < 0 || !session->takeGrabs()) return nullptr;
-    tap->start(std::move(session));
+    try {
+        tap->start(std::move(session));
+    } catch (const std::system_error&) {
+        return nullptr;
+    }
     return tap;
 }
 

@@ -20,7 +20,8 @@ class X11TapSession;
 /// It talks to the server on a thread of its own, so that input never waits for the main thread.
 class X11EventTap final : public EventTap {
 public:
-    /// Null where there is no X server, or where other programs hold everything already.
+    /// Null where there is no X server, where other programs hold everything already, or
+    /// where the system refuses the thread.
     static std::unique_ptr<EventTap> create(Handler handler);
 
     ~X11EventTap() override;
