@@ -2,6 +2,7 @@
 
 #include "analytics/AnalyticsLog.h"
 #include "analytics/EventDecoder.h"
+#include "settings/FolderLock.h"
 #include "settings/WholeFile.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <iterator>
 #include <utility>
 
 namespace tessaline {
@@ -47,7 +49,8 @@ void EventHistory::flush() {
     const std::scoped_lock guard(fileLock);
     loadFile();
     takeNewEvents();
-    if (text.isEmpty() || (isUpToDate && QFileInfo::exists(path))) return;
+    if (text.isEmpty() && unwritten.empty()) return;
+    if (isUpToDate && unwritten.empty() && QFileInfo::exists(path)) return;
     QElapsedTimer time;
     time.start();
     qCDebug(intervalLog, "flush: begin");
@@ -60,8 +63,19 @@ void EventHistory::flush() {
             static_cast<long long>(time.elapsed()));
 }
 
+EventHistory::Stamp EventHistory::currentStamp() const {
+    const QFileInfo file(path);
+    if (!file.exists()) return {};
+    return {file.size(), file.lastModified(), file.metadataChangeTime()};
+}
+
 void EventHistory::loadFile() {
-    if (std::exchange(isLoaded, true) || !QFileInfo::exists(path)) return;
+    if (!std::exchange(isLoaded, true)) readFile();
+}
+
+void EventHistory::readFile() {
+    stamp = currentStamp();
+    if (stamp == Stamp()) return;
     QString error;
     HistoryText loaded;
     bool leftOut = false;
@@ -73,13 +87,14 @@ void EventHistory::loadFile() {
         }
     };
     const auto bytes = readWholeFile(path, &error, historyFileLimit);
-    if (bytes && decodeEvents(*bytes, keepRecent, &error)) {
-        text = std::move(loaded);
-        isUpToDate = !leftOut;
-    } else {
-        isForeign = true;
+    isForeign = !bytes || !decodeEvents(*bytes, keepRecent, &error);
+    if (isForeign) {
         qCCritical(analyticsLog, "Failed to load analytics history: %s", qUtf8Printable(error));
+        return;
     }
+    text = std::move(loaded);
+    appended = 0;
+    isUpToDate = !leftOut;
 }
 
 void EventHistory::takeNewEvents() {
@@ -88,16 +103,24 @@ void EventHistory::takeNewEvents() {
         const std::scoped_lock guard(bufferLock);
         events.swap(newEvents);
     }
-    for (const AnalyticsEvent& event : events)
-        text.append(event);
-    if (!events.empty()) isUpToDate = false;
+    unwritten.insert(unwritten.end(), std::make_move_iterator(events.begin()),
+                     std::make_move_iterator(events.end()));
 }
 
 bool EventHistory::write(QString* error) {
     // Where this fails, writing the file fails next and says so.
-    QDir().mkpath(QFileInfo(path).path());
+    const QString folder = QFileInfo(path).path();
+    QDir().mkpath(folder);
+    const FolderLock otherInstances(folder);
+    if (const Stamp now = currentStamp(); now != Stamp() && now != stamp) readFile();
+    for (; appended < unwritten.size(); ++appended)
+        text.append(unwritten[appended]);
     if (isForeign && !putAside(error)) return false;
-    return writeWholeFile(path, text.pieces(), error);
+    if (!writeWholeFile(path, text.pieces(), error)) return false;
+    stamp = currentStamp();
+    unwritten.clear();
+    appended = 0;
+    return true;
 }
 
 bool EventHistory::putAside(QString* error) {

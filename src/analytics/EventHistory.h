@@ -28,14 +28,25 @@ public:
     void load();
 
     /// Writes all events, those of the file first, over the file, whole or not at all, and returns
-    /// when it is done. Does nothing without events, nor when the file is there and up to date. A
-    /// file that could not be understood is renamed first, to a name that ends with ".unreadable";
-    /// while that is not possible, it stays. A failure is logged, and everything is written by the
-    /// next flush.
+    /// when it is done. What another instance of the program has written meanwhile stays. Does
+    /// nothing without events, nor when the file is there and up to date. A file that could not be
+    /// understood is renamed first, to a name that ends with ".unreadable"; while that is not
+    /// possible, it stays. A failure is logged, and everything is written by the next flush.
     void flush();
 
 private:
+    /// Differs after the file was written.
+    struct Stamp {
+        qint64 size = -1; ///< negative: there is no file
+        QDateTime modified;
+        QDateTime changed;
+
+        bool operator==(const Stamp&) const = default;
+    };
+
+    Stamp currentStamp() const;
     void loadFile();
+    void readFile();
     void takeNewEvents();
     bool write(QString* error);
     bool putAside(QString* error);
@@ -48,7 +59,10 @@ private:
     qint64 added = 0;
 
     std::mutex fileLock; ///< guards the file and what follows; taken before `bufferLock`
-    HistoryText text;
+    HistoryText text;    ///< of the file as it was at `stamp`, and of `appended` events more
+    Stamp stamp;
+    std::vector<AnalyticsEvent> unwritten; ///< in no file yet
+    std::size_t appended = 0;
     bool isLoaded = false;
     bool isForeign = false; ///< the file holds what we do not understand
     bool isUpToDate = false;
