@@ -16,7 +16,6 @@
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
-#include "render/MarkdownRenderer.h"
 #include "sources/ClipboardSource.h"
 #include "sources/FollowedFile.h"
 #include "sources/ObsidianSource.h"
@@ -272,14 +271,16 @@ void AppDelegate::bringToFront(QWidget& window) {
 }
 
 void AppDelegate::openText(const QString& text) {
+    if (text.isEmpty()) return;
     followedFile.reset();
     showText(text);
 }
 
 void AppDelegate::showText(const QString& text) {
+    if (text.isEmpty()) return;
     if (!hasStarted()) {
         textToOpen = text;
-    } else if (!text.isEmpty()) {
+    } else {
         makeClipboardActive();
         sources().pasteText(text);
         trackPaste();
@@ -321,8 +322,7 @@ void AppDelegate::makeClipboardActive() {
 }
 
 void AppDelegate::trackPaste() {
-    environment.recorder.trackContentPasted(
-        MarkdownRenderer::wordCount(sources().currentContent()));
+    environment.recorder.trackContentPasted(sources().currentWordCount());
 }
 
 void AppDelegate::setScrollSpeed(double speed) {

@@ -75,7 +75,7 @@ public:
     /// window is up, keeps the last one until then. An empty text changes nothing.
     void openText(const QString& text);
     /// The same with the text of a file, which is shown again whenever it changes on disk, until
-    /// something else is shown.
+    /// something else is shown. An empty one changes nothing, then and later.
     void followFile(const QString& path, const QString& text);
     /// Brings to the front what the user works with: the prompter or the first-run window.
     void reveal();

@@ -5,6 +5,7 @@
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "sources/SourceManager.h"
+#include "support/TestFiles.h"
 #include "ui/ConfigWindow.h"
 #include "ui/controls/PopupButton.h"
 
@@ -12,6 +13,7 @@
 
 #include <QAction>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QWindow>
 
 namespace tessaline {
@@ -289,6 +291,31 @@ TEST_F(AppDelegateTest, ChangesNothingForAnOpenedTextThatIsEmpty) {
     launch().openText({});
     EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
     EXPECT_FALSE(recorded(u"content_pasted"_s));
+}
+
+TEST_F(AppDelegateTest, GoesOnFollowingAFileAfterAnEmptyText) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.md"_s);
+    putFile(path, "new");
+    launch().followFile(path, u"old"_s);
+    delegate->openText({});
+    timers.advance(0.5);
+    fileTasks.runAll();
+    mainQueue.runAll();
+    EXPECT_EQ(keptScript(), u"new"_s);
+}
+
+TEST_F(AppDelegateTest, KeepsTheTextOfAFollowedFileThatIsEmptied) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.md"_s);
+    putFile(path, "");
+    launch().followFile(path, u"old"_s);
+    const auto events = recorder.events.size();
+    timers.advance(0.5);
+    fileTasks.runAll();
+    mainQueue.runAll();
+    EXPECT_EQ(keptScript(), u"old"_s);
+    EXPECT_EQ(recorder.events.size(), events);
 }
 
 TEST_F(AppDelegateTest, RevealsTheHiddenPrompter) {

@@ -101,6 +101,14 @@ TEST_F(FirstRun, KeepsAnOpenedTextUntilItIsDone) {
     EXPECT_EQ(keptScript(), u"# Opened"_s);
 }
 
+TEST_F(FirstRun, KeepsAnOpenedTextWhenAnEmptyOneFollows) {
+    launch().openText(u"# Opened"_s);
+    delegate->openText({});
+    delegate->followFile(u"/nowhere/empty.md"_s, {});
+    onboarding()->onComplete();
+    EXPECT_EQ(keptScript(), u"# Opened"_s);
+}
+
 TEST_F(FirstRun, RevealsTheFirstRunWindow) {
     launch();
     onboarding()->showMinimized();
