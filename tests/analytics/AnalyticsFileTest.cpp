@@ -341,60 +341,6 @@ TEST_F(AnalyticsFile, KeepsTheEventsOfAFailedFlushForTheNext) {
     EXPECT_EQ(namesIn(stage.path), QStringList{u"a"_s});
 }
 
-TEST_F(AnalyticsFile, HoldsTheEventsOfTwoInstancesOnceEach) {
-    putEvents({u"2026-11-19T00:00:00Z"_s});
-    const auto first = stage.makeRecorder();
-    const auto second = stage.makeRecorder();
-    const auto flush = [this](Analytics& recorder) {
-        recorder.flush();
-        stage.fileTasks.runAll();
-    };
-    stage.fileTasks.runAll();
-    first->record({.name = u"a"_s});
-    flush(*first);
-    second->record({.name = u"b"_s});
-    flush(*second);
-    first->record({.name = u"c"_s});
-    first->record({.name = u"d"_s});
-    flush(*first);
-    flush(*second);
-    second->trackAppTerminate();
-    first->trackAppTerminate();
-    EXPECT_EQ(namesIn(stage.path), (QStringList{u"2026-11-19T00:00:00Z"_s, u"a"_s, u"b"_s, u"c"_s,
-                                                u"d"_s, u"app_terminate"_s, u"app_terminate"_s}));
-}
-
-TEST_F(AnalyticsFile, HoldsTheEventsOfAFailedFlushBesideThoseOfAnotherInstance) {
-    const QString support = QFileInfo(stage.path).path();
-    putFile(support, "in the way");
-    const RecordedLog log;
-    const auto failing = stage.makeRecorder();
-    failing->record({.name = u"a"_s});
-    failing->flush();
-    stage.fileTasks.runAll();
-    EXPECT_EQ(log.entries(), failedTo(u"flush analytics: Not a directory"_s));
-
-    ASSERT_TRUE(QFile::remove(support));
-    runAndFlush();
-    failing->record({.name = u"b"_s});
-    failing->flush();
-    stage.fileTasks.runAll();
-    EXPECT_EQ(namesIn(stage.path), (QStringList{u"now"_s, u"a"_s, u"b"_s}));
-}
-
-TEST_F(AnalyticsFile, PutsAsideWhatAnotherProgramMadeOfIt) {
-    const RecordedLog log;
-    const auto recorder = stage.makeRecorder();
-    recorder->record({.name = u"a"_s});
-    recorder->flush();
-    stage.fileTasks.runAll();
-    putHistory("not a history");
-    recorder->record({.name = u"b"_s});
-    recorder->trackAppTerminate();
-    EXPECT_EQ(namesIn(stage.path), (QStringList{u"a"_s, u"b"_s, u"app_terminate"_s}));
-    EXPECT_EQ(fileBytes(unreadable), "not a history");
-}
-
 TEST_F(AnalyticsFile, SurvivesAFullDiskAndIsWrittenWhenThereIsRoom) {
     const QString support = QFileInfo(stage.path).path();
     ASSERT_TRUE(QDir().mkpath(support));

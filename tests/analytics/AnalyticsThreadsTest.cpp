@@ -108,7 +108,7 @@ TEST_F(AnalyticsThreads, RecordEveryEventOnceAndInOrderWhileFlushesFailAndSuccee
         EXPECT_EQ(count, eventsEach) << thread.toStdString();
 }
 
-TEST(AnalyticsInstances, LoseNothingThatTheyWriteAtTheSameTime) {
+TEST(EventHistories, LoseNothingThatTheyWriteAtTheSameTime) {
     constexpr int instanceCount = 3;
     constexpr int flushesEach = 50;
     QTemporaryDir folder;

@@ -1,64 +1,12 @@
 #include "AppDelegateFixture.h"
 
+#include "Witnesses.h"
 #include "sources/SourceManager.h"
-
-#include <QApplication>
-#include <QEvent>
-#include <QWidget>
 
 namespace tessaline {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-
-using Journal = QStringList;
-
-class JournalingRecorder final : public UsageRecorder {
-public:
-    explicit JournalingRecorder(Journal& shared) : journal(shared) {}
-    void record(const AnalyticsEvent& event) override { journal << event.name; }
-    void trackAppLaunch() override { journal << u"app_launch"_s; }
-    void trackAppTerminate() override { journal << u"app_terminate"_s; }
-    void trackEnvironmentSnapshot(const AppSettings&) override {
-        journal << u"environment_snapshot"_s;
-    }
-
-private:
-    Journal& journal;
-};
-
-class JournalingBundle final : public BundleInformation {
-public:
-    explicit JournalingBundle(Journal& shared) : journal(shared) {}
-    std::optional<QString> identifier() const override { return std::nullopt; }
-    std::optional<QString> resourceFolder() const override { return std::nullopt; }
-    std::optional<QString> value(const QString& key) const override {
-        journal << u"read "_s + key;
-        return u"an id"_s;
-    }
-
-private:
-    Journal& journal;
-};
-
-/// Writes down which windows get their title, which they do while they are constructed, and which
-/// of them are shown.
-class WindowWatcher final : public QObject {
-public:
-    explicit WindowWatcher(Journal& shared) : journal(shared) { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        const auto* widget = qobject_cast<QWidget*>(object);
-        if (!widget || !widget->isWindow() || widget->windowTitle().isEmpty()) return false;
-        if (event->type() == QEvent::WindowTitleChange)
-            journal << u"make "_s + widget->windowTitle();
-        if (event->type() == QEvent::Show) journal << u"show "_s + widget->windowTitle();
-        return false;
-    }
-
-private:
-    Journal& journal;
-};
 
 class LaunchOrder : public AppDelegateFixture {
 protected:

@@ -1,14 +1,24 @@
 #include "platform/ExitDeadline.h"
 
+#include "support/OrdinaryUser.h"
+
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <mutex>
+#include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
 
 namespace tessaline {
 namespace {
+
+void forbidThreads() {
+    becomeOrdinaryUser();
+    const rlimit none{0, 0};
+    ::setrlimit(RLIMIT_NPROC, &none);
+}
 
 TEST(ExitDeadlineDeathTest, EndsAProgramThatHangs) {
     EXPECT_EXIT(
@@ -30,6 +40,16 @@ TEST(ExitDeadlineDeathTest, ComesNoEarlierThanItWasSet) {
             ::pause();
         },
         testing::ExitedWithCode(3), "");
+}
+
+TEST(ExitDeadlineDeathTest, SetsTheSystemsAlarmWhereItGetsNoThread) {
+    EXPECT_EXIT(
+        {
+            forbidThreads();
+            setExitDeadline(std::chrono::milliseconds(20), 7);
+            ::pause();
+        },
+        testing::KilledBySignal(SIGALRM), "");
 }
 
 TEST(ExitDeadlineDeathTest, LeavesAProgramAloneThatEndsInTime) {

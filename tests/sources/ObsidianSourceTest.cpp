@@ -265,6 +265,16 @@ TEST_F(ObsidianSourceTest, FinishesACheckWithTheCallbackOfItsTick) {
     EXPECT_THAT(second, ElementsAre(u"B"_s));
 }
 
+TEST_F(ObsidianSourceTest, FinishesACheckAlsoWhenItIsStoppedMeanwhile) {
+    putFile(path, "A");
+    start();
+    putFile(path, "B");
+    timers.advance(1.0);
+    source->stopWatching();
+    finishTasks();
+    EXPECT_THAT(delivered, ElementsAre(u"A"_s, u"B"_s));
+}
+
 TEST_F(ObsidianSourceTest, ComparesWithTheNewestTextAfterAnOverlappingRestart) {
     putFile(path, "A");
     start();

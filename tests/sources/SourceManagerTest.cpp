@@ -9,6 +9,9 @@
 
 #include <QFile>
 
+#include <functional>
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -94,16 +97,53 @@ TEST_F(SourceManagerTest, HandsOnTheSameTextAgain) {
 TEST_F(SourceManagerTest, RecordsThenPostsThenCalls) {
     build();
     std::vector<std::string> order;
-    const auto observation = notifications.observe(
-        SourceManager::contentDidUpdateNotification(), [&](const Notification&) {
-            EXPECT_EQ(recorder.contentLoaded.size(), 1U);
-            EXPECT_EQ(manager->currentContent(), u"text"_s);
-            order.emplace_back("post");
-        });
+    const auto observation = notifications.observe(SourceManager::contentDidUpdateNotification(),
+                                                   [&](const Notification&) {
+                                                       EXPECT_EQ(recorder.contentLoaded.size(), 1U);
+                                                       order.emplace_back("post");
+                                                   });
     manager->onContentUpdate = [&](const QString&) { order.emplace_back("call"); };
     manager->startWatching();
     obsidian->deliver(u"text"_s);
     EXPECT_THAT(order, ElementsAre("post", "call"));
+}
+
+/// Looks at the manager at the moment of each event.
+class LookingRecorder final : public UsageRecorder {
+public:
+    void record(const AnalyticsEvent& event) override {
+        if (look) contents << event.name + u' ' + look();
+    }
+    void trackAppLaunch() override {}
+    void trackAppTerminate() override {}
+    void trackEnvironmentSnapshot(const AppSettings&) override {}
+
+    std::function<QString()> look;
+    QStringList contents;
+};
+
+TEST_F(SourceManagerTest, HasTheTextBeforeItRecordsIt) {
+    LookingRecorder looking;
+    auto source = std::make_unique<FakeContentSource>();
+    obsidian = source.get();
+    manager = std::make_unique<SourceManager>(
+        settings, looking, notifications, std::move(source),
+        std::make_unique<ClipboardSource>(pasteboard, clipboardPath));
+    looking.look = [this] { return manager->currentContent(); };
+    manager->startWatching();
+    obsidian->deliver(u"text"_s);
+    EXPECT_EQ(looking.contents, QStringList{u"content_loaded text"_s});
+}
+
+TEST_F(SourceManagerTest, KnowsTheWordsOfTheTextItHandedOn) {
+    build();
+    manager->startWatching();
+    for (const auto& [text, words] : {std::pair(u"one two"_s, 2), std::pair(u"one"_s, 1),
+                                      std::pair(u"two three four"_s, 3), std::pair(u""_s, 0)}) {
+        obsidian->deliver(text);
+        EXPECT_EQ(manager->currentWordCount(), words);
+        EXPECT_EQ(recorder.contentLoaded.back().second, words);
+    }
 }
 
 TEST_F(SourceManagerTest, NeedsNoCallback) {

@@ -45,6 +45,21 @@ TEST_F(SourceSwitching, StopsTheActiveSourceBeforeItPostsTheChange) {
     EXPECT_EQ(stopsAtPost, 1);
 }
 
+TEST_F(SourceSwitching, HasSetAndSavedTheChangeWhenItPostsIt) {
+    build();
+    std::optional<SourceType> saved;
+    std::optional<SourceType> set;
+    const auto observation = notifications.observe(
+        SourceManager::activeSourceDidChangeNotification(), [&](const Notification&) {
+            set = settings.activeSourceType;
+            saved = savedActiveSource();
+            EXPECT_EQ(manager->activeSource(), clipboard);
+        });
+    manager->setActiveSource(SourceType::clipboard);
+    EXPECT_EQ(set, SourceType::clipboard);
+    EXPECT_EQ(saved, SourceType::clipboard);
+}
+
 TEST_F(SourceSwitching, PostsTheChangeToASourceThatDoesNotExist) {
     build();
     manager->setActiveSource(SourceType::appleNotes);

@@ -46,6 +46,19 @@ TEST_F(OnboardingWindowTest, ClearsAStaleEntryAndDoesNotMindFailure) {
     EXPECT_EQ(stage.trust.prompts, 0);
 }
 
+TEST_F(OnboardingWindowTest, StartsAfreshBeforeItClearsAStaleEntry) {
+    stage.settings.activeSourceType = SourceType::obsidian;
+    stage.settings.enabledSourceTypes = {SourceType::obsidian};
+    sourceManager = stage.makeSourceManager();
+    std::vector<std::size_t> callsBefore;
+    const auto observation = stage.notifications.observe(
+        SourceManager::activeSourceDidChangeNotification(),
+        [&](const Notification&) { callsBefore.push_back(stage.processes.calls.size()); });
+    window();
+    EXPECT_THAT(callsBefore, ElementsAre(0U));
+    EXPECT_EQ(stage.processes.calls.size(), 1U);
+}
+
 TEST_F(OnboardingWindowTest, LeavesAGrantedPermissionAlone) {
     stage.trust.trusted = true;
     window();

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace tessaline {
@@ -34,6 +36,20 @@ TEST_F(ObsidianLocatorTest, LooksAtUsualPlacesNext) {
     ASSERT_TRUE(QDir().mkpath(inHome));
     lookup.workspacePath = u"/workspace"_s;
     EXPECT_EQ(locate(), inHome);
+}
+
+TEST_F(ObsidianLocatorTest, LooksAtTheUsualPlacesInTheirOrder) {
+    const QStringList places = {u"/Applications/Obsidian.app"_s, inHome,
+                                u"/opt/homebrew-cask/Caskroom/obsidian"_s};
+    for (qsizetype first = 0; first <= places.size(); ++first) {
+        QStringList asked;
+        const auto found = locateObsidian(lookup, home.path(), [&](const QString& place) {
+            asked << place;
+            return places.mid(first).contains(place);
+        });
+        EXPECT_EQ(found.value_or(QString()), places.value(first));
+        EXPECT_EQ(asked, places.first(std::min(first + 1, places.size())));
+    }
 }
 
 TEST_F(ObsidianLocatorTest, AsksTheWorkspaceLast) {

@@ -54,6 +54,11 @@ TEST(VaultRegistryFile, ReplacesValuesOfAnotherKind) {
                 Optional(ElementsAre(VaultInfo{u"/a"_s, 0, false})));
 }
 
+TEST(VaultRegistryFile, TakesNoBooleanForATime) {
+    EXPECT_THAT(parseVaultRegistry(R"({"vaults":{"a":{"path":"/a","ts":true}}})"),
+                Optional(ElementsAre(VaultInfo{u"/a"_s, 0, false})));
+}
+
 class OtherRegistryFile : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(OtherRegistryFile, YieldsNothing) {

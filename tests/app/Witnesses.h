@@ -1,0 +1,170 @@
+#pragma once
+
+#include "analytics/UsageRecorder.h"
+#include "platform/AccessibilityTrust.h"
+#include "platform/ActivationPolicy.h"
+#include "platform/BundleInformation.h"
+#include "platform/DisplayLink.h"
+#include "platform/LocalKeyMonitor.h"
+#include "platform/TaskRunner.h"
+#include "platform/TimerMaker.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+#include <utility>
+
+namespace tessaline {
+
+/// What happened, in order. The witnesses below write it down; those that stand before a port hand
+/// everything on.
+using Journal = QStringList;
+
+class JournalingRecorder final : public UsageRecorder {
+public:
+    explicit JournalingRecorder(Journal& shared) : journal(shared) {}
+    void record(const AnalyticsEvent& event) override { journal << event.name; }
+    void trackAppLaunch() override { journal << QStringLiteral("app_launch"); }
+    void trackAppTerminate() override { journal << QStringLiteral("app_terminate"); }
+    void trackEnvironmentSnapshot(const AppSettings&) override {
+        journal << QStringLiteral("environment_snapshot");
+    }
+
+private:
+    Journal& journal;
+};
+
+class JournalingBundle final : public BundleInformation {
+public:
+    explicit JournalingBundle(Journal& shared) : journal(shared) {}
+    std::optional<QString> identifier() const override { return std::nullopt; }
+    std::optional<QString> resourceFolder() const override { return std::nullopt; }
+    std::optional<QString> value(const QString& key) const override {
+        journal << QStringLiteral("read ") + key;
+        return QStringLiteral("an id");
+    }
+
+private:
+    Journal& journal;
+};
+
+class JournalingPolicy final : public ActivationPolicy {
+public:
+    explicit JournalingPolicy(Journal& shared) : journal(shared) {}
+    void set(Kind kind) override {
+        journal << (kind == Kind::regular ? QStringLiteral("policy regular")
+                                          : QStringLiteral("policy accessory"));
+    }
+    void activateIgnoringOtherApps() override { journal << QStringLiteral("activate"); }
+
+private:
+    Journal& journal;
+};
+
+class JournalingKeys final : public LocalKeyMonitor {
+public:
+    JournalingKeys(Journal& shared, LocalKeyMonitor& real) : journal(shared), keys(real) {}
+    std::unique_ptr<Registration> start(Handler handler) override {
+        journal << QStringLiteral("set up shortcuts");
+        return keys.start(std::move(handler));
+    }
+
+private:
+    Journal& journal;
+    LocalKeyMonitor& keys;
+};
+
+class JournalingTrust final : public AccessibilityTrust {
+public:
+    JournalingTrust(Journal& shared, AccessibilityTrust& real) : journal(shared), trust(real) {}
+    bool isTrusted() const override {
+        journal << QStringLiteral("ask for trust");
+        return trust.isTrusted();
+    }
+    void requestWithPrompt() override { trust.requestWithPrompt(); }
+
+private:
+    Journal& journal;
+    AccessibilityTrust& trust;
+};
+
+class JournalingTimers final : public TimerMaker {
+public:
+    JournalingTimers(Journal& shared, TimerMaker& real) : journal(shared), timers(real) {}
+    std::unique_ptr<RepeatingTimer> every(Interval interval,
+                                          std::function<void()> action) override {
+        journal << QStringLiteral("timer %1").arg(interval.count());
+        return timers.every(interval, std::move(action));
+    }
+
+private:
+    Journal& journal;
+    TimerMaker& timers;
+};
+
+/// Where long texts are rendered.
+class JournalingRenderTasks final : public TaskRunner {
+public:
+    JournalingRenderTasks(Journal& shared, TaskRunner& real) : journal(shared), tasks(real) {}
+    void run(std::function<void()> task) override {
+        journal << QStringLiteral("render");
+        if (onRun) onRun();
+        tasks.run(std::move(task));
+    }
+
+    std::function<void()> onRun;
+
+private:
+    Journal& journal;
+    TaskRunner& tasks;
+};
+
+/// Learns where the prompter is from each placing of it.
+class JournalingDisplayLinks final : public DisplayLinkMaker {
+public:
+    JournalingDisplayLinks(Journal& shared, DisplayLinkMaker& real)
+        : journal(shared), links(real) {}
+    std::unique_ptr<DisplayLink> make(DisplayLink::Callback callback) override {
+        return links.make(std::move(callback));
+    }
+    void setRefreshRate(double hertz) override {
+        journal << QStringLiteral("place Tessaline");
+        links.setRefreshRate(hertz);
+    }
+
+private:
+    Journal& journal;
+    DisplayLinkMaker& links;
+};
+
+/// Writes down which windows get their title, which they do while they are constructed, and which
+/// of them are shown, hidden and, on request, moved.
+class WindowWatcher final : public QObject {
+public:
+    explicit WindowWatcher(Journal& shared) : journal(shared) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* widget = qobject_cast<QWidget*>(object);
+        if (!widget || !widget->isWindow() || widget->windowTitle().isEmpty()) return false;
+        const auto note = [&](const QString& what) { journal << what + widget->windowTitle(); };
+        if (event->type() == QEvent::WindowTitleChange) note(QStringLiteral("make "));
+        if (event->type() == QEvent::Show) note(QStringLiteral("show "));
+        if (event->type() == QEvent::Hide) note(QStringLiteral("hide "));
+        if (watchesMoves && event->type() == QEvent::Move) {
+            note(QStringLiteral("move "));
+            if (onMove) onMove();
+        }
+        return false;
+    }
+
+    bool watchesMoves = false;
+    std::function<void()> onMove;
+
+private:
+    Journal& journal;
+};
+
+} // namespace tessaline
