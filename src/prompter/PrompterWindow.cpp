@@ -178,7 +178,8 @@ void PrompterWindow::arrangeContent() {
     const bool heightChanges = textHeight != view->height();
     view->resize(scrollArea->size());
     // The hint is set for one height, and for none while nothing of it is seen.
-    if (heightChanges && textHeight > 0 && lastRawContent == placeholderContent) renderPlaceholder();
+    if (heightChanges && textHeight > 0 && lastRawContent == placeholderContent)
+        renderPlaceholder();
 }
 
 void PrompterWindow::resizeEvent(QResizeEvent*) {
