@@ -1,7 +1,8 @@
 #include "app/AppDelegate.h"
 
 #include "analytics/UsageRecorder.h"
-#include "app/ConfigWindowPlacement.h"
+#include "app/ConfigWindowPlacer.h"
+#include "app/PrompterCutout.h"
 #include "app/StatusItem.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "platform/AccessibilityTrust.h"
@@ -9,7 +10,6 @@
 #include "platform/BundleInformation.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
-#include "platform/ScreenCoordinates.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
@@ -23,9 +23,7 @@
 #include "ui/ConfigWindow.h"
 #include "ui/OnboardingWindow.h"
 
-#include <QGuiApplication>
 #include <QLoggingCategory>
-#include <QScreen>
 #include <QWindow>
 
 #include <algorithm>
@@ -126,6 +124,7 @@ void AppDelegate::createPrompterWindow() {
     prompterWindow = std::make_unique<PrompterWindow>(settings, environment.prompter);
     prompterWindow->setScreenManager(&screenManager);
     prompterWindow->updateFrame();
+    prompterCutout = std::make_unique<PrompterCutout>(*prompterWindow);
 }
 
 void AppDelegate::createConfigWindow() {
@@ -134,6 +133,9 @@ void AppDelegate::createConfigWindow() {
     configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
     configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
     configWindow->winId(); // makes the native window
+    configPlacer = std::make_unique<ConfigWindowPlacer>(*configWindow, *prompterWindow,
+                                                        screenManager, settings);
+    configWindow->onSizeChanged = weakly(&AppDelegate::repositionConfigWindow);
     new FrameMarginsWatch(*configWindow->windowHandle(),
                           weakly(&AppDelegate::repositionConfigWindow));
 }
@@ -370,6 +372,7 @@ void AppDelegate::screensChanged() {
     prompter().updateFrame();
     prompter().rerender();
     config().rebuildScreenPopup();
+    repositionConfigWindow();
 }
 
 void AppDelegate::handleSourceChange(SourceType source) {
@@ -386,13 +389,7 @@ void AppDelegate::activeSourceChanged(const Notification& change) {
 }
 
 void AppDelegate::repositionConfigWindow() {
-    const Rect screen = prompter().currentScreen().value_or(screenManager.preferredScreen()).frame;
-    const QScreen* primaryScreen = QGuiApplication::primaryScreen();
-    const QRect primary = primaryScreen ? primaryScreen->geometry() : QRect();
-    const QMargins frame = config().windowHandle()->frameMargins();
-    const QRect now = config().geometry().marginsAdded(frame);
-    const Rect target = configWindowFrame(fromQtCoordinates(now, primary), screen, settings.height);
-    config().setGeometry(toQtCoordinates(target, primary).marginsRemoved(frame));
+    configPlacer->place();
 }
 
 } // namespace tessaline

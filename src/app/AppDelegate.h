@@ -20,8 +20,10 @@ class QWidget;
 namespace tessaline {
 
 class ConfigWindow;
+class ConfigWindowPlacer;
 class FollowedFile;
 class OnboardingWindow;
+class PrompterCutout;
 class PrompterWindow;
 class Shortcuts;
 class SourceManager;
@@ -124,7 +126,9 @@ private:
     PermissionManager permissionManager;
     std::unique_ptr<SourceManager> sourceManager;
     std::unique_ptr<PrompterWindow> prompterWindow;
+    std::unique_ptr<PrompterCutout> prompterCutout;
     std::unique_ptr<ConfigWindow> configWindow;
+    std::unique_ptr<ConfigWindowPlacer> configPlacer;
     std::unique_ptr<OnboardingWindow> onboardingWindow;
     std::unique_ptr<OnboardingWindow> finishedOnboardingWindow; ///< until its call has returned
     std::unique_ptr<StatusItem> statusItem;

@@ -13,6 +13,7 @@ struct Rect {
     constexpr double midX() const { return x + width * 0.5; }
     constexpr double maxX() const { return x + width; }
     constexpr double minY() const { return y; }
+    constexpr double midY() const { return y + height * 0.5; }
     constexpr double maxY() const { return y + height; }
 
     bool operator==(const Rect&) const = default;

@@ -75,8 +75,8 @@ std::unique_ptr<FileIcons> makeFileIcons();
 /// The panel in which the user picks a folder and thereby lets the program into it.
 std::unique_ptr<FolderChooser> makeFolderChooser();
 
-/// Gives the system's own widgets their dark look. False where windows are drawn without those: the
-/// program has to bring the look along.
+/// Gives the system's own widgets their dark look, and title bars where they have one. False where
+/// windows are drawn without those widgets: the program has to bring the look along. Call it once.
 bool showNativeDarkAppearance();
 
 /// The system's own drawing of this name, described for screen readers; null where it has none.

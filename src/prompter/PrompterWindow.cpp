@@ -155,7 +155,13 @@ bool PrompterWindow::isResizing() const {
 }
 
 void PrompterWindow::shape() {
-    updateShape(*this, squareCorners, ports.windowTraits.showsTranslucency());
+    updateShape(*this, squareCorners, ports.windowTraits.showsTranslucency(), hole);
+}
+
+void PrompterWindow::cutOut(const QRegion& part) {
+    if (part == hole) return;
+    hole = part;
+    shape();
 }
 
 void PrompterWindow::animateTo(const Rect& frame) {

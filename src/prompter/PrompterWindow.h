@@ -8,6 +8,7 @@
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
 
+#include <QRegion>
 #include <QVariantAnimation>
 #include <QWidget>
 
@@ -41,6 +42,10 @@ public:
 
     /// Places and sizes the window as the settings say.
     void updateFrame();
+
+    /// Leaves a part of the window out, in its own coordinates, so that what lies below is seen and
+    /// clicked there.
+    void cutOut(const QRegion& part);
 
     /// The screen that most of the window is on, or should be while it is on none.
     std::optional<Screen> currentScreen() const;
@@ -117,6 +122,7 @@ private:
     bool watchesClicks = false;
     bool collapsed = false;
     bool squareCorners = false; ///< follows `collapsed` once the window has its height
+    QRegion hole;               ///< what is cut out
     double expandedHeight = 0.0;
     QString lastRawContent;
     qsizetype wordCount = 0;

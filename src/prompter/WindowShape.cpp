@@ -35,11 +35,12 @@ QRegion maskOf(const QWidget& window, bool square) {
 
 } // namespace
 
-void updateShape(QWidget& window, bool square, bool showsTranslucency) {
-    if (showsTranslucency) {
+void updateShape(QWidget& window, bool square, bool showsTranslucency, const QRegion& cutOut) {
+    if (showsTranslucency && cutOut.isEmpty()) {
         window.clearMask();
     } else {
-        window.setMask(maskOf(window, square));
+        const QRegion whole = showsTranslucency ? QRegion(window.rect()) : maskOf(window, square);
+        window.setMask(whole - cutOut);
     }
     window.update();
 }

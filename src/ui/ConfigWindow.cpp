@@ -12,7 +12,7 @@
 #include "ui/config/IntegrationsSection.h"
 #include "ui/config/ShortcutsGrid.h"
 #include "ui/config/SourceSection.h"
-#include "ui/controls/PointSlider.h"
+#include "ui/controls/FittingScrollArea.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/SectionTitle.h"
 #include "ui/controls/Separator.h"
@@ -66,8 +66,7 @@ QWidget* ConfigWindow::createContent() {
     sources->onSourceChanged = [this](SourceType source) { announceSource(source); };
     display = new DisplaySection(settings, ports.screens, ports.recorder);
     display->onSettingsChanged = [this] { announceSettings(); };
-    connect(display->heightSlider, &PointSlider::sliderReleased, this,
-            &ConfigWindow::announceSettings);
+    display->onSliderReleased = [this] { announceSize(); };
     accessibility = new AccessibilityRow;
     connect(accessibility->accessibilityFixButton, &QPushButton::clicked, this,
             &ConfigWindow::fixAccessibility);
@@ -96,11 +95,23 @@ void ConfigWindow::refreshUI() {
     sources->rebuildSourcePopup();
     rebuildScreenPopup();
     updateAccessibilityStatus();
-    fitBelowPrompter();
+    fitToContent(*this);
 }
 
-void ConfigWindow::fitBelowPrompter() {
-    fitToContent(*this, display->roomBelowPrompter());
+QSize ConfigWindow::wholeSize() const {
+    return findChild<FittingScrollArea*>()->wholeSize();
+}
+
+int ConfigWindow::scrollBarWidth() const {
+    return findChild<FittingScrollArea*>()->scrollBarWidth();
+}
+
+void ConfigWindow::fitInto(int room) {
+    fitToContent(*this, room);
+}
+
+bool ConfigWindow::isSliderHeld() const {
+    return display->isSliderHeld();
 }
 
 void ConfigWindow::startPeriodicRefresh() {
@@ -134,10 +145,12 @@ void ConfigWindow::obsidianToggleChanged(bool on) {
     announceSource(settings.activeSourceType);
 }
 
-void ConfigWindow::announceSettings() {
-    // A slider does not slip from under the pointer that drags it.
-    if (!display->heightSlider->isSliderDown()) fitBelowPrompter();
+void ConfigWindow::announceSettings() const {
     if (onSettingsChanged) onSettingsChanged();
+}
+
+void ConfigWindow::announceSize() const {
+    if (onSizeChanged) onSizeChanged();
 }
 
 void ConfigWindow::announceSource(SourceType source) const {
@@ -151,6 +164,16 @@ void ConfigWindow::fixAccessibility() {
 bool ConfigWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) updateAccessibilityStatus();
     return QWidget::event(event);
+}
+
+void ConfigWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!event->spontaneous()) focusNoControl(*this);
+}
+
+void ConfigWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    announceSize();
 }
 
 void ConfigWindow::closeEvent(QCloseEvent* event) {

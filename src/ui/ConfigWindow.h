@@ -45,24 +45,40 @@ public:
     /// Shows whether the Accessibility permission is granted.
     void updateAccessibilityStatus();
 
-    /// Called after every saved change, with the window at its right size, and again when the
-    /// height is let go.
+    /// Its size without a frame where there is room for everything, and how much wider it is while
+    /// it scrolls.
+    QSize wholeSize() const;
+    int scrollBarWidth() const;
+
+    /// Gets as large as it can be with this height, in points and without a frame.
+    void fitInto(int room);
+
+    /// Whether the user holds a slider with the mouse, so that the window had better stay where it
+    /// is.
+    bool isSliderHeld() const;
+
+    /// Called after every saved change.
     std::function<void()> onSettingsChanged;
+
+    /// Called when the window has another size, or could have since a slider was let go.
+    std::function<void()> onSizeChanged;
 
     /// Called with the new source after the user chose another one.
     std::function<void(SourceType)> onSourceChanged;
 
 protected:
     bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void layOut();
     QWidget* createContent();
-    void fitBelowPrompter();
     void obsidianToggleChanged(bool on);
     void fixAccessibility();
-    void announceSettings();
+    void announceSettings() const;
+    void announceSize() const;
     void announceSource(SourceType source) const;
 
     AppSettings& settings;

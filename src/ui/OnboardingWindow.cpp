@@ -5,6 +5,8 @@
 #include "appearance/SystemPalette.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/PlatformTexts.h"
+#include "platform/ScreenCoordinates.h"
+#include "platform/Screens.h"
 #include "settings/AppSettings.h"
 #include "sources/ObsidianIntegration.h"
 #include "sources/SourceManager.h"
@@ -12,6 +14,7 @@
 #include "ui/ObsidianIcon.h"
 #include "ui/WindowLook.h"
 #include "ui/controls/DefaultButton.h"
+#include "ui/controls/FittingScrollArea.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/Switch.h"
@@ -20,6 +23,7 @@
 #include "ui/onboarding/PermissionStatusView.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
 
@@ -69,7 +73,9 @@ void OnboardingWindow::resetSourceChoice() {
 }
 
 void OnboardingWindow::setupUI() {
-    fillWithContent(*this, createContent(), leastContent);
+    QWidget* content = createContent();
+    fillWithContent(*this, content, leastContent, createFooter());
+    continueButton->setFocus();
     centerOnScreen();
 }
 
@@ -84,14 +90,10 @@ QWidget* OnboardingWindow::createContent() {
     subtitleLabel->setAlignment(Qt::AlignCenter);
     subtitleLabel->setContentsMargins(10, 0, 10, 0);
     accessibilityStatusView = createAccessibilityStatusView();
-    continueButton = new DefaultButton(u"Get Started"_s, *this);
-    continueButton->setObjectName(u"onboarding_continueButton"_s);
-    continueButton->setMinimumWidth(120);
-    connect(continueButton, &QPushButton::clicked, this, &OnboardingWindow::continueClicked);
 
     auto* content = new QWidget;
     QVBoxLayout* column = layOutColumn(*content, 0);
-    column->setContentsMargins(sideMargin, 30, sideMargin, 20);
+    column->setContentsMargins(sideMargin, 30, sideMargin, 0);
     column->addWidget(titleLabel);
     column->addSpacing(10);
     column->addWidget(subtitleLabel);
@@ -103,10 +105,21 @@ QWidget* OnboardingWindow::createContent() {
     column->addWidget(createSectionLabel(u"Content Sources"_s));
     column->addSpacing(8);
     column->addWidget(createIntegrationsSection());
-    column->addSpacing(20);
-    column->addWidget(continueButton, 0, Qt::AlignHCenter);
     column->addStretch();
     return content;
+}
+
+QWidget* OnboardingWindow::createFooter() {
+    continueButton = new DefaultButton(u"Get Started"_s, *this);
+    continueButton->setObjectName(u"onboarding_continueButton"_s);
+    continueButton->setMinimumWidth(120);
+    connect(continueButton, &QPushButton::clicked, this, &OnboardingWindow::continueClicked);
+
+    auto* footer = new QWidget;
+    QVBoxLayout* column = layOutColumn(*footer, 0);
+    column->setContentsMargins(sideMargin, 20, sideMargin, 20);
+    column->addWidget(continueButton, 0, Qt::AlignHCenter);
+    return footer;
 }
 
 QLabel* OnboardingWindow::createSectionLabel(const QString& text) {
@@ -157,9 +170,15 @@ ObsidianStatusText OnboardingWindow::pluginStatus() const {
 }
 
 void OnboardingWindow::centerOnScreen() {
-    adjustSize();
-    const QRect room = screen()->availableGeometry();
-    move(room.center() - QPoint(width(), height()) / 2);
+    const auto display = ports.screens.mainScreen();
+    if (!display) return;
+    const Rect& visible = display->visibleFrame;
+    fitToContent(*this, int(visible.height) - titleBarAllowance);
+    const QSizeF whole = size() + QSize(0, titleBarAllowance);
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    const Rect place{visible.midX() - whole.width() / 2, visible.midY() - whole.height() / 2,
+                     whole.width(), whole.height()};
+    move(toQtCoordinates(place, primary ? primary->geometry() : QRect()).topLeft());
 }
 
 void OnboardingWindow::setupPermissionObserver() {

@@ -52,6 +52,7 @@ private:
     void resetSourceChoice();
     void setupUI();
     QWidget* createContent();
+    QWidget* createFooter();
     QLabel* createSectionLabel(const QString& text);
     QWidget* createIntegrationsSection();
     PermissionStatusView* createAccessibilityStatusView();

@@ -28,26 +28,34 @@ void setDarkLook(QWidget& window, const QColor& background) {
     window.setPalette(palette);
 }
 
-void fillWithContent(QWidget& window, QWidget* content, const QSize& least) {
+void fillWithContent(QWidget& window, QWidget* content, const QSize& least, QWidget* footer) {
     QAccessible::installFactory(makeWindowInterface);
     QVBoxLayout* column = layOutColumn(window, 0);
-    column->addWidget(new FittingScrollArea(content, least));
+    column->addWidget(new FittingScrollArea(content, least, footer));
+    if (footer) footer->setParent(&window);
     column->setSizeConstraint(QLayout::SetFixedSize);
     QObject::connect(new QShortcut(QKeySequence::Close, &window), &QShortcut::activated, &window,
                      &QWidget::close);
     fitToContent(window);
 }
 
+void focusNoControl(QWidget& window) {
+    window.findChild<FittingScrollArea*>()->setFocus();
+}
+
 // A layout by itself notices changes inside only while its window is on screen.
-void fitToContent(QWidget& window, std::optional<int> room) {
+void fitToContent(QWidget& window) {
     const QList<QWidget*> parts = window.findChildren<QWidget*>();
     for (auto part = parts.crbegin(); part != parts.crend(); ++part)
         if ((*part)->window() == &window) (*part)->updateGeometry();
-    auto* area = window.findChild<FittingScrollArea*>();
-    area->setRoom(room);
-    area->fit();
+    window.findChild<FittingScrollArea*>()->fit();
     window.layout()->invalidate();
     window.layout()->activate();
+}
+
+void fitToContent(QWidget& window, int room) {
+    window.findChild<FittingScrollArea*>()->setRoom(room);
+    fitToContent(window);
 }
 
 } // namespace tessaline

@@ -88,6 +88,7 @@ TEST_F(AppDelegateConnections, PutTheSettingsWindowOnTheScreenThatThePrompterIsO
     Screen other = screens.attached[0];
     other.id = 2;
     other.frame.x = other.frame.width;
+    other.visibleFrame = other.frame;
     screens.attached.push_back(other);
     launch();
     prompter()->move(int(other.frame.x) + 100, 0);

@@ -31,7 +31,9 @@ AppDelegateFixture::AppDelegateFixture() {
     QDir(supportFolderPath()).removeRecursively();
     const QSize size = QApplication::primaryScreen()->size();
     Screen screen{.id = 1, .name = QStringLiteral("screen"), .refreshRate = 60};
-    screen.frame = {0, 0, double(size.width()), double(size.height())};
+    // It reaches further down than the real one, so that all windows have room below one another.
+    constexpr double further = 400;
+    screen.frame = {0, -further, double(size.width()), size.height() + further};
     screen.visibleFrame = screen.frame;
     screens.attached = {screen};
     screens.main = screen;

@@ -1,5 +1,6 @@
 #include "AppDelegateFixture.h"
 
+#include "platform/ScreenCoordinates.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
@@ -13,7 +14,10 @@
 
 #include <QAction>
 #include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QWindow>
 
 namespace tessaline {
@@ -157,6 +161,48 @@ TEST_F(AppDelegateTest, OpensTheSettingsRightBelowThePrompterWhateverItsOffset) 
     const QRect frame = config()->windowHandle()->frameGeometry();
     EXPECT_EQ(frame.top(), 300);
     EXPECT_NEAR(frame.left() + frame.width() / 2.0, screens.attached[0].frame.midX(), 0.5);
+}
+
+TEST_F(AppDelegateTest, OpensTheSettingsWholeOnAScreenThatAHighPrompterFills) {
+    configure([](AppSettings& settings) {
+        settings.width = 380;
+        settings.height = 800;
+    });
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    screens.attached[0].frame = fromQtCoordinates(screen, screen);
+    screens.attached[0].visibleFrame = screens.attached[0].frame;
+    launch().showConfig();
+    ASSERT_EQ(prompter()->height(), screen.height()) << "nothing is left below";
+    EXPECT_TRUE(screen.contains(config()->windowHandle()->frameGeometry()));
+}
+
+TEST_F(AppDelegateTest, KeepsTheSettingsOnTheScreenWhenPanelsCome) {
+    launch().showConfig();
+    Screen& screen = screens.attached[0];
+    screen.visibleFrame.y += 100;
+    screen.visibleFrame.height -= 250;
+    notifications.post({Screens::parametersDidChangeNotification(), nullptr, {}});
+    const QRect visible =
+        toQtCoordinates(screen.visibleFrame, QGuiApplication::primaryScreen()->geometry());
+    EXPECT_TRUE(visible.contains(config()->windowHandle()->frameGeometry()));
+}
+
+TEST_F(AppDelegateTest, CutsThePrompterOutWhereTheSettingsLieOverIt) {
+    configure([](AppSettings& settings) {
+        settings.width = 800;
+        settings.height = 800;
+    });
+    launch().showConfig();
+    const auto isCutOutByItself = [this] {
+        const QRect covered = config()->frameGeometry().translated(-prompter()->pos());
+        return prompter()->mask() == QRegion(prompter()->rect()) - covered;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isCutOutByItself));
+    config()->move(config()->pos() + QPoint(-30, 20));
+    EXPECT_TRUE(QTest::qWaitFor(isCutOutByItself));
+    config()->close();
+    const auto isWhole = [this] { return prompter()->mask().isEmpty(); };
+    EXPECT_TRUE(QTest::qWaitFor(isWhole));
 }
 
 TEST_F(AppDelegateTest, OffersANewScreenInTheSettingsAtOnce) {

@@ -1,31 +1,92 @@
 #include "app/ConfigWindowPlacement.h"
 
-#include "platform/Rect.h"
-#include "support/PrintRect.h"
+#include "platform/Screen.h"
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace tessaline {
+
+static void PrintTo(const ConfigWindowPlacement& placement, std::ostream* stream) {
+    *stream << "left " << placement.left << ", top " << placement.top << ", room " << placement.room
+            << (placement.belowPrompter ? ", below" : ", not below");
+}
+
 namespace {
 
-TEST(ConfigWindowPlacement, PutsTheTopEdgeExactlyThePrompterHeightBelowTheScreensTop) {
-    const Rect frame = configWindowFrame({0, 0, 400, 500}, {0, 0, 1512, 982}, 256);
-    EXPECT_EQ(frame, (Rect{556, 226, 400, 500}));
-    EXPECT_EQ(frame.maxY(), 982 - 256);
+constexpr ConfigWindowSize window{.width = 322, .height = 740, .scrollBar = 10};
+
+Screen screenWithPanels(const Rect& frame, double above = 0, double below = 0) {
+    return {.frame = frame,
+            .visibleFrame = {frame.x, frame.y + below, frame.width, frame.height - above - below}};
 }
 
-TEST(ConfigWindowPlacement, CentresOnAScreenThatIsNotThePrimaryOne) {
-    EXPECT_EQ(configWindowFrame({7, 7, 400, 300}, {1512, -200, 1000, 800}, 100),
-              (Rect{1812, 200, 400, 300}));
+/// A prompter that hangs in the middle of the screen, so many points beside it.
+Rect prompterOn(const Rect& screen, double width, double height, double offset = 0) {
+    return {screen.midX() - width / 2 + offset, screen.maxY() - height, width, height};
 }
 
-TEST(ConfigWindowPlacement, KeepsFractions) {
-    EXPECT_EQ(configWindowFrame({0, 0, 401, 300}, {0, 0, 1000, 800}, 99.5),
-              (Rect{299.5, 400.5, 401, 300}));
+TEST(ConfigWindowPlacement, HasItsTopExactlyThePromptersHeightBelowTheScreensTop) {
+    const Rect frame{0, 0, 1920, 1080};
+    EXPECT_EQ(
+        placeConfigWindow(window, screenWithPanels(frame, 30, 40), prompterOn(frame, 450, 256)),
+        (ConfigWindowPlacement{960 - 161, 824, 784, true}));
 }
 
-TEST(ConfigWindowPlacement, LetsTallContentReachBelowTheScreen) {
-    EXPECT_EQ(configWindowFrame({0, 0, 400, 700}, {0, 0, 1000, 800}, 200).minY(), -100);
+TEST(ConfigWindowPlacement, StaysInTheMiddleWhereverThePrompterIs) {
+    const Rect frame{1920, -200, 1920, 1080};
+    EXPECT_EQ(
+        placeConfigWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 256.5, 300)),
+        (ConfigWindowPlacement{1920 + 960 - 161, 623.5, 823.5, true}));
+}
+
+TEST(ConfigWindowPlacement, IsBelowAsLongAsThatShowsAllOfIt) {
+    const Rect frame{0, 0, 1366, 1000};
+    EXPECT_TRUE(placeConfigWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 260))
+                    .belowPrompter);
+    EXPECT_FALSE(placeConfigWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 261))
+                     .belowPrompter);
+}
+
+TEST(ConfigWindowPlacement, IsBesideAPrompterThatLeavesNoRoomBelow) {
+    const Rect frame{0, 0, 1366, 800};
+    EXPECT_EQ(
+        placeConfigWindow(window, screenWithPanels(frame, 30, 20), prompterOn(frame, 450, 800)),
+        (ConfigWindowPlacement{683 + 225, 770, 750, false}));
+}
+
+TEST(ConfigWindowPlacement, IsOnTheWiderSide) {
+    const Rect frame{0, 0, 1366, 800};
+    EXPECT_EQ(
+        placeConfigWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 700, 100)).left,
+        683 + 100 - 225 - 322);
+}
+
+TEST(ConfigWindowPlacement, HasItsScrollBarBesideThePrompterToo) {
+    const Rect frame{0, 0, 1366, 700};
+    EXPECT_EQ(
+        placeConfigWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 256, 100)).left,
+        683 + 100 - 225 - 332);
+}
+
+TEST(ConfigWindowPlacement, LiesOverThePrompterAsLittleAsItCan) {
+    const Rect frame{0, 0, 640, 480};
+    EXPECT_EQ(placeConfigWindow(window, screenWithPanels(frame, 30), prompterOn(frame, 450, 256)),
+              (ConfigWindowPlacement{640 - 332, 450, 450, false}));
+    EXPECT_EQ(
+        placeConfigWindow(window, screenWithPanels(frame, 30), prompterOn(frame, 450, 256, 95))
+            .left,
+        0);
+}
+
+TEST(ConfigWindowPlacement, AvoidsAPanelAtTheSide) {
+    Screen screen = screenWithPanels({0, 0, 500, 1200});
+    screen.visibleFrame.x = 100;
+    screen.visibleFrame.width = 400;
+    const auto placement = placeConfigWindow(window, screen, prompterOn(screen.frame, 450, 256));
+    EXPECT_TRUE(placement.belowPrompter);
+    EXPECT_EQ(placement.left, 100);
 }
 
 } // namespace

@@ -159,7 +159,6 @@ class WithAVault(OnboardingTestCase):
 
     def test_is_gone_through_with_the_keys(self):
         self.start_first()
-        self.desktop.key("Tab")
         self.wait_for_state("focused", TITLE, "push button", "Get Started")
         self.desktop.key("Tab")
         self.wait_for_state("focused", TITLE, "check box", "Obsidian")
@@ -298,6 +297,19 @@ class WithoutAVault(OnboardingTestCase):
         self.obsidian.install()
         self.start_first()
         self.assert_obsidian_is_locked("No Obsidian vault found")
+
+
+class OnASmallScreen(OnboardingTestCase):
+    desktop_options = {"size": (640, 480)}
+
+    def test_shows_its_button_and_scrolls_above_it(self):
+        self.start_first()
+        start = self.control(TITLE, "push button", "Get Started")
+        self.assertTrue(start.lies_in(self.open_window(TITLE).area))
+        self.assertTrue(start.lies_in((0, 0, 640, 480)))
+        self.assertEqual(self.desktop.property(self.welcome, "_GTK_THEME_VARIANT"), '"dark"')
+        self.click_on(start)
+        self.wait_for_prompter()
 
 
 class Afterwards(OnboardingTestCase):

@@ -44,6 +44,9 @@ class SettingsTestCase(AccessibleTestCase):
     def settings_are_open(self):
         return bool(self.desktop.windows(SETTINGS, self.prompter.pid))
 
+    def last_row(self):
+        return self.control(TITLE, "label", "Shortcuts in Any Application")
+
     def prompter_area(self):
         return self.desktop.geometry(self.window)
 

@@ -1,12 +1,16 @@
 """The settings window: its controls by mouse, keys and screen reader, and the prompter that follows
 while they move."""
 
+import re
 import unittest
 
 from harness import wait_until
+from harness.session import PANEL_HEIGHT
+from harness.tessaline import SETTINGS
 from harness.waiting import holds_for
 from settings_case import CONTROLS, HEIGHT, TITLE, WIDTH, SettingsTestCase
 
+WINDOW_COLOR, PROMPTER_COLOR = (42, 42, 44), (0, 0, 0)
 TEXT = (10, 44, 430, 202)  # x, y, width, height in the prompter
 TALK = "A line of the talk that is long enough to be broken where the prompter is narrow\n\n" * 300
 
@@ -18,15 +22,17 @@ class Place(SettingsTestCase):
         x, _, width, _ = self.open_window(TITLE).area
         self.assertAlmostEqual(x + width / 2, self.screen_width / 2, delta=1)
 
-    def test_follows_the_height_of_the_prompter(self):
+    def test_follows_the_height_of_the_prompter_and_gives_way_to_a_high_one(self):
         self.start_with_settings()
         self.focus("slider", "Height")
         self.desktop.key("End")
         self.wait_for_prompter_area(self.left, 0, WIDTH, 800)
-        self.wait_for_top(800)
+        self.wait_for_top(PANEL_HEIGHT)
+        self.assertGreaterEqual(self.open_window(TITLE).area[0], self.left + WIDTH)
         self.desktop.key("Home")
         self.wait_for_prompter_area(self.left, 0, WIDTH, 100)
         self.wait_for_top(100)
+        self.assertLess(self.open_window(TITLE).area[0], self.left + WIDTH)
 
     def test_stays_open_when_escape_is_pressed(self):
         self.start_with_settings()
@@ -188,8 +194,7 @@ class ForScreenReaders(SettingsTestCase):
 
     def test_the_tab_key_goes_from_top_to_bottom(self):
         self.start_with_settings()
-        self.wait_for_focus(*CONTROLS[0])
-        for role, name in CONTROLS[1:] + CONTROLS[:1]:
+        for role, name in CONTROLS + CONTROLS[:1]:
             self.desktop.key("Tab")
             self.wait_for_focus(role, name)
         self.desktop.key("shift+Tab")
@@ -200,8 +205,12 @@ class LowScreen(SettingsTestCase):
     desktop_options = {"size": (1280, 700)}
 
     def assert_whole_on_the_screen(self):
-        self.wait_for_top(self.prompter_area()[3])
+        """Beside the prompter, below the panel."""
+        self.wait_for_top(PANEL_HEIGHT)
         self.assertLessEqual(self.frame()[1], self.screen_height)
+        x, _, width, _ = self.open_window(TITLE).area
+        self.assertGreaterEqual(x, self.left + WIDTH)
+        self.assertLessEqual(x + width, self.screen_width)
 
     def is_in_sight(self, node):
         return node.lies_in(self.open_window(TITLE).area)
@@ -209,13 +218,14 @@ class LowScreen(SettingsTestCase):
     def test_scrolls_to_what_has_the_keyboard(self):
         self.start_with_settings()
         self.assert_whole_on_the_screen()
-        for role, name in CONTROLS[1:]:
+        for role, name in CONTROLS:
             self.desktop.key("Tab")
             self.wait_for_focus(role, name)
             wait_until(
                 lambda role=role, name=name: self.is_in_sight(self.control(TITLE, role, name)),
                 f"the {role} {name} is in sight",
             )
+        self.assertTrue(self.is_in_sight(self.last_row()), "so is what comes after the last one")
 
     def test_scrolls_to_its_end_with_the_wheel(self):
         self.start_with_settings()
@@ -225,17 +235,16 @@ class LowScreen(SettingsTestCase):
         before = self.settings()
         self.desktop.run("xdotool", "click", "--repeat", 40, 5)
         wait_until(
-            lambda: self.is_in_sight(self.control(TITLE, "label", "Shortcuts in Any Application")),
+            lambda: self.is_in_sight(self.last_row()),
             "the last row is in sight",
         )
         self.assertEqual(self.settings(), before)
 
     def test_stays_on_the_screen_when_the_prompter_grows(self):
         self.start_with_settings()
-        self.drag("Height", 400)
-        wait_until(lambda: self.prompter_area()[3] > 390, "the prompter is higher")
+        self.drag("Height", 700)
+        wait_until(lambda: self.prompter_area()[3] > 690, "the prompter is higher")
         self.desktop.release_button()
-        wait_until(lambda: self.frame()[1] <= self.screen_height, "it shrinks")
         self.assert_whole_on_the_screen()
         self.assertTrue(self.is_in_sight(self.slider("Height")))
 
@@ -248,6 +257,80 @@ class LowScreen(SettingsTestCase):
         self.desktop.key("Escape")
         self.wait_for_text(TITLE, "Plugin active")
         self.assert_whole_on_the_screen()
+
+
+class SmallScreen(SettingsTestCase):
+    """There is no room but over the prompter."""
+
+    desktop_options = {"size": (640, 480)}
+
+    def wait_for_ground(self, color):
+        """Waits for a colour between the window's left edge and its controls, where the prompter
+        is as well."""
+        x, y, _, _ = self.open_window(TITLE).area
+        self.desktop.wait_for_pixel(x + 10, y + 100, color)
+
+    def test_can_be_used_over_the_prompter(self):
+        self.start_with_settings()
+        self.wait_for_top(PANEL_HEIGHT)
+        x, _, width, _ = self.open_window(TITLE).area
+        self.assertLess(x, self.left + WIDTH)
+        self.assertLessEqual(x + width, self.screen_width)
+        self.assertLessEqual(self.frame()[1], self.screen_height)
+        self.wait_for_ground(WINDOW_COLOR)
+        self.choose("Clipboard", "Clipboard")
+        self.wait_for_ground(WINDOW_COLOR)
+        self.focus("slider", "Height")
+        self.desktop.key("End")
+        self.wait_for_prompter_area(self.left, 0, WIDTH, 800)
+        self.wait_for_ground(WINDOW_COLOR)
+
+        other = self.desktop.start("other", [self.probe(), "normal", "blue"])
+        other_window = self.desktop.wait_for_window(pid=other.pid)
+        self.desktop.activate(other_window)
+        self.wait_for_ground(PROMPTER_COLOR)
+        self.press("Tessaline", "Settings")
+        self.wait_for_ground(WINDOW_COLOR)
+
+    def test_its_first_key_changes_nothing_and_scrolls(self):
+        self.start_with_settings()
+        before = self.settings()
+        self.desktop.key("space", "Down", "End")
+        window = self.open_window(TITLE).area
+        wait_until(
+            lambda: self.last_row().lies_in(window), "the last row is in sight"
+        )
+        self.assertNotIn("checked", self.control(TITLE, "check box", "Obsidian").states)
+        self.assertEqual(self.settings(), before)
+
+
+class LargeScale(SettingsTestCase):
+    desktop_options = {"size": (1366, 768)}
+
+    def test_is_whole_on_the_screen(self):
+        for scale in "2", "1.5":
+            self.start(QT_SCALE_FACTOR=scale)
+            self.call("ctl", "settings")
+            settings = self.desktop.wait_for_window(SETTINGS, self.prompter.pid)
+            wait_until(lambda: self.desktop.active_window() == settings, "it has the keyboard")
+            wait_until(lambda: self.is_on_the_screen(settings), f"it is on the screen at {scale}")
+            self.prompter.end()
+
+    def is_on_the_screen(self, window):
+        info = self.desktop.run("xwininfo", "-id", window)
+        left, top, width, height = (
+            int(re.search(rf"{name}: +(-?\d+)", info).group(1))
+            for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        )
+        below = self.desktop.picture().pixel(left + width // 2, min(top + height, 767) - 4)
+        return (
+            left >= 0
+            and top > PANEL_HEIGHT
+            and left + width <= self.screen_width
+            and top + height <= self.screen_height
+            and below != PROMPTER_COLOR
+            and self.desktop.pixel(left + 10, top + 40) == WINDOW_COLOR
+        )
 
 
 if __name__ == "__main__":

@@ -4,7 +4,9 @@
 #include "ui/SpokenControls.h"
 #include "ui/controls/PointSlider.h"
 #include "ui/controls/StatusDot.h"
+#include "ui/controls/Switch.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QLabel>
 
@@ -100,7 +102,7 @@ TEST_F(ConfigWindowTest, ClipsNothing) {
     stage.settings.activeSourceType = SourceType::appleNotes;
     stage.settings.xOffset = -135.5;
     window().refreshUI();
-    shown();
+    shown().fitInto(window().wholeSize().height());
     QTest::qWait(0);
     for (const QWidget* part : window().findChildren<QWidget*>()) {
         const bool isText = qobject_cast<const QLabel*>(part) != nullptr ||
@@ -117,8 +119,7 @@ TEST_F(ConfigWindowTest, ClipsNothing) {
 }
 
 TEST_F(ConfigWindowTest, FollowsItsContentsHeight) {
-    stage.screens.main->frame.height = 1600;
-    shown();
+    shown().fitInto(1600);
     const int before = window().height();
     stage.settings.activeSourceType = SourceType::appleNotes;
     window().refreshUI();
@@ -130,7 +131,7 @@ TEST_F(ConfigWindowTest, FollowsItsContentsHeight) {
 }
 
 TEST_F(ConfigWindowTest, HasItsSizeAsSoonAsItIsRefreshedAlsoWhileItIsHidden) {
-    stage.screens.main->frame.height = 1600;
+    window().fitInto(1600);
     const QSize before = window().size();
     EXPECT_EQ(before.width(), 320);
     stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
@@ -142,46 +143,55 @@ TEST_F(ConfigWindowTest, HasItsSizeAsSoonAsItIsRefreshedAlsoWhileItIsHidden) {
     EXPECT_EQ(window().size(), hidden);
 }
 
-TEST_F(ConfigWindowTest, IsNoHigherThanWhatIsLeftBelowThePrompter) {
-    constexpr int titleBar = 40;
-    stage.settings.height = 300;
+TEST_F(ConfigWindowTest, FitsIntoTheRoomThatItIsGiven) {
     window().refreshUI();
-    EXPECT_EQ(window().height(), 800 - 300 - titleBar);
-    stage.screens.main->visibleFrame = {0, 50, 1000, 750};
+    const QSize whole = window().wholeSize();
+    window().fitInto(whole.height() - 100);
+    EXPECT_EQ(window().size(), whole + QSize(window().scrollBarWidth(), -100));
     window().refreshUI();
-    EXPECT_EQ(window().height(), 750 - 300 - titleBar);
-    stage.screens.main->frame = {0, -400, 1000, 1600};
-    stage.screens.main->visibleFrame = stage.screens.main->frame;
-    window().refreshUI();
-    EXPECT_GT(window().height(), 600);
-    EXPECT_EQ(window().width(), 320) << "nothing scrolls";
-    stage.settings.height = 1590;
-    window().refreshUI();
-    EXPECT_EQ(window().height(), 200) << "some of it is always seen";
+    EXPECT_EQ(window().height(), whole.height() - 100);
+    EXPECT_EQ(window().wholeSize(), whole) << "wherever it is";
+    window().fitInto(whole.height());
+    EXPECT_EQ(window().size(), whole);
 }
 
-TEST_F(ConfigWindowTest, MakesRoomForAHigherPrompterOnceItsSliderIsLetGo) {
-    window().refreshUI();
-    const int before = window().height();
+TEST_F(ConfigWindowTest, TellsThatItsSizeMayChangeWhenASliderIsLetGo) {
+    int announced = 0;
+    window().onSizeChanged = [&] { ++announced; };
     auto& slider = control<PointSlider>("heightSlider");
+    EXPECT_FALSE(window().isSliderHeld());
     slider.setSliderDown(true);
+    EXPECT_TRUE(window().isSliderHeld());
     slider.moveTo(400);
-    EXPECT_EQ(window().height(), before) << "the slider stays below the pointer";
+    EXPECT_EQ(announced, 0);
     slider.setSliderDown(false);
-    EXPECT_EQ(window().height(), 800 - 400 - 40);
-    slider.moveTo(500);
-    EXPECT_EQ(window().height(), 800 - 500 - 40);
-    EXPECT_EQ(settingsChanges, 3);
+    EXPECT_FALSE(window().isSliderHeld());
+    EXPECT_EQ(announced, 1);
+    EXPECT_EQ(settingsChanges, 1);
 }
 
-TEST_F(ConfigWindowTest, MeasuresTheDisplayThatThePrompterHangsOn) {
-    stage.plugIn(
-        Screen{.id = 8, .frame = {1000, 0, 2000, 1000}, .visibleFrame = {1000, 0, 2000, 1000}});
-    useScreenManager();
-    stage.settings.height = 400;
-    screenManager.preferredDisplayID = 8;
-    window().refreshUI();
-    EXPECT_EQ(window().height(), 1000 - 400 - 40);
+TEST_F(ConfigWindowTest, HoldsASliderBeforeAPressOnItsGrooveChangesAnything) {
+    auto& slider = control<PointSlider>("heightSlider");
+    bool held = false;
+    window().onSettingsChanged = [&] { held = window().isSliderHeld(); };
+    shown();
+    QTest::mousePress(&slider, Qt::LeftButton, {}, QPoint(slider.width() - 20, 10));
+    EXPECT_TRUE(held);
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, QPoint(slider.width() - 20, 10));
+    EXPECT_FALSE(window().isSliderHeld());
+}
+
+TEST_F(ConfigWindowTest, StartsOnNoControlEachTimeItIsShown) {
+    stage.installObsidian();
+    for (int i = 0; i < 2; ++i) {
+        shown().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        EXPECT_FALSE(control<Switch>("obsidianToggle").isChecked());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(control<Switch>("obsidianToggle").hasFocus());
+        window().close();
+    }
 }
 
 TEST_F(ConfigWindowTest, TheTabKeyGoesFromTopToBottom) {
@@ -191,8 +201,8 @@ TEST_F(ConfigWindowTest, TheTabKeyGoesFromTopToBottom) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     std::vector<QString> visited;
     for (int i = 0; i < 9; ++i) {
-        visited.push_back(window().focusWidget()->objectName());
         QTest::keyClick(&window(), Qt::Key_Tab);
+        visited.push_back(window().focusWidget()->objectName());
     }
     EXPECT_THAT(visited,
                 ElementsAre(u"obsidianToggle"_s, u"obsidianConfigButton"_s, u"config_sourcePopup"_s,

@@ -92,8 +92,18 @@ TEST_F(OnboardingWindowTest, HasItsTextsAndSize) {
 }
 
 TEST_F(OnboardingWindowTest, StandsInTheMiddleOfTheScreen) {
-    const QPoint middle = window().screen()->availableGeometry().center();
-    EXPECT_LE((window().geometry().center() - middle).manhattanLength(), 2);
+    stage.screens.main->visibleFrame = {100, 0, 800, 740};
+    const QRect frame = window().frameGeometry();
+    const int below = window().screen()->geometry().height() - frame.bottom() - 1;
+    EXPECT_NEAR(frame.center().x(), 500, 2);
+    EXPECT_EQ(below, (740 - 520 - 40) / 2 + 40) << "a title bar takes so much above";
+}
+
+TEST_F(OnboardingWindowTest, ShowsItsButtonOnAScreenThatIsTooLowForTheRest) {
+    stage.screens.main->visibleFrame = {0, 30, 640, 450};
+    shown();
+    EXPECT_EQ(window().height(), 450 - 40);
+    EXPECT_EQ(continueButton().visibleRegion().boundingRect(), continueButton().rect());
 }
 
 TEST_F(OnboardingWindowTest, KeepsItsDistances) {
@@ -244,9 +254,10 @@ TEST_F(OnboardingWindowTest, TheTabKeyGoesFromTopToBottom) {
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     std::vector<QWidget*> visited;
+    EXPECT_TRUE(continueButton().hasFocus());
     for (int i = 0; i < 2; ++i) {
-        visited.push_back(window().focusWidget());
         QTest::keyClick(&window(), Qt::Key_Tab);
+        visited.push_back(window().focusWidget());
     }
     EXPECT_THAT(visited, ElementsAre(obsidian().toggleSwitch, &continueButton()));
 }

@@ -31,7 +31,9 @@ namespace tessaline {
 class WindowStage {
 public:
     WindowStage() {
-        plugIn(Screen{.id = 7, .name = QStringLiteral("Built-in"), .frame = {0, 0, 1000, 800}});
+        const Rect frame{0, 0, 1000, 800};
+        plugIn(Screen{
+            .id = 7, .name = QStringLiteral("Built-in"), .frame = frame, .visibleFrame = frame});
     }
 
     /// Attaches a display; the first one is the main one.

@@ -3,6 +3,9 @@
 #include "platform/linux/ClockDisplayLinkMaker.h"
 #include "platform/linux/ConnectorIdentity.h"
 #include "platform/linux/DisplayChoice.h"
+#include "platform/linux/X11DarkTitleBars.h"
+
+#include <QGuiApplication>
 
 #include <xcb/xcb.h>
 
@@ -46,6 +49,9 @@ ScreenIdentity identifyScreen(const QScreen& screen) {
 }
 
 bool showNativeDarkAppearance() {
+    // Without a server Qt's offscreen platform has the interface all the same.
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 && x11->connection()) new X11DarkTitleBars(x11->connection());
     return false;
 }
 

@@ -13,6 +13,9 @@
 #include "ui/controls/Rows.h"
 #include "ui/controls/SliderRow.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -95,6 +98,9 @@ PointSlider* DisplaySection::addSlider(const QString& name, const QString& ident
     auto* slider = new PointSlider(name, sliderWidth);
     slider->setObjectName(identifier);
     connect(slider, &PointSlider::moved, this, &DisplaySection::configChanged);
+    connect(slider, &PointSlider::sliderReleased, this, [this] {
+        if (onSliderReleased) onSliderReleased();
+    });
     layout()->addWidget(slider);
     layout()->setAlignment(slider, Qt::AlignLeading);
     return slider;
@@ -110,24 +116,23 @@ PopupButton* DisplaySection::createTickFactorPopup() {
     return popup;
 }
 
-std::optional<Screen> DisplaySection::prompterDisplay() const {
-    const auto all = screens.all();
-    if (screenManager && !all.empty()) return screenManager->preferredScreen();
-    if (auto main = screens.mainScreen()) return main;
-    if (!all.empty()) return all.front();
-    return std::nullopt;
-}
-
 double DisplaySection::computeMaxXOffset() const {
-    const auto display = prompterDisplay();
-    const auto width = display ? std::optional(display->frame.width) : std::nullopt;
+    std::optional<double> width;
+    const auto all = screens.all();
+    if (screenManager && !all.empty()) {
+        width = screenManager->preferredScreen().frame.width;
+    } else if (const auto main = screens.mainScreen()) {
+        width = main->frame.width;
+    } else if (!all.empty()) {
+        width = all.front().frame.width;
+    }
     return PositionRange::maximumOffset(width, settings.width);
 }
 
-std::optional<int> DisplaySection::roomBelowPrompter() const {
-    const auto display = prompterDisplay();
-    if (!display) return std::nullopt;
-    return int(display->frame.maxY() - settings.height - display->visibleFrame.minY());
+bool DisplaySection::isSliderHeld() const {
+    const auto sliders = {widthSlider, heightSlider, fontSlider, xOffsetSlider};
+    return std::any_of(sliders.begin(), sliders.end(),
+                       [](const PointSlider* slider) { return slider->isSliderDown(); });
 }
 
 void DisplaySection::updatePositionSliderLimits() {

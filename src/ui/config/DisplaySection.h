@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/Screen.h"
-
 #include <QWidget>
 
 #include <functional>
@@ -43,9 +41,11 @@ public:
     /// Writes the sliders' values beside their names.
     void updateValueLabels();
 
-    /// The height in points of what the prompter's display has left below the prompter; none
-    /// without any display.
-    std::optional<int> roomBelowPrompter() const;
+    /// Called when the user lets a slider go.
+    std::function<void()> onSliderReleased;
+
+    /// Whether the user holds a slider with the mouse.
+    bool isSliderHeld() const;
 
     PopupButton* screenPopup = nullptr;
     PointSlider* widthSlider = nullptr;
@@ -64,7 +64,6 @@ private:
     QLabel* addSliderRow(const QString& name, const QString& identifier);
     PointSlider* addSlider(const QString& name, const QString& identifier);
     PopupButton* createTickFactorPopup();
-    std::optional<Screen> prompterDisplay() const;
     double computeMaxXOffset() const;
     void updatePositionSliderLimits();
     void updateXOffsetLabel();

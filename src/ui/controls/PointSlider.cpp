@@ -93,7 +93,8 @@ QRect PointSlider::knobRect() const {
 void PointSlider::mousePressEvent(QMouseEvent* event) {
     const QRect knob = knobRect();
     const QPoint place = event->position().toPoint();
-    if (event->button() == Qt::LeftButton && !knob.contains(place)) {
+    if (event->buttons() == Qt::LeftButton && minimum() < maximum() && !knob.contains(place)) {
+        setSliderDown(true); // before anybody hears of the new value
         QStyleOptionSlider option;
         initStyleOption(&option);
         const QRect groove =
@@ -121,7 +122,10 @@ void PointSlider::paintEvent(QPaintEvent*) {
     if (!isEnabled()) painter.setOpacity(disabledOpacity);
     QRectF knob(knobRect());
     const double diameter = std::min(knob.width(), knob.height());
-    const QPointF center(knob.center().x(), height() / 2.0);
+    // At the ends there has to be room for the ring.
+    const double middle = width() / 2.0;
+    const double squeeze = 1.0 - 2.0 * ringWidth / (width() - diameter);
+    const QPointF center(middle + (knob.center().x() - middle) * squeeze, height() / 2.0);
     knob = QRectF(center - QPointF(diameter, diameter) / 2, QSizeF(diameter, diameter));
 
     const QRectF groove(0, center.y() - grooveThickness / 2, width(), grooveThickness);

@@ -95,9 +95,8 @@ TEST_F(SettingsLook, TheSmallButtonsHaveSmallTitles) {
 }
 
 TEST_F(SettingsLook, ThePartsStandTenPointsApartAndTwentyFromTheEdges) {
-    stage.screens.main->frame.height = 1600;
     window().refreshUI();
-    shown();
+    shown().fitInto(window().wholeSize().height());
     const QWidget& integrations = *control<QWidget>("clipboardToggle").parentWidget();
     const QRect top = bounds(label(u"Enabled Integrations"_s));
     EXPECT_EQ(top.topLeft(), QPoint(20, 20));

@@ -53,5 +53,23 @@ INSTANTIATE_TEST_SUITE_P(
                     []() -> QWidget* { return new PopupButton(u"Screen"_s, 100); },
                     []() -> QWidget* { return new Switch(u"Obsidian"_s); }));
 
+TEST(FocusRingOfASlider, IsWholeAtBothEnds) {
+    QWidget window;
+    auto* slider = new PointSlider(u"Width"_s, 100, &window);
+    slider->setLimits(0, 10);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    slider->setFocus();
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    for (const double value : {0.0, 10.0}) {
+        slider->setPoints(value);
+        const QImage picture = pictureOf(*slider, 4);
+        const QRectF ring = boundsOf(picture, [&](int x, int y) {
+            return picture.pixelColor(x, y) == SystemPalette::focusRing;
+        });
+        EXPECT_NEAR(ring.width(), ring.height(), 0.5) << "at " << value;
+    }
+}
+
 } // namespace
 } // namespace tessaline

@@ -1,0 +1,29 @@
+#pragma once
+
+namespace tessaline {
+
+class AppSettings;
+class ConfigWindow;
+class PrompterWindow;
+class ScreenManager;
+
+/// Keeps the settings window where it can be used. Main thread only.
+class ConfigWindowPlacer {
+public:
+    /// Everything is borrowed.
+    ConfigWindowPlacer(ConfigWindow& window, const PrompterWindow& prompter,
+                       const ScreenManager& screens, const AppSettings& settings);
+
+    /// Puts the window below the prompter, or else beside or over it, on the prompter's screen.
+    /// While a slider of the window is dragged, the window does not slip from under the pointer.
+    void place();
+
+private:
+    ConfigWindow& window;
+    const PrompterWindow& prompter;
+    const ScreenManager& screens;
+    const AppSettings& settings;
+    bool isBelow = false; ///< the prompter, when nobody held a slider
+};
+
+} // namespace tessaline
