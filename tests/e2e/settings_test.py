@@ -2,6 +2,7 @@
 while they move."""
 
 import re
+import signal
 import unittest
 
 from harness import wait_until
@@ -33,6 +34,19 @@ class Place(SettingsTestCase):
         self.wait_for_prompter_area(self.left, 0, WIDTH, 100)
         self.wait_for_top(100)
         self.assertLess(self.open_window(TITLE).area[0], self.left + WIDTH)
+
+    def test_has_the_keyboard_also_when_the_window_manager_is_late(self):
+        manager = self.desktop.process("openbox")
+        manager.send(signal.SIGSTOP)
+        self.start()
+        self.assertEqual(self.call("ctl", "settings")[0], 0)
+        # The program hears only afterwards that the window manager has got so far.
+        self.prompter.send(signal.SIGSTOP)
+        manager.send(signal.SIGCONT)
+        window = self.desktop.wait_for_window(SETTINGS, self.prompter.pid)
+        wait_until(lambda: self.desktop.focused_window() == window, "it has the keyboard")
+        self.prompter.send(signal.SIGCONT)
+        self.assertTrue(holds_for(lambda: self.desktop.focused_window() == window, 0.3))
 
     def test_stays_open_when_escape_is_pressed(self):
         self.start_with_settings()
@@ -326,6 +340,7 @@ class LargeScale(SettingsTestCase):
         return (
             left >= 0
             and top > PANEL_HEIGHT
+            and height > 0.9 * (self.screen_height - PANEL_HEIGHT)
             and left + width <= self.screen_width
             and top + height <= self.screen_height
             and below != PROMPTER_COLOR

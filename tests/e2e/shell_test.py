@@ -7,7 +7,7 @@ from harness import TessalineTestCase, wait_until
 from harness.tessaline import PROMPTER, SETTINGS, WELCOME
 from harness.waiting import holds_for
 
-SCREEN = (1280, 800)
+SCREEN = (1280, 1024)
 LEFT = (SCREEN[0] - 450) // 2
 STRIP_MIDDLE = 15
 CLOSE = (LEFT + 16, STRIP_MIDDLE)
@@ -20,7 +20,7 @@ ROW = 24
 
 
 class ShellTestCase(TessalineTestCase):
-    desktop_options = {"tray": PANEL["dark"][0]}
+    desktop_options = {"size": SCREEN, "tray": PANEL["dark"][0]}
 
     def wait_for_tray_icon(self):
         wait_until(lambda: self.icon_share(PANEL["dark"][1]) > 0.1, "the tray shows the icon")

@@ -186,6 +186,7 @@ TEST_F(ConfigWindowTest, StartsOnNoControlEachTimeItIsShown) {
     for (int i = 0; i < 2; ++i) {
         shown().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         EXPECT_FALSE(control<Switch>("obsidianToggle").isChecked());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

@@ -87,7 +87,9 @@ bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
     if (type != "xcb_generic_event_t") return false;
     if (floating != XCB_NONE && stacking.isChange(message)) raiseTimer.start();
     if (claiming != XCB_NONE && managerTurn.isAnswer(message)) {
-        claimKeyboard();
+        // Another window of ours that has the keyboard by now has it because somebody asked for it.
+        const auto current = focusedWindow();
+        if (current && !isOurs(*current)) claimKeyboard();
         claiming = XCB_NONE;
     }
     if (translucencyChanged && compositor.isChange(message)) translucencyChanged();
@@ -99,6 +101,12 @@ std::optional<X11WindowTraits::XWindow> X11WindowTraits::focusedWindow() const {
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     if (!reply) return std::nullopt;
     return reply->focus;
+}
+
+/// Windows carry the number of the connection that made them.
+bool X11WindowTraits::isOurs(XWindow window) const {
+    const xcb_setup_t* setup = xcb_get_setup(connection);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
 }
 
 /// False when the server refuses, as it does for windows that are gone or hidden.

@@ -49,6 +49,7 @@ private:
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
     std::optional<XWindow> focusedWindow() const;
+    bool isOurs(XWindow window) const;
     bool focus(XWindow window) const;
     void claimKeyboard();
 
