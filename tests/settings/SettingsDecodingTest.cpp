@@ -345,7 +345,7 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenFile{"NotANumber", R"({"fontSize": NaN})", u"Invalid JSON at byte 14"_s},
         BrokenFile{"InvalidUtf8", "{\"notePath\": \"\xC3(\"}", u"Invalid JSON at byte 16"_s},
         BrokenFile{"InvalidUtf8InUnknownKey", "{\"x\": \"\xFF\"}", u"Invalid JSON at byte 8"_s},
-        BrokenFile{"AfterANul", QByteArray("{\"fontSize\": 20}\0{\"width\": 500}", 33),
+        BrokenFile{"AfterANul", QByteArray("{\"fontSize\": 20}\0{\"width\": 500}", 31),
                    u"Invalid JSON at byte 17"_s},
         BrokenFile{"NulAtTheEnd", QByteArray("{}\n\0", 4), u"Invalid JSON at byte 4"_s},
         BrokenFile{"NulInAText", QByteArray("{\"notePath\": \"a\0b\"}", 19),
