@@ -35,8 +35,9 @@ protected:
     }
 
     QWidget window;
-    QWidget* filler = new QWidget;
-    QPushButton* button = new QPushButton(QStringLiteral("Last"));
+    // The window's, whether a test uses them or not.
+    QWidget* filler = new QWidget(&window);
+    QPushButton* button = new QPushButton(QStringLiteral("Last"), &window);
     const int room = window.screen()->availableGeometry().height();
 };
 
