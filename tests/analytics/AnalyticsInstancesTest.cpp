@@ -1,6 +1,7 @@
 #include "analytics/Analytics.h"
 
 #include "analytics/AnalyticsStage.h"
+#include "analytics/EventHistory.h"
 #include "support/PrintQt.h"
 #include "support/RecordedLog.h"
 
@@ -8,6 +9,9 @@
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
+
+#include <thread>
+#include <vector>
 
 namespace tessaline {
 namespace {
@@ -64,6 +68,36 @@ TEST_F(AnalyticsInstances, PutAsideWhatAnotherProgramMadeOfTheFile) {
     EXPECT_EQ(namesIn(stage.path), (QStringList{u"a"_s, u"b"_s}));
     EXPECT_EQ(fileBytes(stage.path + u".unreadable"_s), "not a history");
     EXPECT_EQ(log.entries().size(), 1);
+}
+
+// Only a lock between processes keeps them apart, of which the thread sanitizer knows nothing.
+TEST(EventHistories, LoseNothingThatTheyWriteAtTheSameTime) {
+    constexpr int instanceCount = 3;
+    constexpr int flushesEach = 50;
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"support/analytics.json"_s);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    std::vector<std::thread> instances;
+    instances.reserve(instanceCount);
+    for (int instance = 0; instance < instanceCount; ++instance) {
+        instances.emplace_back([&path, &now, instance] {
+            EventHistory history(path, now.addDays(-1));
+            for (int flush = 0; flush < flushesEach; ++flush) {
+                history.add({.name = u"%1 %2"_s.arg(instance).arg(flush), .timestamp = now});
+                history.flush();
+            }
+        });
+    }
+    for (std::thread& instance : instances)
+        instance.join();
+    QStringList names = namesIn(path);
+    names.sort();
+    QStringList expected;
+    for (int instance = 0; instance < instanceCount; ++instance)
+        for (int flush = 0; flush < flushesEach; ++flush)
+            expected += u"%1 %2"_s.arg(instance).arg(flush);
+    expected.sort();
+    EXPECT_EQ(names, expected);
 }
 
 } // namespace

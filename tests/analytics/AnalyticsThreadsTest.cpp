@@ -108,34 +108,5 @@ TEST_F(AnalyticsThreads, RecordEveryEventOnceAndInOrderWhileFlushesFailAndSuccee
         EXPECT_EQ(count, eventsEach) << thread.toStdString();
 }
 
-TEST(EventHistories, LoseNothingThatTheyWriteAtTheSameTime) {
-    constexpr int instanceCount = 3;
-    constexpr int flushesEach = 50;
-    QTemporaryDir folder;
-    const QString path = folder.filePath(u"support/analytics.json"_s);
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    std::vector<std::thread> instances;
-    instances.reserve(instanceCount);
-    for (int instance = 0; instance < instanceCount; ++instance) {
-        instances.emplace_back([&path, &now, instance] {
-            EventHistory history(path, now.addDays(-1));
-            for (int flush = 0; flush < flushesEach; ++flush) {
-                history.add({.name = u"%1 %2"_s.arg(instance).arg(flush), .timestamp = now});
-                history.flush();
-            }
-        });
-    }
-    for (std::thread& instance : instances)
-        instance.join();
-    QStringList names = namesIn(path);
-    names.sort();
-    QStringList expected;
-    for (int instance = 0; instance < instanceCount; ++instance)
-        for (int flush = 0; flush < flushesEach; ++flush)
-            expected += u"%1 %2"_s.arg(instance).arg(flush);
-    expected.sort();
-    EXPECT_EQ(names, expected);
-}
-
 } // namespace
 } // namespace tessaline

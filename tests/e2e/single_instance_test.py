@@ -57,7 +57,7 @@ class SingleInstance(TessalineTestCase):
         status, output, error = self.call("missing.md")
         self.assertEqual((status, output), (2, ""))
         self.assertEqual(error, "tessaline: cannot read missing.md: No such file or directory\n")
-        self.assertEqual(self.kept_script(), "# First")
+        wait_until(lambda: self.kept_script() == "# First", "the first script is kept")
 
     def test_starts_again_after_it_was_killed(self):
         self.start()
