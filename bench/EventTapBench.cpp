@@ -6,7 +6,7 @@
 #include "platform/AccessibilityTrust.h"
 #include "platform/MainQueue.h"
 #include "platform/SystemAdapters.h"
-#include "platform/linux/X11Connection.h"
+#include "platform/linux/x11/X11Connection.h"
 #include "platform/qt/QtTimerMaker.h"
 
 #include <QGuiApplication>

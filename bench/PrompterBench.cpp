@@ -5,7 +5,7 @@
 
 #include "platform/qt/QtTimerMaker.h"
 #include "prompter/view/ScriptView.h"
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>

@@ -2,7 +2,7 @@
 #include "SampleTalk.h"
 #include "Verdicts.h"
 
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 
 #include <QGuiApplication>
 #include <QTextDocument>

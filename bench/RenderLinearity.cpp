@@ -1,8 +1,8 @@
 #include "SteadyMemory.h"
 #include "Verdicts.h"
 
-#include "render/MarkdownRenderer.h"
-#include "render/PathologicalTexts.h"
+#include "render/markdown/MarkdownRenderer.h"
+#include "render/markdown/PathologicalTexts.h"
 #include "sources/notes/HtmlToMarkdown.h"
 
 #include <algorithm>

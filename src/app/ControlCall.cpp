@@ -1,9 +1,9 @@
 #include "app/ControlCall.h"
 
 #include "app/RemoteCommands.h"
-#include "app/cli/Console.h"
-#include "app/cli/ExitStatus.h"
 #include "app/remote/SingleInstance.h"
+#include "cli/Console.h"
+#include "cli/ExitStatus.h"
 #include "platform/SystemAdapters.h"
 
 #include <chrono>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/cli/ControlRequest.h"
+#include "cli/ControlRequest.h"
 
 namespace tessaline {
 

@@ -1,8 +1,8 @@
 #include "app/RemoteControl.h"
 
 #include "app/AppDelegate.h"
-#include "app/cli/CommandLine.h"
 #include "app/shortcuts/Shortcuts.h"
+#include "cli/CommandLine.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
 

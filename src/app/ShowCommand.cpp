@@ -2,12 +2,12 @@
 
 #include "app/PrompterApplication.h"
 #include "app/RemoteCommands.h"
-#include "app/cli/Console.h"
-#include "app/cli/ExitStatus.h"
-#include "app/cli/TextInput.h"
 #include "app/remote/HandedScript.h"
 #include "app/remote/SingleInstance.h"
 #include "app/remote/TemporaryFolder.h"
+#include "cli/Console.h"
+#include "cli/ExitStatus.h"
+#include "cli/TextInput.h"
 #include "settings/FilePath.h"
 
 #include <chrono>

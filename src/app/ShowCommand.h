@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/cli/CommandLine.h"
+#include "cli/CommandLine.h"
 
 namespace tessaline {
 

@@ -1,9 +1,9 @@
 #include "app/ControlCall.h"
 #include "app/ShowCommand.h"
-#include "app/cli/CommandLine.h"
-#include "app/cli/Console.h"
-#include "app/cli/ExitStatus.h"
-#include "app/cli/RenderCommand.h"
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+#include "cli/ExitStatus.h"
+#include "cli/RenderCommand.h"
 #include "settings/FilePath.h"
 
 #include <QStringList>

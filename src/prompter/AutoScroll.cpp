@@ -1,6 +1,6 @@
 #include "prompter/AutoScroll.h"
 
-#include "render/DisplayLinkScrollerDelegate.h"
+#include "render/engines/DisplayLinkScrollerDelegate.h"
 #include "settings/AppSettings.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "render/DisplayLinkScroller.h"
-#include "render/TimerScroller.h"
+#include "render/engines/DisplayLinkScroller.h"
+#include "render/engines/TimerScroller.h"
 
 #include <functional>
 #include <memory>

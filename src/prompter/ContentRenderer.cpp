@@ -2,7 +2,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/TaskRunner.h"
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "prompter/Placeholder.h"
 
 #include "platform/PlatformTexts.h"
-#include "render/StyledTextBuilder.h"
+#include "render/markdown/StyledTextBuilder.h"
 
 #include <algorithm>
 

@@ -12,7 +12,7 @@
 #include "prompter/WindowShape.h"
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ScriptView.h"
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
 

@@ -2,7 +2,7 @@
 
 #include "analytics/UsageRecorder.h"
 #include "platform/NotificationCenter.h"
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"
 #include "sources/notes/AppleNotesSource.h"

@@ -1,6 +1,6 @@
 #include "AppDelegateFixture.h"
 #include "app/RemoteCommands.h"
-#include "app/cli/ControlRequest.h"
+#include "cli/ControlRequest.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
 #include "support/PrintQt.h"

@@ -1,6 +1,6 @@
 #include "FuzzFailure.h"
 
-#include "render/EscapedText.h"
+#include "render/markdown/EscapedText.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 #include "FuzzFailure.h"
 
-#include "app/cli/ControlRequest.h"
 #include "app/remote/RemoteMessage.h"
+#include "cli/ControlRequest.h"
 
 #include <QJsonArray>
 

@@ -1,9 +1,9 @@
 #include "FuzzFailure.h"
 #include "FuzzText.h"
 
-#include "render/MarkdownRenderer.h"
-#include "render/RendererOracle.h"
-#include "render/StyledPiece.h"
+#include "render/markdown/MarkdownRenderer.h"
+#include "render/markdown/RendererOracle.h"
+#include "render/markdown/StyledPiece.h"
 
 using namespace tessaline;
 

@@ -1,8 +1,8 @@
 #include "FuzzFailure.h"
 #include "FuzzText.h"
 
-#include "render/MarkdownRenderer.h"
-#include "render/RendererOracle.h"
+#include "render/markdown/MarkdownRenderer.h"
+#include "render/markdown/RendererOracle.h"
 
 using namespace tessaline;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/DisplayLinkScrollerDelegate.h"
+#include "render/engines/DisplayLinkScrollerDelegate.h"
 
 #include <functional>
 #include <numeric>

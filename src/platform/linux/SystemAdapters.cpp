@@ -1,9 +1,9 @@
 #include "platform/SystemAdapters.h"
 
 #include "platform/linux/ClockDisplayLinkMaker.h"
-#include "platform/linux/ConnectorIdentity.h"
 #include "platform/linux/DisplayChoice.h"
-#include "platform/linux/X11DarkTitleBars.h"
+#include "platform/linux/x11/ConnectorIdentity.h"
+#include "platform/linux/x11/X11DarkTitleBars.h"
 
 #include <QGuiApplication>
 

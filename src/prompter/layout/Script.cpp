@@ -1,7 +1,7 @@
 #include "prompter/layout/Script.h"
 
-#include "render/CharacterClasses.h"
-#include "render/HeaderParagraph.h"
+#include "render/markdown/CharacterClasses.h"
+#include "render/markdown/HeaderParagraph.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "sources/notes/HtmlScanners.h"
 
-#include "render/CharacterClasses.h"
+#include "render/markdown/CharacterClasses.h"
 
 namespace tessaline {
 

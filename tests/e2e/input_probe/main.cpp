@@ -5,9 +5,9 @@
 #include "app/shortcuts/Shortcuts.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/SystemAdapters.h"
-#include "platform/linux/X11Connection.h"
-#include "platform/linux/X11Modifiers.h"
-#include "platform/linux/X11PassiveGrab.h"
+#include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11Modifiers.h"
+#include "platform/linux/x11/X11PassiveGrab.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtTimerMaker.h"
 

@@ -1,5 +1,5 @@
 #include "platform/linux/ClockDisplayLinkMaker.h"
-#include "render/DisplayLinkScroller.h"
+#include "render/engines/DisplayLinkScroller.h"
 #include "support/FakeMainQueue.h"
 #include "support/RecordingScrollDelegate.h"
 #include "support/WaitUntil.h"

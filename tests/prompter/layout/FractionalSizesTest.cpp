@@ -1,5 +1,5 @@
 #include "prompter/layout/ScriptLayout.h"
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "prompter/layout/ScriptChange.h"
 
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 
 #include <gtest/gtest.h>
 

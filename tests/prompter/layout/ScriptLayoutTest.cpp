@@ -1,6 +1,6 @@
 #include "prompter/layout/ScriptLayout.h"
 
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 #include "support/Contrast.h"
 
 #include <QImage>

@@ -1,7 +1,7 @@
 #include "prompter/layout/Script.h"
 
-#include "render/MarkdownRenderer.h"
-#include "render/StyledTextBuilder.h"
+#include "render/markdown/MarkdownRenderer.h"
+#include "render/markdown/StyledTextBuilder.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "prompter/view/ScriptView.h"
-#include "render/MarkdownRenderer.h"
+#include "render/markdown/MarkdownRenderer.h"
 #include "support/FakeTimerMaker.h"
 
 #include <QCoreApplication>

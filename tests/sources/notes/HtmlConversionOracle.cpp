@@ -1,6 +1,6 @@
 #include "sources/notes/HtmlConversionOracle.h"
 
-#include "render/IcuExpression.h"
+#include "render/markdown/IcuExpression.h"
 
 #include <utility>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "sources/notes/HtmlToMarkdown.h"
 
-#include "render/EscapedText.h"
+#include "render/markdown/EscapedText.h"
 #include "sources/notes/HtmlConversionOracle.h"
 
 #include <gtest/gtest.h>

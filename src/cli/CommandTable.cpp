@@ -1,0 +1,236 @@
+#include "cli/CommandTable.h"
+
+#include <algorithm>
+
+namespace tessaline {
+
+namespace {
+
+using Kind = CommandValue::Kind;
+
+constexpr CommandOption helpOption{.name = u"help", .help = u"Print this help.", .letter = u'h'};
+
+constexpr HelpEntry wrongUse{u"2",
+                             u"A wrong argument, or a FILE that cannot be read as UTF-8 text.\n"
+                             u"Nothing has changed then."};
+
+constexpr CommandOption programOptions[] = {
+    {.name = u"follow",
+     .help = u"Show FILE, a regular file, again whenever it changes on disk,\n"
+             u"and keep the reader's place."},
+    helpOption,
+    {.name = u"version", .help = u"Print the program's name and version."},
+};
+
+constexpr HelpEntry programStatuses[] = {
+    {u"0", u"Success."},
+    {u"1", u"The program could not start, or its output could not be written."},
+    wrongUse,
+};
+
+constexpr HelpEntry programEnvironment[] = {
+    {u"DO_NOT_TRACK", u"1 keeps usage signals from being collected\nand sent."},
+    {u"TESSALINE_TELEMETRY_URL", u"Where usage signals go instead of to the\nusual address."},
+};
+
+constexpr HelpEntry programFiles[] = {
+    {u"~/Library/Application Support/Tessaline/config.json", u"The settings."},
+    {u"~/Library/Application Support/Tessaline/clipboard-content.md",
+     u"The script that was pasted or opened last."},
+    {u"~/Library/Application Support/Tessaline/analytics.json", u"The history of use."},
+};
+
+constexpr HelpEntry programExamples[] = {
+    {u"tessaline talk.md", u"Show talk.md."},
+    {u"tessaline --follow talk.md", u"Show it, and every change to it."},
+    {u"pandoc talk.odt -t markdown | tessaline -", u"Show what another program writes."},
+    {u"tessaline", u"Show what was there last."},
+    {u"tessaline -- -draft-.md", u"Show a file whose name begins with a dash."},
+};
+
+constexpr HelpSection programSections[] = {
+    {u"Exit status", programStatuses},
+    {u"Environment", programEnvironment},
+    {u"Files", programFiles},
+    {u"Examples", programExamples},
+};
+
+constexpr CommandSpec program{
+    .usage = u"[--follow] [FILE|-]",
+    .description =
+        u"Shows a Markdown script in the prompter, a small window under the top edge of\n"
+        u"the screen. FILE is shown as if its text had been pasted; '-' reads standard\n"
+        u"input. Without FILE the prompter shows what it showed last. If it runs already,\n"
+        u"that one comes to the front and shows FILE.\n",
+    .notes = u"'--' ends the options: what follows is FILE, whatever it begins with. A FILE\n"
+             u"that has the name of a command is given as ./FILE.\n",
+    .options = programOptions,
+    .sections = programSections,
+    .mostOperands = 1,
+};
+
+constexpr QStringView formats[] = {u"json", u"html", u"png"};
+
+constexpr CommandOption renderOptions[] = {
+    {.name = u"format",
+     .value = {.name = u"FORMAT", .choices = formats},
+     .help = u"What to render to: json, html or png. Default: json."},
+    {.name = u"font-size",
+     .value = {.name = u"N"},
+     .help = u"Size of body text in points, above 0 and up to 1000.\nDefault: 16."},
+    {.name = u"width",
+     .value = {.name = u"N"},
+     .help = u"Width of the column in points, a whole number from 50 to\n"
+             u"10000, margins included. Default: 450. JSON ignores it."},
+    {.name = u"output",
+     .value = {.name = u"OUT", .kind = Kind::file},
+     .help = u"Write to the file OUT, whole or not at all. Default: -,\n"
+             u"which is standard output.",
+     .letter = u'o'},
+    helpOption,
+};
+
+constexpr HelpEntry renderFormats[] = {
+    {u"json", u"The rendered text, its word count and its runs of equal attributes, with\n"
+              u"offsets in UTF-16 units. An attribute that a run does not have is left\n"
+              u"out."},
+    {u"html", u"One self-contained page: the script in a column on black."},
+    {u"png", u"A picture of the whole script, on black, N pixels wide and as tall as\n"
+             u"the script, at most 32767 pixels."},
+};
+
+constexpr HelpEntry renderStatuses[] = {
+    {u"0", u"Success."},
+    {u"1", u"The output could not be written, or the picture would be too tall."},
+    wrongUse,
+};
+
+constexpr HelpEntry renderExamples[] = {
+    {u"tessaline render talk.md", u""},
+    {u"tessaline render talk.md --format html -o talk.html", u""},
+    {u"tessaline render talk.md --format=png --font-size=24 --width=600 -o talk.png", u""},
+    {u"tessaline render - < talk.md | jq .wordCount", u""},
+};
+
+constexpr HelpSection renderSections[] = {
+    {u"Formats", renderFormats},
+    {u"Exit status", renderStatuses},
+    {u"Examples", renderExamples},
+};
+
+constexpr QStringView rates[] = {u"slow", u"medium", u"fast"};
+constexpr QStringView sources[] = {u"obsidian", u"clipboard"};
+constexpr CommandValue nothing{};
+
+using C = ControlCommand;
+
+constexpr ControlAction actions[] = {
+    {C::toggle, u"toggle", nothing, u"Start or stop moving by itself."},
+    {C::play, u"play", nothing, u"Start moving by itself."},
+    {C::pause, u"pause", nothing, u"Stop moving by itself."},
+    {C::faster, u"faster", nothing, u"Move faster by 0.25, up to 5."},
+    {C::slower, u"slower", nothing, u"Move slower by 0.25, down to 0."},
+    {C::speed, u"speed", {.name = u"N"}, u"Move at speed N, from 0 to 5."},
+    {C::rate, u"rate", {.name = u"slow|medium|fast", .choices = rates}, u"Set the speed's scale."},
+    {C::up, u"up", nothing, u"Scroll towards the start by one step."},
+    {C::down, u"down", nothing, u"Scroll towards the end by one step."},
+    {C::top, u"top", nothing, u"Go to the start of the script."},
+    {C::nextHeading, u"next-heading", nothing, u"Go to the next heading."},
+    {C::previousHeading, u"previous-heading", nothing, u"Go to the heading before."},
+    {C::show, u"show", nothing, u"Show the prompter."},
+    {C::hide, u"hide", nothing, u"Hide the prompter."},
+    {C::minimize, u"minimize", nothing, u"Fold it into the strip."},
+    {C::expand, u"expand", nothing, u"Unfold it."},
+    {C::settings, u"settings", nothing, u"Open the settings."},
+    {C::paste, u"paste", nothing, u"Show the clipboard's text."},
+    {C::source,
+     u"source",
+     {.name = u"obsidian|clipboard", .choices = sources},
+     u"Show what this source has."},
+    {C::quit, u"quit", nothing, u"End the program."},
+    {C::status, u"status", nothing, u"Print its state as one JSON object."},
+};
+
+constexpr CommandOption controlOptions[] = {helpOption};
+
+constexpr HelpEntry controlStatuses[] = {
+    {u"0", u"The prompter did it."},
+    {u"1", u"No prompter is running, or it could not do it."},
+    {u"2", u"A wrong argument. Nothing has changed then."},
+};
+
+constexpr HelpEntry controlExamples[] = {
+    {u"tessaline ctl toggle", u"For a key or a foot pedal: start and stop."},
+    {u"tessaline ctl speed 2.5", u"Move at speed 2.5."},
+    {u"tessaline ctl status | jq .words", u"Print how many words the script has."},
+};
+
+constexpr HelpSection controlSections[] = {
+    {u"Exit status", controlStatuses},
+    {u"Examples", controlExamples},
+};
+
+constexpr CommandSpec commands[] = {
+    {
+        .name = u"ctl",
+        .usage = u"COMMAND [ARGUMENT]",
+        .summary = u"Tell the running prompter to play, pause, scroll, show and more.\n"
+                   u"See 'tessaline ctl --help'.",
+        .description =
+            u"Tells the running prompter to do something, as its buttons and shortcuts do, and\n"
+            u"prints its answer on one line. Meant for keys of the desktop, stream decks and\n"
+            u"foot pedals.\n",
+        .options = controlOptions,
+        .actions = actions,
+        .sections = controlSections,
+        .leastOperands = 1,
+        .mostOperands = 2,
+    },
+    {
+        .name = u"render",
+        .usage = u"FILE|- [OPTION]...",
+        .summary = u"Render a script to JSON, HTML or an image without starting\n"
+                   u"the program. See 'tessaline render --help'.",
+        .description =
+            u"Renders a Markdown script as the prompter shows it, without starting the program\n"
+            u"and without a display. FILE is UTF-8 text; '-' reads standard input.\n",
+        .notes = u"A value follows its option as the next argument, or after '=' as in\n"
+                 u"--width=600. Of an option given twice, the last one counts. '--' ends the\n"
+                 u"options.\n",
+        .options = renderOptions,
+        .sections = renderSections,
+        .leastOperands = 1,
+        .mostOperands = 1,
+    },
+};
+
+template <typename Entry>
+const Entry* entryNamed(std::span<const Entry> entries, QStringView name) {
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& entry) { return entry.name == name; });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+const CommandSpec& programSpec() {
+    return program;
+}
+
+std::span<const CommandSpec> commandSpecs() {
+    return commands;
+}
+
+const CommandSpec* commandNamed(QStringView name) {
+    return entryNamed(commandSpecs(), name);
+}
+
+std::span<const ControlAction> controlActions() {
+    return actions;
+}
+
+const ControlAction* controlActionNamed(QStringView name) {
+    return entryNamed(controlActions(), name);
+}
+
+} // namespace tessaline

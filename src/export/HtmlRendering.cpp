@@ -1,0 +1,113 @@
+#include "export/HtmlRendering.h"
+
+#include "export/ByteSink.h"
+#include "export/HtmlStyles.h"
+#include "export/HtmlText.h"
+#include "prompter/layout/Script.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessaline {
+
+namespace {
+
+/// So many bytes are gathered before the sink gets them.
+constexpr qsizetype pieceSize = 1 << 16;
+
+QByteArray pageStart(const QString& title, int width, const HtmlStyles& styles) {
+    return "<!DOCTYPE html>\n"
+           "<html>\n"
+           "<head>\n"
+           "<meta charset=\"utf-8\">\n"
+           "<title>" +
+           htmlText(title) +
+           "</title>\n"
+           "<style>\n"
+           "html { background: #000; color-scheme: dark; }\n"
+           "body { box-sizing: border-box; width: " +
+           QByteArray::number(width) +
+           "px; margin: 0 auto; padding: 10px 15px; }\n"
+           "p { margin: 0; white-space: pre-wrap; overflow-wrap: anywhere; tab-size: 28px; }\n" +
+           styles.sheet() +
+           "</style>\n"
+           "</head>\n"
+           "<body>\n";
+}
+
+QByteArray classAttribute(const QByteArray& name) {
+    return name.isEmpty() ? QByteArray() : " class=\"" + name + '"';
+}
+
+/// Writes the paragraphs of a script as elements.
+class PageBody {
+public:
+    PageBody(const Script& scriptToWrite, const HtmlStyles& classes)
+        : script(scriptToWrite), styles(classes) {}
+
+    void append(QByteArray& out, const Script::Paragraph& paragraph) const {
+        if (!paragraph.continuesPrevious)
+            out += "<p dir=\"auto\"" + classAttribute(paragraphClass(paragraph)) + '>';
+        if (paragraph.length > 0) {
+            appendRuns(out, paragraph);
+        } else {
+            appendRun(out, styleAtStart(paragraph), "<br>");
+        }
+        if (!paragraph.continuesInNext) out += "</p>\n";
+    }
+
+private:
+    /// The attributes that a paragraph begins with; an empty one has those of its newline. -1:
+    /// none.
+    int styleAtStart(const Script::Paragraph& paragraph) const {
+        if (paragraph.start >= script.styled.text.size()) return -1;
+        return script.styled.runs[std::size_t(paragraph.firstRun)].style;
+    }
+
+    QByteArray paragraphClass(const Script::Paragraph& paragraph) const {
+        const int style = styleAtStart(paragraph);
+        return style < 0 ? QByteArray() : styles.paragraphClass(style);
+    }
+
+    void appendRuns(QByteArray& out, const Script::Paragraph& paragraph) const {
+        const QStringView text(script.styled.text);
+        const auto& runs = script.styled.runs;
+        const int end = paragraph.start + paragraph.length;
+        int from = paragraph.start;
+        for (auto run = runs.begin() + paragraph.firstRun; from < end; ++run) {
+            const int to = std::min(run->start + run->length, end);
+            appendRun(out, run->style, htmlText(text.sliced(from, to - from)));
+            from = to;
+        }
+    }
+
+    void appendRun(QByteArray& out, int style, const QByteArray& content) const {
+        const QByteArray name = style < 0 ? QByteArray() : styles.textClass(style);
+        if (name.isEmpty()) {
+            out += content;
+        } else {
+            out += "<span" + classAttribute(name) + '>' + content + "</span>";
+        }
+    }
+
+    const Script& script;
+    const HtmlStyles& styles;
+};
+
+} // namespace
+
+bool writeHtml(StyledText styled, const QString& title, int width, ByteSink& sink) {
+    const Script script(std::move(styled));
+    const HtmlStyles styles(script.styled.styles);
+    const PageBody body(script, styles);
+    QByteArray out = pageStart(title, width, styles);
+    for (const Script::Paragraph& paragraph : script.paragraphs) {
+        body.append(out, paragraph);
+        if (out.size() < pieceSize) continue;
+        if (!sink.write(out)) return false;
+        out.resize(0); // unlike clear(), keeps the memory
+    }
+    return sink.write(out + "</body>\n</html>\n");
+}
+
+} // namespace tessaline

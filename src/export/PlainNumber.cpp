@@ -1,0 +1,11 @@
+#include "export/PlainNumber.h"
+
+#include <QLocale>
+
+namespace tessaline {
+
+QByteArray plainNumber(double value) {
+    return QByteArray::number(value, 'f', QLocale::FloatingPointShortest);
+}
+
+} // namespace tessaline

@@ -1,0 +1,27 @@
+#include "platform/linux/x11/X11AccessibilityTrust.h"
+
+#include "platform/linux/x11/X11Connection.h"
+
+#include <QLoggingCategory>
+
+namespace tessaline {
+
+namespace {
+
+Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
+
+} // namespace
+
+X11AccessibilityTrust::X11AccessibilityTrust() : trusted(X11Connection::open() != nullptr) {}
+
+bool X11AccessibilityTrust::isTrusted() const {
+    return trusted;
+}
+
+void X11AccessibilityTrust::requestWithPrompt() {
+    if (trusted) return;
+    qCWarning(inputLog, "Shortcuts work in windows of ours only: this X server does not offer "
+                        "XInput 2.1 and XKB.");
+}
+
+} // namespace tessaline

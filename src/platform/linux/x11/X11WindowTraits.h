@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/WindowTraits.h"
+#include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11ManagerTurn.h"
+#include "platform/linux/x11/X11Stacking.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QTimer>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+struct xcb_connection_t;
+
+namespace tessaline {
+
+/// Traits by means of the X server alone: the window is created out of the window manager's reach
+/// (override-redirect). A managed window, whatever its type and states, ends up below the
+/// full-screen window that has the keyboard, may be moved away from panels, and is listed. What the
+/// window manager would do is done here instead:
+/// - it may raise a managed window above ours, so ours is put back on top after restacking;
+/// - it never directs the keyboard to our window, so a click has to: see `FocusOnClick`;
+/// - it directs the keyboard elsewhere when one of our other windows goes, and that only after we
+///   have taken it: so it is taken once more when the window manager has had its turn.
+/// X11 has no way to keep a window out of captures.
+class X11WindowTraits final : public WindowTraits, private QAbstractNativeEventFilter {
+public:
+    /// Borrows Qt's connection, which must outlive the traits. Needs a QGuiApplication.
+    explicit X11WindowTraits(xcb_connection_t* connection);
+    ~X11WindowTraits() override;
+
+    Qt::WindowFlags creationFlags() const override;
+    /// True while a compositor runs.
+    bool showsTranslucency() const override;
+    void onTranslucencyChange(std::function<void()> changed) override;
+    bool canExcludeFromCapture() const override;
+    bool excludeFromCapture(NativeWindow window) override;
+
+    /// Keeps one window on top; another one takes the place of the first.
+    void floatAboveEverything(NativeWindow window) override;
+
+    void takeKeyboard(NativeWindow window) override;
+    void giveKeyboardBack(NativeWindow window) override;
+
+private:
+    using XWindow = std::uint32_t;
+
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+    std::optional<XWindow> focusedWindow() const;
+    bool isOurs(XWindow window) const;
+    bool focus(XWindow window) const;
+    void claimKeyboard();
+
+    xcb_connection_t* connection;
+    XWindow root;
+    X11Stacking stacking;
+    X11ManagerTurn managerTurn;
+    X11Compositor compositor;
+    std::function<void()> translucencyChanged;
+    XWindow floating = 0;
+    XWindow previousFocus = 0;
+    XWindow claiming = 0; ///< takes the keyboard until the window manager has had its turn
+    bool reportedCapture = false;
+    QTimer raiseTimer;
+};
+
+} // namespace tessaline
