@@ -9,7 +9,7 @@ target_compile_definitions(
 # Designated initialisers leave the other members to their defaults, on purpose.
 target_compile_options(
   tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                              -Woverloaded-virtual -Wno-missing-field-initializers -Werror)
+                              -Woverloaded-virtual -Wno-missing-field-initializers)
 if(TESSALINE_SANITIZE)
   target_compile_options(
     tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer
