@@ -1,6 +1,7 @@
 #include "render/markdown/WordCount.h"
 
 #include "render/markdown/CharacterClasses.h"
+#include "render/markdown/CountablePieces.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -235,21 +236,20 @@ void dropImages(std::u16string& text) {
     compactor.finish();
 }
 
-qsizetype countPieces(QStringView text) {
-    qsizetype pieces = 0;
-    bool inPiece = false;
+/// How many stretches without whitespace there are.
+qsizetype countRuns(QStringView text) {
+    qsizetype runs = 0;
+    bool inRun = false;
     for (const QChar c : text) {
-        const bool isPiece = !isWhitespace(c.unicode());
-        pieces += isPiece && !inPiece;
-        inPiece = isPiece;
+        const bool isInRun = !isWhitespace(c.unicode());
+        runs += isInRun && !inRun;
+        inRun = isInRun;
     }
-    return pieces;
+    return runs;
 }
 
-} // namespace
-
-qsizetype countWords(QStringView markdown) {
-    std::u16string text(markdown.utf16(), std::size_t(markdown.size()));
+qsizetype countPiece(QStringView piece) {
+    std::u16string text(piece.utf16(), std::size_t(piece.size()));
     // The order is part of the result: a link is unwrapped before images are looked for, so that an
     // image with a description counts as a word, and only rules of hyphens are left to be dropped
     // because the other markers are gone by then. So are the fences of code.
@@ -260,7 +260,16 @@ qsizetype countWords(QStringView markdown) {
     dropPrefixes(text, matchBullet);
     dropPrefixes(text, matchNumber);
     dropPrefixesOf(u'-', text, matchRule);
-    return countPieces(text);
+    return countRuns(text);
+}
+
+} // namespace
+
+qsizetype countWords(QStringView markdown, qsizetype shortestPiece) {
+    qsizetype words = 0;
+    for (CountablePieces pieces(markdown, shortestPiece); !pieces.isAtEnd();)
+        words += countPiece(pieces.next());
+    return words;
 }
 
 } // namespace tessaline
