@@ -27,6 +27,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace tessaline {
 
@@ -55,8 +56,7 @@ void makeKeyAndOrderFront(QWidget& window) {
 AppDelegate::AppDelegate(const Environment& borrowed)
     : environment(borrowed)
     , screenManager(environment.prompter.screens, environment.notifications)
-    , permissionManager(permissionPorts())
-    , self(std::make_shared<AppDelegate*>(this)) {}
+    , permissionManager(permissionPorts()) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -305,15 +305,13 @@ void AppDelegate::pasteFromClipboard(std::function<void(const QString& problem)>
     followedFile.reset();
     makeClipboardActive();
     environment.pasteboard.refresh(
-        [weak = std::weak_ptr(self), done = std::move(done)](const QString& problem) {
-            const auto delegate = weak.lock();
-            if (!delegate) return;
-            (*delegate)->sources().pasteFromClipboard();
-            (*delegate)->trackPaste();
+        lifetime.guard([this, done = std::move(done)](const QString& problem) {
+            sources().pasteFromClipboard();
+            trackPaste();
             if (!problem.isEmpty())
                 qCWarning(shellLog, "Nothing was pasted: %ls", qUtf16Printable(problem));
             done(problem);
-        });
+        }));
 }
 
 void AppDelegate::makeClipboardActive() {

@@ -2,6 +2,7 @@
 
 #include "app/Environment.h"
 #include "permissions/PermissionManager.h"
+#include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
@@ -13,7 +14,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <utility>
 
 class QWidget;
 
@@ -114,10 +114,7 @@ private:
     /// A call of the member function that does nothing once the delegate is gone.
     template <typename... Arguments>
     std::function<void(Arguments...)> weakly(void (AppDelegate::*action)(Arguments...)) {
-        return [weak = std::weak_ptr(self), action](Arguments... arguments) {
-            if (const auto delegate = weak.lock())
-                ((*delegate)->*action)(std::forward<Arguments>(arguments)...);
-        };
+        return lifetime.guard(std::bind_front(action, this));
     }
 
     Environment environment;
@@ -135,8 +132,8 @@ private:
     std::unique_ptr<Shortcuts> shortcuts;
     NotificationCenter::Observation sourceChangeObserver;
     std::unique_ptr<FollowedFile> followedFile;
-    std::optional<QString> textToOpen;  ///< waits for the normal start
-    std::shared_ptr<AppDelegate*> self; ///< what callbacks hold weakly
+    std::optional<QString> textToOpen; ///< waits for the normal start
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

@@ -41,10 +41,7 @@ QJsonObject RemoteCommands::control(const ControlRequest& request) {
 }
 
 RemoteCommands::RemoteCommands(AppDelegate& borrowed, TaskRunner& runner, MainQueue& queue)
-    : delegate(borrowed)
-    , taskRunner(runner)
-    , mainQueue(queue)
-    , self(std::make_shared<RemoteCommands*>(this)) {}
+    : delegate(borrowed), taskRunner(runner), mainQueue(queue) {}
 
 void RemoteCommands::carryOut(const QJsonObject& message, const Reply& reply) {
     if (message.value("command"_L1) == "open"_L1) {
@@ -68,15 +65,15 @@ void RemoteCommands::openFile(const QString& path, bool follow, const Reply& rep
         reply(failed(u"cannot read %1: Not a path from the root"_s.arg(path)));
         return;
     }
-    taskRunner.run([weak = std::weak_ptr(self), &queue = mainQueue, path, follow, reply] {
-        QString problem;
-        auto text = readTextFile(path, ByteOrderMark::drop, &problem);
-        queue.post([weak, path, follow, reply, problem, text = std::move(text)] {
-            const auto commands = weak.lock();
-            if (!commands) return;
-            if (text) (*commands)->showFile(path, *text, follow);
+    const auto finish = lifetime.guard(
+        [this, path, follow, reply](const std::optional<QString>& text, const QString& problem) {
+            if (text) showFile(path, *text, follow);
             reply(text ? done() : failed(u"cannot read %1: %2"_s.arg(path, problem)));
         });
+    taskRunner.run([&queue = mainQueue, path, finish] {
+        QString problem;
+        auto text = readTextFile(path, ByteOrderMark::drop, &problem);
+        queue.post([finish, problem, text = std::move(text)] { finish(text, problem); });
     });
 }
 

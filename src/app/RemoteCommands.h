@@ -1,12 +1,12 @@
 #pragma once
 
 #include "cli/ControlRequest.h"
+#include "platform/Lifetime.h"
 
 #include <QJsonObject>
 #include <QString>
 
 #include <functional>
-#include <memory>
 
 namespace tessaline {
 
@@ -44,7 +44,7 @@ private:
     AppDelegate& delegate;
     TaskRunner& taskRunner;
     MainQueue& mainQueue;
-    std::shared_ptr<RemoteCommands*> self; ///< what tasks hold weakly
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

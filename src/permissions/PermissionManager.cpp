@@ -15,8 +15,7 @@ QString PermissionManager::permissionStatusDidChangeNotification() {
     return u"PermissionManagerStatusDidChange"_s;
 }
 
-PermissionManager::PermissionManager(const PermissionPorts& borrowed)
-    : ports(borrowed), self(std::make_shared<PermissionManager*>(this)) {}
+PermissionManager::PermissionManager(const PermissionPorts& borrowed) : ports(borrowed) {}
 
 PermissionManager::~PermissionManager() = default;
 
@@ -39,14 +38,12 @@ void PermissionManager::checkForPermissionChanges() {
     const bool granted = isAccessibilityGranted();
     if (lastAccessibilityStatus == granted) return;
     lastAccessibilityStatus = granted;
-    ports.mainQueue.post([weak = std::weak_ptr(self), granted] {
-        const auto manager = weak.lock();
-        if (!manager) return;
-        (*manager)->ports.notifications.post(
+    ports.mainQueue.post(lifetime.guard([this, granted] {
+        ports.notifications.post(
             {permissionStatusDidChangeNotification(),
-             *manager,
+             this,
              {{u"permission"_s, PermissionType::accessibility}, {u"granted"_s, granted}}});
-    });
+    }));
 }
 
 void PermissionManager::resetStaleEntry() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "platform/TimerMaker.h"
 
 #include <QString>
@@ -58,7 +59,7 @@ private:
     PermissionPorts ports;
     std::unique_ptr<RepeatingTimer> pollTimer;
     std::optional<bool> lastAccessibilityStatus;
-    std::shared_ptr<PermissionManager*> self; ///< what callbacks hold weakly
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

@@ -4,6 +4,7 @@
 #include "platform/TaskRunner.h"
 #include "render/markdown/MarkdownRenderer.h"
 
+#include <memory>
 #include <utility>
 
 namespace tessaline {
@@ -22,20 +23,17 @@ ContentRenderer::ContentRenderer(TaskRunner& taskRunner, MainQueue& mainQueue)
     : tasks(taskRunner), queue(mainQueue) {}
 
 void ContentRenderer::cancel() {
-    current.reset();
+    request.reset();
 }
 
 void ContentRenderer::render(const QString& markdown, double fontSize, Handler done) {
-    current = std::make_shared<const int>(0);
+    request.emplace();
     if (markdown.size() <= mostRenderedAtOnce) return done(rendered(markdown, fontSize));
 
-    const std::weak_ptr<const int> wanted = current;
-    tasks.run([wanted, markdown, fontSize, done = std::move(done), &mainQueue = queue] {
-        if (wanted.expired()) return;
+    tasks.run([markdown, fontSize, deliver = request->guard(std::move(done)), &mainQueue = queue] {
+        if (!deliver.isAlive()) return;
         auto content = std::make_shared<RenderedContent>(rendered(markdown, fontSize));
-        mainQueue.post([wanted, content, done] {
-            if (!wanted.expired()) done(std::move(*content));
-        });
+        mainQueue.post([content, deliver] { deliver(std::move(*content)); });
     });
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "prompter/layout/Script.h"
 
 #include <QString>
 
 #include <functional>
-#include <memory>
+#include <optional>
 
 namespace tessaline {
 
@@ -40,7 +41,7 @@ public:
 private:
     TaskRunner& tasks;
     MainQueue& queue;
-    std::shared_ptr<const int> current; ///< expires when another text is asked for
+    std::optional<Lifetime> request; ///< until another text is asked for
 };
 
 } // namespace tessaline

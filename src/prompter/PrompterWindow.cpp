@@ -58,8 +58,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
     : QWidget(nullptr, Qt::FramelessWindowHint | platformPorts.windowTraits.creationFlags())
     , settings(appSettings)
     , ports(platformPorts)
-    , renderer(ports.tasks, ports.mainQueue)
-    , self(std::make_shared<PrompterWindow*>(this)) {
+    , renderer(ports.tasks, ports.mainQueue) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
     // The keyboard is another program's most of the time.
@@ -81,9 +80,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
                            frames.add(std::chrono::steady_clock::now());
                            performScroll(deltaY);
                        });
-    ports.windowTraits.onTranslucencyChange([weak = std::weak_ptr<PrompterWindow*>(self)] {
-        if (const auto window = weak.lock()) (*window)->shape();
-    });
+    ports.windowTraits.onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
 PrompterWindow::~PrompterWindow() = default;
@@ -212,12 +209,10 @@ void PrompterWindow::paintEvent(QPaintEvent*) {
 }
 
 void PrompterWindow::updateText(const QString& content) {
-    ports.mainQueue.post([weak = std::weak_ptr<PrompterWindow*>(self), content] {
-        const auto window = weak.lock();
-        if (!window) return;
-        (*window)->lastRawContent = content;
-        (*window)->renderContent();
-    });
+    ports.mainQueue.post(lifetime.guard([this, content] {
+        lastRawContent = content;
+        renderContent();
+    }));
 }
 
 void PrompterWindow::rerender() {

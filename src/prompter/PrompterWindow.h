@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "platform/Screen.h"
 #include "prompter/AutoScroll.h"
 #include "prompter/ContentRenderer.h"
@@ -12,7 +13,6 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
-#include <memory>
 #include <optional>
 
 namespace tessaline {
@@ -131,7 +131,7 @@ private:
     std::optional<AutoScroll> autoScroll;
     FrameRate frames;
     QVariantAnimation resizing;
-    std::shared_ptr<PrompterWindow*> self; ///< what posted tasks hold weakly
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

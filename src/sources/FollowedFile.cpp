@@ -6,10 +6,8 @@
 #include "settings/TextFile.h"
 #include "settings/WholeFile.h"
 
-#include <QDateTime>
 #include <QFile>
 
-#include <optional>
 #include <utility>
 
 namespace tessaline {
@@ -18,66 +16,52 @@ namespace {
 
 constexpr TimerMaker::Interval pollInterval{0.5};
 
-/// What differs after a file was saved, at the latest once its clock has ticked.
-struct Stamp {
-    qint64 size = 0;
-    QDateTime modified;
-    QDateTime changed;
+} // namespace
 
-    bool operator==(const Stamp&) const = default;
-};
-
-Stamp stampOf(const QString& path) {
+FollowedFile::Stamp FollowedFile::Stamp::of(const QString& path) {
     QFile file;
     if (!openRegularFile(path, file)) return {};
     return {file.size(), file.fileTime(QFileDevice::FileModificationTime),
             file.fileTime(QFileDevice::FileMetadataChangeTime)};
 }
 
-/// A file saved so recently may be saved once more without another stamp.
-bool isSettled(const Stamp& stamp) {
+bool FollowedFile::Stamp::isSettled() const {
     constexpr qint64 milliseconds = 2000;
-    return stamp.changed.msecsTo(QDateTime::currentDateTime()) > milliseconds;
+    return changed.msecsTo(QDateTime::currentDateTime()) > milliseconds;
 }
 
-} // namespace
-
-struct FollowedFile::Follow {
-    QString text;
-    std::optional<Stamp> stamp; ///< of the file that `text` was read from, if that is sure
-    Handler onChange;
-    bool isReading = false;
-};
-
 FollowedFile::FollowedFile(QString path, QString text, MainQueue& queue, TaskRunner& runner,
-                           TimerMaker& timerMaker, Handler onChange)
+                           TimerMaker& timerMaker, Handler handler)
     : mainQueue(queue)
     , taskRunner(runner)
     , filePath(std::move(path))
-    , follow(std::make_shared<Follow>(Follow{std::move(text), {}, std::move(onChange)}))
+    , lastText(std::move(text))
+    , onChange(std::move(handler))
     , timer(timerMaker.every(pollInterval, [this] { check(); })) {}
 
 FollowedFile::~FollowedFile() = default;
 
 void FollowedFile::check() {
-    if (std::exchange(follow->isReading, true)) return; // slow reads do not pile up
+    if (std::exchange(isReading, true)) return; // slow reads do not pile up
+    auto finish = lifetime.guard(
+        [this](const Stamp& found, const std::optional<QString>& text) { take(found, text); });
     taskRunner.run(
-        [weak = std::weak_ptr(follow), &queue = mainQueue, path = filePath, known = follow->stamp] {
-            const Stamp stamp = stampOf(path);
+        [&queue = mainQueue, path = filePath, known = stamp, finish = std::move(finish)] {
+            const Stamp found = Stamp::of(path);
             std::optional<QString> text;
-            if (known != stamp) text = readTextFile(path, ByteOrderMark::drop);
-            queue.post([weak, stamp, text = std::move(text)] {
-                const auto state = weak.lock();
-                if (!state) return;
-                state->isReading = false;
-                if (!text) return;
-                state->stamp = isSettled(stamp) ? std::optional(stamp) : std::nullopt;
-                if (std::exchange(state->text, *text) == *text) return;
-                // The handler may end the following, and with it itself.
-                const Handler onChange = state->onChange;
-                onChange(*text);
-            });
+            if (known != found) text = readTextFile(path, ByteOrderMark::drop);
+            queue.post([finish, found, text = std::move(text)] { finish(found, text); });
         });
+}
+
+void FollowedFile::take(const Stamp& found, const std::optional<QString>& text) {
+    isReading = false;
+    if (!text) return;
+    stamp = found.isSettled() ? std::optional(found) : std::nullopt;
+    if (std::exchange(lastText, *text) == *text) return;
+    // The handler may end the following, and with it itself.
+    const Handler handler = onChange;
+    handler(*text);
 }
 
 } // namespace tessaline

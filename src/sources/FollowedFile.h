@@ -1,9 +1,13 @@
 #pragma once
 
+#include "platform/Lifetime.h"
+
+#include <QDateTime>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tessaline {
 
@@ -31,15 +35,32 @@ public:
     const QString& path() const { return filePath; }
 
 private:
-    struct Follow;
+    /// What differs after a file was saved, at the latest once its clock has ticked.
+    struct Stamp {
+        static Stamp of(const QString& path);
+
+        /// False for a file saved so recently that it may be saved once more without another stamp.
+        bool isSettled() const;
+
+        bool operator==(const Stamp&) const = default;
+
+        qint64 size = 0;
+        QDateTime modified;
+        QDateTime changed;
+    };
 
     void check();
+    void take(const Stamp& found, const std::optional<QString>& text);
 
     MainQueue& mainQueue;
     TaskRunner& taskRunner;
     const QString filePath;
-    const std::shared_ptr<Follow> follow; ///< what tasks hold weakly
+    QString lastText;
+    std::optional<Stamp> stamp; ///< of the file that `lastText` was read from, if that is sure
+    Handler onChange;
+    bool isReading = false;
     std::unique_ptr<RepeatingTimer> timer;
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

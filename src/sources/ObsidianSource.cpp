@@ -6,7 +6,6 @@
 #include "settings/SupportFolder.h"
 #include "sources/ContentFile.h"
 
-#include <atomic>
 #include <utility>
 #include <variant>
 
@@ -26,15 +25,6 @@ std::optional<QString> readContent(const QString& path) {
 
 } // namespace
 
-/// What outlives the source when it goes while a read is under way. Tasks hold it weakly and touch
-/// nothing but `isWatching`; texts travel to them and back by value.
-struct ObsidianSource::Watch {
-    std::atomic<bool> isWatching = false;
-    QString lastContent;
-    ContentCallback callback;
-    int readsInFlight = 0;
-};
-
 QString ObsidianSource::placeholder() {
     return u"Waiting for content from Obsidian...\n\nUse 'Send to Tessaline' command in Obsidian."_s;
 }
@@ -49,7 +39,7 @@ ObsidianSource::ObsidianSource(MainQueue& queue, TaskRunner& runner, TimerMaker&
     , taskRunner(runner)
     , timerMaker(timers)
     , path(std::move(filePath))
-    , watch(std::make_shared<Watch>()) {}
+    , isWatching(std::make_shared<std::atomic<bool>>(false)) {}
 
 ObsidianSource::~ObsidianSource() {
     stopWatching();
@@ -57,62 +47,56 @@ ObsidianSource::~ObsidianSource() {
 
 void ObsidianSource::startWatching(ContentCallback onChange) {
     stopWatching();
-    watch->callback = std::move(onChange);
-    watch->isWatching = true;
-    watch->lastContent.clear();
+    watchCallback = std::move(onChange);
+    *isWatching = true;
+    lastContent.clear();
     loadInitially();
     fileTimer = timerMaker.every(pollInterval, [this] { checkForUpdates(); });
 }
 
 void ObsidianSource::stopWatching() {
     fileTimer.reset();
-    watch->isWatching = false;
-    watch->callback = nullptr;
+    *isWatching = false;
+    watchCallback = nullptr;
 }
 
 void ObsidianSource::loadInitially() {
-    const std::weak_ptr weak = watch;
-    const auto isWatching = [weak] {
-        const auto state = weak.lock();
-        return state && state->isWatching;
-    };
-    auto read = [isWatching, path = path]() -> std::optional<QString> {
-        if (!isWatching()) return std::nullopt;
+    auto read = [isWatching = isWatching, path = path]() -> std::optional<QString> {
+        if (!*isWatching) return std::nullopt;
         return readContent(path).value_or(placeholder());
     };
     // Whoever watches by the time the text is there gets it.
-    auto deliver = [weak](const QString& text) {
-        const auto state = weak.lock();
-        if (!state || !state->callback) return;
-        // The callback may stop the watching and so let go of itself.
-        const auto callback = state->callback;
-        callback(text);
-    };
-    readInBackground(std::move(read), std::move(deliver));
+    readInBackground(std::move(read), [this](const QString& text) { callBack(text); });
+}
+
+void ObsidianSource::callBack(const QString& text) {
+    if (!watchCallback) return;
+    // The callback may stop the watching and so let go of itself.
+    const auto callback = watchCallback;
+    callback(text);
 }
 
 void ObsidianSource::checkForUpdates() {
     // With no read under way `lastContent` is up to date, and slow reads do not pile up.
-    if (!watch->callback || watch->readsInFlight > 0) return;
-    auto read = [path = path, previous = watch->lastContent] {
+    if (!watchCallback || readsInFlight > 0) return;
+    auto read = [path = path, previous = lastContent] {
         return readChangedContentFile(path, previous);
     };
-    readInBackground(std::move(read), watch->callback);
+    readInBackground(std::move(read), watchCallback);
 }
 
 void ObsidianSource::readInBackground(Read read, ContentCallback deliver) {
-    ++watch->readsInFlight;
-    taskRunner.run([weak = std::weak_ptr(watch), &queue = mainQueue, read = std::move(read),
-                    deliver = std::move(deliver)]() mutable {
+    ++readsInFlight;
+    auto finish = [this, deliver = std::move(deliver)](const std::optional<QString>& text) {
+        --readsInFlight;
+        if (!text) return;
+        lastContent = *text;
+        deliver(*text);
+    };
+    taskRunner.run([&queue = mainQueue, read = std::move(read),
+                    finish = lifetime.guard(std::move(finish))]() mutable {
         // The callback moves on with the text, so that it is destroyed on the main thread.
-        queue.post([weak, text = read(), deliver = std::move(deliver)] {
-            const auto state = weak.lock();
-            if (!state) return;
-            --state->readsInFlight;
-            if (!text) return;
-            state->lastContent = *text;
-            deliver(*text);
-        });
+        queue.post([text = read(), finish = std::move(finish)] { finish(text); });
     });
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "sources/ContentSource.h"
 
 #include <QString>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -37,19 +39,24 @@ public:
     void stopWatching() override;
 
 private:
-    struct Watch;
     using Read = std::function<std::optional<QString>()>;
 
     void loadInitially();
     void checkForUpdates();
     void readInBackground(Read read, ContentCallback deliver);
+    void callBack(const QString& text);
 
     MainQueue& mainQueue;
     TaskRunner& taskRunner;
     TimerMaker& timerMaker;
     const QString path;
-    const std::shared_ptr<Watch> watch;
+    QString lastContent;
+    ContentCallback watchCallback;
+    /// Shared with the background, which reads nothing for a watch that has ended.
+    const std::shared_ptr<std::atomic<bool>> isWatching;
+    int readsInFlight = 0;
     std::unique_ptr<RepeatingTimer> fileTimer;
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

@@ -29,8 +29,7 @@ SourceManager::SourceManager(AppSettings& sharedSettings, UsageRecorder& usageRe
     : settings(sharedSettings)
     , recorder(usageRecorder)
     , notifications(notificationCenter)
-    , clipboard(clipboardSource.get())
-    , self(std::make_shared<SourceManager*>(this)) {
+    , clipboard(clipboardSource.get()) {
     sources.emplace(SourceType::obsidian, std::move(obsidianSource));
     sources.emplace(SourceType::clipboard, std::move(clipboardSource));
     const bool enabled = settings.enabledSourceTypes.contains(settings.activeSourceType);
@@ -45,9 +44,8 @@ void SourceManager::registerSource(SourceType type, std::unique_ptr<ContentSourc
 
 void SourceManager::startWatching() {
     if (!active) return;
-    active->startWatching([weak = std::weak_ptr(self)](const QString& text) {
-        if (const auto manager = weak.lock()) (*manager)->handleContentUpdate(text);
-    });
+    active->startWatching(
+        lifetime.guard([this](const QString& text) { handleContentUpdate(text); }));
 }
 
 void SourceManager::setActiveSource(SourceType type) {

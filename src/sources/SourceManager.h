@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "settings/AppleNotesConfiguration.h"
 #include "settings/SourceType.h"
 #include "sources/ContentSource.h"
@@ -90,8 +91,8 @@ private:
     ClipboardSource* clipboard; ///< one of `sources`
     ContentSource* active = nullptr;
     QString content;
-    qsizetype wordCount = 0;              ///< of `content`
-    std::shared_ptr<SourceManager*> self; ///< what callbacks hold weakly
+    qsizetype wordCount = 0; ///< of `content`
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

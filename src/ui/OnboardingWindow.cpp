@@ -24,7 +24,6 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QPointer>
 #include <QScreen>
 
 #include <utility>
@@ -236,9 +235,9 @@ void OnboardingWindow::continueClicked() {
     ports.recorder.trackOnboardingCompleted(ports.permissions.trust.isTrusted(),
                                             isObsidianEnabled());
     // Whoever is called may drop the window.
-    const QPointer<OnboardingWindow> window(this);
+    const auto closeIfLeft = lifetime.guard([this] { close(); });
     if (const auto complete = onComplete) complete();
-    if (window) close();
+    closeIfLeft();
 }
 
 bool OnboardingWindow::event(QEvent* event) {

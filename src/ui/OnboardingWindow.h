@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
 #include "settings/SourceType.h"
 #include "ui/WindowPorts.h"
@@ -77,6 +78,7 @@ private:
     QPushButton* continueButton = nullptr;
     NotificationCenter::Observation permissionObserver;
     bool finished = false; ///< finished, or closed without
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

@@ -39,15 +39,13 @@ bool hasControl(ModifierFlags modifiers) {
 } // namespace
 
 Shortcuts::Shortcuts(const Ports& borrowedPorts, Actions givenActions)
-    : ports(borrowedPorts), actions(std::make_shared<const Actions>(std::move(givenActions))) {}
+    : ports(borrowedPorts), actions(std::move(givenActions)) {}
 
 Shortcuts::~Shortcuts() = default;
 
 void Shortcuts::setupShortcuts() {
-    localMonitor =
-        ports.localKeys.start([this, alive = std::weak_ptr(actions)](const KeyEvent& key) {
-            return !alive.expired() && handleKeyDown(key);
-        });
+    localMonitor = ports.localKeys.start(
+        lifetime.guard([this](const KeyEvent& key) { return handleKeyDown(key); }));
     lastKnownAccessibilityState = ports.trust.isTrusted();
     trySetupGlobalShortcuts();
     accessibilityPollTimer =
@@ -69,9 +67,8 @@ void Shortcuts::trySetupGlobalShortcuts() {
     if (!ports.trust.isTrusted()) return;
     if (!globalMonitor) {
         globalMonitor = ports.globalKeys.start(
-            toggleChord(), [this, alive = std::weak_ptr(actions)](const KeyEvent& key) {
-                if (!alive.expired()) handleGlobalKeyDown(key);
-            });
+            toggleChord(),
+            lifetime.guard([this](const KeyEvent& key) { handleGlobalKeyDown(key); }));
     }
     setupGlobalScrollEventTap();
 }
@@ -82,15 +79,15 @@ void Shortcuts::handleGlobalKeyDown(const KeyEvent& key) {
 
 bool Shortcuts::handleKeyDown(const KeyEvent& key) {
     if (isPaste(key)) {
-        actions->paste();
+        actions.paste();
         return true;
     }
     if (hasControl(key.modifiers) && key.keyCode == KeyEvent::upArrow) {
-        actions->performScroll(shortcutScrollStep);
+        actions.performScroll(shortcutScrollStep);
         return true;
     }
     if (hasControl(key.modifiers) && key.keyCode == KeyEvent::downArrow) {
-        actions->performScroll(-shortcutScrollStep);
+        actions.performScroll(-shortcutScrollStep);
         return true;
     }
     if (isToggle(key)) {
@@ -102,15 +99,13 @@ bool Shortcuts::handleKeyDown(const KeyEvent& key) {
 
 /// A key that is held repeats, but is one press.
 void Shortcuts::toggleScroll(const KeyEvent& key) {
-    if (!key.isRepeat) actions->toggleScroll();
+    if (!key.isRepeat) actions.toggleScroll();
 }
 
 void Shortcuts::setupGlobalScrollEventTap() {
     if (scrollEventTap) return;
-    scrollEventTap =
-        ports.eventTaps.create([this, alive = std::weak_ptr(actions)](const TapEvent& event) {
-            return alive.expired() ? EventTap::Verdict::passOn : handleScrollEventTap(event);
-        });
+    scrollEventTap = ports.eventTaps.create(
+        lifetime.guard([this](const TapEvent& event) { return handleScrollEventTap(event); }));
     if (scrollEventTap || std::exchange(tapFailureReported, true)) return;
     std::cout << "Failed to create scroll event tap" << std::endl;
 }
@@ -139,16 +134,12 @@ EventTap::Verdict Shortcuts::handleScrollEventTap(const TapEvent& event) {
 EventTap::Verdict Shortcuts::scrollLater(const TapEvent& event) {
     const double delta = event.hasPreciseDeltas ? event.scrollingDeltaY
                                                 : event.scrollingDeltaY * shortcutScrollMultiplier;
-    ports.mainQueue.post([weakActions = std::weak_ptr(actions), delta] {
-        if (const auto live = weakActions.lock()) live->performScroll(delta);
-    });
+    ports.mainQueue.post(lifetime.guard([this, delta] { actions.performScroll(delta); }));
     return EventTap::Verdict::swallow;
 }
 
 EventTap::Verdict Shortcuts::toggleLater() {
-    ports.mainQueue.post([weakActions = std::weak_ptr(actions)] {
-        if (const auto live = weakActions.lock()) live->toggleScroll();
-    });
+    ports.mainQueue.post(lifetime.guard([this] { actions.toggleScroll(); }));
     return EventTap::Verdict::swallow;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/EventTap.h"
 #include "platform/GlobalKeyMonitor.h"
+#include "platform/Lifetime.h"
 #include "platform/LocalKeyMonitor.h"
 #include "platform/TimerMaker.h"
 
@@ -64,7 +65,8 @@ private:
     EventTap::Verdict toggleLater();
 
     Ports ports;
-    std::shared_ptr<const Actions> actions; ///< handlers and posted work hold it weakly
+    const Actions actions;
+    Lifetime lifetime;
     bool lastKnownAccessibilityState = false;
     bool tapFailureReported = false;
     std::unique_ptr<LocalKeyMonitor::Registration> localMonitor;

@@ -6,7 +6,6 @@
 #include "platform/ScreenCoordinates.h"
 
 #include <QGuiApplication>
-#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 
@@ -97,11 +96,10 @@ void QtScreens::watch(QScreen* screen) {
 
 void QtScreens::announceChange() {
     if (std::exchange(announced, true)) return;
-    queue.post([self = QPointer(this)] {
-        if (!self) return;
-        self->announced = false;
-        self->notifications.post({parametersDidChangeNotification(), self.data(), {}});
-    });
+    queue.post(lifetime.guard([this] {
+        announced = false;
+        notifications.post({parametersDidChangeNotification(), this, {}});
+    }));
 }
 
 } // namespace tessaline

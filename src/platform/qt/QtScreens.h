@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "platform/ScreenIdentity.h"
 #include "platform/Screens.h"
 
@@ -44,6 +45,7 @@ private:
     Identify identify;
     std::unique_ptr<ReservedEdges> panels;
     bool announced = false;
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

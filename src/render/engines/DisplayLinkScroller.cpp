@@ -79,9 +79,7 @@ double DisplayLinkScroller::secondsSinceLastFrame(std::uint64_t hostTime) const 
 }
 
 void DisplayLinkScroller::postScroll(double deltaY) {
-    mainQueue.post([engine = std::weak_ptr(lifetime), deltaY] {
-        if (const auto self = engine.lock()) self->deliver(deltaY);
-    });
+    mainQueue.post(lifetime.guard([this, deltaY] { deliver(deltaY); }));
 }
 
 void DisplayLinkScroller::deliver(double deltaY) {

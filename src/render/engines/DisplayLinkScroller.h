@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/DisplayLink.h"
+#include "platform/Lifetime.h"
 
 #include <cstdint>
 #include <memory>
@@ -58,8 +59,7 @@ private:
     double scrollRemainder = 0.0;
     std::optional<std::uint64_t> lastTimestamp;
 
-    // Owns nothing: it expires with the engine, so that posted tasks can tell.
-    const std::shared_ptr<DisplayLinkScroller> lifetime{this, [](DisplayLinkScroller*) {}};
+    Lifetime lifetime;
     std::unique_ptr<DisplayLink> displayLink;
 };
 

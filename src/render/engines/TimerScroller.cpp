@@ -28,9 +28,7 @@ void TimerScroller::setDelegate(std::weak_ptr<DisplayLinkScrollerDelegate> recei
 
 void TimerScroller::start() {
     if (timer) return;
-    timer = timerMaker.every(frameInterval, [engine = std::weak_ptr(lifetime)] {
-        if (const auto self = engine.lock()) self->tick();
-    });
+    timer = timerMaker.every(frameInterval, lifetime.guard([this] { tick(); }));
 }
 
 void TimerScroller::stop() {
@@ -48,9 +46,7 @@ void TimerScroller::tick() {
     if (scrollRemainder < smallestScroll) return;
 
     mainQueue.post(
-        [engine = std::weak_ptr(lifetime), deltaY = -std::exchange(scrollRemainder, 0.0)] {
-            if (const auto self = engine.lock()) self->deliver(deltaY);
-        });
+        lifetime.guard([this, deltaY = -std::exchange(scrollRemainder, 0.0)] { deliver(deltaY); }));
 }
 
 void TimerScroller::deliver(double deltaY) {

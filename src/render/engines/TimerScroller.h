@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Lifetime.h"
+
 #include <memory>
 
 namespace tessaline {
@@ -47,8 +49,7 @@ private:
     double pixelsPerSecond = 20.0;
     double scrollRemainder = 0.0;
 
-    // Owns nothing: it expires with the engine, so that queued calls can tell.
-    const std::shared_ptr<TimerScroller> lifetime{this, [](TimerScroller*) {}};
+    Lifetime lifetime;
     std::unique_ptr<RepeatingTimer> timer;
 };
 

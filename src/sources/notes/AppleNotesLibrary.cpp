@@ -15,19 +15,15 @@ namespace tessaline {
 
 AppleNotesLibrary::AppleNotesLibrary(MainQueue& queue, TaskRunner& tasks, ProcessRunner& processes,
                                      UrlOpener& opener)
-    : mainQueue(queue)
-    , taskRunner(tasks)
-    , processRunner(processes)
-    , urlOpener(opener)
-    , self(std::make_shared<AppleNotesLibrary*>(this)) {}
+    : mainQueue(queue), taskRunner(tasks), processRunner(processes), urlOpener(opener) {}
 
 void AppleNotesLibrary::listNotes(std::function<void(const Answer&)> completion) {
-    taskRunner.run([weak = std::weak_ptr(self), &queue = mainQueue, &processes = processRunner,
-                    completion = std::move(completion)]() mutable {
-        if (weak.expired()) return;
+    taskRunner.run([&queue = mainQueue, &processes = processRunner,
+                    complete = lifetime.guard(std::move(completion))]() mutable {
+        if (!complete.isAlive()) return;
         // The completion moves on with the answer, so that it is destroyed on the main thread.
-        queue.post([weak, answer = readNoteList(processes), completion = std::move(completion)] {
-            if (!weak.expired()) completion(answer);
+        queue.post([answer = readNoteList(processes), complete = std::move(complete)] {
+            complete(answer);
         });
     });
 }

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "sources/NoteLibrary.h"
-
-#include <memory>
 
 namespace tessaline {
 
@@ -29,7 +28,7 @@ private:
     TaskRunner& taskRunner;
     ProcessRunner& processRunner;
     UrlOpener& urlOpener;
-    const std::shared_ptr<AppleNotesLibrary*> self; ///< what tasks hold weakly
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

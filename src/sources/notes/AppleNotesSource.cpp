@@ -36,58 +36,44 @@ QString textFor(const ContentResult& result) {
 
 } // namespace
 
-/// What outlives the source when it goes while a script runs. Tasks hold it weakly; only the main
-/// thread looks inside.
-struct AppleNotesSource::Watch {
-    QString lastContent;
-    ContentCallback callback;
-    int checksInFlight = 0;
-};
-
 AppleNotesSource::AppleNotesSource(MainQueue& queue, TaskRunner& tasks, TimerMaker& timers,
                                    ProcessRunner& processes)
-    : mainQueue(queue)
-    , taskRunner(tasks)
-    , timerMaker(timers)
-    , processRunner(processes)
-    , watch(std::make_shared<Watch>()) {}
+    : mainQueue(queue), taskRunner(tasks), timerMaker(timers), processRunner(processes) {}
 
-AppleNotesSource::~AppleNotesSource() {
-    stopWatching();
-}
+AppleNotesSource::~AppleNotesSource() = default;
 
 void AppleNotesSource::startWatching(ContentCallback onChange) {
     stopWatching();
-    watch->callback = std::move(onChange);
+    watchCallback = std::move(onChange);
     watchTimer = timerMaker.every(pollInterval, [this] {
         // Scripts that are slow, or wait for the user's permission, do not pile up.
-        if (watch->checksInFlight == 0) check();
+        if (checksInFlight == 0) check();
     });
     check();
 }
 
 void AppleNotesSource::stopWatching() {
     watchTimer.reset();
-    watch->callback = nullptr;
-    watch->lastContent.clear();
+    watchCallback = nullptr;
+    lastContent.clear();
 }
 
 void AppleNotesSource::check() {
-    ++watch->checksInFlight;
-    taskRunner.run([weak = std::weak_ptr(watch), &queue = mainQueue, &processes = processRunner,
-                    note = configuration] {
-        if (weak.expired()) return;
-        queue.post([weak, text = textFor(readNote(processes, note))] {
-            const auto state = weak.lock();
-            if (!state) return;
-            --state->checksInFlight;
-            if (!state->callback || text == state->lastContent) return;
-            state->lastContent = text;
-            // The callback may stop the watching and so let go of itself.
-            const auto callback = state->callback;
-            callback(text);
-        });
+    ++checksInFlight;
+    taskRunner.run([&queue = mainQueue, &processes = processRunner, note = configuration,
+                    finish = lifetime.guard([this](const QString& text) { deliver(text); })] {
+        if (!finish.isAlive()) return;
+        queue.post([finish, text = textFor(readNote(processes, note))] { finish(text); });
     });
+}
+
+void AppleNotesSource::deliver(const QString& text) {
+    --checksInFlight;
+    if (!watchCallback || text == lastContent) return;
+    lastContent = text;
+    // The callback may stop the watching and so let go of itself.
+    const auto callback = watchCallback;
+    callback(text);
 }
 
 } // namespace tessaline

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "settings/AppleNotesConfiguration.h"
 #include "sources/ContentSource.h"
 
@@ -36,16 +37,18 @@ public:
     std::optional<AppleNotesConfiguration> configuration;
 
 private:
-    struct Watch;
-
     void check();
+    void deliver(const QString& text);
 
     MainQueue& mainQueue;
     TaskRunner& taskRunner;
     TimerMaker& timerMaker;
     ProcessRunner& processRunner;
-    const std::shared_ptr<Watch> watch;
+    QString lastContent;
+    ContentCallback watchCallback;
+    int checksInFlight = 0;
     std::unique_ptr<RepeatingTimer> watchTimer;
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

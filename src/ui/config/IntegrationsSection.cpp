@@ -14,8 +14,6 @@
 #include "ui/controls/StatusDot.h"
 #include "ui/controls/Switch.h"
 
-#include <QPointer>
-
 #include <utility>
 
 namespace tessaline {
@@ -118,12 +116,11 @@ void IntegrationsSection::refreshObsidianStatus() {
         return;
     }
     if (std::exchange(isLookingUp, true)) return;
-    ports.obsidian.lookUpPlugin([section = QPointer(this), asked = updates](const auto& state) {
-        if (!section) return;
-        section->isLookingUp = false;
+    ports.obsidian.lookUpPlugin(lifetime.guard([this, asked = updates](const auto& state) {
+        isLookingUp = false;
         // An update in the meantime knows better.
-        if (section->updates == asked) section->showPlugin(state.installed, state.enabled);
-    });
+        if (updates == asked) showPlugin(state.installed, state.enabled);
+    }));
 }
 
 void IntegrationsSection::showPlugin(bool installed, bool enabled) {

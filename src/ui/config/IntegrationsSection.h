@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Lifetime.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -55,6 +57,7 @@ private:
     QWidget* statusRow = nullptr;
     bool isLookingUp = false;
     int updates = 0; ///< of the status, so far
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

@@ -12,7 +12,6 @@
 #include "ui/controls/TruncatingLabel.h"
 
 #include <QGridLayout>
-#include <QPointer>
 
 namespace tessaline {
 
@@ -129,14 +128,12 @@ void SourceSection::browseForFile() {}
 
 void SourceSection::selectNote() {
     NotePicker::pick(*window(), ports.notes,
-                     [section = QPointer(this)](const AppleNotesConfiguration& note) {
-                         if (!section) return;
-                         section->settings.appleNotesConfig = note;
-                         section->settings.save();
-                         if (section->sourceManager)
-                             section->sourceManager->updateAppleNotesConfig(note);
-                         section->noteNameField->showText(note.noteName);
-                     });
+                     lifetime.guard([this](const AppleNotesConfiguration& note) {
+                         settings.appleNotesConfig = note;
+                         settings.save();
+                         if (sourceManager) sourceManager->updateAppleNotesConfig(note);
+                         noteNameField->showText(note.noteName);
+                     }));
 }
 
 } // namespace tessaline

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "settings/SourceType.h"
 
 #include <QWidget>
@@ -57,6 +58,7 @@ private:
     AppSettings& settings;
     SourceManager* sourceManager;
     const WindowPorts& ports;
+    Lifetime lifetime;
 };
 
 } // namespace tessaline

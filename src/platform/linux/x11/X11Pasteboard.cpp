@@ -9,18 +9,18 @@
 namespace tessaline {
 
 X11Pasteboard::X11Pasteboard(MainQueue& mainQueue, TaskRunner& taskRunner)
-    : queue(mainQueue), tasks(taskRunner), self(std::make_shared<X11Pasteboard*>(this)) {}
+    : queue(mainQueue), tasks(taskRunner) {}
 
 void X11Pasteboard::refresh(std::function<void(const QString& problem)> done) {
-    tasks.run([weak = std::weak_ptr(self), &mainQueue = queue, done = std::move(done)] {
+    auto take = lifetime.guard([this, done = std::move(done)](const std::optional<QString>& found,
+                                                              const QString& problem) {
+        text = found;
+        done(problem);
+    });
+    tasks.run([&mainQueue = queue, take = std::move(take)] {
         QString problem;
         auto found = X11SelectionReader().readText(&problem);
-        mainQueue.post([weak, done, problem, found = std::move(found)] {
-            const auto pasteboard = weak.lock();
-            if (!pasteboard) return;
-            (*pasteboard)->text = found;
-            done(problem);
-        });
+        mainQueue.post([take, problem, found = std::move(found)] { take(found, problem); });
     });
 }
 

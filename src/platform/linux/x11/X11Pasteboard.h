@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/Lifetime.h"
 #include "platform/Pasteboard.h"
-
-#include <memory>
 
 namespace tessaline {
 
@@ -23,7 +22,7 @@ private:
     MainQueue& queue;
     TaskRunner& tasks;
     std::optional<QString> text;
-    std::shared_ptr<X11Pasteboard*> self; ///< what tasks hold weakly
+    Lifetime lifetime;
 };
 
 } // namespace tessaline
