@@ -2,7 +2,6 @@
 
 import json
 import pathlib
-import subprocess
 
 from . import session
 from .waiting import wait_until
@@ -10,8 +9,7 @@ from .waiting import wait_until
 # Others in PATH lack the bindings, which the distribution installs.
 PYTHON = "/usr/bin/python3"
 LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
-TREE = pathlib.Path(__file__).with_name("accessibility_tree.py")
-READ_SECONDS = 20
+READER = pathlib.Path(__file__).with_name("accessibility_reader.py")
 
 
 class Node:
@@ -23,9 +21,8 @@ class Node:
         self.description = values["description"]
         self.states = frozenset(values["states"])
         self.area = tuple(values["area"])  # x, y, width, height on the screen
-        self.value = values.get("value")
-        self.range = values.get("range")
-        self.text = values.get("text")
+        self.value, *self.range = values.get("value", [None])
+        self.text = "".join(values["text"]) if "text" in values else None
         self.labels = values.get("labels", [])  # the texts of what it is labelled by
         self.children = [Node(child) for child in values["children"]]
 
@@ -68,6 +65,7 @@ class Accessibility:
 
     def __init__(self, desktop):
         self.desktop = desktop
+        self.reader = None
         desktop.env.pop("NO_AT_BRIDGE", None)
         desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         launcher = next((path for path in LAUNCHERS if pathlib.Path(path).exists()), None)
@@ -84,19 +82,12 @@ class Accessibility:
         )
         return "boolean true" in reply
 
-    def windows(self, pid):
-        """The windows of a process; none while it cannot be read."""
-        result = subprocess.run(
-            [PYTHON, str(TREE), str(pid)],
-            env=self.desktop.env,
-            stdin=subprocess.DEVNULL,
-            capture_output=True,
-            text=True,
-            timeout=READ_SECONDS,
-            check=False,
-        )
-        if "cannot be read now" in result.stderr:
-            return []
-        if result.returncode != 0:
-            raise AssertionError(f"the accessible tree cannot be read: {result.stderr}")
-        return [Node(window) for window in json.loads(result.stdout)]
+    def windows(self, pid, title=None):
+        """The windows of a process that are on show, those with this title if there is one; none while
+        they cannot be read."""
+        return [Node(window) for window in self._ask(pid=pid, title=title) or []]
+
+    def _ask(self, **question):
+        if not self.reader:
+            self.reader = self.desktop.start("reader", [PYTHON, READER], answers=True)
+        return json.loads(self.reader.ask(json.dumps(question)))

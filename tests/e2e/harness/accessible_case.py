@@ -14,11 +14,7 @@ class AccessibleTestCase(TessalineTestCase):
 
     def open_windows(self, title):
         """The accessible windows on show with this title."""
-        return [
-            window
-            for window in self.accessibility.windows(self.prompter.pid)
-            if window.name == title and "showing" in window.states
-        ]
+        return self.accessibility.windows(self.prompter.pid, title)
 
     def open_window(self, title):
         """The accessible window with this title, read anew."""

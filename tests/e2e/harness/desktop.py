@@ -83,9 +83,9 @@ class Desktop:
 
     # Programs
 
-    def start(self, name, command, pass_fds=(), **env):
+    def start(self, name, command, pass_fds=(), answers=False, **env):
         """Starts a program on this desktop. Other keyword arguments are added to its environment."""
-        process = Process(name, command, {**self.env, **env}, self.folder, pass_fds)
+        process = Process(name, command, {**self.env, **env}, self.folder, pass_fds, answers)
         self.processes.append(process)
         return process
 

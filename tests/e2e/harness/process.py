@@ -1,11 +1,13 @@
 """Programs that a scenario starts and, whatever happens, ends again."""
 
 import ctypes
+import select
 import signal
 import subprocess
 
 from .waiting import wait_until
 
+ANSWER_SECONDS = 20
 END_SECONDS = 5
 PR_SET_PDEATHSIG = 1
 libc = ctypes.CDLL(None)
@@ -17,9 +19,10 @@ def die_with_parent():
 
 
 class Process:
-    """A running program whose output goes into files of the scenario's folder."""
+    """A running program whose output goes into files of the scenario's folder. One that answers is
+    asked instead, line by line."""
 
-    def __init__(self, name, command, env, folder, pass_fds=()):
+    def __init__(self, name, command, env, folder, pass_fds=(), answers=False):
         self.name = name
         self.stdout_path = folder / f"{name}.out"
         self.stderr_path = folder / f"{name}.err"
@@ -28,8 +31,8 @@ class Process:
                 [str(part) for part in command],
                 env=env,
                 cwd=env["HOME"],
-                stdin=subprocess.DEVNULL,
-                stdout=out,
+                stdin=subprocess.PIPE if answers else subprocess.DEVNULL,
+                stdout=subprocess.PIPE if answers else out,
                 stderr=err,
                 pass_fds=pass_fds,
                 start_new_session=True,
@@ -57,6 +60,15 @@ class Process:
     def send(self, number):
         self.popen.send_signal(number)
 
+    def ask(self, line):
+        """The line that answers."""
+        self.popen.stdin.write(line.encode() + b"\n")
+        self.popen.stdin.flush()
+        ready, _, _ = select.select([self.popen.stdout], [], [], ANSWER_SECONDS)
+        answer = self.popen.stdout.readline() if ready else b""
+        assert answer, f"{self.name} does not answer:\n{self.stderr()}"
+        return answer
+
     def wait_for_output(self, text, seconds=20):
         def found():
             if text in self.stdout() or text in self.stderr():
@@ -75,4 +87,7 @@ class Process:
             except subprocess.TimeoutExpired:
                 self.send(signal.SIGKILL)
                 self.popen.wait()
+        for pipe in self.popen.stdin, self.popen.stdout:
+            if pipe:
+                pipe.close()
         return self.popen.returncode
