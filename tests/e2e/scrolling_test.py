@@ -21,7 +21,10 @@ class ScrollingTestCase(TalkTestCase):
 
 
 class Sliders(ScrollingTestCase):
-    """Each is dragged; the text scrolls while the mouse is down, and afterwards."""
+    """Each is dragged; the text scrolls while the mouse is down, and afterwards. The screen has room
+    for the settings below the prompter however high it gets here."""
+
+    desktop_options = {"size": (1280, 1200)}
 
     def drag_while_it_scrolls(self, name, key, value):
         self.drag(name, value)
