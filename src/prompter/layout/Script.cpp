@@ -1,7 +1,6 @@
 #include "prompter/layout/Script.h"
 
 #include "render/markdown/CharacterClasses.h"
-#include "render/markdown/HeaderParagraph.h"
 
 #include <algorithm>
 #include <utility>
@@ -67,11 +66,11 @@ qsizetype Script::pieceEnd(qsizetype start, qsizetype lineEnd) const {
     return text[latest].isLowSurrogate() ? latest - 1 : latest;
 }
 
-bool Script::isHeader(std::size_t index) const {
+int Script::headingLevel(std::size_t index) const {
     const Paragraph& paragraph = paragraphs[index];
-    if (paragraph.length == 0 || paragraph.continuesPrevious) return false;
-    return styled.attributes(styled.runs[std::size_t(paragraph.firstRun)]).paragraph ==
-           headerParagraph;
+    if (paragraph.length == 0 || paragraph.continuesPrevious) return 0;
+    const auto& attributes = styled.attributes(styled.runs[std::size_t(paragraph.firstRun)]);
+    return attributes.paragraph ? attributes.paragraph->headingLevel : 0;
 }
 
 bool Script::hasSameParagraph(std::size_t index, const Script& other,

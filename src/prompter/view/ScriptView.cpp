@@ -101,7 +101,7 @@ bool ScriptView::scrollToNextHeader() {
     const Script& script = layout.script();
     if (scrollTop >= maximumScrollPosition()) return false;
     for (std::size_t i = layout.paragraphAt(scrollTop); i < script.paragraphs.size(); ++i) {
-        if (!script.isHeader(i) || positionOf(i) < scrollTop + samePlace) continue;
+        if (script.headingLevel(i) == 0 || positionOf(i) < scrollTop + samePlace) continue;
         scrollToParagraph(i);
         return true;
     }
@@ -111,7 +111,7 @@ bool ScriptView::scrollToNextHeader() {
 bool ScriptView::scrollToPreviousHeader() {
     const Script& script = layout.script();
     for (std::size_t i = layout.paragraphAt(scrollTop) + 1; i-- > 0;) {
-        if (!script.isHeader(i) || positionOf(i) > scrollTop - samePlace) continue;
+        if (script.headingLevel(i) == 0 || positionOf(i) > scrollTop - samePlace) continue;
         scrollToParagraph(i);
         return true;
     }

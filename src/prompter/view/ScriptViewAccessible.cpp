@@ -15,6 +15,25 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     return view ? new ScriptViewAccessible(*view) : nullptr;
 }
 
+/// What a paragraph is, by the names that word processors have for it, which screen readers speak.
+QString paragraphStyle(const ParagraphStyle& style) {
+    switch (style.kind) {
+    case ParagraphKind::body:
+        return {};
+    case ParagraphKind::heading:
+        return u"paragraph-style:Heading %1;"_s.arg(style.headingLevel);
+    case ParagraphKind::listItem:
+        return u"paragraph-style:List;"_s;
+    case ParagraphKind::quote:
+        return u"paragraph-style:Quotations;"_s;
+    case ParagraphKind::code:
+        return u"paragraph-style:Preformatted Text;"_s;
+    case ParagraphKind::rule:
+        return u"paragraph-style:Horizontal Line;"_s;
+    }
+    Q_UNREACHABLE();
+}
+
 /// Text attributes in the form that screen readers expect.
 QString describe(const TextAttributes& attributes) {
     QString result;
@@ -25,6 +44,7 @@ QString describe(const TextAttributes& attributes) {
         result += u"font-style:%1;"_s.arg(attributes.font->italic ? u"italic"_s : u"normal"_s);
     }
     if (attributes.strikethrough != 0) result += u"text-line-through-type:single;"_s;
+    if (attributes.paragraph) result += paragraphStyle(*attributes.paragraph);
     return result;
 }
 

@@ -1,7 +1,5 @@
 #include "render/markdown/DocumentRenderer.h"
 
-#include "render/markdown/HeaderParagraph.h"
-
 #include <QString>
 
 #include <algorithm>
@@ -67,8 +65,10 @@ void DocumentRenderer::appendLine(QStringView line) {
 
 void DocumentRenderer::appendRule() {
     static const QString rule(21, u'\u2500');
-    ParagraphStyle paragraph{.spacingBefore = 8, .spacingAfter = 8};
-    paragraph.alignment = ParagraphStyle::Alignment::center;
+    const ParagraphStyle paragraph{.spacingBefore = 8,
+                                   .spacingAfter = 8,
+                                   .alignment = ParagraphStyle::Alignment::center,
+                                   .kind = ParagraphKind::rule};
     builder.append(rule, builder.styleIndex({.font = renderer.baseFont,
                                              .foreground = renderer.textColor.withAlpha(0.3),
                                              .paragraph = paragraph}));
@@ -79,7 +79,8 @@ void DocumentRenderer::appendCodeBlock(QStringView code) {
                                    .headIndent = 8,
                                    .tailIndent = -8,
                                    .spacingBefore = 8,
-                                   .spacingAfter = 8};
+                                   .spacingAfter = 8,
+                                   .kind = ParagraphKind::code};
     builder.append(code, builder.styleIndex({.font = monospacedFont(renderer.fontSize - 1),
                                              .foreground = renderer.textColor.withAlpha(0.9),
                                              .background = TextColor{TextColor::Base::white, 0.05},
@@ -101,7 +102,10 @@ DocumentRenderer::LineStyle DocumentRenderer::makeStyle(const MarkdownLine& line
         style = {.font = systemFont(renderer.fontSize + headerSizeIncrease(line.headerLevel),
                                     TextFont::Weight::bold),
                  .color = color,
-                 .paragraph = headerParagraph};
+                 .paragraph = ParagraphStyle{.spacingBefore = 12,
+                                             .spacingAfter = 6,
+                                             .kind = ParagraphKind::heading,
+                                             .headingLevel = line.headerLevel}};
         break;
     case Kind::bullet:
         style = listStyle(16, line.indentWidth);
@@ -130,8 +134,10 @@ DocumentRenderer::LineStyle DocumentRenderer::makeStyle(const MarkdownLine& line
                  .prefixColor = color.withAlpha(0.4),
                  .font = renderer.baseFont,
                  .color = color.withAlpha(0.8),
-                 .paragraph = ParagraphStyle{
-                     .firstLineHeadIndent = 16, .headIndent = 16, .spacingAfter = 4}};
+                 .paragraph = ParagraphStyle{.firstLineHeadIndent = 16,
+                                             .headIndent = 16,
+                                             .spacingAfter = 4,
+                                             .kind = ParagraphKind::quote}};
         break;
     case Kind::rule:
     case Kind::paragraph:
@@ -149,7 +155,8 @@ DocumentRenderer::LineStyle DocumentRenderer::listStyle(double hangingIndent,
             .color = renderer.textColor,
             .paragraph = ParagraphStyle{.firstLineHeadIndent = indent,
                                         .headIndent = indent + hangingIndent,
-                                        .spacingAfter = 2}};
+                                        .spacingAfter = 2,
+                                        .kind = ParagraphKind::listItem}};
 }
 
 int DocumentRenderer::prefixIndex(LineStyle& style) {

@@ -21,7 +21,8 @@ std::size_t hashOf(const std::optional<TextColor>& color) {
 std::size_t hashOf(const std::optional<ParagraphStyle>& style) {
     if (!style) return 0;
     return qHashMulti(3, style->firstLineHeadIndent, style->headIndent, style->tailIndent,
-                      style->spacingBefore, style->spacingAfter, int(style->alignment));
+                      style->spacingBefore, style->spacingAfter, int(style->alignment),
+                      int(style->kind), style->headingLevel);
 }
 
 } // namespace

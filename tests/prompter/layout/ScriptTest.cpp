@@ -79,21 +79,22 @@ TEST(Script, NeverCutsThroughASurrogatePair) {
     }
 }
 
-TEST(Script, KnowsHeaders) {
+TEST(Script, KnowsHeadingsAndTheirLevels) {
     const Script script =
         scriptOf(u"# One\ntext\n- item\n###### **Six**\n\n```\n# code\n```\n---"_s);
-    QStringList headers;
+    QStringList headings;
     for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
-        if (script.isHeader(i)) headers += script.textOf(script.paragraphs[i]).toString();
+        if (const int level = script.headingLevel(i))
+            headings += u"%1 %2"_s.arg(level).arg(script.textOf(script.paragraphs[i]));
     }
-    EXPECT_EQ(headers, (QStringList{u"One"_s, u"Six"_s}));
+    EXPECT_EQ(headings, (QStringList{u"1 One"_s, u"6 Six"_s}));
 }
 
 TEST(Script, CountsAVeryLongHeaderOnce) {
     const Script script = scriptOf(u"# "_s + u"word "_s.repeated(5000));
     ASSERT_GT(script.paragraphs.size(), 1U);
-    EXPECT_TRUE(script.isHeader(0));
-    EXPECT_FALSE(script.isHeader(1));
+    EXPECT_EQ(script.headingLevel(0), 1);
+    EXPECT_EQ(script.headingLevel(1), 0);
 }
 
 TEST(Script, TellsParagraphsApartByTextAndAttributes) {

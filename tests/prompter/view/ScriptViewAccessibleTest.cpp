@@ -77,5 +77,24 @@ TEST_F(ScriptViewAccessibleTest, DescribesTheLookOfTheText) {
     EXPECT_TRUE(text().attributes(0, &begin, &end).contains(u"font-size:16pt"_s));
 }
 
+TEST_F(ScriptViewAccessibleTest, TellsWhatAParagraphIs) {
+    show(u"# One\n###### *Six*\nbody\n- item\n> quote\n```\ncode\n```\n---"_s);
+    const auto styleOf = [this](const QString& words) {
+        int begin = 0;
+        int end = 0;
+        const auto offset = int(view.script().styled.text.indexOf(words));
+        const QString attributes = text().attributes(offset, &begin, &end);
+        const qsizetype style = attributes.indexOf(u"paragraph-style:"_s);
+        return style < 0 ? QString() : attributes.sliced(style);
+    };
+    EXPECT_EQ(styleOf(u"One"_s), u"paragraph-style:Heading 1;"_s);
+    EXPECT_EQ(styleOf(u"Six"_s), u"paragraph-style:Heading 6;"_s);
+    EXPECT_EQ(styleOf(u"body"_s), QString());
+    EXPECT_EQ(styleOf(u"item"_s), u"paragraph-style:List;"_s);
+    EXPECT_EQ(styleOf(u"quote"_s), u"paragraph-style:Quotations;"_s);
+    EXPECT_EQ(styleOf(u"code"_s), u"paragraph-style:Preformatted Text;"_s);
+    EXPECT_EQ(styleOf(u"\u2500"_s), u"paragraph-style:Horizontal Line;"_s);
+}
+
 } // namespace
 } // namespace tessaline

@@ -47,8 +47,10 @@ const InlineCase cases[] = {
     {"EmptyStrike", u"~~~~ x"_s, {{u"~~~~ x"_s, body()}}},
     {"LoneMarkers",
      u"* _ ` ~~ **"_s,
-     {{u"• "_s, in({.headIndent = 16, .spacingAfter = 2}, body(0.7))},
-      {u"_ ` ~~ **"_s, in({.headIndent = 16, .spacingAfter = 2}, body())}}},
+     {{u"• "_s,
+       in({.headIndent = 16, .spacingAfter = 2, .kind = ParagraphKind::listItem}, body(0.7))},
+      {u"_ ` ~~ **"_s,
+       in({.headIndent = 16, .spacingAfter = 2, .kind = ParagraphKind::listItem}, body())}}},
     {"MarkersLeftOpen", u"a **b *c `d ~~e"_s, {{u"a **b *c `d ~~e"_s, body()}}},
     {"SingleTildes", u"~a~"_s, {{u"~a~"_s, body()}}},
 

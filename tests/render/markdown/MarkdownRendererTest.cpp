@@ -19,12 +19,21 @@ using Pieces = std::vector<StyledPiece>;
 
 const StyledPiece newline{u"\n"_s, {}};
 
-constexpr ParagraphStyle headerParagraph{.spacingBefore = 12, .spacingAfter = 6};
+constexpr ParagraphStyle headerParagraph(int level) {
+    return {.spacingBefore = 12,
+            .spacingAfter = 6,
+            .kind = ParagraphKind::heading,
+            .headingLevel = level};
+}
+
 constexpr ParagraphStyle quoteParagraph{
-    .firstLineHeadIndent = 16, .headIndent = 16, .spacingAfter = 4};
+    .firstLineHeadIndent = 16, .headIndent = 16, .spacingAfter = 4, .kind = ParagraphKind::quote};
 
 ParagraphStyle listParagraph(double indent, double hang) {
-    return {.firstLineHeadIndent = indent, .headIndent = indent + hang, .spacingAfter = 2};
+    return {.firstLineHeadIndent = indent,
+            .headIndent = indent + hang,
+            .spacingAfter = 2,
+            .kind = ParagraphKind::listItem};
 }
 
 StyledPiece codeBlock(const QString& text) {
@@ -36,13 +45,16 @@ StyledPiece codeBlock(const QString& text) {
                                    .headIndent = 8,
                                    .tailIndent = -8,
                                    .spacingBefore = 8,
-                                   .spacingAfter = 8};
+                                   .spacingAfter = 8,
+                                   .kind = ParagraphKind::code};
     return {text, in(paragraph, attributes)};
 }
 
 StyledPiece horizontalRule() {
-    const ParagraphStyle paragraph{
-        .spacingBefore = 8, .spacingAfter = 8, .alignment = ParagraphStyle::Alignment::center};
+    const ParagraphStyle paragraph{.spacingBefore = 8,
+                                   .spacingAfter = 8,
+                                   .alignment = ParagraphStyle::Alignment::center,
+                                   .kind = ParagraphKind::rule};
     return {u"─────────────────────"_s, in(paragraph, body(0.3))};
 }
 
@@ -68,8 +80,8 @@ Pieces doneTask(double indent, const QString& text) {
     return {{u"☑ "_s, in(paragraph, box)}, {text, in(paragraph, struck(body()))}};
 }
 
-Pieces header(double size, const QString& text) {
-    return {{text, in(headerParagraph, bold(size))}};
+Pieces header(int level, double size, const QString& text) {
+    return {{text, in(headerParagraph(level), bold(size))}};
 }
 
 Pieces quote(const QString& text) {
@@ -147,12 +159,12 @@ TEST(MarkdownRenderer, StartsASecondBlockWithAnEmptyBuffer) {
 
 TEST(MarkdownRenderer, KeepsMarkupInHeadersAtTheHeadersSize) {
     EXPECT_EQ(rendered(u"# **A** *b* `c` ~~d~~"),
-              (Pieces{{u"A "_s, in(headerParagraph, bold(30))},
-                      {u"b"_s, in(headerParagraph, italic(bold(30)))},
-                      {u" "_s, in(headerParagraph, bold(30))},
-                      {u"c"_s, in(headerParagraph, code(bold(30)))},
-                      {u" "_s, in(headerParagraph, bold(30))},
-                      {u"d"_s, in(headerParagraph, struck(bold(30)))}}));
+              (Pieces{{u"A "_s, in(headerParagraph(1), bold(30))},
+                      {u"b"_s, in(headerParagraph(1), italic(bold(30)))},
+                      {u" "_s, in(headerParagraph(1), bold(30))},
+                      {u"c"_s, in(headerParagraph(1), code(bold(30)))},
+                      {u" "_s, in(headerParagraph(1), bold(30))},
+                      {u"d"_s, in(headerParagraph(1), struck(bold(30)))}}));
 }
 
 TEST(MarkdownRenderer, StrikesFinishedTasksAfterTheBoxIncludingTheirMarkup) {
@@ -202,19 +214,19 @@ const LineCase lineCases[] = {
     {"RuleBeforeACarriageReturn", u"---\r"_s, paragraph(u"---\r"_s)},
     {"SpacedHyphensAreABullet", u"- - -"_s, bullet(u"•"_s, 0, u"- -"_s)},
 
-    {"Header1", u"# One"_s, header(30, u"One"_s)},
-    {"Header2", u"## Two"_s, header(27, u"Two"_s)},
-    {"Header3", u"### Three"_s, header(24, u"Three"_s)},
-    {"Header4", u"#### Four"_s, header(22, u"Four"_s)},
-    {"Header5", u"##### Five"_s, header(21, u"Five"_s)},
-    {"Header6", u"###### Six"_s, header(20, u"Six"_s)},
+    {"Header1", u"# One"_s, header(1, 30, u"One"_s)},
+    {"Header2", u"## Two"_s, header(2, 27, u"Two"_s)},
+    {"Header3", u"### Three"_s, header(3, 24, u"Three"_s)},
+    {"Header4", u"#### Four"_s, header(4, 22, u"Four"_s)},
+    {"Header5", u"##### Five"_s, header(5, 21, u"Five"_s)},
+    {"Header6", u"###### Six"_s, header(6, 20, u"Six"_s)},
     {"SevenHashes", u"####### x"_s, paragraph(u"####### x"_s)},
     {"HeaderWithoutSpace", u"#Title"_s, paragraph(u"#Title"_s)},
     {"HeaderAlone", u"# "_s, paragraph(u"# "_s)},
-    {"IndentedHeader", u" \t#\u2003 x \t"_s, header(30, u"x"_s)},
-    {"HeaderAfterALineSeparator", u"#\u2028x"_s, header(30, u"x"_s)},
+    {"IndentedHeader", u" \t#\u2003 x \t"_s, header(1, 30, u"x"_s)},
+    {"HeaderAfterALineSeparator", u"#\u2028x"_s, header(1, 30, u"x"_s)},
     {"EmptyHeaderBeforeACarriageReturn", u"#\r"_s, {}},
-    {"HeaderKeepsItsClosingHashes", u"# a #"_s, header(30, u"a #"_s)},
+    {"HeaderKeepsItsClosingHashes", u"# a #"_s, header(1, 30, u"a #"_s)},
 
     {"OpenTask", u"- [ ] buy milk"_s, openTask(0, u"buy milk"_s)},
     {"IndentedOpenTask", u"  - [ ] buy milk"_s, openTask(8, u"buy milk"_s)},

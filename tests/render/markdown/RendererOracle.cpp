@@ -68,7 +68,10 @@ int indentWidth(const QString& indent) {
 
 ParagraphStyle listParagraph(const QString& indent, double hang) {
     const double first = indentWidth(indent) * 4.0;
-    return {.firstLineHeadIndent = first, .headIndent = first + hang, .spacingAfter = 2};
+    return {.firstLineHeadIndent = first,
+            .headIndent = first + hang,
+            .spacingAfter = 2,
+            .kind = ParagraphKind::listItem};
 }
 
 TextFont systemFont(double size, TextFont::Weight weight) {
@@ -164,7 +167,10 @@ UnitStyledText Rules::header(const QString& text, qsizetype level) const {
     constexpr std::array<double, 7> growth{0, 10, 7, 4, 2, 1, 0};
     const double size = fontSize + growth[std::min<qsizetype>(level, 6)];
     UnitStyledText result = inlineText(text, systemFont(size, TextFont::Weight::bold));
-    result.setParagraph({.spacingBefore = 12, .spacingAfter = 6});
+    result.setParagraph({.spacingBefore = 12,
+                         .spacingAfter = 6,
+                         .kind = ParagraphKind::heading,
+                         .headingLevel = int(level)});
     return result;
 }
 
@@ -200,7 +206,10 @@ UnitStyledText Rules::numberedItem(const QString& text, const QString& number,
 UnitStyledText Rules::blockquote(const QString& text) const {
     UnitStyledText result(u"┃ ", body(textColor.withAlpha(0.4)));
     result.append(inlineText(text, {}, textColor.withAlpha(0.8)));
-    result.setParagraph({.firstLineHeadIndent = 16, .headIndent = 16, .spacingAfter = 4});
+    result.setParagraph({.firstLineHeadIndent = 16,
+                         .headIndent = 16,
+                         .spacingAfter = 4,
+                         .kind = ParagraphKind::quote});
     return result;
 }
 
@@ -212,15 +221,18 @@ UnitStyledText Rules::codeBlock(const QString& code) const {
                          .headIndent = 8,
                          .tailIndent = -8,
                          .spacingBefore = 8,
-                         .spacingAfter = 8});
+                         .spacingAfter = 8,
+                         .kind = ParagraphKind::code});
     result.append({u"\n", {}});
     return result;
 }
 
 UnitStyledText Rules::horizontalRule() const {
     UnitStyledText result(QString(21, u'─'), body(textColor.withAlpha(0.3)));
-    result.setParagraph(
-        {.spacingBefore = 8, .spacingAfter = 8, .alignment = ParagraphStyle::Alignment::center});
+    result.setParagraph({.spacingBefore = 8,
+                         .spacingAfter = 8,
+                         .alignment = ParagraphStyle::Alignment::center,
+                         .kind = ParagraphKind::rule});
     return result;
 }
 

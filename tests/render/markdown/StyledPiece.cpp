@@ -28,7 +28,8 @@ void print(std::ostream& out, const TextFont& font) {
 void print(std::ostream& out, const ParagraphStyle& style) {
     out << " paragraph=" << style.firstLineHeadIndent << ',' << style.headIndent << ','
         << style.tailIndent << ',' << style.spacingBefore << ',' << style.spacingAfter
-        << (style.alignment == ParagraphStyle::Alignment::center ? ",center" : ",natural");
+        << (style.alignment == ParagraphStyle::Alignment::center ? ",center" : ",natural")
+        << ",kind " << int(style.kind) << ",level " << style.headingLevel;
 }
 
 } // namespace
