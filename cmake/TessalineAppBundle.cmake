@@ -31,11 +31,11 @@ endfunction()
 # to do nor keeps it out of the Dock.
 function(tessaline_app_bundle target)
   set(resources "${CMAKE_SOURCE_DIR}/resources")
-  set(plugin "${resources}/ObsidianPlugin/main.js" "${resources}/ObsidianPlugin/manifest.json")
   tessaline_icon(icon)
-  target_sources(${target} PRIVATE ${plugin} "${icon}")
+  target_sources(${target} PRIVATE ${TESSALINE_OBSIDIAN_PLUGIN_FILES} "${icon}")
   set_source_files_properties(
-    ${plugin} PROPERTIES MACOSX_PACKAGE_LOCATION Resources/ObsidianPlugin HEADER_FILE_ONLY ON)
+    ${TESSALINE_OBSIDIAN_PLUGIN_FILES}
+    PROPERTIES MACOSX_PACKAGE_LOCATION Resources/ObsidianPlugin HEADER_FILE_ONLY ON)
   set_source_files_properties("${icon}" PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
   set_target_properties(
     ${target}

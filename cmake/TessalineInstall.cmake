@@ -34,23 +34,9 @@ endif()
 add_custom_target(compressed_documents ALL DEPENDS ${compressed})
 add_dependencies(compressed_documents documents)
 
-# The program finds its resources beside itself in the build folder as well.
-set(plugin_files)
-foreach(name main.js manifest.json)
-  set(copy "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/resources/ObsidianPlugin/${name}")
-  add_custom_command(
-    OUTPUT "${copy}"
-    COMMAND "${CMAKE_COMMAND}" -E copy "${CMAKE_SOURCE_DIR}/resources/ObsidianPlugin/${name}" "${copy}"
-    DEPENDS "${CMAKE_SOURCE_DIR}/resources/ObsidianPlugin/${name}"
-    VERBATIM)
-  list(APPEND plugin_files "${copy}")
-endforeach()
-add_custom_target(tessaline_resources DEPENDS ${plugin_files})
-add_dependencies(tessaline tessaline_resources)
-
 install(TARGETS tessaline RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-install(DIRECTORY "${CMAKE_SOURCE_DIR}/resources/ObsidianPlugin"
-        DESTINATION "${CMAKE_INSTALL_DATADIR}/tessaline")
+install(FILES ${TESSALINE_OBSIDIAN_PLUGIN_FILES}
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/tessaline/ObsidianPlugin")
 
 install(FILES "${linux_resources}/${identifier}.desktop"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

@@ -19,12 +19,11 @@ from harness.accessible_case import AccessibleTestCase
 from harness.clipboard import Clipboard
 from harness.control_client import ControlClient
 from harness.memory import resident
-from harness.obsidian import PLUGIN, Obsidian
+from harness.obsidian import PLUGIN, PLUGIN_FILES, Obsidian
 from journey_reader import MONITORS, Reader
 
 SEED = int(os.environ.get("TESSALINE_JOURNEY_SEED", "1"))
 ACTIONS = int(os.environ.get("TESSALINE_JOURNEY_ACTIONS", "150"))
-PLUGIN_FILES = pathlib.Path(__file__).resolve().parents[2] / "resources/ObsidianPlugin"
 LOOK_EVERY = 5  # actions, at what takes longer to see
 MOST_MEMORY_KIB = 200 * 1024
 SANITIZER_MEMORY = 8  # times as much, for what the sanitizers keep

@@ -5,6 +5,7 @@ import re
 import unittest
 
 from harness import session, wait_until
+from harness.obsidian import PLUGIN_FILES
 from prompter_test import PrompterTestCase
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -25,6 +26,7 @@ class ObsidianPlugin(PrompterTestCase):
     def setUp(self):
         super().setUp()
         session.require("node")
+        self.desktop.env["TESSALINE_OBSIDIAN_PLUGIN"] = str(PLUGIN_FILES)
 
     def send(self, *texts):
         """Sends the note talk.md by the plug-in's command; returns what the user is told."""

@@ -11,8 +11,12 @@ test('the manifest names a desktop plug-in that Obsidian takes', () => {
     const manifest = readManifest();
     assert.equal(manifest.id, 'obsidian-tessaline');
     assert.equal(manifest.isDesktopOnly, true);
-    for (const key of ['version', 'minAppVersion']) assert.match(manifest[key], /^\d+\.\d+\.\d+$/);
+    assert.match(manifest.minAppVersion, /^\d+\.\d+\.\d+$/);
     for (const key of ['name', 'author', 'description']) assert.ok(manifest[key]);
+});
+
+test('the manifest has the program\'s version', () => {
+    assert.equal(readManifest().version, process.env.TESSALINE_VERSION);
 });
 
 test('there is one command, found in the palette by "tessaline"', async () => {

@@ -1,8 +1,11 @@
 """Obsidian in a user's home, as far as Tessaline can see it."""
 
 import json
+import os
+import pathlib
 
 PLUGIN = "obsidian-tessaline"
+PLUGIN_FILES = pathlib.Path(os.environ["TESSALINE_BINARY"]).parent / "resources/ObsidianPlugin"
 ICON_COLOR = (124, 58, 237)
 ICON_SIZE = 48
 

@@ -7,7 +7,9 @@ const { isBuiltin } = require('module');
 const path = require('path');
 const vm = require('vm');
 
-const pluginFolder = path.join(__dirname, '..', '..', '..', 'resources', 'ObsidianPlugin');
+// Where a build has put it.
+const pluginFolder = process.env.TESSALINE_OBSIDIAN_PLUGIN;
+if (!pluginFolder) throw new Error('TESSALINE_OBSIDIAN_PLUGIN does not name the plug-in\'s folder');
 
 function readManifest() {
     return JSON.parse(fs.readFileSync(path.join(pluginFolder, 'manifest.json'), 'utf8'));
