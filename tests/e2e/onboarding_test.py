@@ -1,6 +1,5 @@
 """The first run on a fresh home, from the first window to the prompter."""
 
-import pathlib
 import shutil
 import signal
 import unittest
@@ -8,7 +7,7 @@ import unittest
 from harness import wait_until
 from harness.accessible_case import AccessibleTestCase
 from harness.clipboard import Clipboard
-from harness.obsidian import ICON_COLOR, PLUGIN, Obsidian
+from harness.obsidian import ICON_COLOR, PLUGIN, PLUGIN_FILES, Obsidian
 from harness.tessaline import PROMPTER, WELCOME
 from harness.waiting import holds_for
 
@@ -22,7 +21,6 @@ INSTALLED_TEXT = (
     'or press Ctrl+P and type "tessaline".'
 )
 INVITATION = "Send notes from Obsidian straight into the prompter"
-PLUGIN_FILES = pathlib.Path(__file__).resolve().parents[2] / "resources/ObsidianPlugin"
 
 
 class OnboardingTestCase(AccessibleTestCase):
@@ -34,7 +32,7 @@ class OnboardingTestCase(AccessibleTestCase):
 
     def start_first(self):
         super().start_first()
-        wait_until(lambda: self.desktop.active_window() == self.welcome, "it has the keyboard")
+        self.desktop.wait_for_keyboard(self.welcome)
 
     def obsidian_switch(self):
         return self.control(TITLE, "check box", "Obsidian")
@@ -51,7 +49,7 @@ class OnboardingTestCase(AccessibleTestCase):
 
     def finish(self):
         """Presses Return in the window, and waits for the prompter."""
-        wait_until(lambda: self.desktop.active_window() == self.welcome, "it has the keyboard")
+        self.desktop.wait_for_keyboard(self.welcome)
         self.desktop.key("Return")
         self.wait_for_prompter()
         self.assertEqual(self.desktop.windows(WELCOME, self.prompter.pid), [])
@@ -165,8 +163,7 @@ class WithAVault(OnboardingTestCase):
         self.desktop.key("space")
         self.read_alert(INSTALLED)
         self.assert_installed()
-        self.desktop.key("Escape")
-        self.wait_until_closed(INSTALLED)
+        self.dismiss(INSTALLED)
         self.assertIn("checked", self.obsidian_switch().states)
         self.assertFalse(self.prompter_is_shown(), "Escape closed the alert alone")
         self.finish()
@@ -198,8 +195,7 @@ class WithAVault(OnboardingTestCase):
         self.start_first()
         self.click_on(self.obsidian_switch())
         self.read_alert(INSTALLED)
-        self.desktop.key("Escape")
-        self.wait_until_closed(INSTALLED)
+        self.dismiss(INSTALLED)
         self.click_on(self.obsidian_switch())
         self.wait_for_text(TITLE, INVITATION)
         self.assert_installed()
@@ -212,8 +208,7 @@ class WithAVault(OnboardingTestCase):
         self.start_first()
         self.click_on(self.obsidian_switch())
         self.read_alert(INSTALLED)
-        self.desktop.key("Escape")
-        self.wait_until_closed(INSTALLED)
+        self.dismiss(INSTALLED)
         self.desktop.close_by_keys(self.welcome)
         self.wait_for_prompter()
         self.assertIs(self.settings()["hasCompletedOnboarding"], False)
@@ -230,14 +225,12 @@ class WithAVault(OnboardingTestCase):
         self.obsidian.block_installation()
         self.start_first()
         self.click_on(self.obsidian_switch())
-        self.open_window(PANEL)
-        self.desktop.key("Escape")
+        self.dismiss(PANEL)
         self.assertEqual(
             self.read_alert(FAILED),
             f"Failed to install plugin: {self.obsidian.plugin_folder}: Not a directory",
         )
-        self.desktop.key("Escape")
-        self.wait_until_closed(FAILED)
+        self.dismiss(FAILED)
         self.assertIn("checked", self.obsidian_switch().states)
         self.wait_for_text(TITLE, "Plugin not found")
         self.assertEqual(self.obsidian.plugins(), ["calendar"])

@@ -33,9 +33,7 @@ class SettingsTestCase(AccessibleTestCase):
         """Presses the gear in the prompter's strip."""
         self.press("Tessaline", "Settings")
         self.window_of_settings = self.desktop.wait_for_window(SETTINGS, self.prompter.pid)
-        wait_until(
-            lambda: self.desktop.active_window() == self.window_of_settings, "it has the keyboard"
-        )
+        self.desktop.wait_for_keyboard(self.window_of_settings)
 
     def start_with_settings(self, *arguments):
         self.start(*arguments)
@@ -102,10 +100,15 @@ class SettingsTestCase(AccessibleTestCase):
 
     def focus(self, role, name):
         """Goes to a control with the Tab key."""
+        here = self.focused()
         for _ in range(len(CONTROLS) + 3):
-            if self.focused() == (role, name):
+            if here == (role, name):
                 return
-            before = self.focused()
             self.desktop.key("Tab")
-            wait_until(lambda before=before: self.focused() != before, "the next one has the keys")
+            here = wait_until(lambda left=here: self.next_focus(left), "the next one has the keys")
         self.fail(f"Tab does not come to the {role} {name}")
+
+    def next_focus(self, left):
+        """What has the keyboard, once it is not what had it."""
+        here = self.focused()
+        return here if here != left else None

@@ -35,8 +35,7 @@ class ObsidianSwitch(SettingsTestCase):
         )
         self.assertEqual(sorted(self.obsidian.plugin_files()), ["main.js", "manifest.json"])
         self.assertEqual(self.obsidian.plugins(), [PLUGIN])
-        self.desktop.key("Escape")
-        self.wait_until_closed("Plugin Reinstalled")
+        self.dismiss("Plugin Reinstalled")
         self.assertTrue(holds_for(self.settings_are_open, 0.5), "Escape closed the alert alone")
         self.wait_for_text(TITLE, "Plugin active")
         self.assertEqual(self.enabled_sources(), ["clipboard", "obsidian"])
@@ -67,7 +66,7 @@ class ObsidianSwitch(SettingsTestCase):
         self.start_with_settings()
         self.switch()
         self.read_alert("Plugin Reinstalled")
-        self.desktop.key("Return")
+        self.dismiss("Plugin Reinstalled", "Return")
         self.wait_for_text(TITLE, "Plugin active")
         self.obsidian.switch_plugins_off()
         self.wait_for_text(TITLE, "Disabled in Obsidian")
@@ -76,13 +75,12 @@ class ObsidianSwitch(SettingsTestCase):
         self.obsidian.block_installation()
         self.start_with_settings()
         self.switch()
-        self.open_window("Grant Access to Obsidian Vault")
-        self.desktop.key("Escape")
+        self.dismiss("Grant Access to Obsidian Vault")
         self.assertEqual(
             self.read_alert("Installation Failed"),
             f"Failed to install plugin: {self.obsidian.plugin_folder}: Not a directory",
         )
-        self.desktop.key("Escape")
+        self.dismiss("Installation Failed")
         self.wait_for_text(TITLE, "Plugin not found")
         self.assertEqual(self.enabled_sources(), ["clipboard", "obsidian"])
 

@@ -92,9 +92,9 @@ class Sliders(SettingsTestCase):
 
     def test_the_text_grows_while_the_mouse_is_down(self):
         self.start_with_settings(self.write_script(TALK))
-        before = self.desktop.picture(self.window).ppm
+        before = self.desktop.picture(self.window)
         self.drag("Font Size", 25)
-        wait_until(lambda: self.desktop.picture(self.window).ppm != before, "the text has changed")
+        wait_until(lambda: self.desktop.picture(self.window) != before, "the text has changed")
         self.assertAlmostEqual(self.settings()["fontSize"], 25, delta=0.2)
         x, y = self.place_of(self.slider("Font Size"), 18)
         for pixel in range(4):
@@ -267,8 +267,7 @@ class LowScreen(SettingsTestCase):
         self.obsidian.add_vault()
         self.start_with_settings()
         self.click_on(self.control(TITLE, "check box", "Obsidian"))
-        self.open_window("Plugin Reinstalled")
-        self.desktop.key("Escape")
+        self.dismiss("Plugin Reinstalled")
         self.wait_for_text(TITLE, "Plugin active")
         self.assert_whole_on_the_screen()
 
@@ -326,7 +325,7 @@ class LargeScale(SettingsTestCase):
             self.start(QT_SCALE_FACTOR=scale)
             self.call("ctl", "settings")
             settings = self.desktop.wait_for_window(SETTINGS, self.prompter.pid)
-            wait_until(lambda: self.desktop.active_window() == settings, "it has the keyboard")
+            self.desktop.wait_for_keyboard(settings)
             wait_until(lambda: self.is_on_the_screen(settings), f"it is on the screen at {scale}")
             self.prompter.end()
 

@@ -94,7 +94,7 @@ class StatusItem(ShellTestCase):
         self.start()
         self.choose("Settings")
         window = self.wait_for_settings()
-        wait_until(lambda: self.desktop.active_window() == window, "the settings are active")
+        self.desktop.wait_for_keyboard(window)
         wait_until(lambda: self.frame(window)[1] == 256, "its top is at 256")
         x, _, width = self.frame(window)
         self.assertEqual(x + width / 2, SCREEN[0] / 2)
@@ -188,7 +188,7 @@ class FirstStart(ShellTestCase):
         self.desktop.activate(window)
         again = self.desktop.start("again", [self.binary()])
         self.assertEqual(again.wait(), 0)
-        wait_until(lambda: self.desktop.active_window() == self.welcome, "it has the keyboard")
+        self.desktop.wait_for_keyboard(self.welcome)
         self.assertFalse(self.prompter_is_shown())
 
     def test_quits_by_the_menu(self):

@@ -86,7 +86,7 @@ class TheNextDay(TalkTestCase):
         wait_until(lambda: self.what_is_seen() == before, "everything is as it was", 5)
 
     def what_is_seen(self):
-        return self.prompter_area(), self.desktop.picture(self.window).ppm
+        return self.prompter_area(), self.desktop.picture(self.window)
 
     def test_starts_at_the_top_and_scrolls_on_by_itself(self):
         self.write_settings(scrollSpeed=5.0, scrollRate="fast")

@@ -23,6 +23,12 @@ class AccessibleTestCase(TessalineTestCase):
     def wait_until_closed(self, title):
         wait_until(lambda: not self.open_windows(title), f"the window {title} is closed")
 
+    def dismiss(self, title, key="Escape"):
+        """Closes a window with a key, once it has the keyboard."""
+        wait_until(lambda: "active" in self.open_window(title).states, f"{title} has the keyboard")
+        self.desktop.key(key)
+        self.wait_until_closed(title)
+
     def control(self, window, role, name):
         """What is on show in a window with this role and name, read anew."""
 

@@ -11,6 +11,7 @@ from . import session
 from .picture import Picture
 from .process import Process
 from .waiting import holds_for, wait_until
+from .x_connection import XConnection
 
 TOOL_SECONDS = 20
 OUTPUT = "screen"  # as Xvfb calls its only one
@@ -31,10 +32,11 @@ class Desktop:
         tray=None,
         window_manager="openbox",
     ):
-        session.require("xdotool", "xprop", "xrandr", "import")
+        session.require("xdotool", "xprop", "xrandr")
         self.size = size
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
         self.processes = []
+        self.x_connection = None
         try:
             self.env = session.clean_environment(self.folder)
             session.start_x_server(self.start, self.env, size)
@@ -58,6 +60,8 @@ class Desktop:
         self.close()
 
     def close(self):
+        if self.x_connection:
+            self.x_connection.close()
         while self.processes:
             self.processes.pop().end()
         shutil.rmtree(self.folder, ignore_errors=True)
@@ -67,6 +71,13 @@ class Desktop:
 
     def start_compositor(self):
         session.start_compositor(self.start, self.env)
+
+    @property
+    def x(self):
+        """What the X server says."""
+        if not self.x_connection:
+            self.x_connection = XConnection(self.env["DISPLAY"])
+        return self.x_connection
 
     @property
     def home(self):
@@ -113,14 +124,7 @@ class Desktop:
 
     def windows(self, title=None, pid=None):
         """The visible windows with a title (a regular expression) or of a process."""
-        # One search for both finds nothing.
-        criteria = [["--name", title]] if title is not None else []
-        criteria += [["--pid", pid]] if pid is not None else []
-        searches = [
-            self.run("xdotool", "search", "--onlyvisible", *criterion, check=False).split()
-            for criterion in criteria
-        ]
-        return [int(window) for window in searches[0] if all(window in found for found in searches)]
+        return self.x.windows(title, pid)
 
     def wait_for_window(self, title=None, pid=None):
         return wait_until(
@@ -129,30 +133,30 @@ class Desktop:
 
     def geometry(self, window):
         """(x, y, width, height) on the screen, without the window manager's frame."""
-        lines = self.run("xdotool", "getwindowgeometry", "--shell", window).split()
-        values = dict(line.split("=") for line in lines)
-        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        return self.x.geometry(window)
 
     def property(self, window, name):
         """A window's property as xprop shows it; empty when it has none."""
         return session.property_value(self.run("xprop", "-id", window, name))
 
-    def _root_windows(self, name):
-        text = session.root_property(self.env, name)
-        return [int(word, 16) for word in text.replace(",", " ").split() if word.startswith("0x")]
-
     def managed_windows(self):
         """What taskbars and pagers know, lowest first."""
-        return self._root_windows("_NET_CLIENT_LIST_STACKING")
+        return self.x.numbers(self.x.root, "_NET_CLIENT_LIST_STACKING")
 
     def active_window(self):
         """The window that the window manager takes for the active one; 0 for none."""
-        return (self._root_windows("_NET_ACTIVE_WINDOW") or [0])[0]
+        return (self.x.numbers(self.x.root, "_NET_ACTIVE_WINDOW") or [0])[0]
 
     def focused_window(self):
         """The window that gets the keys, by the X server itself; 0 for none."""
-        text = self.run("xdotool", "getwindowfocus", "-f", check=False)
-        return int(text) if text else 0
+        return self.x.focused_window()
+
+    def wait_for_keyboard(self, window):
+        """Until both the X server and the window manager say that a window has the keys."""
+        wait_until(
+            lambda: self.focused_window() == window == self.active_window(),
+            f"window {window} has the keyboard",
+        )
 
     def activate(self, window):
         self.run("xdotool", "windowactivate", "--sync", window)
@@ -160,7 +164,7 @@ class Desktop:
     def close_by_keys(self, window):
         """Closes a window as its user does, who tries again if the window manager was busy."""
         self.activate(window)
-        wait_until(lambda: self.focused_window() == window, f"window {window} has the keyboard")
+        self.wait_for_keyboard(window)
         for _ in range(TRIES):
             self.key("alt+F4")
             if not holds_for(lambda: window in self.managed_windows(), A_MOMENT):
@@ -170,7 +174,7 @@ class Desktop:
     def switch_to_desktop(self, number):
         self.run("xdotool", "set_desktop", number)
         wait_until(
-            lambda: session.root_property(self.env, "_NET_CURRENT_DESKTOP") == str(number),
+            lambda: self.x.numbers(self.x.root, "_NET_CURRENT_DESKTOP") == [number],
             f"desktop {number} is shown",
         )
 
@@ -211,18 +215,14 @@ class Desktop:
 
     # What is seen
 
-    def picture(self, window="root"):
-        result = subprocess.run(
-            ["import", "-window", str(window), "-depth", "8", "ppm:-"],
-            env=self.env,
-            capture_output=True,
-            timeout=TOOL_SECONDS,
-            check=True,
-        )
-        return Picture(result.stdout)
+    def picture(self, window=None):
+        """All of the screen, or the part of it where a window is."""
+        window = self.x.root if window is None else window
+        size = self.geometry(window)[2:]
+        return Picture(*size, self.x.image(window, 0, 0, *size))
 
     def pixel(self, x, y):
-        return self.picture().pixel(x, y)
+        return Picture(1, 1, self.x.image(self.x.root, x, y, 1, 1)).pixel(0, 0)
 
     def wait_for_pixel(self, x, y, color):
         wait_until(lambda: self.pixel(x, y) == color, f"pixel ({x}, {y}) is {color}")
