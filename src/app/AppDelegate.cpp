@@ -5,6 +5,7 @@
 #include "app/PrompterCutout.h"
 #include "app/StatusItem.h"
 #include "app/shortcuts/Shortcuts.h"
+#include "cli/CommandLine.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/ActivationPolicy.h"
 #include "platform/BundleInformation.h"
@@ -16,6 +17,7 @@
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
+#include "prompter/view/ScriptView.h"
 #include "sources/ClipboardSource.h"
 #include "sources/FollowedFile.h"
 #include "sources/ObsidianSource.h"
@@ -73,6 +75,22 @@ WindowPorts AppDelegate::windowPorts() const {
 
 PrompterWindow& AppDelegate::prompter() const {
     return required(prompterWindow, "prompter window");
+}
+
+PrompterStatus AppDelegate::status() const {
+    const ScriptView& view = prompter().textView();
+    return {.version = CommandLine::version(),
+            .visible = prompter().isVisible(),
+            .collapsed = prompter().isCollapsed(),
+            .source = settings.activeSourceType,
+            .words = prompter().words(),
+            .time = prompter().remainingTime(),
+            .scrollPosition = view.scrollPosition(),
+            .maximumScrollPosition = view.maximumScrollPosition(),
+            .speed = settings.scrollSpeed,
+            .rate = settings.scrollRate,
+            .autoScroll = settings.autoScrollEnabled,
+            .frameRate = prompter().framesPerSecond()};
 }
 
 ConfigWindow& AppDelegate::config() const {

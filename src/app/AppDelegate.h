@@ -4,6 +4,7 @@
 #include "permissions/PermissionManager.h"
 #include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
+#include "prompter/PrompterStatus.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceType.h"
@@ -72,6 +73,7 @@ public:
     bool hasStarted() const { return shortcuts != nullptr; }
     const AppSettings& currentSettings() const { return settings; }
     PrompterWindow& prompter() const;
+    PrompterStatus status() const;
 
     /// Shows a text as if it had been pasted. Before the normal start and while the first-run
     /// window is up, keeps the last one until then. An empty text changes nothing.

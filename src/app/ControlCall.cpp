@@ -1,8 +1,8 @@
 #include "app/ControlCall.h"
 
-#include "app/RemoteCommands.h"
 #include "app/remote/SingleInstance.h"
 #include "cli/Console.h"
+#include "cli/ControlAnswer.h"
 #include "cli/ExitStatus.h"
 #include "platform/SystemAdapters.h"
 
@@ -35,15 +35,14 @@ int runControl(const ControlRequest& request) {
     const auto address = InstanceAddress::ofThisSession(&problem);
     if (!address) return fail(u"no prompter can be reached: "_s + problem);
     const auto outcome = SingleInstance::join(
-        *address, [&] { return RemoteCommands::control(request); },
-        InstanceClient::Clock::now() + longestWait);
+        *address, [&] { return request; }, InstanceClient::Clock::now() + longestWait);
     if (std::holds_alternative<SingleInstance::IsUs>(outcome)) return fail(nobodyRuns());
     if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
         return fail(u"no prompter can be reached: "_s + failure->problem);
-    const auto* answer = std::get_if<QJsonObject>(&outcome);
+    const auto* answer = std::get_if<RemoteAnswer>(&outcome);
     if (!answer) return fail(u"the prompter does not answer"_s);
-    if (!answer->value("ok"_L1).toBool()) return fail(answer->value("error"_L1).toString());
-    return printText(answer->value("text"_L1).toString() + u'\n');
+    if (const auto* refusal = std::get_if<Refusal>(answer)) return fail(refusal->reason);
+    return printText(controlAnswer(request, std::get<PrompterStatus>(*answer)) + u'\n');
 }
 
 } // namespace tessaline

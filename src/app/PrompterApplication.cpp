@@ -151,9 +151,9 @@ void hearLaterStarts(InstanceServer& server, const QString& path) {
 /// heard for as long; one that comes afterwards waits for its turn to be the program.
 int runUntilStopped(AppDelegate& delegate, Machine& machine, const QString& socketPath) {
     RemoteCommands commands(delegate, machine.scriptTasks, machine.mainQueue);
-    InstanceServer server(machine.timers, [&commands](const QJsonObject& message,
+    InstanceServer server(machine.timers, [&commands](const RemoteRequest& request,
                                                       const InstanceServer::Reply& reply) {
-        commands.carryOut(message, reply);
+        commands.carryOut(request, reply);
     });
     hearLaterStarts(server, socketPath);
     return QApplication::exec();

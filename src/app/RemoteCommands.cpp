@@ -6,8 +6,6 @@
 #include "platform/TaskRunner.h"
 #include "settings/TextFile.h"
 
-#include <QJsonArray>
-
 #include <optional>
 #include <utility>
 
@@ -17,89 +15,49 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QJsonObject done() {
-    return {{u"ok"_s, true}};
-}
-
-QJsonObject failed(const QString& reason) {
-    return {{u"ok"_s, false}, {u"error"_s, reason}};
+Refusal unreadable(const QString& path, const QString& problem) {
+    return {u"cannot read %1: %2"_s.arg(path, problem)};
 }
 
 } // namespace
 
-QJsonObject RemoteCommands::show() {
-    return {{u"command"_s, u"show"_s}};
-}
-
-QJsonObject RemoteCommands::open(const QString& path, bool follow) {
-    return {{u"command"_s, u"open"_s}, {u"path"_s, path}, {u"follow"_s, follow}};
-}
-
-QJsonObject RemoteCommands::control(const ControlRequest& request) {
-    return {{u"command"_s, u"control"_s},
-            {u"words"_s, QJsonArray::fromStringList(request.words())}};
-}
-
 RemoteCommands::RemoteCommands(AppDelegate& borrowed, TaskRunner& runner, MainQueue& queue)
     : delegate(borrowed), taskRunner(runner), mainQueue(queue) {}
 
-void RemoteCommands::carryOut(const QJsonObject& message, const Reply& reply) {
-    if (message.value("command"_L1) == "open"_L1) {
-        openFile(message.value("path"_L1).toString(), message.value("follow"_L1).toBool(), reply);
-    } else if (message.value("command"_L1) == "control"_L1) {
-        drive(message, reply);
+void RemoteCommands::carryOut(const RemoteRequest& request, const Reply& reply) {
+    if (const auto* open = std::get_if<OpenRequest>(&request)) {
+        openFile(*open, reply);
+    } else if (const auto* control = std::get_if<ControlRequest>(&request)) {
+        RemoteControl(delegate).carryOut(*control, reply);
     } else {
-        reply(answerTo(message));
+        delegate.reveal();
+        reply(delegate.status());
     }
 }
 
-QJsonObject RemoteCommands::answerTo(const QJsonObject& message) {
-    const QString command = message.value("command"_L1).toString();
-    if (command != "show"_L1) return failed(u"there is no command '%1'"_s.arg(command));
-    delegate.reveal();
-    return done();
-}
-
-void RemoteCommands::openFile(const QString& path, bool follow, const Reply& reply) {
-    if (!path.startsWith(u'/')) {
-        reply(failed(u"cannot read %1: Not a path from the root"_s.arg(path)));
-        return;
-    }
+void RemoteCommands::openFile(const OpenRequest& request, const Reply& reply) {
+    if (!request.path.startsWith(u'/'))
+        return reply(unreadable(request.path, u"Not a path from the root"_s));
     const auto finish = lifetime.guard(
-        [this, path, follow, reply](const std::optional<QString>& text, const QString& problem) {
-            if (text) showFile(path, *text, follow);
-            reply(text ? done() : failed(u"cannot read %1: %2"_s.arg(path, problem)));
+        [this, request, reply](const std::optional<QString>& text, const QString& problem) {
+            if (!text) return reply(unreadable(request.path, problem));
+            showFile(request, *text);
+            reply(delegate.status());
         });
-    taskRunner.run([&queue = mainQueue, path, finish] {
+    taskRunner.run([&queue = mainQueue, path = request.path, finish] {
         QString problem;
         auto text = readTextFile(path, ByteOrderMark::drop, &problem);
         queue.post([finish, problem, text = std::move(text)] { finish(text, problem); });
     });
 }
 
-void RemoteCommands::showFile(const QString& path, const QString& text, bool follow) {
-    if (follow) {
-        delegate.followFile(path, text);
+void RemoteCommands::showFile(const OpenRequest& request, const QString& text) {
+    if (request.follow) {
+        delegate.followFile(request.path, text);
     } else {
         delegate.openText(text);
     }
     delegate.reveal();
-}
-
-void RemoteCommands::drive(const QJsonObject& message, const Reply& reply) {
-    QStringList words;
-    for (const auto& word : message.value("words"_L1).toArray())
-        words += word.toString();
-    QString problem;
-    const auto request = ControlRequest::parse(words, &problem);
-    if (!request) return reply(failed(problem));
-    RemoteControl(delegate).carryOut(*request,
-                                     [reply](const QString& answer, const QString& reason) {
-                                         if (!reason.isEmpty()) return reply(failed(reason));
-                                         QJsonObject result = done();
-                                         result.insert(u"text"_s, answer);
-                                         reply(result);
-                                     });
 }
 
 } // namespace tessaline

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ControlRequest.h"
+#include "app/remote/RemoteRequest.h"
 
 #include <QString>
 
@@ -19,23 +19,17 @@ public:
 
     explicit RemoteControl(AppDelegate& delegate);
 
-    /// Gets the answer for the user, in one line, or why the command could not be carried out: then
-    /// `problem` is not empty.
-    using Reply = std::function<void(const QString& answer, const QString& problem)>;
+    using Reply = std::function<void(const RemoteAnswer& answer)>;
 
     /// Replies at once or, where another program has to be asked, later, when this may be gone.
     void carryOut(const ControlRequest& request, const Reply& reply);
 
 private:
-    QString answerTo(const ControlRequest& request, QString* problem);
-    QString setAutoScroll(bool on);
-    QString setSpeed(double speed);
-    QString chooseRate(const QString& rate);
-    QString chooseSource(const QString& source, QString* problem);
-    QString setCollapsed(bool collapsed);
+    RemoteAnswer answerTo(const ControlRequest& request);
+    void carryOut(const ControlRequest& request);
+    void setAutoScroll(bool on);
+    void setCollapsed(bool collapsed);
     void paste(const Reply& reply);
-    QString position() const;
-    QString status() const;
 
     AppDelegate& delegate;
 };

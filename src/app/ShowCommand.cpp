@@ -1,7 +1,6 @@
 #include "app/ShowCommand.h"
 
 #include "app/PrompterApplication.h"
-#include "app/RemoteCommands.h"
 #include "app/remote/HandedScript.h"
 #include "app/remote/SingleInstance.h"
 #include "app/remote/TemporaryFolder.h"
@@ -25,9 +24,9 @@ int fail(const QString& reason) {
     return ExitStatus::failure;
 }
 
-int reportAnswer(const QJsonObject& answer) {
-    if (answer.value("ok"_L1).toBool()) return ExitStatus::success;
-    return fail(answer.value("error"_L1).toString());
+int reportAnswer(const RemoteAnswer& answer) {
+    const auto* refusal = std::get_if<Refusal>(&answer);
+    return refusal ? fail(refusal->reason) : ExitStatus::success;
 }
 
 /// Reads what the arguments name, if anything. Returns what is wrong with it.
@@ -66,18 +65,18 @@ int runShow(int argc, char** argv, const CommandLine::Show& request) {
     if (!address) return runUnheard(start, problem);
 
     std::optional<HandedScript> script; // until it has been read
-    const auto composeMessage = [&]() -> std::optional<QJsonObject> {
-        if (!start.text) return RemoteCommands::show();
+    const auto composeRequest = [&]() -> std::optional<RemoteRequest> {
+        if (!start.text) return ShowRequest{};
         script.emplace(handOver(*request.input, *start.text, address->folder));
         if (script->path().isEmpty()) return std::nullopt;
-        return RemoteCommands::open(script->path(), request.follow);
+        return OpenRequest{script->path(), request.follow};
     };
     const auto outcome =
-        SingleInstance::join(*address, composeMessage, InstanceClient::Clock::now() + longestWait);
-    if (const auto* answer = std::get_if<QJsonObject>(&outcome)) return reportAnswer(*answer);
+        SingleInstance::join(*address, composeRequest, InstanceClient::Clock::now() + longestWait);
+    if (const auto* answer = std::get_if<RemoteAnswer>(&outcome)) return reportAnswer(*answer);
     if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
         return runUnheard(start, failure->problem);
-    if (std::holds_alternative<SingleInstance::NothingToSay>(outcome))
+    if (std::holds_alternative<SingleInstance::NothingToAsk>(outcome))
         return fail(script->problem());
     if (std::holds_alternative<SingleInstance::Silence>(outcome))
         return fail(u"the Tessaline that runs on this display does not answer"_s);

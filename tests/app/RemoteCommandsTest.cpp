@@ -15,7 +15,6 @@ namespace tessaline {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 class RemoteCommandsTest : public AppDelegateFixture {
@@ -28,43 +27,48 @@ protected:
         return file.fileName();
     }
 
-    QJsonObject answerTo(const QJsonObject& message) {
-        QJsonObject answer;
-        commands->carryOut(message, [&](const QJsonObject& reply) { answer = reply; });
+    RemoteAnswer answerTo(const RemoteRequest& request) {
+        RemoteAnswer answer = Refusal{u"no answer"_s};
+        commands->carryOut(request, [&](const RemoteAnswer& reply) { answer = reply; });
         scriptTasks.runAll();
         mainQueue.runAll();
         return answer;
     }
 
-    QString errorOf(const QJsonObject& message) {
-        const QJsonObject answer = answerTo(message);
-        EXPECT_EQ(answer.value(u"ok"_s), QJsonValue(false));
+    /// Whether the status of a prompter that is shown came back.
+    static bool isShown(const RemoteAnswer& answer) {
+        const auto* status = std::get_if<PrompterStatus>(&answer);
+        return status && status->visible;
+    }
+
+    QString refusalOf(const RemoteRequest& request) {
+        const RemoteAnswer answer = answerTo(request);
         EXPECT_FALSE(prompter()->isVisible());
-        return answer.value(u"error"_s).toString();
+        const auto* refusal = std::get_if<Refusal>(&answer);
+        return refusal ? refusal->reason : QString();
     }
 
     QTemporaryDir folder;
     FakeTaskRunner scriptTasks;
     std::unique_ptr<RemoteCommands> commands =
         std::make_unique<RemoteCommands>(launch(), scriptTasks, mainQueue);
-    const QJsonObject success{{u"ok"_s, true}};
 };
 
 TEST_F(RemoteCommandsTest, ShowBringsThePrompterBack) {
-    EXPECT_EQ(answerTo(RemoteCommands::show()), success);
+    EXPECT_TRUE(isShown(answerTo(ShowRequest{})));
     EXPECT_TRUE(prompter()->isVisible());
 }
 
 TEST_F(RemoteCommandsTest, OpenShowsTheFilesText) {
-    EXPECT_EQ(answerTo(RemoteCommands::open(write("# Talk"), false)), success);
+    EXPECT_TRUE(isShown(answerTo(OpenRequest{write("# Talk")})));
     EXPECT_TRUE(prompter()->isVisible());
     EXPECT_EQ(keptScript(), u"# Talk"_s);
 }
 
 TEST_F(RemoteCommandsTest, OpenReadsTheFileInTheBackgroundAndRepliesThen) {
-    std::vector<QJsonObject> replies;
-    commands->carryOut(RemoteCommands::open(write("# Talk"), false),
-                       [&](const QJsonObject& reply) { replies.push_back(reply); });
+    std::vector<RemoteAnswer> replies;
+    commands->carryOut(OpenRequest{write("# Talk")},
+                       [&](const RemoteAnswer& reply) { replies.push_back(reply); });
     mainQueue.runAll();
     EXPECT_EQ(keptScript(), QString());
     scriptTasks.runAll();
@@ -72,13 +76,13 @@ TEST_F(RemoteCommandsTest, OpenReadsTheFileInTheBackgroundAndRepliesThen) {
     EXPECT_THAT(replies, IsEmpty());
     mainQueue.runAll();
     EXPECT_TRUE(prompter()->isVisible());
-    EXPECT_THAT(replies, ElementsAre(success));
+    ASSERT_EQ(replies.size(), 1u);
+    EXPECT_TRUE(isShown(replies.front()));
 }
 
 TEST_F(RemoteCommandsTest, OpenShowsNothingOnceTheProgramEnds) {
     bool replied = false;
-    commands->carryOut(RemoteCommands::open(write("# Talk"), false),
-                       [&](const QJsonObject&) { replied = true; });
+    commands->carryOut(OpenRequest{write("# Talk")}, [&](const RemoteAnswer&) { replied = true; });
     commands.reset();
     scriptTasks.runAll();
     mainQueue.runAll();
@@ -87,7 +91,7 @@ TEST_F(RemoteCommandsTest, OpenShowsNothingOnceTheProgramEnds) {
 }
 
 TEST_F(RemoteCommandsTest, OpenFollowsTheFileIfWished) {
-    EXPECT_EQ(answerTo(RemoteCommands::open(write("# Talk"), true)), success);
+    EXPECT_TRUE(isShown(answerTo(OpenRequest{write("# Talk"), true})));
     write("# Another talk");
     timers.advance(0.5);
     fileTasks.runAll();
@@ -96,32 +100,24 @@ TEST_F(RemoteCommandsTest, OpenFollowsTheFileIfWished) {
 }
 
 TEST_F(RemoteCommandsTest, OpenOfAMissingFileChangesNothing) {
-    EXPECT_EQ(errorOf(RemoteCommands::open(u"/nowhere/talk.md"_s, false)),
+    EXPECT_EQ(refusalOf(OpenRequest{u"/nowhere/talk.md"_s}),
               u"cannot read /nowhere/talk.md: No such file or directory"_s);
     EXPECT_EQ(keptScript(), QString());
 }
 
 TEST_F(RemoteCommandsTest, OpenTakesNoRelativePath) {
     const QString refusal = u"cannot read %1: Not a path from the root"_s;
-    EXPECT_EQ(errorOf(RemoteCommands::open(u"talk.md"_s, false)), refusal.arg(u"talk.md"_s));
-    EXPECT_EQ(errorOf({{u"command"_s, u"open"_s}, {u"path"_s, 7}}), refusal.arg(QString()));
+    EXPECT_EQ(refusalOf(OpenRequest{u"talk.md"_s}), refusal.arg(u"talk.md"_s));
+    EXPECT_EQ(refusalOf(OpenRequest{}), refusal.arg(QString()));
 }
 
 TEST_F(RemoteCommandsTest, OpenTakesNothingThatIsNotAFile) {
-    EXPECT_TRUE(
-        errorOf(RemoteCommands::open(u"/dev/zero"_s, false)).contains(u"Not a regular file"));
-    EXPECT_TRUE(
-        errorOf(RemoteCommands::open(folder.path(), false)).contains(u"Not a regular file"));
+    EXPECT_TRUE(refusalOf(OpenRequest{u"/dev/zero"_s}).contains(u"Not a regular file"));
+    EXPECT_TRUE(refusalOf(OpenRequest{folder.path()}).contains(u"Not a regular file"));
 }
 
 TEST_F(RemoteCommandsTest, OpenTakesNoOtherEncoding) {
-    EXPECT_TRUE(errorOf(RemoteCommands::open(write("\xff\xfe"), false)).contains(u"UTF-8"));
-}
-
-TEST_F(RemoteCommandsTest, NamesACommandThatThereIsNot) {
-    EXPECT_EQ(errorOf({{u"command"_s, u"dance"_s}}), u"there is no command 'dance'"_s);
-    EXPECT_EQ(errorOf({}), u"there is no command ''"_s);
-    EXPECT_EQ(errorOf({{u"command"_s, QJsonObject()}}), u"there is no command ''"_s);
+    EXPECT_TRUE(refusalOf(OpenRequest{write("\xff\xfe")}).contains(u"UTF-8"));
 }
 
 } // namespace

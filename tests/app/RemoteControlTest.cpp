@@ -1,5 +1,6 @@
+#include "app/RemoteControl.h"
 #include "AppDelegateFixture.h"
-#include "app/RemoteCommands.h"
+#include "cli/ControlAnswer.h"
 #include "cli/ControlRequest.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
@@ -7,11 +8,9 @@
 #include "ui/ConfigWindow.h"
 #include "ui/controls/PopupButton.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <gmock/gmock.h>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -25,29 +24,35 @@ class RemoteControlTest : public AppDelegateFixture {
 protected:
     /// What the running program answers to `tessaline ctl` with these words; empty so far if it
     /// does so later.
-    QJsonObject answerTo(const QString& words) {
+    std::optional<RemoteAnswer> answerTo(const QString& words) {
+        QString problem;
         const auto request = ControlRequest::parse(words.split(u' '), &problem);
         EXPECT_TRUE(request) << problem.toStdString();
-        lastAnswer = {};
-        RemoteCommands(*delegate, fileTasks, mainQueue)
-            .carryOut(RemoteCommands::control(*request),
-                      [this](const QJsonObject& reply) { lastAnswer = reply; });
+        lastAnswer.reset();
+        RemoteControl(*delegate).carryOut(
+            *request, [this](const RemoteAnswer& reply) { lastAnswer = reply; });
         return lastAnswer;
     }
 
+    PrompterStatus statusAfter(const QString& words) {
+        const auto answer = answerTo(words);
+        const auto* status = answer ? std::get_if<PrompterStatus>(&*answer) : nullptr;
+        EXPECT_TRUE(status) << words.toStdString();
+        return status ? *status : PrompterStatus{};
+    }
+
+    /// What the command line prints of it.
     QString textOf(const QString& words) {
-        const QJsonObject answer = answerTo(words);
-        EXPECT_EQ(answer.value(u"ok"_s), QJsonValue(true)) << words.toStdString();
-        return answer.value(u"text"_s).toString();
+        return controlAnswer(*ControlRequest::parse(words.split(u' '), nullptr),
+                             statusAfter(words));
     }
 
-    QString errorOf(const QString& words) {
-        const QJsonObject answer = answerTo(words);
-        EXPECT_EQ(answer.value(u"ok"_s), QJsonValue(false)) << words.toStdString();
-        return answer.value(u"error"_s).toString();
+    QString refusalOf(const QString& words) {
+        const auto answer = answerTo(words);
+        const auto* refusal = answer ? std::get_if<Refusal>(&*answer) : nullptr;
+        EXPECT_TRUE(refusal) << words.toStdString();
+        return refusal ? refusal->reason : QString();
     }
-
-    QJsonObject status() { return QJsonDocument::fromJson(textOf(u"status"_s).toUtf8()).object(); }
 
     /// Shows a script of a hundred headings with a line below each.
     void showLongScript() {
@@ -68,8 +73,7 @@ protected:
 
     double position() { return prompter()->textView().scrollPosition(); }
 
-    QString problem;
-    QJsonObject lastAnswer;
+    std::optional<RemoteAnswer> lastAnswer;
 };
 
 TEST_F(RemoteControlTest, StartsAndStopsTheText) {
@@ -189,20 +193,21 @@ TEST_F(RemoteControlTest, OpensTheSettingsPastesAndEnds) {
 
 TEST_F(RemoteControlTest, SaysThatNothingWasPasted) {
     launch();
-    EXPECT_EQ(errorOf(u"paste"_s), u"the clipboard holds no text"_s);
+    EXPECT_EQ(refusalOf(u"paste"_s), u"the clipboard holds no text"_s);
     pasteboard.text = u""_s;
-    EXPECT_EQ(errorOf(u"paste"_s), u"the clipboard holds no text"_s);
+    EXPECT_EQ(refusalOf(u"paste"_s), u"the clipboard holds no text"_s);
     pasteboard.problem = u"the owner does not answer"_s;
-    EXPECT_EQ(errorOf(u"paste"_s), u"the owner does not answer"_s);
+    EXPECT_EQ(refusalOf(u"paste"_s), u"the owner does not answer"_s);
 }
 
 TEST_F(RemoteControlTest, SaysPastedOnceThatIsTrue) {
     launch();
     pasteboard.answersAtOnce = false;
-    EXPECT_EQ(answerTo(u"paste"_s), QJsonObject());
+    EXPECT_FALSE(answerTo(u"paste"_s));
     pasteboard.text = u"Hello"_s;
     pasteboard.answer();
-    EXPECT_EQ(lastAnswer.value(u"text"_s), u"pasted"_s);
+    ASSERT_TRUE(lastAnswer);
+    EXPECT_EQ(*lastAnswer, RemoteAnswer(delegate->status()));
     EXPECT_EQ(keptScript(), u"Hello"_s);
 }
 
@@ -220,7 +225,7 @@ TEST_F(RemoteControlTest, ChoosesAmongTheEnabledSources) {
 TEST_F(RemoteControlTest, RefusesASourceThatIsNotEnabled) {
     launch();
     ASSERT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
-    EXPECT_EQ(errorOf(u"source obsidian"_s),
+    EXPECT_EQ(refusalOf(u"source obsidian"_s),
               u"the source 'obsidian' is not enabled in the settings"_s);
     EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
 }
@@ -229,22 +234,21 @@ TEST_F(RemoteControlTest, TellsWhatThePrompterShowsAndDoes) {
     launch();
     delegate->openText(u"one two three"_s);
     mainQueue.runAll();
-    const QJsonObject shown = status();
-    EXPECT_EQ(shown.value(u"visible"_s), QJsonValue(true));
-    EXPECT_EQ(shown.value(u"collapsed"_s), QJsonValue(false));
-    EXPECT_EQ(shown.value(u"source"_s), QJsonValue(u"clipboard"_s));
-    EXPECT_EQ(shown.value(u"words"_s), QJsonValue(3));
-    EXPECT_EQ(shown.value(u"autoScroll"_s), QJsonValue(false));
-    EXPECT_FALSE(shown.value(u"version"_s).toString().isEmpty());
-    textOf(u"hide"_s);
-    EXPECT_EQ(status().value(u"visible"_s), QJsonValue(false));
+    const PrompterStatus shown = statusAfter(u"status"_s);
+    EXPECT_TRUE(shown.visible);
+    EXPECT_FALSE(shown.collapsed);
+    EXPECT_EQ(shown.source, SourceType::clipboard);
+    EXPECT_EQ(shown.words, 3);
+    EXPECT_FALSE(shown.autoScroll);
+    EXPECT_FALSE(shown.version.isEmpty());
+    EXPECT_FALSE(statusAfter(u"hide"_s).visible);
 }
 
 TEST_F(RemoteControlTest, WaitsForTheFirstRunToEndButTellsTheStatus) {
     configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
     launch();
-    EXPECT_EQ(errorOf(u"play"_s), u"the first-run window is still open"_s);
-    EXPECT_EQ(status().value(u"visible"_s), QJsonValue(false));
+    EXPECT_EQ(refusalOf(u"play"_s), u"the first-run window is still open"_s);
+    EXPECT_FALSE(statusAfter(u"status"_s).visible);
     EXPECT_EQ(textOf(u"quit"_s), u"ending"_s);
 }
 

@@ -1,35 +1,30 @@
 #include "FuzzFailure.h"
 
 #include "app/remote/RemoteMessage.h"
-#include "cli/ControlRequest.h"
-
-#include <QJsonArray>
 
 using namespace tessaline;
 
 namespace {
 
-QStringList wordsOf(const QJsonObject& message) {
-    QStringList words;
-    for (const auto& word : message.value(QStringLiteral("words")).toArray())
-        words += word.toString();
-    return words;
+bool isOutOfRange(const ControlRequest& request) {
+    return request.command == ControlCommand::speed &&
+           !(request.speed() >= ControlRequest::leastSpeed &&
+             request.speed() <= ControlRequest::mostSpeed);
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    const auto message = remoteMessage::decode(bytes);
-    if (!message) return 0;
     const QString text = QString::fromLatin1(bytes);
-    const auto request = ControlRequest::parse(wordsOf(*message), nullptr);
+    if (const auto answer = remoteMessage::decodeAnswer(bytes)) remoteMessage::encode(*answer);
+    const auto heard = remoteMessage::decodeRequest(bytes);
+    const auto* request = std::get_if<RemoteRequest>(&heard);
     if (!request) return 0;
-    if (request->command == ControlCommand::speed &&
-        !(request->speed() >= ControlRequest::leastSpeed &&
-          request->speed() <= ControlRequest::mostSpeed))
-        reportFuzzFailure("a speed out of its range", text);
-    if (ControlRequest::parse(request->words(), nullptr) != request)
-        reportFuzzFailure("another request from its own words", text);
+    const auto* control = std::get_if<ControlRequest>(request);
+    if (control && isOutOfRange(*control)) reportFuzzFailure("a speed out of its range", text);
+    const QByteArray line = remoteMessage::encode(*request);
+    if (!line.isEmpty() && remoteMessage::decodeRequest(line.chopped(1)) != heard)
+        reportFuzzFailure("another request from its own line", text);
     return 0;
 }

@@ -94,14 +94,14 @@ private:
 
 InstanceClient::InstanceClient(QString socketPath) : path(std::move(socketPath)) {}
 
-std::optional<QJsonObject> InstanceClient::ask(const QJsonObject& message,
-                                               Clock::time_point deadline) const {
+std::optional<RemoteAnswer> InstanceClient::ask(const RemoteRequest& request,
+                                                Clock::time_point deadline) const {
     std::signal(SIGPIPE, SIG_IGN); // an instance that goes away is a failure like others
     const Connection connection(path);
-    if (!connection.isOpen() || !connection.write(remoteMessage::encode(message), deadline))
+    if (!connection.isOpen() || !connection.write(remoteMessage::encode(request), deadline))
         return std::nullopt;
     const auto line = connection.readLine(deadline);
-    return line ? remoteMessage::decode(*line) : std::nullopt;
+    return line ? remoteMessage::decodeAnswer(*line) : std::nullopt;
 }
 
 } // namespace tessaline

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QJsonObject>
+#include "app/remote/RemoteRequest.h"
+
 #include <QString>
 
 #include <chrono>
@@ -16,9 +17,9 @@ public:
 
     explicit InstanceClient(QString socketPath);
 
-    /// Sends the message and waits for the answer until the deadline. None where nobody listens,
+    /// Sends the request and waits for the answer until the deadline. None where nobody listens,
     /// and where the instance hangs, goes away or does not speak our language.
-    std::optional<QJsonObject> ask(const QJsonObject& message, Clock::time_point deadline) const;
+    std::optional<RemoteAnswer> ask(const RemoteRequest& request, Clock::time_point deadline) const;
 
 private:
     const QString path;

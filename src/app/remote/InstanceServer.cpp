@@ -14,8 +14,8 @@ namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
-InstanceServer::InstanceServer(TimerMaker& timerMaker, Handler messageHandler)
-    : timers(timerMaker), handler(std::move(messageHandler)) {
+InstanceServer::InstanceServer(TimerMaker& timerMaker, Handler requestHandler)
+    : timers(timerMaker), handler(std::move(requestHandler)) {
     server.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&server, &QLocalServer::newConnection, &server, [this] { acceptAll(); });
 }
@@ -70,16 +70,17 @@ void InstanceServer::read(Connections::iterator connection) {
 void InstanceServer::handle(Connection& connection, const QByteArray& line) {
     connection.heard = true;
     connection.timeout.reset(); // how long they wait is the others' business now
-    const Reply reply = [socket = QPointer(connection.socket.get())](const QJsonObject& answer) {
+    const Reply reply = [socket = QPointer(connection.socket.get())](const RemoteAnswer& answer) {
         if (!socket) return;
         socket->write(remoteMessage::encode(answer));
-        socket->flush(); // the message may have ended the program
+        socket->flush(); // the request may have ended the program
         socket->disconnectFromServer();
     };
-    if (const auto message = remoteMessage::decode(line)) {
-        handler(*message, reply);
+    const auto heard = remoteMessage::decodeRequest(line);
+    if (const auto* request = std::get_if<RemoteRequest>(&heard)) {
+        handler(*request, reply);
     } else {
-        reply({{u"ok"_s, false}, {u"error"_s, u"this is no message"_s}});
+        reply(std::get<Refusal>(heard));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QJsonObject>
+#include "app/remote/RemoteRequest.h"
+
 #include <QLocalServer>
 #include <QString>
 
@@ -15,19 +16,19 @@ namespace tessaline {
 class RepeatingTimer;
 class TimerMaker;
 
-/// Hears later command lines of the same user: reads one message from each connection, answers it,
+/// Hears later command lines of the same user: reads one request from each connection, answers it,
 /// and closes. Who says nothing, too much or nothing that can be understood costs no more than a
 /// moment of a connection. Main thread only.
 class InstanceServer {
 public:
-    /// Takes the answer to a message, once, at any later time; nobody may be waiting any more.
-    using Reply = std::function<void(const QJsonObject& answer)>;
-    /// Carries a message out and replies.
-    using Handler = std::function<void(const QJsonObject& message, const Reply& reply)>;
+    /// Takes the answer to a request, once, at any later time; nobody may be waiting any more.
+    using Reply = std::function<void(const RemoteAnswer& answer)>;
+    /// Carries a request out and replies.
+    using Handler = std::function<void(const RemoteRequest& request, const Reply& reply)>;
 
     /// As many connections are open at a time; one more, and the oldest is dropped.
     static constexpr std::size_t mostConnections = 64;
-    /// A connection that has not sent its message by then is dropped.
+    /// A connection that has not sent its request by then is dropped.
     static constexpr double secondsPerConnection = 5.0;
 
     /// Borrows the timers.

@@ -3,8 +3,7 @@
 #include "app/remote/InstanceAddress.h"
 #include "app/remote/InstanceClient.h"
 #include "app/remote/InstanceLock.h"
-
-#include <QJsonObject>
+#include "app/remote/RemoteRequest.h"
 
 #include <functional>
 #include <memory>
@@ -24,15 +23,15 @@ public:
     struct NoLock {
         QString problem;
     };
-    /// Somebody is, but there was no message to send.
-    struct NothingToSay {};
-    using Outcome = std::variant<IsUs, QJsonObject, Silence, NoLock, NothingToSay>;
+    /// Somebody is, but there was nothing to ask for.
+    struct NothingToAsk {};
+    using Outcome = std::variant<IsUs, RemoteAnswer, Silence, NoLock, NothingToAsk>;
 
-    /// Becomes the instance or, while another process is, sends it the message, which is asked for
+    /// Becomes the instance or, while another process is, sends it the request, which is composed
     /// only then and may be none, and waits for its answer until the deadline. An instance that is
     /// just starting or ending is waited for.
     static Outcome join(const InstanceAddress& address,
-                        const std::function<std::optional<QJsonObject>()>& composeMessage,
+                        const std::function<std::optional<RemoteRequest>()>& composeRequest,
                         InstanceClient::Clock::time_point deadline);
 };
 

@@ -47,25 +47,26 @@ protected:
     }
 
     static QByteArray refusal() { return "{\"error\":\"this is no message\",\"ok\":false}\n"; }
+    static QByteArray answerLine() { return "{\"error\":\"busy\",\"ok\":false}\n"; }
 
     QTemporaryDir folder;
     QString path = folder.filePath(u"socket"_s);
     FakeTimerMaker timers;
-    const QJsonObject success{{u"ok"_s, true}};
-    std::vector<QJsonObject> heard;
+    const RemoteAnswer answer = Refusal{u"busy"_s};
+    std::vector<RemoteRequest> heard;
     std::vector<InstanceServer::Reply> replies;
     bool repliesAtOnce = true;
     std::unique_ptr<InstanceServer> server = std::make_unique<InstanceServer>(
-        timers, [this](const QJsonObject& message, const InstanceServer::Reply& reply) {
-            heard.push_back(message);
+        timers, [this](const RemoteRequest& request, const InstanceServer::Reply& reply) {
+            heard.push_back(request);
             replies.push_back(reply);
-            if (repliesAtOnce) reply(success);
+            if (repliesAtOnce) reply(answer);
         });
 };
 
 TEST_F(InstanceServerTest, AnswersAMessageWithOneLineAndCloses) {
-    EXPECT_EQ(exchange("{\"command\":\"show\"}\n"), "{\"ok\":true}\n");
-    EXPECT_THAT(heard, testing::ElementsAre(QJsonObject{{u"command"_s, u"show"_s}}));
+    EXPECT_EQ(exchange("{\"command\":\"show\"}\n"), answerLine());
+    EXPECT_THAT(heard, testing::ElementsAre(RemoteRequest(ShowRequest{})));
 }
 
 TEST_F(InstanceServerTest, TakesAMessageThatComesInPieces) {
@@ -80,7 +81,7 @@ TEST_F(InstanceServerTest, TakesAMessageThatComesInPieces) {
 }
 
 TEST_F(InstanceServerTest, TakesOneMessageFromAConnection) {
-    EXPECT_EQ(exchange("{\"a\":1}\n{\"b\":2}\n"), "{\"ok\":true}\n");
+    EXPECT_EQ(exchange("{\"command\":\"show\"}\n{\"command\":\"open\"}\n"), answerLine());
     EXPECT_EQ(heard.size(), 1u);
 }
 
@@ -102,7 +103,7 @@ TEST_F(InstanceServerTest, ForgetsAClientThatVanishesInTheMiddle) {
     client->abort();
     client.reset();
     EXPECT_TRUE(QTest::qWaitFor([&] { return timers.liveIntervals().empty(); }));
-    EXPECT_EQ(exchange("{}\n"), "{\"ok\":true}\n");
+    EXPECT_EQ(exchange("{\"command\":\"show\"}\n"), answerLine());
 }
 
 TEST_F(InstanceServerTest, DropsAClientThatSaysNothingForTooLong) {
@@ -119,29 +120,29 @@ TEST_F(InstanceServerTest, DropsAClientThatSaysNothingForTooLong) {
 TEST_F(InstanceServerTest, AnswersWhenItIsReadyHoweverLongThatTakes) {
     repliesAtOnce = false;
     const auto client = connectSilently();
-    client->write("{}\n");
+    client->write("{\"command\":\"show\"}\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !replies.empty(); }));
     timers.advance(10 * InstanceServer::secondsPerConnection);
     QTest::qWait(0);
     EXPECT_EQ(client->state(), QLocalSocket::ConnectedState);
-    replies.front()(success);
+    replies.front()(answer);
     EXPECT_TRUE(waitForEnd(*client));
-    EXPECT_EQ(client->readAll(), "{\"ok\":true}\n");
+    EXPECT_EQ(client->readAll(), answerLine());
 }
 
 TEST_F(InstanceServerTest, TellsNobodyWhoIsGoneByThen) {
     repliesAtOnce = false;
     auto client = connectSilently();
-    client->write("{}\n");
+    client->write("{\"command\":\"show\"}\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !replies.empty(); }));
     client.reset();
     QTest::qWait(0);
-    replies.front()(success);
+    replies.front()(answer);
     const auto other = connectSilently();
-    other->write("{}\n");
+    other->write("{\"command\":\"show\"}\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return replies.size() == 2; }));
     server.reset();
-    replies.back()(success);
+    replies.back()(answer);
     EXPECT_TRUE(waitForEnd(*other));
     EXPECT_EQ(other->readAll(), "");
 }
@@ -152,7 +153,7 @@ TEST_F(InstanceServerTest, DropsTheOldestOfTooManyClients) {
         silent.push_back(connectSilently());
     ASSERT_TRUE(QTest::qWaitFor(
         [&] { return timers.liveIntervals().size() == InstanceServer::mostConnections; }));
-    EXPECT_EQ(exchange("{}\n"), "{\"ok\":true}\n");
+    EXPECT_EQ(exchange("{\"command\":\"show\"}\n"), answerLine());
     EXPECT_TRUE(waitForEnd(*silent.front()));
     EXPECT_EQ(silent.back()->state(), QLocalSocket::ConnectedState);
 }
@@ -162,13 +163,13 @@ TEST_F(InstanceServerTest, TakesThePlaceOfASocketThatWasLeftBehind) {
     QFile left(path);
     ASSERT_TRUE(left.open(QIODevice::WriteOnly));
     QString problem;
-    InstanceServer next(timers, [](const QJsonObject&, const InstanceServer::Reply&) {});
+    InstanceServer next(timers, [](const RemoteRequest&, const InstanceServer::Reply&) {});
     EXPECT_TRUE(next.listen(path, &problem)) << problem.toStdString();
 }
 
 TEST_F(InstanceServerTest, SaysWhyItCannotListen) {
     QString problem;
-    InstanceServer next(timers, [](const QJsonObject&, const InstanceServer::Reply&) {});
+    InstanceServer next(timers, [](const RemoteRequest&, const InstanceServer::Reply&) {});
     EXPECT_FALSE(next.listen(u"/nowhere/socket"_s, &problem));
     EXPECT_FALSE(problem.isEmpty());
 }

@@ -26,7 +26,7 @@ protected:
             address,
             [this] {
                 ++composed;
-                return message;
+                return request;
             },
             Clock::now() + patience);
     }
@@ -48,7 +48,7 @@ protected:
     InstanceAddress address{.folder = folder.path(), .display = u":7"_s};
     FakeTimerMaker timers;
     QString problem;
-    std::optional<QJsonObject> message = QJsonObject{{u"command"_s, u"show"_s}};
+    std::optional<RemoteRequest> request = OpenRequest{u"/talk.md"_s};
     int composed = 0;
 };
 
@@ -60,13 +60,13 @@ TEST_F(SingleInstanceTest, IsUsWhenNobodyElseRuns) {
 TEST_F(SingleInstanceTest, TellsTheOneThatRuns) {
     const auto lock = InstanceLock::take(address.lockPath(), &problem);
     InstanceServer server(timers,
-                          [](const QJsonObject& received, const InstanceServer::Reply& reply) {
-                              reply({{u"heard"_s, received.value(u"command"_s)}});
+                          [](const RemoteRequest& heard, const InstanceServer::Reply& reply) {
+                              reply(Refusal{std::get<OpenRequest>(heard).path});
                           });
     ASSERT_TRUE(server.listen(address.socketPath(), &problem));
     const auto outcome = joinBeside(std::chrono::seconds(10));
-    ASSERT_TRUE(std::holds_alternative<QJsonObject>(outcome));
-    EXPECT_EQ(std::get<QJsonObject>(outcome).value(u"heard"_s), QJsonValue(u"show"_s));
+    ASSERT_TRUE(std::holds_alternative<RemoteAnswer>(outcome));
+    EXPECT_EQ(std::get<RemoteAnswer>(outcome), RemoteAnswer(Refusal{u"/talk.md"_s}));
     EXPECT_EQ(composed, 1);
 }
 
@@ -74,12 +74,13 @@ TEST_F(SingleInstanceTest, WaitsForTheOneThatIsJustStarting) {
     const auto lock = InstanceLock::take(address.lockPath(), &problem);
     auto outcome = std::async(std::launch::async, [&] { return join(std::chrono::seconds(10)); });
     QTest::qWait(50);
-    InstanceServer server(
-        timers, [](const QJsonObject&, const InstanceServer::Reply& reply) { reply({}); });
+    InstanceServer server(timers, [](const RemoteRequest&, const InstanceServer::Reply& reply) {
+        reply(PrompterStatus{});
+    });
     ASSERT_TRUE(server.listen(address.socketPath(), &problem));
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
-    EXPECT_TRUE(std::holds_alternative<QJsonObject>(outcome.get()));
+    EXPECT_TRUE(std::holds_alternative<RemoteAnswer>(outcome.get()));
 }
 
 TEST_F(SingleInstanceTest, TakesOverFromTheOneThatIsJustEnding) {
@@ -99,11 +100,11 @@ TEST_F(SingleInstanceTest, TellsALockThatCannotBeOpenedFromOneThatIsHeld) {
     EXPECT_EQ(composed, 0);
 }
 
-TEST_F(SingleInstanceTest, SendsNothingWithoutAMessage) {
+TEST_F(SingleInstanceTest, SendsNothingWithoutARequest) {
     const auto lock = InstanceLock::take(address.lockPath(), &problem);
-    message.reset();
+    request.reset();
     const auto outcome = join(std::chrono::seconds(10));
-    EXPECT_TRUE(std::holds_alternative<SingleInstance::NothingToSay>(outcome));
+    EXPECT_TRUE(std::holds_alternative<SingleInstance::NothingToAsk>(outcome));
     EXPECT_EQ(composed, 1);
 }
 

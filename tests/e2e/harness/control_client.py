@@ -9,7 +9,7 @@ class ControlClient:
         self.path = str(path)
 
     def send(self, *words, seconds=2.0):
-        """Has a command carried out; returns its answer. Raises OSError when none comes in time,
+        """Has a command carried out; returns the prompter's status then. Raises OSError when none comes in time,
         ValueError when the command is refused."""
         message = json.dumps({"command": "control", "words": [str(word) for word in words]})
         with socket.socket(socket.AF_UNIX) as client:
@@ -23,7 +23,7 @@ class ControlClient:
         answer = json.loads(line)
         if not answer["ok"]:
             raise ValueError(answer["error"])
-        return answer["text"]
+        return answer["status"]
 
     def status(self, seconds=2.0):
-        return json.loads(self.send("status", seconds=seconds))
+        return self.send("status", seconds=seconds)
