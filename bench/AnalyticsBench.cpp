@@ -4,6 +4,7 @@
 #include "analytics/Analytics.h"
 #include "analytics/EnvironmentProbe.h"
 #include "platform/BundleInformation.h"
+#include "platform/Platform.h"
 #include "platform/ThreadTaskRunner.h"
 #include "platform/qt/QtTimerMaker.h"
 
@@ -61,11 +62,15 @@ double milliseconds(Action action) {
 /// A recorder with what surrounds it in the program, and a history file of its own.
 class Stage {
 public:
+    Stage() {
+        platform.timers = std::make_unique<QtTimerMaker>();
+        platform.historyTasks = std::make_unique<ThreadTaskRunner>();
+        platform.bundle = std::make_unique<NoBundle>();
+    }
+
     std::unique_ptr<Analytics> makeRecorder() {
         return std::make_unique<Analytics>(
-            Analytics::Ports{.timers = timers,
-                             .fileTasks = fileTasks,
-                             .bundle = bundle,
+            Analytics::Setup{.platform = platform,
                              .environment = environment,
                              .signal = [](const QString&, const Analytics::Properties&) {},
                              .historyPath = path});
@@ -73,7 +78,7 @@ public:
 
     void waitForFileTasks() {
         std::promise<void> done;
-        fileTasks.run([&done] { done.set_value(); });
+        platform.historyTasks->run([&done] { done.set_value(); });
         done.get_future().wait();
     }
 
@@ -86,9 +91,7 @@ public:
     const QString path = folder.filePath(u"analytics.json"_s);
 
 private:
-    QtTimerMaker timers;
-    ThreadTaskRunner fileTasks;
-    NoBundle bundle;
+    Platform platform;
     BareEnvironment environment;
 };
 

@@ -78,16 +78,12 @@ public:
 
 private:
     void settle() {
-        tasks.runAll();
+        renderTasks.runAll();
         mainQueue.runAll();
     }
 
-    FakeTaskRunner tasks;
-    FakeDisplayLinkMaker links;
-    FakeWindowTraits traits;
-    PrompterWindow prompter{settings,
-                            PrompterPorts{mainQueue, tasks, timers, links, screens, traits}};
-    ConfigWindow window{settings, nullptr, ports};
+    PrompterWindow prompter{settings, platform};
+    ConfigWindow window{settings, nullptr, platform, services};
 };
 
 /// A settings window that looks every 2 seconds after the plug-in in one of many vaults.
@@ -115,7 +111,7 @@ public:
             const double begin = threadMilliseconds();
             timers.advance(2);
             const double asked = threadMilliseconds();
-            tasks.runAll();
+            queryTasks.runAll();
             const double found = threadMilliseconds();
             mainQueue.runAll();
             QCoreApplication::processEvents();
@@ -136,13 +132,8 @@ private:
         return QJsonDocument(QJsonObject{{u"vaults"_s, entries}}).toJson(QJsonDocument::Compact);
     }
 
-    FakeApplicationLookup applications;
-    FakeFolderChooser chooser;
-    InstalledObsidian installed{folder.path(),
-                                VaultRegistry(folder.path()),
-                                {applications, bundle, chooser, mainQueue, tasks}};
-    ConfigWindow window{settings, nullptr,
-                        WindowPorts{ports.permissions, screens, recorder, installed, notes, icons}};
+    InstalledObsidian installed{folder.path(), VaultRegistry(folder.path()), platform};
+    ConfigWindow window{settings, nullptr, platform, Services{recorder, installed, notes}};
 };
 
 } // namespace

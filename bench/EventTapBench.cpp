@@ -5,9 +5,8 @@
 #include "app/shortcuts/Shortcuts.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/MainQueue.h"
-#include "platform/SystemAdapters.h"
+#include "platform/Platform.h"
 #include "platform/linux/x11/X11Connection.h"
-#include "platform/qt/QtTimerMaker.h"
 
 #include <QGuiApplication>
 
@@ -19,6 +18,7 @@
 #include <cstdio>
 #include <optional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -108,18 +108,16 @@ int main(int argc, char** argv) {
     using namespace tessaline;
     const QGuiApplication application(argc, argv);
     const auto connection = X11Connection::open();
-    const auto trust = makeAccessibilityTrust();
-    if (!connection || !trust->isTrusted()) {
+    const auto platform = makePlatform();
+    if (!connection || !platform->trust->isTrusted()) {
         std::fputs("there is no X server that could be measured\n", stderr);
         return 2;
     }
-    NotingQueue queue;
-    QtTimerMaker timers;
+    // Others of the platform's adapters borrow the real one.
+    const auto realQueue = std::exchange(platform->mainQueue, std::make_unique<NotingQueue>());
+    auto& queue = static_cast<NotingQueue&>(*platform->mainQueue);
     SilentRecorder recorder;
-    const auto localKeys = makeLocalKeyMonitor();
-    const auto globalKeys = makeGlobalKeyMonitor();
-    const auto taps = makeEventTapMaker();
-    Shortcuts shortcuts({*trust, timers, queue, *localKeys, *globalKeys, *taps, recorder},
+    Shortcuts shortcuts(*platform, recorder,
                         {.performScroll = [](double) {}, .toggleScroll = [] {}, .paste = [] {}});
     shortcuts.setupShortcuts();
 

@@ -6,6 +6,7 @@
 #include "analytics/EventHistory.h"
 #include "analytics/SharedInstance.h"
 #include "platform/BundleInformation.h"
+#include "platform/Platform.h"
 #include "platform/TaskRunner.h"
 #include "platform/TimerMaker.h"
 #include "settings/AppSettings.h"
@@ -67,20 +68,20 @@ Analytics& Analytics::shared() {
     return SharedInstance<Analytics>::get();
 }
 
-Analytics::Analytics(Ports recorderPorts)
-    : ports(std::move(recorderPorts))
+Analytics::Analytics(Setup given)
+    : setup(std::move(given))
     , sessionId(QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper())
-    , sessionStart(ports.now())
+    , sessionStart(setup.now())
     ,
     // Days of the user's calendar, which need not have 24 hours.
-    history(std::make_shared<EventHistory>(ports.historyPath,
+    history(std::make_shared<EventHistory>(setup.historyPath,
                                            sessionStart.toLocalTime().addDays(-daysKept)))
-    , flushTimer(ports.timers.every(flushInterval, [this] { flush(); })) {
+    , flushTimer(setup.platform.timers->every(flushInterval, [this] { flush(); })) {
     // Made now, the logs outlive whoever still records while the process exits.
     analyticsLog();
     perfLog();
     intervalLog();
-    ports.fileTasks.run([weakly = std::weak_ptr(history)] {
+    setup.platform.historyTasks->run([weakly = std::weak_ptr(history)] {
         if (const auto loading = weakly.lock()) loading->load();
     });
 }
@@ -89,25 +90,25 @@ Analytics::~Analytics() = default;
 
 void Analytics::record(const AnalyticsEvent& event) {
     AnalyticsEvent recorded = event;
-    if (!recorded.timestamp.isValid()) recorded.timestamp = ports.now();
+    if (!recorded.timestamp.isValid()) recorded.timestamp = setup.now();
     history->add(recorded);
     qCInfo(analyticsLog, "%s", qUtf8Printable(describe(recorded)));
-    ports.signal(recorded.name, recorded.properties);
+    setup.signal(recorded.name, recorded.properties);
 }
 
 void Analytics::flush() {
-    ports.fileTasks.run([weakly = std::weak_ptr(history)] {
+    setup.platform.historyTasks->run([weakly = std::weak_ptr(history)] {
         if (const auto flushing = weakly.lock()) flushing->flush();
     });
 }
 
 void Analytics::trackAppLaunch() {
     const auto bundleValue = [this](const QString& key) {
-        return ports.bundle.value(key).value_or(u"unknown"_s);
+        return setup.platform.bundle->value(key).value_or(u"unknown"_s);
     };
     record({.name = u"app_launch"_s,
             .properties = {{u"session_id"_s, sessionId},
-                           {u"os_version"_s, ports.system.description},
+                           {u"os_version"_s, setup.system.description},
                            {u"app_version"_s, bundleValue(u"CFBundleShortVersionString"_s)},
                            {u"build_number"_s, bundleValue(u"CFBundleVersion"_s)}}});
     logInformation(u"App launched — session "_s + sessionId);
@@ -168,11 +169,11 @@ void Analytics::trackAutoScrollToggled(bool enabled, ScrollRate rate) {
 
 double Analytics::secondsSinceStart() const {
     // A clock that was set back makes no session shorter than none.
-    return static_cast<double>(std::max<qint64>(sessionStart.msecsTo(ports.now()), 0)) / 1000.0;
+    return static_cast<double>(std::max<qint64>(sessionStart.msecsTo(setup.now()), 0)) / 1000.0;
 }
 
 Analytics::Properties Analytics::describeEnvironment(const AppSettings& settings) const {
-    const EnvironmentProbe& environment = ports.environment;
+    const EnvironmentProbe& environment = setup.environment;
     const bool obsidianEnabled = settings.enabledSourceTypes.count(SourceType::obsidian) > 0;
     return {
         {u"obsidian_app_installed"_s, booleanText(environment.isObsidianAppInstalled())},

@@ -12,12 +12,10 @@
 
 namespace tessaline {
 
-class BundleInformation;
 class EnvironmentProbe;
 class EventHistory;
 class RepeatingTimer;
-class TaskRunner;
-class TimerMaker;
+struct Platform;
 
 /// Records usage: keeps the events of the last 30 days in a file, writes each to the log and hands
 /// it on to be sent. Created, used and destroyed on the main thread; `record` and the `track…`
@@ -26,12 +24,9 @@ class Analytics final : public UsageRecorder {
 public:
     using Properties = QMap<QString, QString>;
 
-    /// Everything it needs. References are borrowed. `fileTasks` should be a runner of its own:
-    /// reading a long history may keep it busy for a second.
-    struct Ports {
-        TimerMaker& timers;
-        TaskRunner& fileTasks;
-        const BundleInformation& bundle;
+    /// Everything it needs. References are borrowed.
+    struct Setup {
+        const Platform& platform;
         const EnvironmentProbe& environment;
         /// Receives every event, on the thread that records it: TelemetryDeckClient::signal.
         std::function<void(const QString& name, const Properties& parameters)> signal;
@@ -48,8 +43,8 @@ public:
     static Analytics& shared();
 
     /// Starts a session: begins to read the history, and to write it every minute, both on
-    /// `fileTasks`.
-    explicit Analytics(Ports ports);
+    /// the platform's tasks for the history.
+    explicit Analytics(Setup setup);
     ~Analytics() override;
     Analytics(const Analytics&) = delete;
     Analytics& operator=(const Analytics&) = delete;
@@ -75,7 +70,7 @@ private:
     double secondsSinceStart() const;
     Properties describeEnvironment(const AppSettings& settings) const;
 
-    const Ports ports;
+    const Setup setup;
     const QString sessionId;
     const QDateTime sessionStart;
     const std::shared_ptr<EventHistory> history;

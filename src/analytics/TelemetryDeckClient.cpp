@@ -5,6 +5,7 @@
 #include "analytics/SharedInstance.h"
 #include "analytics/TDSignal.h"
 #include "platform/BundleInformation.h"
+#include "platform/Platform.h"
 #include "platform/TimerMaker.h"
 #include "platform/UserDefaults.h"
 
@@ -39,12 +40,13 @@ TelemetryDeckClient& TelemetryDeckClient::shared() {
     return SharedInstance<TelemetryDeckClient>::get();
 }
 
-TelemetryDeckClient::TelemetryDeckClient(Ports clientPorts, TelemetryOptions clientOptions)
-    : ports(std::move(clientPorts))
+TelemetryDeckClient::TelemetryDeckClient(Setup given, TelemetryOptions clientOptions)
+    : setup(std::move(given))
     , options(std::move(clientOptions))
     , sessionID(newIdentifier())
     , everySignalsPayload(defaultPayload()) {
-    if (options.isAllowed) flushTimer = ports.timers.every(flushInterval, [this] { flush(); });
+    if (options.isAllowed)
+        flushTimer = setup.platform.timers->every(flushInterval, [this] { flush(); });
 }
 
 TelemetryDeckClient::~TelemetryDeckClient() = default;
@@ -56,7 +58,7 @@ void TelemetryDeckClient::setAppID(const QString& id) {
 
 void TelemetryDeckClient::signal(const QString& name, const Parameters& parameters) {
     if (!options.isAllowed) return;
-    TDSignal signal{.receivedAt = ports.now(),
+    TDSignal signal{.receivedAt = setup.now(),
                     .clientUser = clientUser(),
                     .sessionID = sessionID,
                     .type = name,
@@ -99,15 +101,15 @@ bool TelemetryDeckClient::waitForRequests(std::chrono::milliseconds longest) {
 
 TelemetryDeckClient::Parameters TelemetryDeckClient::defaultPayload() const {
     const auto bundleValue = [this](const QString& key) {
-        return ports.bundle.value(key).value_or(u"unknown"_s);
+        return setup.platform.bundle->value(key).value_or(u"unknown"_s);
     };
     return {
         {u"TelemetryDeck.AppInfo.version"_s, bundleValue(u"CFBundleShortVersionString"_s)},
         {u"TelemetryDeck.AppInfo.buildNumber"_s, bundleValue(u"CFBundleVersion"_s)},
-        {u"TelemetryDeck.Device.operatingSystem"_s, ports.system.name},
-        {u"TelemetryDeck.Device.platform"_s, ports.system.name},
-        {u"TelemetryDeck.Device.systemVersion"_s, ports.system.version()},
-        {u"TelemetryDeck.Device.systemMajorVersion"_s, QString::number(ports.system.majorVersion)},
+        {u"TelemetryDeck.Device.operatingSystem"_s, setup.system.name},
+        {u"TelemetryDeck.Device.platform"_s, setup.system.name},
+        {u"TelemetryDeck.Device.systemVersion"_s, setup.system.version()},
+        {u"TelemetryDeck.Device.systemMajorVersion"_s, QString::number(setup.system.majorVersion)},
         {u"TelemetryDeck.RunContext.isDebug"_s, booleanText(options.testMode)},
         {u"TelemetryDeck.RunContext.isTestFlight"_s, booleanText(false)},
         {u"TelemetryDeck.RunContext.isAppStore"_s, booleanText(false)},
@@ -122,12 +124,13 @@ QString TelemetryDeckClient::clientUser() {
 }
 
 QString TelemetryDeckClient::userIdentifier() {
-    const QString identifier = ports.bundle.identifier().value_or(u"app.tessaline.Tessaline"_s);
+    const QString identifier =
+        setup.platform.bundle->identifier().value_or(u"app.tessaline.Tessaline"_s);
     const QString key = identifier + u".telemetry.userId"_s;
-    QString known = ports.defaults.string(key).value_or(QString());
+    QString known = setup.platform.defaults->string(key).value_or(QString());
     if (!known.isEmpty()) return known;
     QString created = newIdentifier();
-    ports.defaults.setString(key, created);
+    setup.platform.defaults->setString(key, created);
     return created;
 }
 
@@ -146,13 +149,12 @@ void TelemetryDeckClient::send(Batch batch) {
         body += encoded + ',';
     body.back() = ']';
     const auto sending = underWay.insert(underWay.end(), Sending{std::move(batch), {}, {}});
-    sending->limit = ports.timers.every(options.timeout, [this, sending] {
+    sending->limit = setup.platform.timers->every(options.timeout, [this, sending] {
         finish(sending, {.status = 0, .problem = u"The server did not answer in time"_s});
     });
-    sending->post =
-        ports.http.post(options.baseURL, body, [this, sending](const HttpPoster::Answer& answer) {
-            finish(sending, answer);
-        });
+    sending->post = setup.platform.http->post(
+        options.baseURL, body,
+        [this, sending](const HttpPoster::Answer& answer) { finish(sending, answer); });
 }
 
 void TelemetryDeckClient::finish(Sendings::iterator sending, const HttpPoster::Answer& answer) {

@@ -18,10 +18,8 @@
 
 namespace tessaline {
 
-class BundleInformation;
 class RepeatingTimer;
-class TimerMaker;
-class UserDefaults;
+struct Platform;
 
 /// Sends usage signals to the telemetry service: collects them in memory and posts a batch every 10
 /// seconds. One batch is under way at a time, so that signals arrive in order. A batch that no
@@ -33,11 +31,8 @@ public:
     using Parameters = QMap<QString, QString>;
 
     /// Everything it needs. References are borrowed.
-    struct Ports {
-        TimerMaker& timers;
-        HttpPoster& http;
-        UserDefaults& defaults;
-        const BundleInformation& bundle;
+    struct Setup {
+        const Platform& platform;
         /// The time, asked for from any thread.
         std::function<QDateTime()> now = &QDateTime::currentDateTimeUtc;
         SystemDescription system = SystemDescription::current();
@@ -46,7 +41,7 @@ public:
     /// The process's client. The application says how it is made, in a SharedInstance.
     static TelemetryDeckClient& shared();
 
-    explicit TelemetryDeckClient(Ports ports,
+    explicit TelemetryDeckClient(Setup setup,
                                  TelemetryOptions options = TelemetryOptions::fromEnvironment());
     ~TelemetryDeckClient();
     TelemetryDeckClient(const TelemetryDeckClient&) = delete;
@@ -89,7 +84,7 @@ private:
     void finish(Sendings::iterator sending, const HttpPoster::Answer& answer);
     void putBack(Batch unsent);
 
-    const Ports ports;
+    const Setup setup;
     const TelemetryOptions options;
     const QString sessionID;
     const Parameters everySignalsPayload;

@@ -11,7 +11,7 @@
 #include "platform/BundleInformation.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
-#include "platform/WindowTraits.h"
+#include "platform/Platform.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
@@ -24,6 +24,7 @@
 #include "sources/SourceManager.h"
 #include "ui/ConfigWindow.h"
 #include "ui/OnboardingWindow.h"
+#include "ui/Services.h"
 
 #include <QLoggingCategory>
 #include <QWindow>
@@ -57,20 +58,14 @@ void makeKeyAndOrderFront(QWidget& window) {
 
 AppDelegate::AppDelegate(const Environment& borrowed)
     : environment(borrowed)
-    , screenManager(environment.prompter.screens, environment.notifications)
-    , permissionManager(permissionPorts()) {}
+    , platform(environment.platform)
+    , screenManager(*platform.screens, *platform.notifications)
+    , permissionManager(platform) {}
 
 AppDelegate::~AppDelegate() = default;
 
-PermissionPorts AppDelegate::permissionPorts() const {
-    return {environment.trust,           environment.processes,          environment.bundle,
-            environment.prompter.timers, environment.prompter.mainQueue, environment.notifications};
-}
-
-WindowPorts AppDelegate::windowPorts() const {
-    return {permissionPorts(),    environment.prompter.screens,
-            environment.recorder, environment.obsidian,
-            environment.notes,    environment.icons};
+Services AppDelegate::services() const {
+    return {environment.recorder, environment.obsidian, environment.notes};
 }
 
 PrompterWindow& AppDelegate::prompter() const {
@@ -112,12 +107,12 @@ void AppDelegate::applicationDidFinishLaunching() {
     screenManager.onScreenChange = weakly(&AppDelegate::screensChanged);
     sourceManager->onContentUpdate = weakly(&AppDelegate::showContent);
     sourceChangeObserver =
-        environment.notifications.observe(SourceManager::activeSourceDidChangeNotification(),
-                                          weakly(&AppDelegate::activeSourceChanged));
+        platform.notifications->observe(SourceManager::activeSourceDidChangeNotification(),
+                                        weakly(&AppDelegate::activeSourceChanged));
     prompterWindow->updateSourceIndicator(settings.activeSourceType);
     configureTelemetry();
     environment.recorder.trackPermissionStatus(PermissionType::accessibility,
-                                               environment.trust.isTrusted());
+                                               platform.trust->isTrusted());
     environment.recorder.trackEnvironmentSnapshot(settings);
     if (settings.hasCompletedOnboarding) {
         startApp();
@@ -131,22 +126,23 @@ void AppDelegate::applicationWillTerminate() {
 }
 
 void AppDelegate::createSourceManager() {
-    const PrompterPorts& ports = environment.prompter;
     sourceManager = std::make_unique<SourceManager>(
-        settings, environment.recorder, environment.notifications,
-        std::make_unique<ObsidianSource>(ports.mainQueue, environment.fileTasks, ports.timers),
-        std::make_unique<ClipboardSource>(environment.pasteboard));
+        settings, environment.recorder, *platform.notifications,
+        std::make_unique<ObsidianSource>(*platform.mainQueue, *platform.fileTasks,
+                                         *platform.timers),
+        std::make_unique<ClipboardSource>(*platform.pasteboard));
 }
 
 void AppDelegate::createPrompterWindow() {
-    prompterWindow = std::make_unique<PrompterWindow>(settings, environment.prompter);
+    prompterWindow = std::make_unique<PrompterWindow>(settings, platform);
     prompterWindow->setScreenManager(&screenManager);
     prompterWindow->updateFrame();
     prompterCutout = std::make_unique<PrompterCutout>(*prompterWindow);
 }
 
 void AppDelegate::createConfigWindow() {
-    configWindow = std::make_unique<ConfigWindow>(settings, sourceManager.get(), windowPorts());
+    configWindow =
+        std::make_unique<ConfigWindow>(settings, sourceManager.get(), platform, services());
     configWindow->setScreenManager(&screenManager);
     configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
     configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
@@ -176,16 +172,14 @@ void AppDelegate::setupStatusItem() {
     actions.showPrompter = weakly(&AppDelegate::showPrompterWindow);
     actions.showConfig = weakly(&AppDelegate::showConfig);
     actions.quit = weakly(&AppDelegate::quitApp);
-    statusItem = std::make_unique<StatusItem>(
-        environment.systemSymbol, std::move(actions),
-        StatusItem::Area{environment.prompter.timers, environment.hasStatusArea});
-    if (!environment.statusItemOpensItsMenu) statusItem->showPrompterOnClick();
+    statusItem =
+        std::make_unique<StatusItem>(*platform.statusArea, *platform.timers, std::move(actions));
     // The keys that the menu names work in the prompter as well.
     prompterWindow->addActions(statusItem->actions());
 }
 
 void AppDelegate::configureTelemetry() {
-    const auto appID = environment.bundle.value(u"TelemetryDeckAppID"_s);
+    const auto appID = platform.bundle->value(u"TelemetryDeckAppID"_s);
     if (appID && !appID->isEmpty()) environment.setTelemetryAppID(*appID);
 }
 
@@ -197,23 +191,19 @@ void AppDelegate::startApp() {
 }
 
 void AppDelegate::setupShortcuts() {
-    const Shortcuts::Ports ports{
-        environment.trust,     environment.prompter.timers, environment.prompter.mainQueue,
-        environment.localKeys, environment.globalKeys,      environment.eventTaps,
-        environment.recorder};
     Shortcuts::Actions actions;
     actions.performScroll = weakly(&AppDelegate::performScroll);
     actions.toggleScroll = weakly(&AppDelegate::toggleScroll);
     actions.paste = weakly<>(&AppDelegate::pasteFromClipboard);
-    shortcuts = std::make_unique<Shortcuts>(ports, std::move(actions));
+    shortcuts = std::make_unique<Shortcuts>(platform, environment.recorder, std::move(actions));
     shortcuts->setupShortcuts();
 }
 
 void AppDelegate::showOnboarding() {
-    environment.activationPolicy.set(ActivationPolicy::Kind::regular);
+    platform.activationPolicy->set(ActivationPolicy::Kind::regular);
     environment.recorder.trackOnboardingStarted();
-    onboardingWindow = std::make_unique<OnboardingWindow>(permissionManager, settings,
-                                                          sourceManager.get(), windowPorts());
+    onboardingWindow = std::make_unique<OnboardingWindow>(
+        permissionManager, settings, sourceManager.get(), platform, services());
     onboardingWindow->onComplete = weakly(&AppDelegate::finishOnboarding);
     onboardingWindow->onSkip = weakly(&AppDelegate::finishOnboarding);
     // Closing the window unfinished is skipping; it comes back at the next start.
@@ -227,8 +217,8 @@ void AppDelegate::finishOnboarding() {
     // The window is calling: it goes once that call is over.
     finishedOnboardingWindow = std::move(onboardingWindow);
     finishedOnboardingWindow->hide();
-    environment.prompter.mainQueue.post(weakly(&AppDelegate::dropFinishedOnboarding));
-    environment.activationPolicy.set(ActivationPolicy::Kind::accessory);
+    platform.mainQueue->post(weakly(&AppDelegate::dropFinishedOnboarding));
+    platform.activationPolicy->set(ActivationPolicy::Kind::accessory);
     startApp();
 }
 
@@ -269,7 +259,7 @@ void AppDelegate::showConfig() {
     repositionConfigWindow();
     makeKeyAndOrderFront(config());
     config().startPeriodicRefresh();
-    environment.activationPolicy.activateIgnoringOtherApps();
+    platform.activationPolicy->activateIgnoringOtherApps();
     environment.recorder.record({.name = u"settings_opened"_s});
 }
 
@@ -287,7 +277,7 @@ void AppDelegate::reveal() {
 
 void AppDelegate::bringToFront(QWidget& window) {
     makeKeyAndOrderFront(window);
-    environment.activationPolicy.activateIgnoringOtherApps();
+    platform.activationPolicy->activateIgnoringOtherApps();
 }
 
 void AppDelegate::openText(const QString& text) {
@@ -308,11 +298,10 @@ void AppDelegate::showText(const QString& text) {
 }
 
 void AppDelegate::followFile(const QString& path, const QString& text) {
-    const PrompterPorts& ports = environment.prompter;
     showText(text);
     followedFile =
-        std::make_unique<FollowedFile>(path, text, ports.mainQueue, environment.fileTasks,
-                                       ports.timers, weakly(&AppDelegate::showText));
+        std::make_unique<FollowedFile>(path, text, *platform.mainQueue, *platform.fileTasks,
+                                       *platform.timers, weakly(&AppDelegate::showText));
 }
 
 void AppDelegate::pasteFromClipboard() {
@@ -322,7 +311,7 @@ void AppDelegate::pasteFromClipboard() {
 void AppDelegate::pasteFromClipboard(std::function<void(const QString& problem)> done) {
     followedFile.reset();
     makeClipboardActive();
-    environment.pasteboard.refresh(
+    platform.pasteboard->refresh(
         lifetime.guard([this, done = std::move(done)](const QString& problem) {
             sources().pasteFromClipboard();
             trackPaste();

@@ -8,7 +8,6 @@
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceType.h"
-#include "ui/WindowPorts.h"
 
 #include <QString>
 
@@ -29,6 +28,7 @@ class PrompterWindow;
 class Shortcuts;
 class SourceManager;
 class StatusItem;
+struct Services;
 
 /// The root of the running program: owns the settings, the managers and the windows, and wires them
 /// to one another. An action before the launch is a programming error and ends the program. Main
@@ -108,8 +108,7 @@ private:
     void repositionConfigWindow();
     void bringToFront(QWidget& window);
 
-    PermissionPorts permissionPorts() const;
-    WindowPorts windowPorts() const;
+    Services services() const;
     ConfigWindow& config() const;
     SourceManager& sources() const;
 
@@ -120,6 +119,7 @@ private:
     }
 
     Environment environment;
+    const Platform& platform;
     AppSettings settings;
     ScreenManager screenManager;
     PermissionManager permissionManager;

@@ -4,7 +4,7 @@
 #include "cli/Console.h"
 #include "cli/ControlAnswer.h"
 #include "cli/ExitStatus.h"
-#include "platform/SystemAdapters.h"
+#include "platform/DisplaySession.h"
 
 #include <chrono>
 

@@ -1,7 +1,7 @@
 #include "app/DarkAppearance.h"
 
 #include "appearance/DarkPalette.h"
-#include "platform/SystemAdapters.h"
+#include "platform/NativeLook.h"
 
 #include <QApplication>
 #include <QToolTip>
@@ -10,8 +10,8 @@ namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
-void applyDarkAppearance() {
-    if (showNativeDarkAppearance()) return;
+void applyDarkAppearance(NativeLook& look) {
+    if (look.showDark()) return;
     QApplication::setStyle(u"fusion"_s);
     const QPalette palette = darkPalette();
     QApplication::setPalette(palette);

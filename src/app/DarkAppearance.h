@@ -2,8 +2,10 @@
 
 namespace tessaline {
 
+class NativeLook;
+
 /// Gives all windows, menus and tool tips of the application the dark look. Call it once, when the
 /// QApplication exists.
-void applyDarkAppearance();
+void applyDarkAppearance(NativeLook& look);
 
 } // namespace tessaline

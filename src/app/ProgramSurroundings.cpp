@@ -1,15 +1,15 @@
 #include "app/ProgramSurroundings.h"
 
 #include "platform/AccessibilityTrust.h"
+#include "platform/Platform.h"
 #include "platform/Screens.h"
 #include "sources/ObsidianIntegration.h"
 
 namespace tessaline {
 
 ProgramSurroundings::ProgramSurroundings(const ObsidianIntegration& integration,
-                                         const AccessibilityTrust& accessibility,
-                                         const Screens& displays)
-    : obsidian(integration), trust(accessibility), screens(displays) {}
+                                         const Platform& system)
+    : obsidian(integration), platform(system) {}
 
 bool ProgramSurroundings::isObsidianAppInstalled() const {
     return obsidian.obsidianAppPath().has_value();
@@ -28,11 +28,11 @@ bool ProgramSurroundings::isObsidianPluginActive() const {
 }
 
 bool ProgramSurroundings::isAccessibilityGranted() const {
-    return trust.isTrusted();
+    return platform.trust->isTrusted();
 }
 
 int ProgramSurroundings::screenCount() const {
-    return int(screens.all().size());
+    return int(platform.screens->all().size());
 }
 
 } // namespace tessaline

@@ -4,16 +4,14 @@
 
 namespace tessaline {
 
-class AccessibilityTrust;
 class ObsidianIntegration;
-class Screens;
+struct Platform;
 
 /// Answers what the environment snapshot asks, from what is found at that moment. Main thread only.
 class ProgramSurroundings final : public EnvironmentProbe {
 public:
-    /// Borrows all three.
-    ProgramSurroundings(const ObsidianIntegration& obsidian, const AccessibilityTrust& trust,
-                        const Screens& screens);
+    /// Borrows both.
+    ProgramSurroundings(const ObsidianIntegration& obsidian, const Platform& platform);
 
     bool isObsidianAppInstalled() const override;
     bool isObsidianVaultFound() const override;
@@ -24,8 +22,7 @@ public:
 
 private:
     const ObsidianIntegration& obsidian;
-    const AccessibilityTrust& trust;
-    const Screens& screens;
+    const Platform& platform;
 };
 
 } // namespace tessaline

@@ -11,29 +11,10 @@
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
 #include "platform/AbruptExit.h"
-#include "platform/AccessibilityTrust.h"
-#include "platform/ActivationPolicy.h"
-#include "platform/ApplicationLookup.h"
-#include "platform/BundleInformation.h"
-#include "platform/DisplayLink.h"
-#include "platform/EventTap.h"
+#include "platform/DisplaySession.h"
 #include "platform/ExitDeadline.h"
-#include "platform/FileIcons.h"
-#include "platform/FolderChooser.h"
-#include "platform/GlobalKeyMonitor.h"
-#include "platform/LocalKeyMonitor.h"
-#include "platform/Pasteboard.h"
-#include "platform/ReservedEdges.h"
-#include "platform/SystemAdapters.h"
-#include "platform/ThreadTaskRunner.h"
-#include "platform/WindowTraits.h"
-#include "platform/qt/QtHttpPoster.h"
-#include "platform/qt/QtMainQueue.h"
-#include "platform/qt/QtProcessRunner.h"
-#include "platform/qt/QtScreens.h"
-#include "platform/qt/QtTimerMaker.h"
-#include "platform/qt/QtUrlOpener.h"
-#include "platform/qt/QtUserDefaults.h"
+#include "platform/Platform.h"
+#include "platform/ProcessRunner.h"
 #include "platform/qt/QuitRequests.h"
 #include "platform/qt/StopSignals.h"
 #include "settings/SupportFolder.h"
@@ -57,50 +38,24 @@ namespace {
 
 Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
 
-/// The system as the program sees it, and what is built directly upon that. In the order of need:
-/// whoever is destroyed first may still use those above.
-struct Machine {
-    QtMainQueue mainQueue;
-    QtTimerMaker timers;
-    NotificationCenter notifications;
-    QtUrlOpener urlOpener;
-    QtUserDefaults defaults;
-    QtProcessRunner processes;
-    ThreadTaskRunner renderTasks;
-    ThreadTaskRunner fileTasks;
-    ThreadTaskRunner scriptTasks;
-    ThreadTaskRunner queryTasks; ///< what is asked of other applications
-    ThreadTaskRunner pasteTasks;
-    ThreadTaskRunner historyTasks;
-    QtHttpPoster http;
-    std::unique_ptr<BundleInformation> bundle = makeBundleInformation();
-    std::unique_ptr<Pasteboard> pasteboard = makePasteboard(mainQueue, pasteTasks);
-    std::unique_ptr<DisplayLinkMaker> displayLinks = makeDisplayLinkMaker();
-    std::unique_ptr<WindowTraits> windowTraits = makeWindowTraits();
-    std::unique_ptr<AccessibilityTrust> trust = makeAccessibilityTrust();
-    std::unique_ptr<LocalKeyMonitor> localKeys = makeLocalKeyMonitor();
-    std::unique_ptr<GlobalKeyMonitor> globalKeys = makeGlobalKeyMonitor();
-    std::unique_ptr<EventTapMaker> eventTaps = makeEventTapMaker();
-    std::unique_ptr<ActivationPolicy> activationPolicy = makeActivationPolicy();
-    std::unique_ptr<ApplicationLookup> applications = makeApplicationLookup();
-    std::unique_ptr<FileIcons> icons = makeFileIcons();
-    std::unique_ptr<FolderChooser> folderChooser = makeFolderChooser();
-    QtScreens screens{notifications, mainQueue, identifyScreen, makeReservedEdges()};
+/// What is built directly upon the platform. In the order of need: whoever is destroyed first may
+/// still use those above.
+struct Foundation {
+    const Platform& platform;
     InstalledObsidian obsidian{
-        homeFolderPath(),
-        VaultRegistry(homeFolderPath(), qEnvironmentVariable("XDG_CONFIG_HOME")),
-        {*applications, *bundle, *folderChooser, mainQueue, queryTasks}};
-    AppleNotesLibrary notes{mainQueue, queryTasks, processes, urlOpener};
-    ProgramSurroundings surroundings{obsidian, *trust, screens};
+        homeFolderPath(), VaultRegistry(homeFolderPath(), qEnvironmentVariable("XDG_CONFIG_HOME")),
+        platform};
+    AppleNotesLibrary notes{*platform.mainQueue, *platform.queryTasks, *platform.processes,
+                            *platform.urlOpener};
+    ProgramSurroundings surroundings{obsidian, platform};
 
     SharedInstance<TelemetryDeckClient> telemetry{[this] {
-        return std::make_unique<TelemetryDeckClient>(
-            TelemetryDeckClient::Ports{timers, http, defaults, *bundle});
+        return std::make_unique<TelemetryDeckClient>(TelemetryDeckClient::Setup{platform});
     }};
     SharedInstance<Analytics> analytics{[this] {
         TelemetryDeckClient& client = TelemetryDeckClient::shared();
-        return std::make_unique<Analytics>(Analytics::Ports{
-            timers, historyTasks, *bundle, surroundings,
+        return std::make_unique<Analytics>(Analytics::Setup{
+            platform, surroundings,
             [&client](const QString& name, const Analytics::Properties& parameters) {
                 client.signal(name, parameters);
             }});
@@ -108,26 +63,12 @@ struct Machine {
 
     Environment environment() {
         return {
-            .prompter = {mainQueue, renderTasks, timers, *displayLinks, screens, *windowTraits},
-            .fileTasks = fileTasks,
-            .notifications = notifications,
-            .pasteboard = *pasteboard,
-            .trust = *trust,
-            .processes = processes,
-            .bundle = *bundle,
-            .localKeys = *localKeys,
-            .globalKeys = *globalKeys,
-            .eventTaps = *eventTaps,
-            .activationPolicy = *activationPolicy,
-            .icons = *icons,
+            .platform = platform,
             .obsidian = obsidian,
             .notes = notes,
             .recorder = Analytics::shared(),
             .setTelemetryAppID =
                 [](const QString& appID) { TelemetryDeckClient::shared().setAppID(appID); },
-            .systemSymbol = &systemSymbol,
-            .hasStatusArea = &hasStatusArea,
-            .statusItemOpensItsMenu = statusItemOpensItsMenu(),
             // Unlike quit, this closes no window first: closing the first-run window is a choice.
             .terminate = [] { QCoreApplication::exit(ExitStatus::success); }};
     }
@@ -137,7 +78,7 @@ struct Machine {
         constexpr std::chrono::seconds longestWait{1};
         TelemetryDeckClient::shared().appWillTerminate();
         TelemetryDeckClient::shared().waitForRequests(longestWait);
-        processes.stop();
+        platform.processes->stop();
     }
 };
 
@@ -149,10 +90,10 @@ void hearLaterStarts(InstanceServer& server, const QString& path) {
 
 /// Runs the event loop until the program is to end, and returns the exit status. Later starts are
 /// heard for as long; one that comes afterwards waits for its turn to be the program.
-int runUntilStopped(AppDelegate& delegate, Machine& machine, const QString& socketPath) {
-    RemoteCommands commands(delegate, machine.scriptTasks, machine.mainQueue);
-    InstanceServer server(machine.timers, [&commands](const RemoteRequest& request,
-                                                      const InstanceServer::Reply& reply) {
+int runUntilStopped(AppDelegate& delegate, const Platform& platform, const QString& socketPath) {
+    RemoteCommands commands(delegate, *platform.scriptTasks, *platform.mainQueue);
+    InstanceServer server(*platform.timers, [&commands](const RemoteRequest& request,
+                                                        const InstanceServer::Reply& reply) {
         commands.carryOut(request, reply);
     });
     hearLaterStarts(server, socketPath);
@@ -200,10 +141,11 @@ int runPrompter(const PrompterStart& start) {
     QApplication::setQuitLockEnabled(false);
     QApplication application(start.argc, start.argv);
     QApplication::setWindowIcon(programIcon());
-    applyDarkAppearance();
+    const auto platform = makePlatform();
+    applyDarkAppearance(*platform->look);
 
-    Machine machine;
-    AppDelegate delegate(machine.environment());
+    Foundation foundation{*platform};
+    AppDelegate delegate(foundation.environment());
     const StopSignals stopSignals([&delegate] { delegate.quitApp(); });
     QuitRequests quitRequests([&delegate] { delegate.quitApp(); });
     application.installEventFilter(&quitRequests);
@@ -226,9 +168,9 @@ int runPrompter(const PrompterStart& start) {
 
     // The toolkit exits where it is when the display server goes away.
     const AbruptExit abruptExit(recordTheEnd);
-    const int status = runUntilStopped(delegate, machine, start.socketPath);
+    const int status = runUntilStopped(delegate, *platform, start.socketPath);
     hideEverything();
-    machine.stop();
+    foundation.stop();
     constexpr std::chrono::seconds longestTeardown{1};
     setExitDeadline(longestTeardown, status);
     return status;

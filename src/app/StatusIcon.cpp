@@ -1,5 +1,7 @@
 #include "app/StatusIcon.h"
 
+#include "platform/StatusArea.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -38,10 +40,9 @@ QImage drawStatusIcon(int pixels) {
     return image;
 }
 
-QIcon statusIcon(
-    const std::function<QImage(const QString& name, const QString& description)>& systemSymbol) {
+QIcon statusIcon(const StatusArea& area) {
     QIcon icon;
-    QImage symbol = systemSymbol(u"rectangle.topthird.inset.filled"_s, statusIconDescription());
+    QImage symbol = area.symbol(u"rectangle.topthird.inset.filled"_s, statusIconDescription());
     if (symbol.isNull()) {
         for (const int size : sizes)
             icon.addPixmap(QPixmap::fromImage(drawStatusIcon(size)));

@@ -1,6 +1,8 @@
 #include "app/StatusItem.h"
 
 #include "app/StatusIcon.h"
+#include "platform/StatusArea.h"
+#include "platform/TimerMaker.h"
 
 #include <QKeySequence>
 #include <QLoggingCategory>
@@ -31,13 +33,13 @@ QAction* addItem(QMenu& menu, const QString& title, const QKeySequence& keys,
 
 } // namespace
 
-StatusItem::StatusItem(const Symbols& symbols, Actions actions, Area givenArea)
-    : act(std::move(actions)), area(std::move(givenArea)), image(statusIcon(symbols)) {
+StatusItem::StatusItem(const StatusArea& statusArea, TimerMaker& timers, Actions actions)
+    : area(statusArea), act(std::move(actions)), image(statusIcon(area)) {
     fillMenu();
     if (area.isThere()) {
         show();
     } else {
-        waitForArea();
+        waitForArea(timers);
     }
 }
 
@@ -51,10 +53,10 @@ void StatusItem::fillMenu() {
     addItem(menu, u"Quit Tessaline"_s, Qt::CTRL | Qt::Key_Q, act.quit);
 }
 
-void StatusItem::waitForArea() {
+void StatusItem::waitForArea(TimerMaker& timers) {
     qCInfo(shellLog, "This desktop shows no tray now: start Tessaline again to get its prompter "
                      "back, or press Ctrl+Q in it to quit");
-    areaPollTimer = area.timers.every(areaPollInterval, [this] {
+    areaPollTimer = timers.every(areaPollInterval, [this] {
         if (area.isThere()) show();
     });
 }
@@ -67,7 +69,7 @@ void StatusItem::show() {
     QObject::connect(item.get(), &QSystemTrayIcon::activated, &menu,
                      [this](QSystemTrayIcon::ActivationReason reason) {
                          const bool isClick = reason == QSystemTrayIcon::Trigger;
-                         if (isClick && showsPrompterOnClick) act.showPrompter();
+                         if (isClick && !area.opensMenus()) act.showPrompter();
                      });
     item->show();
 }

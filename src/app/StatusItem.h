@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/TimerMaker.h"
-
 #include <QAction>
 #include <QIcon>
 #include <QList>
@@ -11,9 +9,11 @@
 #include <functional>
 #include <memory>
 
-class QImage;
-
 namespace tessaline {
+
+class RepeatingTimer;
+class StatusArea;
+class TimerMaker;
 
 /// The program's icon in the menu bar or tray, with its menu. On a desktop without a tray it says
 /// so in the log, once, and appears as soon as there is one. Main thread only.
@@ -25,24 +25,11 @@ public:
         std::function<void()> quit;
     };
 
-    /// The system's own drawing of a name, or a null image.
-    using Symbols = std::function<QImage(const QString& name, const QString& description)>;
-
-    /// Where the item goes.
-    struct Area {
-        TimerMaker& timers; ///< borrowed
-        std::function<bool()> isThere;
-    };
-
-    /// Shows the item, now or when there is a place for it.
-    StatusItem(const Symbols& symbols, Actions actions, Area area);
+    /// Shows the item, now or when there is a place for it. Borrows the place and the timers.
+    StatusItem(const StatusArea& area, TimerMaker& timers, Actions actions);
     ~StatusItem();
     StatusItem(const StatusItem&) = delete;
     StatusItem& operator=(const StatusItem&) = delete;
-
-    /// Makes a click with the first button show the prompter, where only the second one opens the
-    /// menu.
-    void showPrompterOnClick() { showsPrompterOnClick = true; }
 
     /// Whether the item has found its place.
     bool isShown() const { return item != nullptr; }
@@ -54,13 +41,12 @@ public:
 
 private:
     void fillMenu();
-    void waitForArea();
+    void waitForArea(TimerMaker& timers);
     void show();
 
+    const StatusArea& area;
     Actions act;
-    Area area;
     QIcon image;
-    bool showsPrompterOnClick = false;
     QMenu menu;
     std::unique_ptr<QSystemTrayIcon> item; ///< after the menu, which it refers to
     std::unique_ptr<RepeatingTimer> areaPollTimer;

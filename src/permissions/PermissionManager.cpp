@@ -4,6 +4,7 @@
 #include "platform/BundleInformation.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
 #include "platform/ProcessRunner.h"
 #include "settings/PermissionType.h"
 
@@ -15,19 +16,19 @@ QString PermissionManager::permissionStatusDidChangeNotification() {
     return u"PermissionManagerStatusDidChange"_s;
 }
 
-PermissionManager::PermissionManager(const PermissionPorts& borrowed) : ports(borrowed) {}
+PermissionManager::PermissionManager(const Platform& borrowed) : platform(borrowed) {}
 
 PermissionManager::~PermissionManager() = default;
 
 bool PermissionManager::isAccessibilityGranted() const {
-    return ports.trust.isTrusted();
+    return platform.trust->isTrusted();
 }
 
 void PermissionManager::startPolling(double interval) {
     stopPolling();
     lastAccessibilityStatus = isAccessibilityGranted();
-    pollTimer =
-        ports.timers.every(TimerMaker::Interval(interval), [this] { checkForPermissionChanges(); });
+    pollTimer = platform.timers->every(TimerMaker::Interval(interval),
+                                       [this] { checkForPermissionChanges(); });
 }
 
 void PermissionManager::stopPolling() {
@@ -38,8 +39,8 @@ void PermissionManager::checkForPermissionChanges() {
     const bool granted = isAccessibilityGranted();
     if (lastAccessibilityStatus == granted) return;
     lastAccessibilityStatus = granted;
-    ports.mainQueue.post(lifetime.guard([this, granted] {
-        ports.notifications.post(
+    platform.mainQueue->post(lifetime.guard([this, granted] {
+        platform.notifications->post(
             {permissionStatusDidChangeNotification(),
              this,
              {{u"permission"_s, PermissionType::accessibility}, {u"granted"_s, granted}}});
@@ -48,13 +49,14 @@ void PermissionManager::checkForPermissionChanges() {
 
 void PermissionManager::resetStaleEntry() {
     if (isAccessibilityGranted()) return;
-    if (const auto identifier = ports.bundle.identifier())
-        ports.processes.run(u"/usr/bin/tccutil"_s, {u"reset"_s, u"Accessibility"_s, *identifier});
+    if (const auto identifier = platform.bundle->identifier())
+        platform.processes->run(u"/usr/bin/tccutil"_s,
+                                {u"reset"_s, u"Accessibility"_s, *identifier});
 }
 
 void PermissionManager::resetAndRequestAccessibility() {
     resetStaleEntry();
-    ports.trust.requestWithPrompt();
+    platform.trust->requestWithPrompt();
 }
 
 } // namespace tessaline

@@ -10,21 +10,7 @@
 
 namespace tessaline {
 
-class AccessibilityTrust;
-class BundleInformation;
-class MainQueue;
-class NotificationCenter;
-class ProcessRunner;
-
-/// What the permission manager needs of the platform. All of it must outlive the manager.
-struct PermissionPorts {
-    AccessibilityTrust& trust;
-    ProcessRunner& processes;
-    const BundleInformation& bundle;
-    TimerMaker& timers;
-    MainQueue& mainQueue;
-    NotificationCenter& notifications;
-};
+struct Platform;
 
 /// Watches the Accessibility permission, tells when it changes, and repairs it. Main thread only.
 class PermissionManager {
@@ -33,7 +19,8 @@ public:
     /// "granted" a bool.
     static QString permissionStatusDidChangeNotification();
 
-    explicit PermissionManager(const PermissionPorts& ports);
+    /// Borrows the platform.
+    explicit PermissionManager(const Platform& platform);
     ~PermissionManager();
     PermissionManager(const PermissionManager&) = delete;
     PermissionManager& operator=(const PermissionManager&) = delete;
@@ -56,7 +43,7 @@ public:
 private:
     void checkForPermissionChanges();
 
-    PermissionPorts ports;
+    const Platform& platform;
     std::unique_ptr<RepeatingTimer> pollTimer;
     std::optional<bool> lastAccessibilityStatus;
     Lifetime lifetime;

@@ -23,6 +23,10 @@ public:
 
     /// Starts the program and waits until it ends.
     virtual ProcessResult run(const QString& program, const QStringList& arguments) = 0;
+
+    /// Kills the programs that run, within a moment, and starts no others: for the end of our own
+    /// program, which should not wait for theirs.
+    virtual void stop() = 0;
 };
 
 } // namespace tessaline

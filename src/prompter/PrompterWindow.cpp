@@ -1,6 +1,8 @@
 #include "prompter/PrompterWindow.h"
 
+#include "platform/DisplayLink.h"
 #include "platform/MainQueue.h"
+#include "platform/Platform.h"
 #include "platform/ScreenCoordinates.h"
 #include "platform/Screens.h"
 #include "platform/WindowTraits.h"
@@ -54,11 +56,11 @@ double overlap(const Rect& a, const Rect& b) {
 
 } // namespace
 
-PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& platformPorts)
-    : QWidget(nullptr, Qt::FramelessWindowHint | platformPorts.windowTraits.creationFlags())
+PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowedPlatform)
+    : QWidget(nullptr, Qt::FramelessWindowHint | borrowedPlatform.windowTraits->creationFlags())
     , settings(appSettings)
-    , ports(platformPorts)
-    , renderer(ports.tasks, ports.mainQueue) {
+    , platform(borrowedPlatform)
+    , renderer(*platform.renderTasks, *platform.mainQueue) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
     // The keyboard is another program's most of the time.
@@ -75,12 +77,12 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const PrompterPorts& pl
     });
     setupUI();
     updateFrame();
-    autoScroll.emplace(settings, ports.displayLinks, ports.timers, ports.mainQueue,
+    autoScroll.emplace(settings, *platform.displayLinks, *platform.timers, *platform.mainQueue,
                        [this](double deltaY) {
                            frames.add(std::chrono::steady_clock::now());
                            performScroll(deltaY);
                        });
-    ports.windowTraits.onTranslucencyChange(lifetime.guard([this] { shape(); }));
+    platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
 PrompterWindow::~PrompterWindow() = default;
@@ -89,7 +91,7 @@ void PrompterWindow::setupUI() {
     strip = new ControlStrip(this);
     scrollArea = new QWidget(this);
     scrollArea->setObjectName(u"prompter_scrollView"_s);
-    view = new ScriptView(ports.timers, scrollArea);
+    view = new ScriptView(*platform.timers, scrollArea);
     view->setObjectName(u"prompter_textView"_s);
     view->setAccessibleName(u"Script"_s);
     setFocusProxy(view);
@@ -101,7 +103,7 @@ void PrompterWindow::updateFrame() {
     const PrompterPlacement placement{settings.width, settings.height, settings.xOffset};
     if (screenManager) {
         setFrame(prompterFrame(placement, screenManager->preferredScreen().frame));
-    } else if (const auto main = ports.screens.mainScreen()) {
+    } else if (const auto main = platform.screens->mainScreen()) {
         setFrame(prompterFrameOnMainScreen(placement, main->frame));
     } else {
         return;
@@ -110,7 +112,8 @@ void PrompterWindow::updateFrame() {
     squareCorners = collapsed;
     shape();
     updateStatsOfWhatIsSeen();
-    if (const auto screen = currentScreen()) ports.displayLinks.setRefreshRate(screen->refreshRate);
+    if (const auto screen = currentScreen())
+        platform.displayLinks->setRefreshRate(screen->refreshRate);
 }
 
 void PrompterWindow::setFrame(const Rect& frame) {
@@ -120,14 +123,14 @@ void PrompterWindow::setFrame(const Rect& frame) {
 
 std::optional<Screen> PrompterWindow::currentScreen() const {
     const Rect frame = fromQtCoordinates(geometry(), primaryGeometry());
-    const auto all = ports.screens.all();
+    const auto all = platform.screens->all();
     const auto covered =
         std::max_element(all.begin(), all.end(), [&](const auto& a, const auto& b) {
             return overlap(frame, a.frame) < overlap(frame, b.frame);
         });
     if (covered != all.end() && overlap(frame, covered->frame) > 0) return *covered;
     if (screenManager) return screenManager->preferredScreen();
-    return ports.screens.mainScreen();
+    return platform.screens->mainScreen();
 }
 
 double PrompterWindow::menuBarHeight() const {
@@ -152,7 +155,7 @@ bool PrompterWindow::isResizing() const {
 }
 
 void PrompterWindow::shape() {
-    updateShape(*this, squareCorners, ports.windowTraits.showsTranslucency(), hole);
+    updateShape(*this, squareCorners, platform.windowTraits->showsTranslucency(), hole);
 }
 
 void PrompterWindow::cutOut(const QRegion& part) {
@@ -191,9 +194,10 @@ void PrompterWindow::resizeEvent(QResizeEvent*) {
 }
 
 void PrompterWindow::showEvent(QShowEvent* event) {
-    ports.windowTraits.floatAboveEverything(winId());
-    ports.windowTraits.excludeFromCapture(winId());
-    if (!std::exchange(watchesClicks, true)) new FocusOnClick(*windowHandle(), ports.windowTraits);
+    platform.windowTraits->floatAboveEverything(winId());
+    platform.windowTraits->excludeFromCapture(winId());
+    if (!std::exchange(watchesClicks, true))
+        new FocusOnClick(*windowHandle(), *platform.windowTraits);
     shape();
     QWidget::showEvent(event);
 }
@@ -201,7 +205,7 @@ void PrompterWindow::showEvent(QShowEvent* event) {
 void PrompterWindow::makeKeyAndOrderFront() {
     show();
     raise();
-    ports.windowTraits.takeKeyboard(winId());
+    platform.windowTraits->takeKeyboard(winId());
 }
 
 void PrompterWindow::paintEvent(QPaintEvent*) {
@@ -209,7 +213,7 @@ void PrompterWindow::paintEvent(QPaintEvent*) {
 }
 
 void PrompterWindow::updateText(const QString& content) {
-    ports.mainQueue.post(lifetime.guard([this, content] {
+    platform.mainQueue->post(lifetime.guard([this, content] {
         lastRawContent = content;
         renderContent();
     }));

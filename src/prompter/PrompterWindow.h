@@ -5,7 +5,6 @@
 #include "prompter/AutoScroll.h"
 #include "prompter/ContentRenderer.h"
 #include "prompter/FrameRate.h"
-#include "prompter/PrompterPorts.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
 
@@ -21,6 +20,7 @@ class AppSettings;
 class ControlStrip;
 class ScreenManager;
 class ScriptView;
+struct Platform;
 
 /// The teleprompter: a borderless black window that hangs from the top edge of a screen, with a
 /// strip of controls above the text. Main thread only, unless a function says otherwise.
@@ -30,7 +30,7 @@ class PrompterWindow : public QWidget {
 public:
     /// Builds the window, places it on the main screen and starts auto-scroll if the settings say
     /// so; shows nothing yet. Both arguments are borrowed.
-    PrompterWindow(AppSettings& settings, const PrompterPorts& ports);
+    PrompterWindow(AppSettings& settings, const Platform& platform);
     ~PrompterWindow() override;
 
     /// Places the window on the manager's preferred screen from the next `updateFrame` on.
@@ -114,7 +114,7 @@ private:
     void shape();
 
     AppSettings& settings;
-    PrompterPorts ports;
+    const Platform& platform;
     const ScreenManager* screenManager = nullptr;
     ControlStrip* strip = nullptr;
     QWidget* scrollArea = nullptr; ///< what of the text is seen

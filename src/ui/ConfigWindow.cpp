@@ -3,6 +3,7 @@
 #include "analytics/UsageRecorder.h"
 #include "appearance/SystemPalette.h"
 #include "platform/AccessibilityTrust.h"
+#include "platform/Platform.h"
 #include "settings/AppSettings.h"
 #include "sources/ObsidianIntegration.h"
 #include "sources/SourceManager.h"
@@ -35,14 +36,16 @@ constexpr TimerMaker::Interval refreshInterval{2.0};
 
 } // namespace
 
-ConfigWindow::ConfigWindow(AppSettings& edited, SourceManager* manager, const WindowPorts& borrowed)
+ConfigWindow::ConfigWindow(AppSettings& edited, SourceManager* manager,
+                           const Platform& borrowedPlatform, const Services& borrowed)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                            Qt::WindowCloseButtonHint)
     , settings(edited)
     , sourceManager(manager)
-    , ports(borrowed)
-    , permissionManager(borrowed.permissions) {
+    , platform(borrowedPlatform)
+    , services(borrowed)
+    , permissionManager(platform) {
     setWindowTitle(u"Settings"_s);
     setDarkLook(*this, SystemPalette::settingsBackground);
     layOut();
@@ -59,12 +62,12 @@ void ConfigWindow::layOut() {
 }
 
 QWidget* ConfigWindow::createContent() {
-    integrations = new IntegrationsSection(settings, ports);
+    integrations = new IntegrationsSection(settings, services, *platform.icons);
     connect(integrations, &IntegrationsSection::obsidianToggled, this,
             &ConfigWindow::obsidianToggleChanged);
-    sources = new SourceSection(settings, sourceManager, ports);
+    sources = new SourceSection(settings, sourceManager, services.notes);
     sources->onSourceChanged = [this](SourceType source) { announceSource(source); };
-    display = new DisplaySection(settings, ports.screens, ports.recorder);
+    display = new DisplaySection(settings, *platform.screens, services.recorder);
     display->onSettingsChanged = [this] { announceSettings(); };
     display->onSliderReleased = [this] { announceSize(); };
     accessibility = new AccessibilityRow;
@@ -116,7 +119,7 @@ bool ConfigWindow::isSliderHeld() const {
 
 void ConfigWindow::startPeriodicRefresh() {
     refreshTimer.reset();
-    refreshTimer = ports.permissions.timers.every(refreshInterval, [this] {
+    refreshTimer = platform.timers->every(refreshInterval, [this] {
         integrations->refreshObsidianStatus();
         updateAccessibilityStatus();
     });
@@ -127,17 +130,17 @@ void ConfigWindow::rebuildScreenPopup() {
 }
 
 void ConfigWindow::updateAccessibilityStatus() {
-    accessibility->updateStatus(ports.permissions.trust.isTrusted());
+    accessibility->updateStatus(platform.trust->isTrusted());
 }
 
 void ConfigWindow::obsidianToggleChanged(bool on) {
     if (sourceManager) sourceManager->setSourceEnabled(SourceType::obsidian, on);
-    ports.recorder.record({.name = on ? u"source_enabled"_s : u"source_disabled"_s,
-                           .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});
+    services.recorder.record({.name = on ? u"source_enabled"_s : u"source_disabled"_s,
+                              .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});
     integrations->updateObsidianStatus();
     sources->rebuildSourcePopup();
     if (on) {
-        if (!ports.obsidian.isPluginInstalled()) integrations->reinstallObsidianPlugin();
+        if (!services.obsidian.isPluginInstalled()) integrations->reinstallObsidianPlugin();
         return;
     }
     sources->selectActiveSource();

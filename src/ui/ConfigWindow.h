@@ -2,7 +2,7 @@
 
 #include "permissions/PermissionManager.h"
 #include "settings/SourceType.h"
-#include "ui/WindowPorts.h"
+#include "ui/Services.h"
 
 #include <QWidget>
 
@@ -26,7 +26,8 @@ class ConfigWindow : public QWidget {
 
 public:
     /// Builds the window; shows nothing yet. Everything is borrowed; `sourceManager` may be null.
-    ConfigWindow(AppSettings& settings, SourceManager* sourceManager, const WindowPorts& ports);
+    ConfigWindow(AppSettings& settings, SourceManager* sourceManager, const Platform& platform,
+                 const Services& services);
     ~ConfigWindow() override;
 
     /// The displays to choose from; null: only the automatic choice is offered. Borrowed. Shows at
@@ -83,7 +84,8 @@ private:
 
     AppSettings& settings;
     SourceManager* sourceManager;
-    WindowPorts ports;
+    const Platform& platform;
+    Services services;
     PermissionManager permissionManager;
     std::unique_ptr<RepeatingTimer> refreshTimer;
 

@@ -2,18 +2,17 @@
 
 #include "platform/FileIcons.h"
 #include "sources/ObsidianIntegration.h"
-#include "ui/WindowPorts.h"
 #include "ui/controls/IconImage.h"
 
 namespace tessaline {
 
-QIcon obsidianIcon(const WindowPorts& ports) {
-    const auto path = ports.obsidian.obsidianAppPath();
-    return path ? ports.icons.iconForFile(*path) : QIcon();
+QIcon obsidianIcon(const ObsidianIntegration& obsidian, const FileIcons& icons) {
+    const auto path = obsidian.obsidianAppPath();
+    return path ? icons.iconForFile(*path) : QIcon();
 }
 
-QLabel* makeObsidianIcon(const WindowPorts& ports, int size) {
-    const QIcon icon = obsidianIcon(ports);
+QLabel* makeObsidianIcon(const ObsidianIntegration& obsidian, const FileIcons& icons, int size) {
+    const QIcon icon = obsidianIcon(obsidian, icons);
     return icon.isNull() ? nullptr : new IconImage(icon, size);
 }
 

@@ -6,13 +6,14 @@ class QLabel;
 
 namespace tessaline {
 
-struct WindowPorts;
+class FileIcons;
+class ObsidianIntegration;
 
 /// The Obsidian application's own icon, or a null icon where the application is not found or the
 /// system has no icon for it. Main thread.
-QIcon obsidianIcon(const WindowPorts& ports);
+QIcon obsidianIcon(const ObsidianIntegration& obsidian, const FileIcons& icons);
 
 /// The same as a picture of this size, in points, or null.
-QLabel* makeObsidianIcon(const WindowPorts& ports, int size);
+QLabel* makeObsidianIcon(const ObsidianIntegration& obsidian, const FileIcons& icons, int size);
 
 } // namespace tessaline

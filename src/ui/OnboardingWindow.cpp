@@ -3,7 +3,9 @@
 #include "analytics/UsageRecorder.h"
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "permissions/PermissionManager.h"
 #include "platform/AccessibilityTrust.h"
+#include "platform/Platform.h"
 #include "platform/PlatformTexts.h"
 #include "platform/ScreenCoordinates.h"
 #include "platform/Screens.h"
@@ -41,13 +43,15 @@ constexpr int sideMargin = 30;
 } // namespace
 
 OnboardingWindow::OnboardingWindow(PermissionManager& manager, AppSettings& shared,
-                                   SourceManager* sources, const WindowPorts& borrowed)
+                                   SourceManager* sources, const Platform& borrowedPlatform,
+                                   const Services& borrowed)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint)
     , permissionManager(manager)
     , settings(shared)
     , sourceManager(sources)
-    , ports(borrowed) {
+    , platform(borrowedPlatform)
+    , services(borrowed) {
     resetSourceChoice();
     permissionManager.resetStaleEntry();
 
@@ -129,7 +133,7 @@ PermissionStatusView* OnboardingWindow::createAccessibilityStatusView() {
     auto* view = new PermissionStatusView(
         platformTexts().permissionTitle,
         u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s,
-        ports.permissions.trust.isTrusted());
+        platform.trust->isTrusted());
     view->setObjectName(u"accessibilityStatusView"_s);
     view->onGrantButtonClicked = [this] { permissionManager.resetAndRequestAccessibility(); };
     return view;
@@ -139,11 +143,12 @@ QWidget* OnboardingWindow::createIntegrationsSection() {
     auto* clipboard = new IntegrationToggleView(SourceType::clipboard, true);
     clipboard->setupUI(true, u"Default — paste any text"_s, {});
     ObsidianStatusText status = pluginStatus();
-    status.appFound = ports.obsidian.isObsidianPresent();
-    status.vaultFound = status.appFound && ports.obsidian.findObsidianVault().has_value();
+    status.appFound = services.obsidian.isObsidianPresent();
+    status.vaultFound = status.appFound && services.obsidian.findObsidianVault().has_value();
     const bool usable = status.appFound && status.vaultFound;
     auto* obsidian = new IntegrationToggleView(SourceType::obsidian, !usable);
-    obsidian->setupUI(usable && status.sourceEnabled, status.text(), obsidianIcon(ports));
+    obsidian->setupUI(usable && status.sourceEnabled, status.text(),
+                      obsidianIcon(services.obsidian, *platform.icons));
     obsidian->onToggleChanged = [this](bool on) { toggleObsidian(on); };
 
     auto* section = new QWidget;
@@ -163,13 +168,13 @@ bool OnboardingWindow::isObsidianEnabled() const {
 ObsidianStatusText OnboardingWindow::pluginStatus() const {
     ObsidianStatusText status;
     status.sourceEnabled = isObsidianEnabled();
-    status.pluginInstalled = status.sourceEnabled && ports.obsidian.isPluginInstalled();
-    status.pluginEnabled = status.pluginInstalled && ports.obsidian.isPluginEnabled();
+    status.pluginInstalled = status.sourceEnabled && services.obsidian.isPluginInstalled();
+    status.pluginEnabled = status.pluginInstalled && services.obsidian.isPluginEnabled();
     return status;
 }
 
 void OnboardingWindow::centerOnScreen() {
-    const auto display = ports.screens.mainScreen();
+    const auto display = platform.screens->mainScreen();
     if (!display) return;
     const Rect& visible = display->visibleFrame;
     fitToContent(*this, int(visible.height) - titleBarAllowance);
@@ -181,13 +186,13 @@ void OnboardingWindow::centerOnScreen() {
 }
 
 void OnboardingWindow::setupPermissionObserver() {
-    permissionObserver = ports.permissions.notifications.observe(
-        PermissionManager::permissionStatusDidChangeNotification(),
-        [this](const Notification&) { updatePermissionStatus(); });
+    permissionObserver =
+        platform.notifications->observe(PermissionManager::permissionStatusDidChangeNotification(),
+                                        [this](const Notification&) { updatePermissionStatus(); });
 }
 
 void OnboardingWindow::updatePermissionStatus() {
-    accessibilityStatusView->updateStatus(ports.permissions.trust.isTrusted());
+    accessibilityStatusView->updateStatus(platform.trust->isTrusted());
 }
 
 void OnboardingWindow::toggleObsidian(bool enabled) {
@@ -195,21 +200,22 @@ void OnboardingWindow::toggleObsidian(bool enabled) {
     if (sourceManager) sourceManager->setSourceEnabled(SourceType::obsidian, enabled);
     settings.setSourceEnabled(SourceType::obsidian, enabled);
     if (enabled) {
-        ports.recorder.record({.name = u"source_enabled"_s,
-                               .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});
+        services.recorder.record(
+            {.name = u"source_enabled"_s,
+             .properties = {{u"source_type"_s, rawValue(SourceType::obsidian)}}});
         installObsidianPlugin();
     }
     updateIntegrationStatuses();
 }
 
 void OnboardingWindow::installObsidianPlugin() {
-    const auto [success, message] = ports.obsidian.installPlugin();
-    ports.recorder.trackObsidianPluginInstalled(success);
+    const auto [success, message] = services.obsidian.installPlugin();
+    services.recorder.trackObsidianPluginInstalled(success);
     AlertContent content;
     if (success) {
         content.messageText = u"Notes Bridge Installed"_s;
         content.informativeText = platformTexts().pluginInstalled;
-        content.icon = obsidianIcon(ports);
+        content.icon = obsidianIcon(services.obsidian, *platform.icons);
     } else {
         content.messageText = u"Plugin Installation"_s;
         content.informativeText = message;
@@ -232,8 +238,7 @@ void OnboardingWindow::continueClicked() {
     settings.hasCompletedOnboarding = true;
     settings.save();
     permissionManager.stopPolling();
-    ports.recorder.trackOnboardingCompleted(ports.permissions.trust.isTrusted(),
-                                            isObsidianEnabled());
+    services.recorder.trackOnboardingCompleted(platform.trust->isTrusted(), isObsidianEnabled());
     // Whoever is called may drop the window.
     const auto closeIfLeft = lifetime.guard([this] { close(); });
     if (const auto complete = onComplete) complete();

@@ -3,7 +3,7 @@
 #include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
 #include "settings/SourceType.h"
-#include "ui/WindowPorts.h"
+#include "ui/Services.h"
 
 #include <QWidget>
 
@@ -20,6 +20,7 @@ class IntegrationToggleView;
 class PermissionManager;
 class PermissionStatusView;
 class SourceManager;
+struct Platform;
 struct ObsidianStatusText;
 
 /// The first-run window: greets the user, offers the one optional permission and the Obsidian
@@ -32,7 +33,8 @@ public:
     /// permission and polls the permission from now on; shows nothing yet. Everything is borrowed;
     /// `sourceManager` may be null.
     OnboardingWindow(PermissionManager& permissionManager, AppSettings& settings,
-                     SourceManager* sourceManager, const WindowPorts& ports);
+                     SourceManager* sourceManager, const Platform& platform,
+                     const Services& services);
     ~OnboardingWindow() override;
 
     /// Called once when the user finishes, just before the window closes.
@@ -70,7 +72,8 @@ private:
     PermissionManager& permissionManager;
     AppSettings& settings;
     SourceManager* sourceManager;
-    WindowPorts ports;
+    const Platform& platform;
+    Services services;
     QLabel* titleLabel = nullptr;
     QLabel* subtitleLabel = nullptr;
     PermissionStatusView* accessibilityStatusView = nullptr;

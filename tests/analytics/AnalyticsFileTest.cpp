@@ -39,7 +39,7 @@ protected:
         const auto recorder = stage.makeRecorder();
         recorder->record({.name = u"now"_s});
         recorder->flush();
-        stage.fileTasks.runAll();
+        stage.historyTasks.runAll();
     }
 
     static QStringList failedTo(const QString& what) {
@@ -53,7 +53,7 @@ protected:
 TEST_F(AnalyticsFile, IsNotWrittenByARunWithoutEvents) {
     const auto recorder = stage.makeRecorder();
     stage.timers.advance(120);
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_FALSE(QFileInfo::exists(stage.path));
     EXPECT_FALSE(QFileInfo::exists(QFileInfo(stage.path).path()));
 }
@@ -63,14 +63,14 @@ TEST_F(AnalyticsFile, IsWrittenEveryMinute) {
     EXPECT_EQ(stage.timers.liveIntervals(), std::vector<double>{60.0});
     recorder->record({.name = u"a"_s});
     stage.timers.advance(59.9);
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_FALSE(QFileInfo::exists(stage.path));
     stage.timers.advance(0.1);
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), QStringList{u"a"_s});
     recorder->record({.name = u"b"_s});
     stage.timers.advance(60);
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), (QStringList{u"a"_s, u"b"_s}));
 }
 
@@ -79,7 +79,7 @@ TEST_F(AnalyticsFile, IsWrittenInTheBackground) {
     recorder->record({.name = u"a"_s});
     recorder->flush();
     EXPECT_FALSE(QFileInfo::exists(stage.path));
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_TRUE(QFileInfo::exists(stage.path));
 }
 
@@ -100,7 +100,7 @@ TEST_F(AnalyticsFile, IsNotReadTwiceWhenTheTerminationComesFirst) {
     recorder->trackAppTerminate();
     const QStringList all{u"2026-11-19T00:00:00Z"_s, u"app_terminate"_s};
     EXPECT_EQ(namesIn(stage.path), all);
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), all);
 }
 
@@ -109,8 +109,8 @@ TEST_F(AnalyticsFile, IsNotTouchedByTasksThatOutliveTheRecorder) {
     recorder->record({.name = u"a"_s});
     recorder->flush();
     recorder.reset();
-    EXPECT_EQ(stage.fileTasks.pending(), 2U);
-    stage.fileTasks.runAll();
+    EXPECT_EQ(stage.historyTasks.pending(), 2U);
+    stage.historyTasks.runAll();
     EXPECT_FALSE(QFileInfo::exists(stage.path));
 }
 
@@ -184,7 +184,7 @@ TEST_F(AnalyticsFile, StaysUntouchedWhileNothingIsNew) {
     };
     const QDateTime before = identity();
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(identity(), before);
 }
 
@@ -192,10 +192,10 @@ TEST_F(AnalyticsFile, ComesBackWhenItWasDeleted) {
     const auto recorder = stage.makeRecorder();
     recorder->record({.name = u"a"_s});
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     ASSERT_TRUE(QFile::remove(stage.path));
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), QStringList{u"a"_s});
 }
 
@@ -203,7 +203,7 @@ TEST_F(AnalyticsFile, LosesOldEventsAtTheFirstFlushEvenWithoutNewOnes) {
     putEvents({u"2026-01-01T00:00:00Z"_s, u"2026-11-19T00:00:00Z"_s});
     const auto recorder = stage.makeRecorder();
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), QStringList{u"2026-11-19T00:00:00Z"_s});
 }
 
@@ -224,7 +224,7 @@ TEST_P(AnalyticsForeignFile, IsReportedAndKeptBesideWhenItIsFirstWrittenOver) {
     const RecordedLog log;
     const auto recorder = stage.makeRecorder();
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(log.entries(), failedTo(u"load analytics history: "_s + GetParam().reason));
     EXPECT_EQ(fileBytes(stage.path), GetParam().bytes);
     EXPECT_FALSE(QFileInfo::exists(unreadable));
@@ -232,7 +232,7 @@ TEST_P(AnalyticsForeignFile, IsReportedAndKeptBesideWhenItIsFirstWrittenOver) {
     for (const auto& name : {u"a"_s, u"b"_s}) {
         recorder->record({.name = name});
         recorder->flush();
-        stage.fileTasks.runAll();
+        stage.historyTasks.runAll();
     }
     EXPECT_EQ(namesIn(stage.path), (QStringList{u"a"_s, u"b"_s}));
     EXPECT_EQ(fileBytes(unreadable), GetParam().bytes);
@@ -286,13 +286,13 @@ TEST_F(AnalyticsFile, StaysForeignWhileItCannotBePutAside) {
     const auto recorder = stage.makeRecorder();
     recorder->record({.name = u"a"_s});
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(fileBytes(stage.path), "foreign");
     EXPECT_EQ(log.entries().mid(1), failedTo(u"flush analytics: Is a directory"_s));
 
     ASSERT_TRUE(QDir().rmdir(unreadable));
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), QStringList{u"a"_s});
     EXPECT_EQ(fileBytes(unreadable), "foreign");
 }
@@ -332,12 +332,12 @@ TEST_F(AnalyticsFile, KeepsTheEventsOfAFailedFlushForTheNext) {
     const auto recorder = stage.makeRecorder();
     recorder->record({.name = u"a"_s});
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(log.entries(), failedTo(u"flush analytics: Not a directory"_s));
 
     ASSERT_TRUE(QFile::remove(support));
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), QStringList{u"a"_s});
 }
 
@@ -354,13 +354,13 @@ TEST_F(AnalyticsFile, SurvivesAFullDiskAndIsWrittenWhenThereIsRoom) {
     const auto recorder = stage.makeRecorder();
     recorder->record({.name = u"a"_s});
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(log.entries(), failedTo(u"flush analytics: No space left on device"_s));
     EXPECT_EQ(fileBytes(stage.path), before);
 
     disk.empty();
     recorder->flush();
-    stage.fileTasks.runAll();
+    stage.historyTasks.runAll();
     EXPECT_EQ(namesIn(stage.path), (QStringList{u"2026-11-19T00:00:00Z"_s, u"a"_s}));
 }
 

@@ -23,7 +23,7 @@ class AnalyticsInstances : public testing::Test {
 protected:
     void flush(Analytics& recorder) {
         recorder.flush();
-        stage.fileTasks.runAll();
+        stage.historyTasks.runAll();
     }
 
     void recordAndFlush(Analytics& recorder, const QString& name) {

@@ -7,6 +7,7 @@
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
 #include "support/TestFiles.h"
+#include "support/TestPlatform.h"
 
 #include <QTemporaryDir>
 
@@ -36,14 +37,12 @@ inline QStringList namesIn(const QString& path) {
 }
 
 /// A recorder in surroundings that the test commands.
-struct AnalyticsStage {
+struct AnalyticsStage : TestPlatform {
     using Signal = std::pair<QString, Analytics::Properties>;
 
     std::unique_ptr<Analytics> makeRecorder() {
-        return std::make_unique<Analytics>(Analytics::Ports{
-            .timers = timers,
-            .fileTasks = fileTasks,
-            .bundle = bundle,
+        return std::make_unique<Analytics>(Analytics::Setup{
+            .platform = platform,
             .environment = environment,
             .signal =
                 [this](const QString& name, const Analytics::Properties& parameters) {
@@ -59,9 +58,6 @@ struct AnalyticsStage {
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("support/analytics.json"));
     QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30), Qt::UTC};
-    FakeTimerMaker timers;
-    FakeTaskRunner fileTasks;
-    FakeBundleInformation bundle;
     FakeEnvironmentProbe environment;
     std::vector<Signal> sent;
 };

@@ -56,9 +56,7 @@ TEST(SharedInstanceTest, SendsWhatTheSharedRecorderRecords) {
         [&] { return telemetryStage.makeClient(network); });
     const SharedInstance<Analytics> recorder([&] {
         return std::make_unique<Analytics>(
-            Analytics::Ports{.timers = stage.timers,
-                             .fileTasks = stage.fileTasks,
-                             .bundle = stage.bundle,
+            Analytics::Setup{.platform = stage.platform,
                              .environment = stage.environment,
                              .signal =
                                  [](const QString& name, const Analytics::Properties& parameters) {

@@ -4,6 +4,7 @@
 #include "support/FakeBundleInformation.h"
 #include "support/FakeTimerMaker.h"
 #include "support/FakeUserDefaults.h"
+#include "support/TestPlatform.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,14 +24,12 @@ inline QStringList typesIn(const QByteArray& batch) {
 }
 
 /// A client in surroundings that the test commands.
-struct TelemetryStage {
+struct TelemetryStage : TestPlatform {
     std::unique_ptr<TelemetryDeckClient> makeClient(HttpPoster& http,
                                                     const TelemetryOptions& options = {}) {
+        platform.http = std::make_unique<BorrowedPoster>(http);
         return std::make_unique<TelemetryDeckClient>(
-            TelemetryDeckClient::Ports{.timers = timers,
-                                       .http = http,
-                                       .defaults = defaults,
-                                       .bundle = bundle,
+            TelemetryDeckClient::Setup{.platform = platform,
                                        .now = [this] { return now; },
                                        .system = {.name = QStringLiteral("Linux"),
                                                   .description = QStringLiteral("Example OS 12"),
@@ -39,10 +38,20 @@ struct TelemetryStage {
             options);
     }
 
+    /// Posts by one that is a test's own.
+    class BorrowedPoster final : public HttpPoster {
+    public:
+        explicit BorrowedPoster(HttpPoster& borrowed) : poster(borrowed) {}
+        std::unique_ptr<Post> post(const QUrl& address, const QByteArray& body,
+                                   Handler handler) override {
+            return poster.post(address, body, std::move(handler));
+        }
+
+    private:
+        HttpPoster& poster;
+    };
+
     QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30, 250), Qt::UTC};
-    FakeTimerMaker timers;
-    FakeUserDefaults defaults;
-    FakeBundleInformation bundle;
 };
 
 } // namespace tessaline

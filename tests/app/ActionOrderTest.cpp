@@ -25,34 +25,33 @@ class ActionOrder : public AppDelegateFixture {
 protected:
     ~ActionOrder() override { delegate.reset(); } // before the witnesses
 
+    /// Puts a witness before a port of the platform.
+    template <typename Witness, typename Port>
+    Witness& watch(std::unique_ptr<Port>& port) {
+        auto witness = std::make_unique<Witness>(journal, std::move(port));
+        Witness& kept = *witness;
+        port = std::move(witness);
+        return kept;
+    }
+
     Environment watchedEnvironment() {
-        Environment system = environment();
         return {
-            .prompter = {mainQueue, journalingTasks, journalingTimers, journalingLinks, screens,
-                         windowTraits},
-            .fileTasks = system.fileTasks,
-            .notifications = system.notifications,
-            .pasteboard = system.pasteboard,
-            .trust = journalingTrust,
-            .processes = system.processes,
-            .bundle = system.bundle,
-            .localKeys = journalingKeys,
-            .globalKeys = system.globalKeys,
-            .eventTaps = system.eventTaps,
-            .activationPolicy = journalingPolicy,
-            .icons = system.icons,
-            .obsidian = system.obsidian,
-            .notes = system.notes,
+            .platform = platform,
+            .obsidian = obsidian,
+            .notes = notes,
             .recorder = journalingRecorder,
-            .setTelemetryAppID = system.setTelemetryAppID,
-            .systemSymbol = system.systemSymbol,
-            .hasStatusArea = system.hasStatusArea,
-            .terminate = system.terminate,
+            .setTelemetryAppID = [](const QString&) {},
+            .terminate = [] {},
         };
     }
 
     void launchWatched() {
         watcher.watchesMoves = true;
+        watch<JournalingPolicy>(platform.activationPolicy);
+        watch<JournalingKeys>(platform.localKeys);
+        watch<JournalingTrust>(platform.trust);
+        watch<JournalingTimers>(platform.timers);
+        watch<JournalingDisplayLinks>(platform.displayLinks);
         delegate = std::make_unique<AppDelegate>(watchedEnvironment());
         delegate->applicationDidFinishLaunching();
     }
@@ -83,12 +82,7 @@ protected:
     Journal journal;
     WindowWatcher watcher{journal};
     JournalingRecorder journalingRecorder{journal};
-    JournalingPolicy journalingPolicy{journal};
-    JournalingKeys journalingKeys{journal, localKeys};
-    JournalingTrust journalingTrust{journal, trust};
-    JournalingTimers journalingTimers{journal, timers};
-    JournalingRenderTasks journalingTasks{journal, renderTasks};
-    JournalingDisplayLinks journalingLinks{journal, displayLinks};
+    JournalingRenderTasks& journalingTasks = watch<JournalingRenderTasks>(platform.renderTasks);
 };
 
 const QStringList ofTheStart = {u"show Tessaline"_s, u"set up shortcuts"_s, u"content_loaded"_s,

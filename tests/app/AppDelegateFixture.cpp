@@ -50,24 +50,11 @@ void AppDelegateFixture::configure(const std::function<void(AppSettings&)>& chan
 
 Environment AppDelegateFixture::environment() {
     return {
-        .prompter = {mainQueue, renderTasks, timers, displayLinks, screens, windowTraits},
-        .fileTasks = fileTasks,
-        .notifications = notifications,
-        .pasteboard = pasteboard,
-        .trust = trust,
-        .processes = processes,
-        .bundle = bundle,
-        .localKeys = localKeys,
-        .globalKeys = globalKeys,
-        .eventTaps = eventTaps,
-        .activationPolicy = activationPolicy,
-        .icons = icons,
+        .platform = platform,
         .obsidian = obsidian,
         .notes = notes,
         .recorder = recorder,
         .setTelemetryAppID = [this](const QString& id) { telemetryAppIDs.push_back(id); },
-        .systemSymbol = [](const QString&, const QString&) { return QImage(); },
-        .hasStatusArea = [] { return true; },
         .terminate = [this] { ++terminations; },
     };
 }

@@ -5,6 +5,7 @@
 #include "settings/AppSettings.h"
 #include "settings/SupportFolder.h"
 
+#include "platform/NotificationCenter.h"
 #include "support/FakeAccessibilityTrust.h"
 #include "support/FakeActivationPolicy.h"
 #include "support/FakeBundleInformation.h"
@@ -19,12 +20,12 @@
 #include "support/FakePasteboard.h"
 #include "support/FakeProcessRunner.h"
 #include "support/FakeScreens.h"
+#include "support/FakeStatusArea.h"
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
 #include "support/FakeWindowTraits.h"
 #include "support/RecordingUsageRecorder.h"
-
-#include <QImage>
+#include "support/TestPlatform.h"
 
 #include <gmock/gmock.h>
 
@@ -41,7 +42,7 @@ class OnboardingWindow;
 class PrompterWindow;
 
 /// A delegate among fakes, in an empty home folder.
-class AppDelegateFixture : public ::testing::Test {
+class AppDelegateFixture : public ::testing::Test, public TestPlatform {
 public:
     ~AppDelegateFixture() override;
 
@@ -67,23 +68,6 @@ protected:
     std::vector<QString> recordedNames() const { return recorder.names(); }
     bool recorded(const QString& name) const;
 
-    FakeMainQueue mainQueue;
-    FakeTaskRunner renderTasks;
-    FakeTaskRunner fileTasks;
-    FakeTimerMaker timers;
-    FakeDisplayLinkMaker displayLinks;
-    FakeScreens screens;
-    FakeWindowTraits windowTraits;
-    NotificationCenter notifications;
-    FakePasteboard pasteboard;
-    FakeAccessibilityTrust trust;
-    FakeProcessRunner processes;
-    FakeBundleInformation bundle;
-    FakeLocalKeyMonitor localKeys;
-    FakeGlobalKeyMonitor globalKeys;
-    FakeEventTapMaker eventTaps;
-    FakeActivationPolicy activationPolicy;
-    FakeFileIcons icons;
     FakeObsidianIntegration obsidian;
     FakeNoteLibrary notes;
     RecordingUsageRecorder recorder;

@@ -1,7 +1,7 @@
 #include "app/DarkAppearance.h"
 
 #include "appearance/DarkPalette.h"
-#include "platform/SystemAdapters.h"
+#include "support/FakeNativeLook.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -28,14 +28,22 @@ protected:
 };
 
 TEST_F(DarkAppearance, IsTheSameWhateverTheDesktopLooksLike) {
-    if (showNativeDarkAppearance()) GTEST_SKIP() << "the system draws it itself";
+    FakeNativeLook look;
     QApplication::setStyle(QStringLiteral("windows"));
-    applyDarkAppearance();
+    applyDarkAppearance(look);
     EXPECT_EQ(QApplication::style()->name(), QStringLiteral("fusion"));
     for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Highlight}) {
         EXPECT_EQ(QApplication::palette().color(role), darkPalette().color(role));
         EXPECT_EQ(QToolTip::palette().color(role), darkPalette().color(role));
     }
+}
+
+TEST_F(DarkAppearance, IsLeftToASystemThatDrawsItItself) {
+    FakeNativeLook look;
+    look.hasDark = true;
+    QApplication::setStyle(QStringLiteral("windows"));
+    applyDarkAppearance(look);
+    EXPECT_EQ(QApplication::style()->name(), QStringLiteral("windows"));
 }
 
 } // namespace

@@ -13,37 +13,19 @@ protected:
     void launchAmongWitnesses() {
         const WindowWatcher watcher(journal);
         JournalingRecorder journalingRecorder(journal);
-        JournalingBundle journalingBundle(journal);
+        platform.bundle = std::make_unique<JournalingBundle>(journal);
+        platform.statusArea = std::make_unique<JournalingStatusArea>(journal);
         const auto source =
             notifications.observe(SourceManager::activeSourceDidChangeNotification(),
                                   [this](const Notification&) { journal << u"select source"_s; });
-        Environment system = environment();
-        Environment watched{
-            .prompter = system.prompter,
-            .fileTasks = system.fileTasks,
-            .notifications = system.notifications,
-            .pasteboard = system.pasteboard,
-            .trust = system.trust,
-            .processes = system.processes,
-            .bundle = journalingBundle,
-            .localKeys = system.localKeys,
-            .globalKeys = system.globalKeys,
-            .eventTaps = system.eventTaps,
-            .activationPolicy = system.activationPolicy,
-            .icons = system.icons,
-            .obsidian = system.obsidian,
-            .notes = system.notes,
+        delegate = std::make_unique<AppDelegate>(Environment{
+            .platform = platform,
+            .obsidian = obsidian,
+            .notes = notes,
             .recorder = journalingRecorder,
             .setTelemetryAppID = [this](const QString&) { journal << u"set telemetry id"_s; },
-            .systemSymbol =
-                [this](const QString& name, const QString&) {
-                    journal << u"draw "_s + name;
-                    return QImage();
-                },
-            .hasStatusArea = system.hasStatusArea,
-            .terminate = system.terminate,
-        };
-        delegate = std::make_unique<AppDelegate>(watched);
+            .terminate = [] {},
+        });
         journal << u"constructed"_s;
         delegate->applicationDidFinishLaunching();
         delegate.reset(); // before the witnesses

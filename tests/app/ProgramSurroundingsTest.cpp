@@ -3,6 +3,7 @@
 #include "support/FakeAccessibilityTrust.h"
 #include "support/FakeObsidianIntegration.h"
 #include "support/FakeScreens.h"
+#include "support/TestPlatform.h"
 
 #include <gtest/gtest.h>
 
@@ -11,9 +12,8 @@ namespace {
 
 TEST(ProgramSurroundings, TellWhatIsThereAtThatMoment) {
     FakeObsidianIntegration obsidian;
-    FakeAccessibilityTrust trust;
-    FakeScreens screens;
-    const ProgramSurroundings surroundings(obsidian, trust, screens);
+    const TestPlatform system;
+    const ProgramSurroundings surroundings(obsidian, system.platform);
     EXPECT_FALSE(surroundings.isObsidianAppInstalled());
     EXPECT_FALSE(surroundings.isObsidianVaultFound());
     EXPECT_FALSE(surroundings.isObsidianPluginInstalled());
@@ -30,9 +30,9 @@ TEST(ProgramSurroundings, TellWhatIsThereAtThatMoment) {
     EXPECT_FALSE(surroundings.isObsidianPluginActive());
     obsidian.pluginEnabled = true;
     EXPECT_TRUE(surroundings.isObsidianPluginActive());
-    trust.trusted = true;
+    system.trust.trusted = true;
     EXPECT_TRUE(surroundings.isAccessibilityGranted());
-    screens.attached.resize(3);
+    system.screens.attached.resize(3);
     EXPECT_EQ(surroundings.screenCount(), 3);
 }
 

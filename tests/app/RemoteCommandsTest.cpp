@@ -49,7 +49,6 @@ protected:
     }
 
     QTemporaryDir folder;
-    FakeTaskRunner scriptTasks;
     std::unique_ptr<RemoteCommands> commands =
         std::make_unique<RemoteCommands>(launch(), scriptTasks, mainQueue);
 };

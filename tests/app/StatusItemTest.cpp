@@ -1,6 +1,7 @@
 #include "app/StatusItem.h"
 
 #include "app/StatusIcon.h"
+#include "support/FakeStatusArea.h"
 #include "support/FakeTimerMaker.h"
 #include "support/RecordedLog.h"
 
@@ -15,10 +16,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-QImage noSymbol(const QString&, const QString&) {
-    return {};
-}
-
 /// The pixel that covers a point, counted from the bottom left corner.
 QColor colorAt(const QImage& image, double x, double y) {
     const double scale = image.width() / 18.0;
@@ -28,12 +25,11 @@ QColor colorAt(const QImage& image, double x, double y) {
 class StatusItemTest : public testing::Test {
 protected:
     FakeTimerMaker timers;
-    bool areaIsThere = true;
-    StatusItem::Area area{timers, [this] { return areaIsThere; }};
+    FakeStatusArea area;
 };
 
 TEST_F(StatusItemTest, HasTheMenuWithItsTitlesAndKeys) {
-    StatusItem item(noSymbol, {}, area);
+    StatusItem item(area, timers, {});
     const auto actions = item.actions();
     ASSERT_EQ(actions.size(), 5);
     EXPECT_EQ(actions[0]->text(), u"Show Tessaline"_s);
@@ -50,11 +46,10 @@ TEST_F(StatusItemTest, HasTheMenuWithItsTitlesAndKeys) {
 
 TEST_F(StatusItemTest, CarriesOutWhatIsChosen) {
     QStringList done;
-    StatusItem item(noSymbol,
+    StatusItem item(area, timers,
                     {.showPrompter = [&] { done << u"show"_s; },
                      .showConfig = [&] { done << u"config"_s; },
-                     .quit = [&] { done << u"quit"_s; }},
-                    area);
+                     .quit = [&] { done << u"quit"_s; }});
     for (QAction* action : item.actions())
         action->trigger();
     EXPECT_EQ(done, (QStringList{u"show"_s, u"config"_s, u"quit"_s}));
@@ -62,7 +57,7 @@ TEST_F(StatusItemTest, CarriesOutWhatIsChosen) {
 
 TEST_F(StatusItemTest, IsShownAtOnceWhereThereIsATray) {
     const RecordedLog log;
-    const StatusItem item(noSymbol, {}, area);
+    const StatusItem item(area, timers, {});
     EXPECT_TRUE(item.isShown());
     EXPECT_TRUE(log.entries().filter(u"no tray"_s).isEmpty());
     EXPECT_TRUE(timers.liveIntervals().empty());
@@ -70,8 +65,8 @@ TEST_F(StatusItemTest, IsShownAtOnceWhereThereIsATray) {
 
 TEST_F(StatusItemTest, SaysOnceThatThereIsNoTrayHoweverLongThatLasts) {
     const RecordedLog log;
-    areaIsThere = false;
-    const StatusItem item(noSymbol, {}, area);
+    area.there = false;
+    const StatusItem item(area, timers, {});
     timers.advance(600);
     EXPECT_FALSE(item.isShown());
     EXPECT_EQ(log.entries().filter(u"no tray"_s).size(), 1)
@@ -79,39 +74,36 @@ TEST_F(StatusItemTest, SaysOnceThatThereIsNoTrayHoweverLongThatLasts) {
 }
 
 TEST_F(StatusItemTest, IsShownWithinTwoSecondsOfATrayThatComesLater) {
-    areaIsThere = false;
-    const StatusItem item(noSymbol, {}, area);
+    area.there = false;
+    const StatusItem item(area, timers, {});
     timers.advance(60);
-    areaIsThere = true;
+    area.there = true;
     timers.advance(2);
     EXPECT_TRUE(item.isShown());
     EXPECT_TRUE(timers.liveIntervals().empty()) << "the poll is over";
 }
 
 TEST_F(StatusItemTest, StopsToWaitWhenItGoesAway) {
-    areaIsThere = false;
+    area.there = false;
     {
-        const StatusItem item(noSymbol, {}, area);
+        const StatusItem item(area, timers, {});
         EXPECT_EQ(timers.liveIntervals(), std::vector{2.0});
     }
     EXPECT_TRUE(timers.liveIntervals().empty());
 }
 
 TEST(StatusIcon, PrefersTheSystemsSymbol) {
-    QStringList asked;
-    QImage symbol(36, 36, QImage::Format_ARGB32);
-    symbol.fill(Qt::red);
-    const QIcon icon = statusIcon([&](const QString& name, const QString& description) {
-        asked << name << description;
-        return symbol;
-    });
-    EXPECT_EQ(asked, (QStringList{u"rectangle.topthird.inset.filled"_s, u"Tessaline"_s}));
+    FakeStatusArea area;
+    area.drawing = QImage(36, 36, QImage::Format_ARGB32);
+    area.drawing.fill(Qt::red);
+    const QIcon icon = statusIcon(area);
+    EXPECT_EQ(area.asked, (QStringList{u"rectangle.topthird.inset.filled"_s, u"Tessaline"_s}));
     EXPECT_EQ(icon.pixmap(18).toImage().pixelColor(9, 9), QColor(Qt::red));
     EXPECT_TRUE(icon.isMask());
 }
 
 TEST(StatusIcon, IsDrawnWhereTheSystemHasNoSymbol) {
-    const QIcon icon = statusIcon(noSymbol);
+    const QIcon icon = statusIcon(FakeStatusArea());
     EXPECT_TRUE(icon.isMask());
     for (const int size : {16, 18, 22, 24, 32, 36, 48})
         EXPECT_EQ(icon.actualSize(QSize(size, size)), QSize(size, size));

@@ -6,6 +6,7 @@
 #include "platform/BundleInformation.h"
 #include "platform/DisplayLink.h"
 #include "platform/LocalKeyMonitor.h"
+#include "platform/StatusArea.h"
 #include "platform/TaskRunner.h"
 #include "platform/TimerMaker.h"
 
@@ -15,12 +16,13 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace tessaline {
 
-/// What happened, in order. The witnesses below write it down; those that stand before a port hand
-/// everything on.
+/// What happened, in order. The witnesses below write it down; those that stand before a port own
+/// what they hand everything on to.
 using Journal = QStringList;
 
 class JournalingRecorder final : public UsageRecorder {
@@ -51,9 +53,24 @@ private:
     Journal& journal;
 };
 
+class JournalingStatusArea final : public StatusArea {
+public:
+    explicit JournalingStatusArea(Journal& shared) : journal(shared) {}
+    bool isThere() const override { return true; }
+    bool opensMenus() const override { return false; }
+    QImage symbol(const QString& name, const QString&) const override {
+        journal << QStringLiteral("draw ") + name;
+        return {};
+    }
+
+private:
+    Journal& journal;
+};
+
 class JournalingPolicy final : public ActivationPolicy {
 public:
-    explicit JournalingPolicy(Journal& shared) : journal(shared) {}
+    JournalingPolicy(Journal& shared, std::unique_ptr<ActivationPolicy> /*real*/)
+        : journal(shared) {}
     void set(Kind kind) override {
         journal << (kind == Kind::regular ? QStringLiteral("policy regular")
                                           : QStringLiteral("policy accessory"));
@@ -66,78 +83,82 @@ private:
 
 class JournalingKeys final : public LocalKeyMonitor {
 public:
-    JournalingKeys(Journal& shared, LocalKeyMonitor& real) : journal(shared), keys(real) {}
+    JournalingKeys(Journal& shared, std::unique_ptr<LocalKeyMonitor> real)
+        : journal(shared), keys(std::move(real)) {}
     std::unique_ptr<Registration> start(Handler handler) override {
         journal << QStringLiteral("set up shortcuts");
-        return keys.start(std::move(handler));
+        return keys->start(std::move(handler));
     }
 
 private:
     Journal& journal;
-    LocalKeyMonitor& keys;
+    std::unique_ptr<LocalKeyMonitor> keys;
 };
 
 class JournalingTrust final : public AccessibilityTrust {
 public:
-    JournalingTrust(Journal& shared, AccessibilityTrust& real) : journal(shared), trust(real) {}
+    JournalingTrust(Journal& shared, std::unique_ptr<AccessibilityTrust> real)
+        : journal(shared), trust(std::move(real)) {}
     bool isTrusted() const override {
         journal << QStringLiteral("ask for trust");
-        return trust.isTrusted();
+        return trust->isTrusted();
     }
-    void requestWithPrompt() override { trust.requestWithPrompt(); }
+    void requestWithPrompt() override { trust->requestWithPrompt(); }
 
 private:
     Journal& journal;
-    AccessibilityTrust& trust;
+    std::unique_ptr<AccessibilityTrust> trust;
 };
 
 class JournalingTimers final : public TimerMaker {
 public:
-    JournalingTimers(Journal& shared, TimerMaker& real) : journal(shared), timers(real) {}
+    JournalingTimers(Journal& shared, std::unique_ptr<TimerMaker> real)
+        : journal(shared), timers(std::move(real)) {}
     std::unique_ptr<RepeatingTimer> every(Interval interval,
                                           std::function<void()> action) override {
         journal << QStringLiteral("timer %1").arg(interval.count());
-        return timers.every(interval, std::move(action));
+        return timers->every(interval, std::move(action));
     }
 
 private:
     Journal& journal;
-    TimerMaker& timers;
+    std::unique_ptr<TimerMaker> timers;
 };
 
 /// Where long texts are rendered.
 class JournalingRenderTasks final : public TaskRunner {
 public:
-    JournalingRenderTasks(Journal& shared, TaskRunner& real) : journal(shared), tasks(real) {}
+    JournalingRenderTasks(Journal& shared, std::unique_ptr<TaskRunner> real)
+        : journal(shared), tasks(std::move(real)) {}
     void run(std::function<void()> task) override {
         journal << QStringLiteral("render");
         if (onRun) onRun();
-        tasks.run(std::move(task));
+        tasks->run(std::move(task));
     }
 
     std::function<void()> onRun;
 
 private:
     Journal& journal;
-    TaskRunner& tasks;
+    std::unique_ptr<TaskRunner> tasks;
 };
 
 /// Learns where the prompter is from each placing of it.
 class JournalingDisplayLinks final : public DisplayLinkMaker {
 public:
-    JournalingDisplayLinks(Journal& shared, DisplayLinkMaker& real)
-        : journal(shared), links(real) {}
+    JournalingDisplayLinks(Journal& shared, std::unique_ptr<DisplayLinkMaker> real)
+        : journal(shared), links(std::move(real)) {}
     std::unique_ptr<DisplayLink> make(DisplayLink::Callback callback) override {
-        return links.make(std::move(callback));
+        return links->make(std::move(callback));
     }
     void setRefreshRate(double hertz) override {
         journal << QStringLiteral("place Tessaline");
-        links.setRefreshRate(hertz);
+        links->setRefreshRate(hertz);
     }
 
 private:
     Journal& journal;
-    DisplayLinkMaker& links;
+    std::unique_ptr<DisplayLinkMaker> links;
 };
 
 /// Writes down which windows get their title, which they do while they are constructed, and which

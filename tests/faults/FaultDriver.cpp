@@ -4,12 +4,10 @@
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"
 #include "sources/obsidian/InstalledObsidian.h"
-#include "support/FakeApplicationLookup.h"
 #include "support/FakeBundleInformation.h"
 #include "support/FakeFolderChooser.h"
-#include "support/FakeMainQueue.h"
 #include "support/FakePasteboard.h"
-#include "support/FakeTaskRunner.h"
+#include "support/TestPlatform.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -110,15 +108,10 @@ void paste(const QString& path) {
 }
 
 void install(const QString& home, bool accessIsGranted) {
-    const FakeApplicationLookup lookup;
-    FakeBundleInformation bundle;
-    bundle.resources = home + u"/resources"_s;
-    FakeFolderChooser chooser;
-    if (accessIsGranted) chooser.answer = home;
-    FakeMainQueue mainQueue;
-    FakeTaskRunner tasks;
-    InstalledObsidian obsidian(home, VaultRegistry(home),
-                               {lookup, bundle, chooser, mainQueue, tasks});
+    TestPlatform system;
+    system.bundle.resources = home + u"/resources"_s;
+    if (accessIsGranted) system.folderChooser.answer = home;
+    InstalledObsidian obsidian(home, VaultRegistry(home), system.platform);
     const Armed armed;
     const auto result = obsidian.installPlugin();
     print((result.success ? u"success: "_s : u"failure: "_s) + result.message + u'\n');

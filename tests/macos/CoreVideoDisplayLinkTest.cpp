@@ -1,6 +1,6 @@
 #include "macos/FakeCoreVideo.h"
 #include "platform/DisplayLink.h"
-#include "platform/SystemAdapters.h"
+#include "platform/macos/MacAdapters.h"
 
 #include <gmock/gmock.h>
 

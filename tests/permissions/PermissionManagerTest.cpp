@@ -7,6 +7,7 @@
 #include "support/FakeMainQueue.h"
 #include "support/FakeProcessRunner.h"
 #include "support/FakeTimerMaker.h"
+#include "support/TestPlatform.h"
 
 #include <gmock/gmock.h>
 
@@ -20,16 +21,9 @@ using namespace Qt::Literals::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class PermissionManagerTest : public testing::Test {
+class PermissionManagerTest : public testing::Test, public TestPlatform {
 protected:
-    FakeAccessibilityTrust trust;
-    FakeProcessRunner processes;
-    FakeBundleInformation bundle;
-    FakeTimerMaker timers;
-    FakeMainQueue mainQueue;
-    NotificationCenter notifications;
-    std::unique_ptr<PermissionManager> manager = std::make_unique<PermissionManager>(
-        PermissionPorts{trust, processes, bundle, timers, mainQueue, notifications});
+    std::unique_ptr<PermissionManager> manager = std::make_unique<PermissionManager>(platform);
 
     std::vector<bool> announced;
     NotificationCenter::Observation observer =
@@ -59,6 +53,8 @@ public:
         promptsBefore.push_back(trust.prompts);
         return {};
     }
+
+    void stop() override {}
 
     std::vector<int> promptsBefore;
 
@@ -137,9 +133,10 @@ TEST_F(PermissionManagerTest, AnnouncesNothingOnceItIsGone) {
 }
 
 TEST_F(PermissionManagerTest, ClearsTheStaleEntryBeforeItAsksForThePrompt) {
-    PromptCounter counter(trust);
-    PermissionManager watched({trust, counter, bundle, timers, mainQueue, notifications});
-    watched.resetAndRequestAccessibility();
+    auto watching = std::make_unique<PromptCounter>(trust);
+    const PromptCounter& counter = *watching;
+    platform.processes = std::move(watching);
+    manager->resetAndRequestAccessibility();
     EXPECT_THAT(counter.promptsBefore, ElementsAre(0));
     EXPECT_EQ(trust.prompts, 1);
 }

@@ -12,6 +12,7 @@
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
 #include "support/FakeWindowTraits.h"
+#include "support/TestPlatform.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -40,8 +41,7 @@ protected:
 
     PrompterWindow& window() {
         if (!prompter) {
-            prompter = std::make_unique<PrompterWindow>(
-                settings, PrompterPorts{queue, tasks, timers, links, screens, traits});
+            prompter = std::make_unique<PrompterWindow>(settings, fakes.platform);
             prompter->show();
         }
         return *prompter;
@@ -76,12 +76,13 @@ protected:
 
     QTemporaryDir folder;
     AppSettings settings{folder.filePath(QStringLiteral("config.json"))};
-    FakeMainQueue queue;
-    FakeTaskRunner tasks;
-    FakeTimerMaker timers;
-    FakeDisplayLinkMaker links;
-    FakeScreens screens;
-    FakeWindowTraits traits;
+    TestPlatform fakes;
+    FakeMainQueue& queue = fakes.mainQueue;
+    FakeTaskRunner& tasks = fakes.renderTasks;
+    FakeTimerMaker& timers = fakes.timers;
+    FakeDisplayLinkMaker& links = fakes.displayLinks;
+    FakeScreens& screens = fakes.screens;
+    FakeWindowTraits& traits = fakes.windowTraits;
     std::unique_ptr<PrompterWindow> prompter;
 };
 

@@ -106,8 +106,7 @@ TEST_F(PrompterWindowTest, KeepsItsHeightWhenItIsToggledInMidAnimation) {
 
 TEST_F(PrompterWindowTest, TakesALongTextWhileItIsHidden) {
     window().hide();
-    auto hidden = std::make_unique<PrompterWindow>(
-        settings, PrompterPorts{queue, tasks, timers, links, screens, traits});
+    auto hidden = std::make_unique<PrompterWindow>(settings, fakes.platform);
     hidden->updateText(u"line\n"_s.repeated(20000));
     queue.runAll();
     hidden->performScroll(-100);

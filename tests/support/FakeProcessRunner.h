@@ -21,7 +21,10 @@ public:
         return result;
     }
 
+    void stop() override { isStopped = true; }
+
     ProcessResult result;
+    bool isStopped = false;
     std::vector<Call> calls;
 };
 

@@ -23,8 +23,8 @@ class ConfigWindowFixture : public testing::Test {
 protected:
     ConfigWindow& window() {
         if (!built) {
-            built =
-                std::make_unique<ConfigWindow>(stage.settings, sourceManager.get(), stage.ports);
+            built = std::make_unique<ConfigWindow>(stage.settings, sourceManager.get(),
+                                                   stage.platform, stage.services);
             built->onSettingsChanged = [this] { ++settingsChanges; };
             built->onSourceChanged = [this](SourceType source) { sources.push_back(source); };
         }

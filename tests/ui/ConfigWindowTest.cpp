@@ -332,7 +332,8 @@ TEST_F(ConfigWindowTest, BuildingItChangesAndSavesNothing) {
 
 TEST(ConfigWindowGone, LeavesNoTimerBehind) {
     WindowStage stage;
-    auto window = std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.ports);
+    auto window =
+        std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.platform, stage.services);
     window->startPeriodicRefresh();
     window.reset();
     EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());

@@ -24,7 +24,7 @@ protected:
     OnboardingWindow& window() {
         if (!built) {
             built = std::make_unique<OnboardingWindow>(manager, stage.settings, sourceManager.get(),
-                                                       stage.ports);
+                                                       stage.platform, stage.services);
             built->onComplete = [this] { ++completions; };
             QObject::connect(built.get(), &OnboardingWindow::closedUnfinished,
                              [this] { ++closings; });
@@ -58,7 +58,7 @@ protected:
     }
 
     WindowStage stage;
-    PermissionManager manager{stage.ports.permissions};
+    PermissionManager manager{stage.platform};
     std::unique_ptr<SourceManager> sourceManager;
     int completions = 0;
     int closings = 0;

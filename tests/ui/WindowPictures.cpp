@@ -75,7 +75,7 @@ struct Set : WindowStage {
 
 struct Settings : Set {
     std::unique_ptr<ConfigWindow> build() {
-        auto window = std::make_unique<ConfigWindow>(settings, nullptr, ports);
+        auto window = std::make_unique<ConfigWindow>(settings, nullptr, platform, services);
         window->setScreenManager(&manager);
         window->refreshUI();
         return window;
@@ -151,8 +151,8 @@ void takeOnboarding(const Camera& camera) {
             PermissionManager manager;
             OnboardingWindow window;
             explicit Shown(Set& stage)
-                : manager(stage.ports.permissions)
-                , window(manager, stage.settings, nullptr, stage.ports) {}
+                : manager(stage.platform)
+                , window(manager, stage.settings, nullptr, stage.platform, stage.services) {}
         };
         return std::make_unique<Shown>(set);
     };

@@ -18,7 +18,8 @@
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
 #include "support/RecordingUsageRecorder.h"
-#include "ui/WindowPorts.h"
+#include "support/TestPlatform.h"
+#include "ui/Services.h"
 
 #include <QTemporaryDir>
 
@@ -28,7 +29,7 @@ namespace tessaline {
 
 /// Everything around the settings window and the first-run window, made of fakes: settings in a
 /// folder of their own and one display, 1000 points wide, without a name.
-class WindowStage {
+class WindowStage : public TestPlatform {
 public:
     WindowStage() {
         const Rect frame{0, 0, 1000, 800};
@@ -71,25 +72,10 @@ public:
     QTemporaryDir folder;
     const QString configPath = folder.filePath(QStringLiteral("config.json"));
     AppSettings settings{configPath};
-    FakeAccessibilityTrust trust;
-    FakeProcessRunner processes;
-    FakeBundleInformation bundle;
-    FakeTimerMaker timers;
-    FakeMainQueue mainQueue;
-    FakeTaskRunner tasks;
-    NotificationCenter notifications;
-    FakeScreens screens;
     RecordingUsageRecorder recorder;
     FakeObsidianIntegration obsidian;
     FakeNoteLibrary notes;
-    FakeFileIcons icons;
-    FakePasteboard pasteboard;
-    WindowPorts ports{{trust, processes, bundle, timers, mainQueue, notifications},
-                      screens,
-                      recorder,
-                      obsidian,
-                      notes,
-                      icons};
+    Services services{recorder, obsidian, notes};
 };
 
 } // namespace tessaline

@@ -3,6 +3,7 @@
 #include "analytics/UsageRecorder.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/MainQueue.h"
+#include "platform/Platform.h"
 
 #include <iostream>
 #include <utility>
@@ -38,35 +39,36 @@ bool hasControl(ModifierFlags modifiers) {
 
 } // namespace
 
-Shortcuts::Shortcuts(const Ports& borrowedPorts, Actions givenActions)
-    : ports(borrowedPorts), actions(std::move(givenActions)) {}
+Shortcuts::Shortcuts(const Platform& borrowedPlatform, UsageRecorder& usageRecorder,
+                     Actions givenActions)
+    : platform(borrowedPlatform), recorder(usageRecorder), actions(std::move(givenActions)) {}
 
 Shortcuts::~Shortcuts() = default;
 
 void Shortcuts::setupShortcuts() {
-    localMonitor = ports.localKeys.start(
+    localMonitor = platform.localKeys->start(
         lifetime.guard([this](const KeyEvent& key) { return handleKeyDown(key); }));
-    lastKnownAccessibilityState = ports.trust.isTrusted();
+    lastKnownAccessibilityState = platform.trust->isTrusted();
     trySetupGlobalShortcuts();
     accessibilityPollTimer =
-        ports.timers.every(accessibilityPollInterval, [this] { pollAccessibility(); });
+        platform.timers->every(accessibilityPollInterval, [this] { pollAccessibility(); });
 }
 
 void Shortcuts::pollAccessibility() {
-    const bool trusted = ports.trust.isTrusted();
+    const bool trusted = platform.trust->isTrusted();
     if (trusted != lastKnownAccessibilityState) {
         lastKnownAccessibilityState = trusted;
         tapFailureReported = false;
-        ports.recorder.trackPermissionStatus(PermissionType::accessibility, trusted);
+        recorder.trackPermissionStatus(PermissionType::accessibility, trusted);
     }
     // Also without a change: what another program held before may be free by now.
     trySetupGlobalShortcuts();
 }
 
 void Shortcuts::trySetupGlobalShortcuts() {
-    if (!ports.trust.isTrusted()) return;
+    if (!platform.trust->isTrusted()) return;
     if (!globalMonitor) {
-        globalMonitor = ports.globalKeys.start(
+        globalMonitor = platform.globalKeys->start(
             toggleChord(),
             lifetime.guard([this](const KeyEvent& key) { handleGlobalKeyDown(key); }));
     }
@@ -104,7 +106,7 @@ void Shortcuts::toggleScroll(const KeyEvent& key) {
 
 void Shortcuts::setupGlobalScrollEventTap() {
     if (scrollEventTap) return;
-    scrollEventTap = ports.eventTaps.create(
+    scrollEventTap = platform.eventTaps->create(
         lifetime.guard([this](const TapEvent& event) { return handleScrollEventTap(event); }));
     if (scrollEventTap || std::exchange(tapFailureReported, true)) return;
     std::cout << "Failed to create scroll event tap" << std::endl;
@@ -134,12 +136,12 @@ EventTap::Verdict Shortcuts::handleScrollEventTap(const TapEvent& event) {
 EventTap::Verdict Shortcuts::scrollLater(const TapEvent& event) {
     const double delta = event.hasPreciseDeltas ? event.scrollingDeltaY
                                                 : event.scrollingDeltaY * shortcutScrollMultiplier;
-    ports.mainQueue.post(lifetime.guard([this, delta] { actions.performScroll(delta); }));
+    platform.mainQueue->post(lifetime.guard([this, delta] { actions.performScroll(delta); }));
     return EventTap::Verdict::swallow;
 }
 
 EventTap::Verdict Shortcuts::toggleLater() {
-    ports.mainQueue.post(lifetime.guard([this] { actions.toggleScroll(); }));
+    platform.mainQueue->post(lifetime.guard([this] { actions.toggleScroll(); }));
     return EventTap::Verdict::swallow;
 }
 

@@ -11,9 +11,8 @@
 
 namespace tessaline {
 
-class AccessibilityTrust;
-class MainQueue;
 class UsageRecorder;
+struct Platform;
 
 /// Keyboard shortcuts and pointer gestures that drive the prompter, in windows of ours and, while
 /// the system allows it, in those of other applications. Nothing that was set up is removed before
@@ -23,17 +22,6 @@ public:
     static constexpr double shortcutScrollStep = 40.0;       ///< points per Control + arrow key
     static constexpr double shortcutScrollMultiplier = 80.0; ///< points per line of a wheel
 
-    /// What is borrowed for the whole life.
-    struct Ports {
-        AccessibilityTrust& trust;
-        TimerMaker& timers;
-        MainQueue& mainQueue;
-        LocalKeyMonitor& localKeys;
-        GlobalKeyMonitor& globalKeys;
-        EventTapMaker& eventTaps;
-        UsageRecorder& recorder;
-    };
-
     /// What the shortcuts do. Those for keys run at once, those for the pointer from the main
     /// queue.
     struct Actions {
@@ -42,7 +30,8 @@ public:
         std::function<void()> paste;
     };
 
-    Shortcuts(const Ports& ports, Actions actions);
+    /// Borrows the platform and the recorder.
+    Shortcuts(const Platform& platform, UsageRecorder& recorder, Actions actions);
     ~Shortcuts();
     Shortcuts(const Shortcuts&) = delete;
     Shortcuts& operator=(const Shortcuts&) = delete;
@@ -64,7 +53,8 @@ private:
     EventTap::Verdict scrollLater(const TapEvent& event);
     EventTap::Verdict toggleLater();
 
-    Ports ports;
+    const Platform& platform;
+    UsageRecorder& recorder;
     const Actions actions;
     Lifetime lifetime;
     bool lastKnownAccessibilityState = false;

@@ -1,5 +1,5 @@
-#include "platform/SystemAdapters.h"
 #include "platform/macos/CoreVideoDisplayLink.h"
+#include "platform/macos/MacAdapters.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "platform/ApplicationLookup.h"
-#include "platform/SystemAdapters.h"
 #include "platform/macos/CfHolder.h"
+#include "platform/macos/MacAdapters.h"
 
 #import <AppKit/AppKit.h>
 #import <CoreServices/CoreServices.h>

@@ -1,6 +1,6 @@
 #include "platform/BundleInformation.h"
-#include "platform/SystemAdapters.h"
 #include "platform/macos/CfHolder.h"
+#include "platform/macos/MacAdapters.h"
 
 #include <QFile>
 

@@ -1,4 +1,5 @@
-#include "platform/SystemAdapters.h"
+#include "platform/DisplaySession.h"
+#include "platform/macos/MacAdapters.h"
 
 #include <QScreen>
 

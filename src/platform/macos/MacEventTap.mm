@@ -1,6 +1,6 @@
 #include "platform/EventTap.h"
-#include "platform/SystemAdapters.h"
 #include "platform/macos/CfHolder.h"
+#include "platform/macos/MacAdapters.h"
 #include "platform/macos/MacModifierFlags.h"
 
 #import <AppKit/AppKit.h>

@@ -1,5 +1,5 @@
 #include "platform/FileIcons.h"
-#include "platform/SystemAdapters.h"
+#include "platform/macos/MacAdapters.h"
 #include "platform/macos/MacImage.h"
 
 #include <QPixmap>

@@ -1,5 +1,5 @@
 #include "platform/FolderChooser.h"
-#include "platform/SystemAdapters.h"
+#include "platform/macos/MacAdapters.h"
 
 #import <AppKit/AppKit.h>
 

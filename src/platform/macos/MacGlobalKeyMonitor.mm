@@ -1,5 +1,5 @@
 #include "platform/GlobalKeyMonitor.h"
-#include "platform/SystemAdapters.h"
+#include "platform/macos/MacAdapters.h"
 #include "platform/macos/MacModifierFlags.h"
 
 #include <QLoggingCategory>

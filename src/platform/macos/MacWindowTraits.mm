@@ -1,5 +1,5 @@
-#include "platform/SystemAdapters.h"
 #include "platform/WindowTraits.h"
+#include "platform/macos/MacAdapters.h"
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
 #include <QGuiApplication>

@@ -11,10 +11,7 @@ namespace tessaline {
 class QtProcessRunner final : public ProcessRunner {
 public:
     ProcessResult run(const QString& program, const QStringList& arguments) override;
-
-    /// Kills the programs that run, within a moment, and starts no others: for the end of our own
-    /// program, which should not wait for theirs.
-    void stop() { stopping = true; }
+    void stop() override { stopping = true; }
 
 private:
     std::atomic<bool> stopping = false;

@@ -2,6 +2,7 @@
 
 #include "platform/ApplicationLookup.h"
 #include "platform/MainQueue.h"
+#include "platform/Platform.h"
 #include "platform/TaskRunner.h"
 #include "sources/obsidian/CommunityPlugins.h"
 #include "sources/obsidian/CompanionPlugin.h"
@@ -28,19 +29,19 @@ bool isEnabledIn(const QString& vault) {
 } // namespace
 
 InstalledObsidian::InstalledObsidian(const QString& home, VaultRegistry vaults,
-                                     const Ports& borrowed)
+                                     const Platform& borrowed)
     : homeFolder(home)
     , registry(std::move(vaults))
-    , ports(borrowed)
-    , installer(registry, ports.bundle, ports.chooser) {}
+    , platform(borrowed)
+    , installer(registry, *platform.bundle, *platform.folderChooser) {}
 
 std::optional<QString> InstalledObsidian::obsidianAppPath() const {
-    return locateObsidian(ports.applications, homeFolder);
+    return locateObsidian(*platform.applications, homeFolder);
 }
 
 bool InstalledObsidian::isObsidianPresent() const {
     if (obsidianAppPath()) return true;
-    if (ports.applications.knowsEveryApplication()) return false;
+    if (platform.applications->knowsEveryApplication()) return false;
     const auto vault = findObsidianVault();
     return vault && QFileInfo(*vault).isDir();
 }
@@ -60,14 +61,14 @@ bool InstalledObsidian::isPluginEnabled() const {
 }
 
 void InstalledObsidian::lookUpPlugin(std::function<void(PluginState)> deliver) const {
-    ports.tasks.run(
-        [registry = registry, &queue = ports.mainQueue, deliver = std::move(deliver)]() mutable {
-            PluginState state;
-            if (const auto vault = registry.findVault())
-                state = {isInstalledIn(*vault), isEnabledIn(*vault)};
-            // The callback moves on with the state, so that it is destroyed on the main thread.
-            queue.post([state, deliver = std::move(deliver)] { deliver(state); });
-        });
+    platform.queryTasks->run([registry = registry, &queue = *platform.mainQueue,
+                              deliver = std::move(deliver)]() mutable {
+        PluginState state;
+        if (const auto vault = registry.findVault())
+            state = {isInstalledIn(*vault), isEnabledIn(*vault)};
+        // The callback moves on with the state, so that it is destroyed on the main thread.
+        queue.post([state, deliver = std::move(deliver)] { deliver(state); });
+    });
 }
 
 ObsidianIntegration::InstallResult InstalledObsidian::installPlugin() {

@@ -8,25 +8,13 @@
 
 namespace tessaline {
 
-class ApplicationLookup;
-class BundleInformation;
-class FolderChooser;
-class MainQueue;
-class TaskRunner;
+struct Platform;
 
 /// The Obsidian on this machine, as its files tell. Main thread only.
 class InstalledObsidian final : public ObsidianIntegration {
 public:
-    /// All of it must outlive this. The plug-in's files are in the bundle's resources.
-    struct Ports {
-        const ApplicationLookup& applications;
-        const BundleInformation& bundle;
-        FolderChooser& chooser;
-        MainQueue& mainQueue;
-        TaskRunner& tasks;
-    };
-
-    InstalledObsidian(const QString& homeFolder, VaultRegistry registry, const Ports& ports);
+    /// Borrows the platform. The plug-in's files are in the bundle's resources.
+    InstalledObsidian(const QString& homeFolder, VaultRegistry registry, const Platform& platform);
 
     std::optional<QString> obsidianAppPath() const override;
     bool isObsidianPresent() const override;
@@ -39,7 +27,7 @@ public:
 private:
     const QString homeFolder;
     const VaultRegistry registry;
-    const Ports ports;
+    const Platform& platform;
     const PluginInstaller installer;
 };
 

@@ -7,7 +7,7 @@
 #include "sources/ObsidianIntegration.h"
 #include "ui/Alert.h"
 #include "ui/ObsidianIcon.h"
-#include "ui/WindowPorts.h"
+#include "ui/Services.h"
 #include "ui/controls/BezelButton.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/Rows.h"
@@ -27,13 +27,14 @@ constexpr double emojiSize = 16;
 
 } // namespace
 
-IntegrationsSection::IntegrationsSection(const AppSettings& shared, const WindowPorts& borrowed,
-                                         QWidget* parent)
+IntegrationsSection::IntegrationsSection(const AppSettings& shared, const Services& borrowed,
+                                         const FileIcons& fileIcons, QWidget* parent)
     : QWidget(parent)
     , clipboardToggle(new Switch(displayName(SourceType::clipboard)))
     , obsidianToggle(new Switch(displayName(SourceType::obsidian)))
     , settings(shared)
-    , ports(borrowed) {
+    , services(borrowed)
+    , icons(fileIcons) {
     setFixedWidth(settingsColumnWidth);
     clipboardToggle->setObjectName(u"clipboardToggle"_s);
     clipboardToggle->setChecked(true);
@@ -52,7 +53,7 @@ IntegrationsSection::IntegrationsSection(const AppSettings& shared, const Window
 }
 
 QLabel* IntegrationsSection::createObsidianIcon() const {
-    if (QLabel* icon = makeObsidianIcon(ports, iconSize)) return icon;
+    if (QLabel* icon = makeObsidianIcon(services.obsidian, icons, iconSize)) return icon;
     return makeIconLabel(u"📄"_s, emojiSize, iconSize);
 }
 
@@ -107,7 +108,7 @@ void IntegrationsSection::updateObsidianStatus() {
         obsidianStatusLabel->clear();
         return;
     }
-    showPlugin(ports.obsidian.isPluginInstalled(), ports.obsidian.isPluginEnabled());
+    showPlugin(services.obsidian.isPluginInstalled(), services.obsidian.isPluginEnabled());
 }
 
 void IntegrationsSection::refreshObsidianStatus() {
@@ -116,7 +117,7 @@ void IntegrationsSection::refreshObsidianStatus() {
         return;
     }
     if (std::exchange(isLookingUp, true)) return;
-    ports.obsidian.lookUpPlugin(lifetime.guard([this, asked = updates](const auto& state) {
+    services.obsidian.lookUpPlugin(lifetime.guard([this, asked = updates](const auto& state) {
         isLookingUp = false;
         // An update in the meantime knows better.
         if (updates == asked) showPlugin(state.installed, state.enabled);
@@ -133,13 +134,13 @@ void IntegrationsSection::showPlugin(bool installed, bool enabled) {
 }
 
 void IntegrationsSection::reinstallObsidianPlugin() {
-    const auto [success, message] = ports.obsidian.installPlugin();
-    ports.recorder.trackObsidianPluginInstalled(success);
+    const auto [success, message] = services.obsidian.installPlugin();
+    services.recorder.trackObsidianPluginInstalled(success);
     AlertContent content;
     content.messageText = success ? u"Plugin Reinstalled"_s : u"Installation Failed"_s;
     content.informativeText = message;
     content.style = success ? AlertContent::Style::informational : AlertContent::Style::warning;
-    if (success) content.icon = obsidianIcon(ports);
+    if (success) content.icon = obsidianIcon(services.obsidian, icons);
     Alert::beginSheet(*window(), content);
     updateObsidianStatus();
 }

@@ -10,9 +10,10 @@ class QPushButton;
 namespace tessaline {
 
 class AppSettings;
+class FileIcons;
 class StatusDot;
 class Switch;
-struct WindowPorts;
+struct Services;
 
 /// The sources that can be switched on, and what Obsidian's plug-in is up to. Main thread only.
 class IntegrationsSection : public QWidget {
@@ -20,8 +21,8 @@ class IntegrationsSection : public QWidget {
 
 public:
     /// Borrows everything.
-    IntegrationsSection(const AppSettings& settings, const WindowPorts& ports,
-                        QWidget* parent = nullptr);
+    IntegrationsSection(const AppSettings& settings, const Services& services,
+                        const FileIcons& icons, QWidget* parent = nullptr);
 
     /// Sets the Obsidian switch to what the settings say.
     void showSettings();
@@ -53,7 +54,8 @@ private:
     void showPlugin(bool installed, bool enabled);
 
     const AppSettings& settings;
-    const WindowPorts& ports;
+    const Services& services;
+    const FileIcons& icons;
     QWidget* statusRow = nullptr;
     bool isLookingUp = false;
     int updates = 0; ///< of the status, so far

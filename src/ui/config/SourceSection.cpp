@@ -3,7 +3,6 @@
 #include "appearance/PointFont.h"
 #include "settings/AppSettings.h"
 #include "sources/SourceManager.h"
-#include "ui/WindowPorts.h"
 #include "ui/config/NotePicker.h"
 #include "ui/controls/BezelButton.h"
 #include "ui/controls/PopupButton.h"
@@ -24,9 +23,9 @@ constexpr int spacingBelowTitle = 10;
 
 } // namespace
 
-SourceSection::SourceSection(AppSettings& shared, SourceManager* manager,
-                             const WindowPorts& borrowed, QWidget* parent)
-    : QWidget(parent), settings(shared), sourceManager(manager), ports(borrowed) {
+SourceSection::SourceSection(AppSettings& shared, SourceManager* manager, NoteLibrary& library,
+                             QWidget* parent)
+    : QWidget(parent), settings(shared), sourceManager(manager), notes(library) {
     QVBoxLayout* column = layOutColumn(*this, spacing);
     auto* title = new SectionTitle(u"Active Source"_s);
     column->addWidget(title);
@@ -127,13 +126,12 @@ void SourceSection::sourceTypeChanged() {
 void SourceSection::browseForFile() {}
 
 void SourceSection::selectNote() {
-    NotePicker::pick(*window(), ports.notes,
-                     lifetime.guard([this](const AppleNotesConfiguration& note) {
-                         settings.appleNotesConfig = note;
-                         settings.save();
-                         if (sourceManager) sourceManager->updateAppleNotesConfig(note);
-                         noteNameField->showText(note.noteName);
-                     }));
+    NotePicker::pick(*window(), notes, lifetime.guard([this](const AppleNotesConfiguration& note) {
+        settings.appleNotesConfig = note;
+        settings.save();
+        if (sourceManager) sourceManager->updateAppleNotesConfig(note);
+        noteNameField->showText(note.noteName);
+    }));
 }
 
 } // namespace tessaline

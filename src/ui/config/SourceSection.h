@@ -13,10 +13,10 @@ class QPushButton;
 namespace tessaline {
 
 class AppSettings;
+class NoteLibrary;
 class PopupButton;
 class SourceManager;
 class TruncatingLabel;
-struct WindowPorts;
 
 /// The choice of the active source, with its title, and for Apple Notes of the note. Main thread
 /// only.
@@ -25,7 +25,7 @@ class SourceSection : public QWidget {
 
 public:
     /// Borrows everything; `sourceManager` may be null.
-    SourceSection(AppSettings& settings, SourceManager* sourceManager, const WindowPorts& ports,
+    SourceSection(AppSettings& settings, SourceManager* sourceManager, NoteLibrary& notes,
                   QWidget* parent = nullptr);
 
     /// Lists the enabled sources and selects the active one.
@@ -57,7 +57,7 @@ private:
 
     AppSettings& settings;
     SourceManager* sourceManager;
-    const WindowPorts& ports;
+    NoteLibrary& notes;
     Lifetime lifetime;
 };
 

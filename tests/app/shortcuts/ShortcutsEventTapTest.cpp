@@ -138,8 +138,10 @@ public:
 };
 
 TEST_F(ShortcutsEventTap, SwitchesNothingOnWhileThereIsNoTap) {
-    HastyTapMaker maker;
-    Shortcuts other({trust, timers, mainQueue, localKeys, globalKeys, maker, recorder}, {});
+    auto hasty = std::make_unique<HastyTapMaker>();
+    const HastyTapMaker& maker = *hasty;
+    platform.eventTaps = std::move(hasty);
+    Shortcuts other(platform, recorder, {});
     other.setupShortcuts();
     EXPECT_EQ(maker.verdict, Verdict::passOn);
 }

@@ -9,6 +9,7 @@
 #include "support/FakeMainQueue.h"
 #include "support/FakeTimerMaker.h"
 #include "support/RecordingUsageRecorder.h"
+#include "support/TestPlatform.h"
 
 #include <gmock/gmock.h>
 
@@ -18,7 +19,7 @@
 namespace tessaline {
 
 /// Shortcuts among fakes; counts what they do.
-class ShortcutsFixture : public ::testing::Test {
+class ShortcutsFixture : public ::testing::Test, public TestPlatform {
 protected:
     static constexpr ModifierFlags toggleModifiers =
         Modifier::control | Modifier::shift | Modifier::command;
@@ -39,18 +40,12 @@ protected:
         shortcuts->setupShortcuts();
     }
 
-    FakeAccessibilityTrust trust;
-    FakeTimerMaker timers;
-    FakeMainQueue mainQueue;
-    FakeLocalKeyMonitor localKeys;
-    FakeGlobalKeyMonitor globalKeys;
-    FakeEventTapMaker eventTaps;
     RecordingUsageRecorder recorder;
     std::vector<double> scrolls;
     int toggles = 0;
     int pastes = 0;
     std::unique_ptr<Shortcuts> shortcuts = std::make_unique<Shortcuts>(
-        Shortcuts::Ports{trust, timers, mainQueue, localKeys, globalKeys, eventTaps, recorder},
+        platform, recorder,
         Shortcuts::Actions{.performScroll = [this](double deltaY) { scrolls.push_back(deltaY); },
                            .toggleScroll = [this] { ++toggles; },
                            .paste = [this] { ++pastes; }});

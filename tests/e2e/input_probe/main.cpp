@@ -4,12 +4,10 @@
 #include "analytics/UsageRecorder.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "platform/AccessibilityTrust.h"
-#include "platform/SystemAdapters.h"
+#include "platform/Platform.h"
 #include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/X11Modifiers.h"
 #include "platform/linux/x11/X11PassiveGrab.h"
-#include "platform/qt/QtMainQueue.h"
-#include "platform/qt/QtTimerMaker.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -36,7 +34,7 @@ public:
 class Prompter {
 public:
     Prompter()
-        : shortcuts({*trust, timers, queue, *localKeys, *globalKeys, *taps, recorder},
+        : shortcuts(*platform, recorder,
                     {.performScroll =
                          [](double y) {
                              report(u"scroll"_s, {{u"delta"_s, y}});
@@ -44,17 +42,12 @@ public:
                      .toggleScroll = [] { report(u"toggle"_s, {}); },
                      .paste = [] { report(u"paste"_s, {}); }}) {
         shortcuts.setupShortcuts();
-        report(u"trust"_s, {{u"trusted"_s, trust->isTrusted()}});
+        report(u"trust"_s, {{u"trusted"_s, platform->trust->isTrusted()}});
     }
 
 private:
-    QtMainQueue queue;
-    QtTimerMaker timers;
+    const std::unique_ptr<Platform> platform = makePlatform();
     SilentRecorder recorder;
-    const std::unique_ptr<AccessibilityTrust> trust = makeAccessibilityTrust();
-    const std::unique_ptr<LocalKeyMonitor> localKeys = makeLocalKeyMonitor();
-    const std::unique_ptr<GlobalKeyMonitor> globalKeys = makeGlobalKeyMonitor();
-    const std::unique_ptr<EventTapMaker> taps = makeEventTapMaker();
     Shortcuts shortcuts;
 };
 

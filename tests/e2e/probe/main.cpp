@@ -1,13 +1,10 @@
 #include "ProbeReport.h"
 #include "ProbeWindow.h"
 
-#include "platform/NotificationCenter.h"
-#include "platform/ReservedEdges.h"
-#include "platform/SystemAdapters.h"
+#include "platform/Platform.h"
+#include "platform/Screens.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FocusOnClick.h"
-#include "platform/qt/QtMainQueue.h"
-#include "platform/qt/QtScreens.h"
 #include "screens/ScreenManager.h"
 
 #include <QApplication>
@@ -63,18 +60,16 @@ int main(int argc, char** argv) {
     parser.process(application);
     const QString kind = parser.positionalArguments().value(0);
 
-    NotificationCenter notifications;
-    QtMainQueue queue;
-    const QtScreens screens(notifications, queue, identifyScreen, makeReservedEdges());
-    ScreenManager manager(screens, notifications);
+    const auto platform = makePlatform();
+    const Screens& screens = *platform->screens;
+    ScreenManager manager(screens, *platform->notifications);
     manager.onScreenChange = [&] { reportScreens(screens, manager); };
     reportScreens(screens, manager);
 
-    const auto traits = makeWindowTraits();
     ProbeWindow window{QColor(parser.positionalArguments().value(1))};
     window.setWindowTitle(kind);
     if (kind == "floating"_L1) {
-        showFloating(window, *traits);
+        showFloating(window, *platform->windowTraits);
     } else if (kind == "fullscreen"_L1) {
         window.showFullScreen();
     } else {

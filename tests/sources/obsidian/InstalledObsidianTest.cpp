@@ -2,10 +2,11 @@
 
 #include "sources/obsidian/ObsidianHome.h"
 #include "support/FakeApplicationLookup.h"
-#include "support/FakeFolderChooser.h"
+#include "support/FakeBundleInformation.h"
 #include "support/FakeMainQueue.h"
 #include "support/FakeTaskRunner.h"
 #include "support/PrintQt.h"
+#include "support/TestPlatform.h"
 
 #include <gtest/gtest.h>
 
@@ -18,13 +19,14 @@ namespace {
 
 class InstalledObsidianTest : public ::testing::Test {
 protected:
+    InstalledObsidianTest() { system.bundle.resources = home.bundle.resources; }
+
     ObsidianHome home;
-    FakeApplicationLookup lookup;
-    FakeFolderChooser chooser;
-    FakeMainQueue mainQueue;
-    FakeTaskRunner tasks;
-    InstalledObsidian obsidian{
-        home.path(), VaultRegistry(home.path()), {lookup, home.bundle, chooser, mainQueue, tasks}};
+    TestPlatform system;
+    FakeApplicationLookup& lookup = system.applications;
+    FakeMainQueue& mainQueue = system.mainQueue;
+    FakeTaskRunner& tasks = system.queryTasks;
+    InstalledObsidian obsidian{home.path(), VaultRegistry(home.path()), system.platform};
 };
 
 using PluginState = ObsidianIntegration::PluginState;

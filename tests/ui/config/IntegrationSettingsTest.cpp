@@ -185,7 +185,8 @@ TEST_F(IntegrationSettings, ALookUpThatEndsAfterAnInstallationChangesNothing) {
 TEST_F(IntegrationSettings, ALookUpThatEndsAfterTheWindowIsHarmless) {
     enableObsidian();
     stage.installObsidian();
-    auto doomed = std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.ports);
+    auto doomed =
+        std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.platform, stage.services);
     doomed->startPeriodicRefresh();
     stage.timers.advance(2);
     doomed.reset();

@@ -158,8 +158,8 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
 
 TEST_F(SourceSettings, GiveThePickedNoteToTheSourceThatReadsIt) {
     useSourceManager();
-    auto source = std::make_unique<AppleNotesSource>(stage.mainQueue, stage.tasks, stage.timers,
-                                                     stage.processes);
+    auto source = std::make_unique<AppleNotesSource>(stage.mainQueue, stage.renderTasks,
+                                                     stage.timers, stage.processes);
     const AppleNotesSource& reader = *source;
     sourceManager->registerSource(SourceType::appleNotes, std::move(source));
     useNotes();
@@ -223,7 +223,8 @@ TEST_F(SourceSettings, TellAnyOtherFailure) {
 TEST(SourceSettingsGone, ANoteListThatComesTooLateFindsNobody) {
     WindowStage stage;
     stage.settings.activeSourceType = SourceType::appleNotes;
-    auto window = std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.ports);
+    auto window =
+        std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.platform, stage.services);
     window->findChild<QPushButton*>(u"selectNoteButton"_s)->click();
     ASSERT_EQ(stage.notes.requests, 1);
     window.reset();

@@ -48,6 +48,11 @@ bool isNamedAfter(const QString& entryId, const QString& bundleIdentifier) {
 
 DesktopEntries::DesktopEntries(QStringList dataFolders) : folders(std::move(dataFolders)) {}
 
+DesktopEntries DesktopEntries::installed() {
+    return DesktopEntries(
+        standardFolders([](const char* name) { return qEnvironmentVariable(name); }));
+}
+
 QStringList DesktopEntries::standardFolders(const Environment& variable) {
     const QString home = QDir::homePath();
     QStringList folders;

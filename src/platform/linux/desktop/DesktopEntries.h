@@ -26,6 +26,9 @@ public:
     /// that has an entry of some name wins.
     explicit DesktopEntries(QStringList dataFolders);
 
+    /// Those in the standard folders of the program's environment.
+    static DesktopEntries installed();
+
     /// The user's and the system's data folders as the environment names them, and those of Flatpak
     /// and Snap.
     using Environment = std::function<QString(const char* name)>;

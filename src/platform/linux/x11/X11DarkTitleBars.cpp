@@ -18,11 +18,13 @@ constexpr std::string_view dark = "dark";
 } // namespace
 
 X11DarkTitleBars::X11DarkTitleBars(xcb_connection_t* qtConnection)
-    : QObject(qGuiApp)
-    , connection(qtConnection)
+    : connection(qtConnection)
     , variant(xcbAtom(connection, "_GTK_THEME_VARIANT"))
-    , utf8(xcbAtom(connection, "UTF8_STRING")) {
+    , utf8(xcbAtom(connection, "UTF8_STRING")) {}
+
+bool X11DarkTitleBars::showDark() {
     qGuiApp->installEventFilter(this);
+    return false;
 }
 
 bool X11DarkTitleBars::eventFilter(QObject* watched, QEvent* event) {

@@ -1,7 +1,6 @@
 #include "platform/linux/desktop/DesktopFileIcons.h"
 
-#include "platform/ApplicationLookup.h"
-#include "platform/SystemAdapters.h"
+#include "platform/linux/desktop/DesktopApplicationLookup.h"
 #include "support/PrintQt.h"
 #include "support/TestFiles.h"
 
@@ -126,11 +125,12 @@ TEST_F(DesktopFileIconsTest, ShowTheObsidianThatTheLookupFinds) {
     const QString program = putApplication(u"tessaline-test-icon"_s);
     const QByteArray previous = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", data.path().toUtf8());
-    const auto path = makeApplicationLookup()->workspaceApplicationPath(u"md.obsidian"_s);
-    const auto systemIcons = makeFileIcons();
+    const auto path = DesktopApplicationLookup(DesktopEntries::installed())
+                          .workspaceApplicationPath(u"md.obsidian"_s);
+    const DesktopFileIcons systemIcons(DesktopEntries::installed());
     qputenv("XDG_DATA_HOME", previous);
     EXPECT_EQ(path, program);
-    EXPECT_EQ(colorOf(systemIcons->iconForFile(program)), QColor(Qt::blue));
+    EXPECT_EQ(colorOf(systemIcons.iconForFile(program)), QColor(Qt::blue));
 }
 
 } // namespace

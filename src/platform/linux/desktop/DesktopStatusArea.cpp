@@ -1,14 +1,11 @@
-#include "platform/SystemAdapters.h"
-#include "platform/linux/x11/XcbAtom.h"
-#include "platform/linux/x11/XcbReply.h"
+#include "platform/linux/desktop/DesktopStatusArea.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QGuiApplication>
 
-#include <xcb/xcb.h>
+#include <utility>
 
 namespace tessaline {
 
@@ -35,21 +32,17 @@ bool hasStatusNotifierHost() {
     return answer.arguments().value(0).value<QDBusVariant>().variant().toBool();
 }
 
-/// Whether a panel takes icons as windows.
-bool hasTrayWindow() {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11) return false;
-    xcb_connection_t* connection = x11->connection();
-    static const auto traySelection = xcbAtom(connection, "_NET_SYSTEM_TRAY_S0");
-    const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-        connection, xcb_get_selection_owner(connection, traySelection), nullptr));
-    return reply && reply->owner != XCB_NONE;
-}
-
 } // namespace
 
-bool hasStatusArea() {
-    return hasStatusNotifierHost() || hasTrayWindow();
+DesktopStatusArea::DesktopStatusArea(std::function<bool()> serverHasTray)
+    : hasTray(std::move(serverHasTray)) {}
+
+bool DesktopStatusArea::isThere() const {
+    return hasStatusNotifierHost() || hasTray();
+}
+
+QImage DesktopStatusArea::symbol(const QString& /*name*/, const QString& /*description*/) const {
+    return {};
 }
 
 } // namespace tessaline

@@ -1,4 +1,4 @@
-#include "platform/linux/x11/ConnectorIdentity.h"
+#include "platform/linux/desktop/ConnectorIdentity.h"
 
 #include <QByteArray>
 #include <QScreen>
@@ -44,7 +44,7 @@ ScreenIdentity connectorIdentity(const QString& connector, const QString& manufa
     return {hash == 0 ? 1 : hash, isBuiltIn(connector)};
 }
 
-ScreenIdentity connectorIdentity(const QScreen& screen) {
+ScreenIdentity identifyByConnector(const QScreen& screen) {
     return connectorIdentity(screen.name(), screen.manufacturer(), screen.model(),
                              screen.serialNumber());
 }

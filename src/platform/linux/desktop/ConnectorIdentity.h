@@ -15,6 +15,6 @@ ScreenIdentity connectorIdentity(const QString& connector, const QString& manufa
                                  const QString& model, const QString& serialNumber);
 
 /// The same for a screen of Qt's.
-ScreenIdentity connectorIdentity(const QScreen& screen);
+ScreenIdentity identifyByConnector(const QScreen& screen);
 
 } // namespace tessaline

@@ -1,4 +1,4 @@
-#include "platform/linux/x11/ConnectorIdentity.h"
+#include "platform/linux/desktop/ConnectorIdentity.h"
 
 #include <gmock/gmock.h>
 

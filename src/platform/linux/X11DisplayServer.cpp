@@ -1,0 +1,36 @@
+#include "platform/linux/X11DisplayServer.h"
+
+#include "platform/Platform.h"
+#include "platform/linux/ClockDisplayLinkMaker.h"
+#include "platform/linux/desktop/ConnectorIdentity.h"
+#include "platform/linux/desktop/DesktopStatusArea.h"
+#include "platform/linux/x11/X11AccessibilityTrust.h"
+#include "platform/linux/x11/X11DarkTitleBars.h"
+#include "platform/linux/x11/X11EventTapMaker.h"
+#include "platform/linux/x11/X11KeyMonitor.h"
+#include "platform/linux/x11/X11Pasteboard.h"
+#include "platform/linux/x11/X11ReservedEdges.h"
+#include "platform/linux/x11/X11Tray.h"
+#include "platform/linux/x11/X11WindowTraits.h"
+#include "platform/qt/QtScreens.h"
+
+namespace tessaline {
+
+X11DisplayServer::X11DisplayServer(xcb_connection_t* qtConnection) : connection(qtConnection) {}
+
+void X11DisplayServer::addAdapters(Platform& platform) const {
+    platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,
+                                                   identifyByConnector, X11ReservedEdges::open());
+    platform.displayLinks = std::make_unique<ClockDisplayLinkMaker>();
+    platform.windowTraits = std::make_unique<X11WindowTraits>(connection);
+    platform.pasteboard =
+        std::make_unique<X11Pasteboard>(*platform.mainQueue, *platform.pasteTasks);
+    platform.trust = std::make_unique<X11AccessibilityTrust>();
+    platform.globalKeys = std::make_unique<X11KeyMonitor>();
+    platform.eventTaps = std::make_unique<X11EventTapMaker>();
+    platform.look = std::make_unique<X11DarkTitleBars>(connection);
+    platform.statusArea =
+        std::make_unique<DesktopStatusArea>([server = connection] { return hasX11Tray(server); });
+}
+
+} // namespace tessaline
