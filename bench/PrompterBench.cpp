@@ -5,7 +5,9 @@
 
 #include "platform/qt/QtTimerMaker.h"
 #include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
+#include "settings/PersistedSettings.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -46,15 +48,18 @@ public:
     /// Everything from a text's arrival to pixels that are ready to be seen.
     void show(const QString& markdown) {
         benchmark::DoNotOptimize(MarkdownRenderer::wordCount(markdown));
-        view.setScript(Script(MarkdownRenderer(fontSize).render(markdown)));
+        session->setContent({Script(MarkdownRenderer(fontSize).render(markdown))});
         view.repaint();
     }
 
 private:
+    tessaline::PersistedSettings settings;
+    std::shared_ptr<tessaline::ReadingSession> session =
+        std::make_shared<tessaline::ReadingSession>(settings);
     tessaline::QtTimerMaker timers;
 
 public:
-    ScriptView view{timers};
+    ScriptView view{session, timers};
 };
 
 void setMarkdownAndLayOut(benchmark::State& state) {

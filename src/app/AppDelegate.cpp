@@ -18,6 +18,7 @@
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
 #include "sources/ClipboardSource.h"
 #include "sources/FollowedFile.h"
 #include "sources/ObsidianSource.h"
@@ -74,18 +75,19 @@ PrompterWindow& AppDelegate::prompter() const {
 
 PrompterStatus AppDelegate::status() const {
     const ScriptView& view = prompter().textView();
+    const ReadingSession& session = prompter().reading();
     return {.version = CommandLine::version(),
             .visible = prompter().isVisible(),
             .collapsed = prompter().isCollapsed(),
             .source = settings.activeSourceType,
-            .words = prompter().words(),
-            .time = prompter().remainingTime(),
+            .words = session.words(),
+            .time = timeText(session.readingSeconds()),
             .scrollPosition = view.scrollPosition(),
             .maximumScrollPosition = view.maximumScrollPosition(),
             .speed = settings.scrollSpeed,
             .rate = settings.scrollRate,
             .autoScroll = settings.autoScrollEnabled,
-            .frameRate = prompter().framesPerSecond()};
+            .frameRate = session.framesPerSecond()};
 }
 
 ConfigWindow& AppDelegate::config() const {

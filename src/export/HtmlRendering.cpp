@@ -3,7 +3,7 @@
 #include "export/ByteSink.h"
 #include "export/HtmlStyles.h"
 #include "export/HtmlText.h"
-#include "prompter/layout/Script.h"
+#include "reading/Script.h"
 
 #include <algorithm>
 #include <utility>

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace tessaline {
@@ -49,10 +50,9 @@ std::optional<QByteArray> pngOf(StyledText styled, int width, QString* error) {
         if (error) *error = reason;
         return std::nullopt;
     };
-    Script script(std::move(styled));
     ScriptLayout layout;
     layout.setTextWidth(width - 2 * horizontalInset);
-    layout.exchangeScript(script);
+    layout.setScript(std::make_shared<const Script>(std::move(styled)));
     // All heights above the limit are exact now, so the sum is beyond it only if the text is.
     layout.measureBetween(0, tallestPicture);
     const double height = std::ceil(layout.height() + 2 * verticalInset);

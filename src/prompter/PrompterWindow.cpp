@@ -14,6 +14,8 @@
 #include "prompter/WindowShape.h"
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ScriptView.h"
+#include "reading/AutoScroll.h"
+#include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
@@ -60,6 +62,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowe
     : QWidget(nullptr, Qt::FramelessWindowHint | borrowedPlatform.windowTraits->creationFlags())
     , settings(appSettings)
     , platform(borrowedPlatform)
+    , session(std::make_shared<ReadingSession>(settings))
     , renderer(*platform.renderTasks, *platform.mainQueue) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -77,11 +80,8 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowe
     });
     setupUI();
     updateFrame();
-    autoScroll.emplace(settings, *platform.displayLinks, *platform.timers, *platform.mainQueue,
-                       [this](double deltaY) {
-                           frames.add(std::chrono::steady_clock::now());
-                           performScroll(deltaY);
-                       });
+    session->setSource(std::make_unique<AutoScroll>(session, *platform.displayLinks,
+                                                    *platform.timers, *platform.mainQueue));
     platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
@@ -91,7 +91,7 @@ void PrompterWindow::setupUI() {
     strip = new ControlStrip(this);
     scrollArea = new QWidget(this);
     scrollArea->setObjectName(u"prompter_scrollView"_s);
-    view = new ScriptView(*platform.timers, scrollArea);
+    view = new ScriptView(session, *platform.timers, scrollArea);
     view->setObjectName(u"prompter_textView"_s);
     view->setAccessibleName(u"Script"_s);
     setFocusProxy(view);
@@ -243,16 +243,14 @@ void PrompterWindow::renderPlaceholder() {
 }
 
 void PrompterWindow::showContent(RenderedContent content) {
-    wordCount = content.wordCount;
-    view->setScript(std::move(content.script));
+    session->setContent(std::move(content));
     updateStats();
 }
 
 void PrompterWindow::updateStats() {
-    secondsLeft =
-        ReadingStatistics::remainingSeconds(view->maximumScrollPosition(), settings.scrollRate);
-    strip->showStatistics(ReadingStatistics::labelText(wordCount, secondsLeft),
-                          ReadingStatistics::labelColor(settings.scrollRate));
+    session->updateReadingTime();
+    strip->showStatistics(ReadingStatistics::labelText(session->words(), session->readingSeconds()),
+                          ReadingStatistics::labelColor(session->pace().rate));
 }
 
 // What changed while the window was collapsed was counted for a view without height.
@@ -260,22 +258,14 @@ void PrompterWindow::updateStatsOfWhatIsSeen() {
     if (!collapsed && !lastRawContent.isEmpty()) updateStats();
 }
 
-QString PrompterWindow::remainingTime() const {
-    return ReadingStatistics::timeText(secondsLeft);
-}
-
-int PrompterWindow::framesPerSecond() const {
-    return frames.framesPerSecond(std::chrono::steady_clock::now());
-}
-
 void PrompterWindow::performScroll(double deltaY) {
-    view->scrollTo(view->scrollPosition() - deltaY);
+    session->moveBy(-deltaY);
 }
 
 void PrompterWindow::toggleAutoScroll() {
     settings.autoScrollEnabled = !settings.autoScrollEnabled;
     if (!settings.autoScrollEnabled) {
-        autoScroll->stop();
+        session->stop();
     } else {
         if (settings.scrollSpeed <= 0) {
             if (settings.lastNonZeroScrollSpeed <= 0)
@@ -283,13 +273,13 @@ void PrompterWindow::toggleAutoScroll() {
             settings.scrollSpeed = settings.lastNonZeroScrollSpeed;
         }
         updateScrollParameters();
-        autoScroll->start();
+        session->start();
     }
     settings.save();
 }
 
 void PrompterWindow::updateScrollParameters() {
-    autoScroll->updateSpeed();
+    session->updatePace();
     updateStats();
 }
 

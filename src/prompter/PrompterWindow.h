@@ -2,9 +2,7 @@
 
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
-#include "prompter/AutoScroll.h"
-#include "prompter/ContentRenderer.h"
-#include "prompter/FrameRate.h"
+#include "reading/ContentRenderer.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
 
@@ -12,12 +10,14 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 namespace tessaline {
 
 class AppSettings;
 class ControlStrip;
+class ReadingSession;
 class ScreenManager;
 class ScriptView;
 struct Platform;
@@ -66,13 +66,6 @@ public:
     /// Tells the words and the reading time of the text.
     void updateStats();
 
-    /// The words of the text, and how long the rest of it takes, as the controls tell it.
-    qsizetype words() const { return wordCount; }
-    QString remainingTime() const;
-
-    /// How many times auto-scroll moved the text in the last second.
-    int framesPerSecond() const;
-
     /// Moves the text by so many points; negative is forward.
     void performScroll(double deltaY);
 
@@ -91,7 +84,8 @@ public:
     /// The controls, for connecting their actions.
     ControlStrip& controls() const { return *strip; }
 
-    /// The view that shows the text.
+    /// What is read here, and the view that shows it.
+    ReadingSession& reading() const { return *session; }
     ScriptView& textView() const { return *view; }
 
 protected:
@@ -115,6 +109,7 @@ private:
 
     AppSettings& settings;
     const Platform& platform;
+    const std::shared_ptr<ReadingSession> session;
     const ScreenManager* screenManager = nullptr;
     ControlStrip* strip = nullptr;
     QWidget* scrollArea = nullptr; ///< what of the text is seen
@@ -125,11 +120,7 @@ private:
     QRegion hole;               ///< what is cut out
     double expandedHeight = 0.0;
     QString lastRawContent;
-    qsizetype wordCount = 0;
-    double secondsLeft = 0.0; ///< as the statistics tell them
     ContentRenderer renderer;
-    std::optional<AutoScroll> autoScroll;
-    FrameRate frames;
     QVariantAnimation resizing;
     Lifetime lifetime;
 };

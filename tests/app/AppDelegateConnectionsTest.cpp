@@ -6,6 +6,7 @@
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
 #include "sources/SourceManager.h"
 #include "ui/ConfigWindow.h"
 #include "ui/controls/PointSlider.h"
@@ -41,7 +42,7 @@ protected:
     const StyledText& shownText() { return prompter()->textView().script().styled; }
 
     /// So that it is seen whether it is rendered again.
-    void forgetShownText() { prompter()->textView().setScript(Script()); }
+    void forgetShownText() { prompter()->reading().setContent({}); }
 
     int settingsTop() { return config()->windowHandle()->frameGeometry().top(); }
 

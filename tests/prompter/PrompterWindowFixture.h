@@ -5,6 +5,7 @@
 #include "prompter/Placeholder.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
 #include "settings/AppSettings.h"
 #include "support/FakeDisplayLinkMaker.h"
 #include "support/FakeMainQueue.h"
@@ -62,9 +63,10 @@ protected:
         const double textMargin = 10;
         EXPECT_EQ(margin, (view.height() - 60) / 2.0 + textMargin);
 
-        ScriptView fresh(timers);
+        const auto session = std::make_shared<ReadingSession>(settings);
+        ScriptView fresh(session, timers);
         fresh.resize(view.size());
-        fresh.setScript(Script(placeholderText(view.height())));
+        session->setContent({Script(placeholderText(view.height()))});
         EXPECT_EQ(view.grab().toImage(), fresh.grab().toImage());
     }
 

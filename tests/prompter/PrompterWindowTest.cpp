@@ -129,11 +129,11 @@ TEST_F(PrompterWindowTest, KeepsTheReadersPlaceWhileCollapsed) {
 TEST_F(PrompterWindowTest, KeepsTheStatisticsWhileCollapsed) {
     show(u"line\n"_s.repeated(100));
     const QString before = statistics();
-    const QString time = window().remainingTime();
+    const double seconds = window().reading().readingSeconds();
     window().toggleCollapsed();
     finishResizing(32);
     EXPECT_EQ(statistics(), before);
-    EXPECT_EQ(window().remainingTime(), time);
+    EXPECT_EQ(window().reading().readingSeconds(), seconds);
 }
 
 TEST_F(PrompterWindowTest, CorrectsTheStatisticsOfAChangeWhileCollapsedOnceItIsExpanded) {

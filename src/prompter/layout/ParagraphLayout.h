@@ -1,8 +1,8 @@
 #pragma once
 
 #include "prompter/layout/FormatTable.h"
-#include "prompter/layout/Script.h"
 #include "prompter/layout/TextRange.h"
+#include "reading/Script.h"
 
 #include <QColor>
 #include <QPointF>

@@ -21,16 +21,20 @@ ScriptLayout::ScriptLayout() {
     estimateAll();
 }
 
-ScriptChange ScriptLayout::exchangeScript(Script& script) {
-    const ScriptChange change = ScriptChange::between(currentScript, script);
-    std::swap(currentScript, script);
-    formats.assign(currentScript.styled.styles);
-    keepMeasured(change, script);
-    return change;
+void ScriptLayout::setScript(std::shared_ptr<const Script> script) {
+    const ScriptChange change = ScriptChange::between(*currentScript, *script);
+    setScript(std::move(script), change);
 }
 
-void ScriptLayout::keepMeasured(const ScriptChange& change, const Script& before) {
-    const std::size_t count = currentScript.paragraphs.size();
+void ScriptLayout::setScript(std::shared_ptr<const Script> script, const ScriptChange& change) {
+    const std::size_t oldCount = currentScript->paragraphs.size();
+    currentScript = std::move(script);
+    formats.assign(currentScript->styled.styles);
+    keepMeasured(change, oldCount);
+}
+
+void ScriptLayout::keepMeasured(const ScriptChange& change, std::size_t oldCount) {
+    const std::size_t count = currentScript->paragraphs.size();
     const std::size_t newEnd = change.first + change.newCount;
     const auto oldIndex = [&](std::size_t index) {
         return index < change.first ? index : index + change.oldCount - change.newCount;
@@ -41,14 +45,14 @@ void ScriptLayout::keepMeasured(const ScriptChange& change, const Script& before
         const bool kept = index < change.first || index >= newEnd;
         newMeasured[index] = kept && measured[oldIndex(index)];
         newHeights[index] = kept ? heights.height(oldIndex(index))
-                                 : estimatedHeight(currentScript, index, formats, columnWidth);
+                                 : estimatedHeight(*currentScript, index, formats, columnWidth);
     }
     std::map<std::size_t, ParagraphLayout> keptOnes;
     for (auto& [index, layout] : layouts) {
         if (index < change.first) {
             keptOnes.emplace(index, std::move(layout));
         } else if (index >= change.first + change.oldCount) {
-            keptOnes.emplace(index + count - before.paragraphs.size(), std::move(layout));
+            keptOnes.emplace(index + count - oldCount, std::move(layout));
         }
     }
     layouts = std::move(keptOnes);
@@ -65,10 +69,10 @@ void ScriptLayout::setTextWidth(double points) {
 }
 
 void ScriptLayout::estimateAll() {
-    const std::size_t count = currentScript.paragraphs.size();
+    const std::size_t count = currentScript->paragraphs.size();
     std::vector<double> estimates(count);
     for (std::size_t index = 0; index < count; ++index)
-        estimates[index] = estimatedHeight(currentScript, index, formats, columnWidth);
+        estimates[index] = estimatedHeight(*currentScript, index, formats, columnWidth);
     heights.assign(std::move(estimates));
     measured.assign(count, false);
     unmeasured = count;
@@ -86,7 +90,7 @@ double ScriptLayout::measureMore(qsizetype units, double anchor) {
     const std::size_t anchored = paragraphAt(anchor);
     const double before = topOf(anchored);
     for (; units > 0 && nextToMeasure < measured.size(); ++nextToMeasure) {
-        const auto& paragraph = currentScript.paragraphs[nextToMeasure];
+        const auto& paragraph = currentScript->paragraphs[nextToMeasure];
         if (measured[nextToMeasure]) continue;
         units -= paragraph.length + 1;
         if (paragraph.length == 0) {
@@ -94,7 +98,7 @@ double ScriptLayout::measureMore(qsizetype units, double anchor) {
             continue;
         }
         setMeasured(nextToMeasure,
-                    ParagraphLayout(currentScript, nextToMeasure, formats, columnWidth).height());
+                    ParagraphLayout(*currentScript, nextToMeasure, formats, columnWidth).height());
     }
     return topOf(anchored) - before;
 }
@@ -110,7 +114,7 @@ void ScriptLayout::measureBetween(double top, double bottom) {
 const ParagraphLayout& ScriptLayout::laidOut(std::size_t index) {
     const auto [entry, isNew] = layouts.try_emplace(index);
     if (isNew) {
-        entry->second = ParagraphLayout(currentScript, index, formats, columnWidth);
+        entry->second = ParagraphLayout(*currentScript, index, formats, columnWidth);
         setMeasured(index, entry->second.height());
     }
     return entry->second;
@@ -127,14 +131,14 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
     std::size_t index = first;
     for (double y = topOf(first); y < bottom && index < measured.size(); ++index) {
         const ParagraphLayout& layout = laidOut(index);
-        const Script::Paragraph& paragraph = currentScript.paragraphs[index];
+        const Script::Paragraph& paragraph = currentScript->paragraphs[index];
         // Lines are placed in fixed point, which does not reach the end of very long documents.
         painter.translate(0, y);
         layout.draw(painter, top - y, bottom - y);
         const TextRange selected{selection.begin - paragraph.start,
                                  selection.end - paragraph.start};
         if (!selected.intersected({0, paragraph.length}).isEmpty()) {
-            ParagraphLayout(currentScript, index, formats.ofSelected(), columnWidth)
+            ParagraphLayout(*currentScript, index, formats.ofSelected(), columnWidth)
                 .drawOver(painter, top - y, bottom - y, selected, selectionColor);
         }
         painter.translate(0, -y);
@@ -146,12 +150,12 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
 qsizetype ScriptLayout::offsetAt(const QPointF& point) {
     const std::size_t index = paragraphAt(point.y());
     const ParagraphLayout& layout = laidOut(index);
-    return currentScript.paragraphs[index].start +
+    return currentScript->paragraphs[index].start +
            layout.positionAt({point.x(), point.y() - topOf(index)});
 }
 
 std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
-    const auto& paragraphs = currentScript.paragraphs;
+    const auto& paragraphs = currentScript->paragraphs;
     const auto next = std::upper_bound(paragraphs.begin() + 1, paragraphs.end(), offset,
                                        [](qsizetype value, const Script::Paragraph& paragraph) {
                                            return value < paragraph.start;
@@ -162,7 +166,7 @@ std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
 QRectF ScriptLayout::caretRect(qsizetype offset) {
     const std::size_t index = paragraphOf(offset);
     const ParagraphLayout& layout = laidOut(index);
-    return layout.caretRect(offset - currentScript.paragraphs[index].start)
+    return layout.caretRect(offset - currentScript->paragraphs[index].start)
         .translated(0, topOf(index));
 }
 

@@ -3,14 +3,15 @@
 #include "prompter/layout/FormatTable.h"
 #include "prompter/layout/HeightIndex.h"
 #include "prompter/layout/ParagraphLayout.h"
-#include "prompter/layout/Script.h"
-#include "prompter/layout/ScriptChange.h"
 #include "prompter/layout/TextRange.h"
+#include "reading/Script.h"
+#include "reading/ScriptChange.h"
 
 #include <QPointF>
 #include <QRectF>
 
 #include <map>
+#include <memory>
 #include <vector>
 
 class QPainter;
@@ -25,14 +26,16 @@ class ScriptLayout {
 public:
     ScriptLayout();
 
-    /// Takes another script and hands the old one back in its place. What they share at both ends
-    /// stays laid out.
-    ScriptChange exchangeScript(Script& script);
+    /// Takes another script. What it shares with the present one at both ends stays laid out.
+    void setScript(std::shared_ptr<const Script> script);
+
+    /// The same where it is known already how the two differ.
+    void setScript(std::shared_ptr<const Script> script, const ScriptChange& change);
 
     /// Sets the column's width in points.
     void setTextWidth(double points);
 
-    const Script& script() const { return currentScript; }
+    const Script& script() const { return *currentScript; }
     double textWidth() const { return columnWidth; }
 
     /// The column's height, in part estimated until `isMeasured`.
@@ -70,9 +73,9 @@ private:
     void setMeasured(std::size_t index, double height);
     void estimateAll();
     void forgetLayoutsOutside(std::size_t first, std::size_t last);
-    void keepMeasured(const ScriptChange& change, const Script& before);
+    void keepMeasured(const ScriptChange& change, std::size_t oldCount);
 
-    Script currentScript;
+    std::shared_ptr<const Script> currentScript = std::make_shared<const Script>();
     FormatTable formats;
     HeightIndex heights;
     std::vector<bool> measured;

@@ -60,7 +60,7 @@ bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
         view.scrollByHand(0);
         return true;
     case Qt::Key_End:
-        view.scrollByHand(view.maximumScrollPosition());
+        view.scrollByHand(view.documentHeight());
         return true;
     default:
         return false;

@@ -4,6 +4,7 @@
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/RowBlending.h"
 #include "prompter/view/ScriptViewAccessible.h"
+#include "reading/ReadingSession.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -44,8 +45,9 @@ double scrollerScale(double maximum) {
 
 } // namespace
 
-ScriptView::ScriptView(TimerMaker& timers, QWidget* parent)
+ScriptView::ScriptView(std::shared_ptr<ReadingSession> shown, TimerMaker& timers, QWidget* parent)
     : QWidget(parent)
+    , session(std::move(shown))
     , strips([this](QPainter& painter, double top, double bottom) {
         painter.translate(horizontalInset, verticalInset);
         layout.draw(painter, top - verticalInset, bottom - verticalInset, currentSelection.range());
@@ -60,9 +62,13 @@ ScriptView::ScriptView(TimerMaker& timers, QWidget* parent)
     scroller->setAccessibleName(tr("Scroll position"));
     connect(scroller, &QScrollBar::valueChanged, this,
             [this](int value) { scrollTo(value / scrollerScale(maximumScrollPosition())); });
+    layout.setScript(session->script());
+    session->addView(*this);
 }
 
-ScriptView::~ScriptView() = default;
+ScriptView::~ScriptView() {
+    session->removeView(*this);
+}
 
 double ScriptView::documentHeight() const {
     return layout.height() + 2 * verticalInset;
@@ -73,12 +79,7 @@ double ScriptView::maximumScrollPosition() const {
 }
 
 void ScriptView::scrollTo(double position) {
-    const double clamped = std::clamp(position, 0.0, maximumScrollPosition());
-    if (clamped == scrollTop) return;
-    scrollTop = clamped;
-    updateScroller();
-    update();
-    prepareStrips();
+    session->moveBy(position - scrollTop);
 }
 
 void ScriptView::scrollByHand(double position) {
@@ -86,47 +87,84 @@ void ScriptView::scrollByHand(double position) {
     scrollTo(position);
 }
 
+void ScriptView::moveBy(double points) {
+    setPosition(scrollTop + points);
+}
+
+void ScriptView::moveTo(qsizetype offset) {
+    setPosition(positionOf(offset));
+    measureVisible();
+    setPosition(positionOf(offset));
+}
+
+void ScriptView::follow(const ReadingPlace& place) {
+    setPosition(positionOf(place));
+}
+
+void ScriptView::setPosition(double position) {
+    const double clamped = std::clamp(position, 0.0, maximumScrollPosition());
+    if (clamped == scrollTop) return;
+    scrollTop = clamped;
+    tellPlace();
+    updateScroller();
+    update();
+    prepareStrips();
+}
+
+void ScriptView::tellPlace() {
+    if (scrollTop == 0.0) return session->reached(*this, {});
+    const double y = scrollTop - verticalInset;
+    const std::size_t paragraph = layout.paragraphAt(y);
+    const double height = std::max(layout.heightOf(paragraph), 1.0);
+    session->reached(*this, {paragraph, (y - layout.topOf(paragraph)) / height});
+}
+
+double ScriptView::positionOf(const ReadingPlace& place) const {
+    return layout.topOf(place.paragraph) + place.fraction * layout.heightOf(place.paragraph) +
+           verticalInset;
+}
+
+/// The scroll position that shows the line of an offset at the view's top.
+double ScriptView::positionOf(qsizetype offset) {
+    const std::size_t paragraph = layout.paragraphOf(offset);
+    if (offset == script().paragraphs[paragraph].start) return positionOfParagraph(paragraph);
+    return scrollTop + caretRect(offset).top();
+}
+
 /// The scroll position that shows a paragraph, and nothing of those before it, at the view's top.
-double ScriptView::positionOf(std::size_t paragraph) const {
+double ScriptView::positionOfParagraph(std::size_t paragraph) const {
     return paragraph == 0 ? 0.0 : layout.topOf(paragraph) + verticalInset;
 }
 
-void ScriptView::scrollToParagraph(std::size_t paragraph) {
-    scrollByHand(positionOf(paragraph));
-    measureVisible();
-    scrollByHand(positionOf(paragraph));
+void ScriptView::goByHand(std::size_t paragraph) {
+    scroller->reveal();
+    session->moveTo(script().paragraphs[paragraph].start);
 }
 
 bool ScriptView::scrollToNextHeader() {
-    const Script& script = layout.script();
     if (scrollTop >= maximumScrollPosition()) return false;
-    for (std::size_t i = layout.paragraphAt(scrollTop); i < script.paragraphs.size(); ++i) {
-        if (script.headingLevel(i) == 0 || positionOf(i) < scrollTop + samePlace) continue;
-        scrollToParagraph(i);
-        return true;
+    for (std::size_t i = layout.paragraphAt(scrollTop); i < script().paragraphs.size(); ++i) {
+        if (script().headingLevel(i) == 0) continue;
+        if (positionOfParagraph(i) >= scrollTop + samePlace) return goByHand(i), true;
     }
     return false;
 }
 
 bool ScriptView::scrollToPreviousHeader() {
-    const Script& script = layout.script();
     for (std::size_t i = layout.paragraphAt(scrollTop) + 1; i-- > 0;) {
-        if (script.headingLevel(i) == 0 || positionOf(i) > scrollTop - samePlace) continue;
-        scrollToParagraph(i);
-        return true;
+        if (script().headingLevel(i) == 0) continue;
+        if (positionOfParagraph(i) <= scrollTop - samePlace) return goByHand(i), true;
     }
     return false;
 }
 
-void ScriptView::setScript(Script script) {
-    const Place place = placeAtTop();
-    const ScriptChange change = layout.exchangeScript(script);
-    const Script& before = script;
+void ScriptView::scriptChanged(const Script& before, const ScriptChange& change, bool placeIsKept) {
+    layout.setScript(session->script(), change);
     if (change.oldCount == 0 && change.newCount == 0) return;
     moveSelectionAcross(change, before);
     if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
         layout.measureMore(unitsLaidOutAtOnce + 1, 0);
-    keepPlaceAcross(change, before.paragraphs.size(), place);
+    if (placeIsKept) scrollTop = positionOf(session->place());
     layoutChanged();
     if (!QAccessible::isActive() || before.styled.text == layout.script().styled.text) return;
     QAccessibleTextUpdateEvent event(this, 0, before.styled.text, layout.script().styled.text);
@@ -135,32 +173,9 @@ void ScriptView::setScript(Script script) {
 
 void ScriptView::completeLayout() {
     if (layout.isMeasured()) return;
-    const Place place = placeAtTop();
     layout.measureMore(std::numeric_limits<qsizetype>::max(), 0);
-    restorePlace(place);
+    scrollTop = positionOf(session->place());
     layoutChanged();
-}
-
-ScriptView::Place ScriptView::placeAtTop() const {
-    const double y = scrollTop - verticalInset;
-    const std::size_t paragraph = layout.paragraphAt(y);
-    const double height = std::max(layout.heightOf(paragraph), 1.0);
-    return {paragraph, (y - layout.topOf(paragraph)) / height};
-}
-
-void ScriptView::restorePlace(const Place& place) {
-    if (scrollTop == 0.0) return; // at the beginning is where the reader stays
-    scrollTop = layout.topOf(place.paragraph) + place.fraction * layout.heightOf(place.paragraph) +
-                verticalInset;
-}
-
-void ScriptView::keepPlaceAcross(const ScriptChange& change, std::size_t oldCount,
-                                 const Place& place) {
-    const std::size_t newCount = layout.script().paragraphs.size();
-    const bool isBehind = place.paragraph >= change.first + change.oldCount;
-    const bool sameLines = oldCount == newCount;
-    if (place.paragraph < change.first || sameLines) return restorePlace(place);
-    if (isBehind) restorePlace({place.paragraph + newCount - oldCount, place.fraction});
 }
 
 void ScriptView::moveSelectionAcross(const ScriptChange& change, const Script& before) {
@@ -175,6 +190,7 @@ void ScriptView::moveSelectionAcross(const ScriptChange& change, const Script& b
 
 void ScriptView::layoutChanged() {
     scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
+    tellPlace();
     strips.invalidate();
     updateScroller();
     update();
@@ -208,6 +224,7 @@ bool ScriptView::keepPlaceDuring(Action action) {
         updateScroller();
         update();
     }
+    tellPlace();
     if (layout.isMeasured()) Q_EMIT layoutCompleted();
     return changed;
 }
@@ -251,19 +268,19 @@ void ScriptView::updateScroller() {
 }
 
 void ScriptView::resizeEvent(QResizeEvent*) {
-    const Place place = placeAtTop();
     scroller->setGeometry(width() - scroller->sizeHint().width(), 0, scroller->sizeHint().width(),
                           height());
     sizeFrame();
     const double textWidth = std::max(width() - 2 * horizontalInset, 1.0);
     if (textWidth == layout.textWidth()) {
         scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
+        tellPlace();
         return updateScroller();
     }
     layout.setTextWidth(textWidth);
     if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
         layout.measureMore(unitsLaidOutAtOnce + 1, 0);
-    restorePlace(place);
+    scrollTop = positionOf(session->place());
     layoutChanged();
 }
 

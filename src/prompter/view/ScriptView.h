@@ -4,31 +4,32 @@
 #include "prompter/view/ScriptInteraction.h"
 #include "prompter/view/StripCache.h"
 #include "prompter/view/TextSelection.h"
+#include "reading/ReadingView.h"
 
 #include <QBasicTimer>
 #include <QImage>
 #include <QWidget>
 
+#include <memory>
+
 namespace tessaline {
 
+class ReadingSession;
 class ThemedScroller;
 class TimerMaker;
 
-/// Shows a script in a column that scrolls to fractions of a pixel. Read-only; text can be selected
-/// with the mouse and the keyboard and copied. Frames are put together from strips of text drawn
-/// ahead, so that scrolling lays nothing out, and nothing is painted while nothing moves.
-/// Positions are points from the document's top. Main thread only.
-class ScriptView : public QWidget {
+/// Shows a session's script in a column that scrolls to fractions of a pixel, and moves the
+/// session. Read-only; text can be selected with the mouse and the keyboard and copied. Frames are
+/// put together from strips of text drawn ahead, so that scrolling lays nothing out, and nothing is
+/// painted while nothing moves. Positions are points from the document's top. Main thread only.
+class ScriptView : public QWidget, private ReadingView {
     Q_OBJECT
 
 public:
     /// The timer maker must outlive the view.
-    explicit ScriptView(TimerMaker& timers, QWidget* parent = nullptr);
+    ScriptView(std::shared_ptr<ReadingSession> session, TimerMaker& timers,
+               QWidget* parent = nullptr);
     ~ScriptView() override;
-
-    /// Replaces the text. What the reader has before the eyes stays there if the new text has it
-    /// too; otherwise the scroll position stays, as far as the new length allows.
-    void setScript(Script script);
 
     const Script& script() const { return layout.script(); }
 
@@ -41,7 +42,7 @@ public:
     /// The document's height with its margins. In part an estimate until `isLayoutComplete`.
     double documentHeight() const;
 
-    /// Moves the document; clamped to what there is.
+    /// Moves the session to where this is at the top; clamped to what there is.
     void scrollTo(double position);
 
     /// As above for a movement of the reader's hand: it shows the scroller for a moment.
@@ -88,29 +89,31 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    /// A place in the text that stays the same when heights change.
-    struct Place {
-        std::size_t paragraph;
-        double fraction; ///< of the paragraph's height
-    };
+    void scriptChanged(const Script& before, const ScriptChange& change, bool placeIsKept) override;
+    void moveBy(double points) override;
+    void moveTo(qsizetype offset) override;
+    void follow(const ReadingPlace& place) override;
+    double distance() const override { return maximumScrollPosition(); }
 
-    Place placeAtTop() const;
-    void restorePlace(const Place& place);
-    void keepPlaceAcross(const ScriptChange& change, std::size_t oldCount, const Place& place);
+    void setPosition(double position);
+    void tellPlace();
+    double positionOf(const ReadingPlace& place) const;
+    double positionOf(qsizetype offset);
     void moveSelectionAcross(const ScriptChange& change, const Script& before);
     template <typename Action>
     bool keepPlaceDuring(Action action);
     void measureVisible();
     void layoutChanged();
     void continueLayout();
-    double positionOf(std::size_t paragraph) const;
-    void scrollToParagraph(std::size_t paragraph);
+    double positionOfParagraph(std::size_t paragraph) const;
+    void goByHand(std::size_t paragraph);
     void prepareStrips();
     void sizeFrame();
     void composeFrame();
     void updateScroller();
     void invalidateBetween(qsizetype offset, qsizetype other);
 
+    std::shared_ptr<ReadingSession> session;
     ScriptLayout layout;
     StripCache strips;
     QImage frame;

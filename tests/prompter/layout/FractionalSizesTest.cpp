@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessaline {
@@ -22,7 +24,7 @@ constexpr int columnWidth = 400;
 ScriptLayout layoutOf(const QString& markdown, double fontSize) {
     ScriptLayout layout;
     Script script(MarkdownRenderer(fontSize).render(markdown));
-    layout.exchangeScript(script);
+    layout.setScript(std::make_shared<const Script>(std::move(script)));
     layout.measureMore(std::numeric_limits<qsizetype>::max(), 0);
     return layout;
 }

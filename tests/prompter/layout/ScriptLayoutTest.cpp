@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -28,7 +29,7 @@ Script scriptOf(const QString& markdown) {
 ScriptLayout layoutOf(const QString& markdown) {
     ScriptLayout layout;
     Script script = scriptOf(markdown);
-    layout.exchangeScript(script);
+    layout.setScript(std::make_shared<const Script>(std::move(script)));
     layout.measureMore(everything, 0);
     return layout;
 }
@@ -66,7 +67,7 @@ std::pair<int, int> inkOf(const QString& markdown) {
 TEST(ScriptLayout, IsMeasuredOnceEveryParagraphIs) {
     ScriptLayout layout;
     Script script = scriptOf(u"a\nb\nc"_s);
-    layout.exchangeScript(script);
+    layout.setScript(std::make_shared<const Script>(std::move(script)));
     EXPECT_FALSE(layout.isMeasured());
     layout.measureMore(1, 0);
     EXPECT_FALSE(layout.isMeasured());
@@ -215,7 +216,7 @@ TEST(ScriptLayout, CentresRules) {
 TEST(ScriptLayout, KeepsWhatDidNotChangeMeasured) {
     ScriptLayout layout = layoutOf(u"one\ntwo\nthree\nfour"_s);
     Script changed = scriptOf(u"one\ntwo, but longer\nthree\nfour"_s);
-    layout.exchangeScript(changed);
+    layout.setScript(std::make_shared<const Script>(std::move(changed)));
     EXPECT_FALSE(layout.isMeasured());
     layout.measureMore(u"two, but longer"_s.size(), 0);
     EXPECT_TRUE(layout.isMeasured());
@@ -225,7 +226,7 @@ TEST(ScriptLayout, KeepsWhatDidNotChangeMeasured) {
 TEST(ScriptLayout, KeepsTheRestMeasuredWhenAParagraphGoes) {
     ScriptLayout layout = layoutOf(u"one\n# A tall heading\ntwo\n\nthree"_s);
     Script shorter = scriptOf(u"one\ntwo\n\nthree"_s);
-    layout.exchangeScript(shorter);
+    layout.setScript(std::make_shared<const Script>(std::move(shorter)));
     EXPECT_TRUE(layout.isMeasured());
     EXPECT_DOUBLE_EQ(layout.height(), layoutOf(u"one\ntwo\n\nthree"_s).height());
 }
@@ -233,7 +234,7 @@ TEST(ScriptLayout, KeepsTheRestMeasuredWhenAParagraphGoes) {
 TEST(ScriptLayout, TellsHowFarMeasuringMovedTheReadersPlace) {
     ScriptLayout layout;
     Script script = scriptOf(u"word "_s.repeated(200) + u"\nlast"_s);
-    layout.exchangeScript(script);
+    layout.setScript(std::make_shared<const Script>(std::move(script)));
     const double before = layout.topOf(1);
     const double moved = layout.measureMore(everything, before + 1);
     EXPECT_DOUBLE_EQ(layout.topOf(1) - before, moved);
@@ -246,7 +247,7 @@ TEST(ScriptLayout, EstimatesHeightsWithinAReasonableFactor) {
             .repeated(50);
     ScriptLayout layout;
     Script script = scriptOf(text);
-    layout.exchangeScript(script);
+    layout.setScript(std::make_shared<const Script>(std::move(script)));
     const double estimated = layout.height();
     layout.measureMore(everything, 0);
     EXPECT_GT(estimated, layout.height() * 0.5);

@@ -1,13 +1,18 @@
 #pragma once
 
 #include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
+#include "settings/PersistedSettings.h"
 #include "support/FakeTimerMaker.h"
 
 #include <QCoreApplication>
 #include <QString>
 
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
 
 namespace tessaline {
 
@@ -19,9 +24,11 @@ protected:
         view.show();
     }
 
+    void setScript(Script script) { session->setContent({std::move(script)}); }
+
     /// Shows Markdown and lays it out completely.
     void show(const QString& markdown) {
-        view.setScript(Script(MarkdownRenderer(16).render(markdown)));
+        setScript(Script(MarkdownRenderer(16).render(markdown)));
         view.completeLayout();
     }
 
@@ -41,8 +48,10 @@ protected:
         return text.mid(range.begin, range.length());
     }
 
+    PersistedSettings settings;
+    const std::shared_ptr<ReadingSession> session = std::make_shared<ReadingSession>(settings);
     FakeTimerMaker timers;
-    ScriptView view{timers};
+    ScriptView view{session, timers};
 };
 
 } // namespace tessaline

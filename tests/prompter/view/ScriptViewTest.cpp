@@ -103,7 +103,7 @@ TEST_F(ScriptViewTest, ReturnsToTheHeaderOfTheTextBeingRead) {
 }
 
 TEST_F(ScriptViewTest, FindsHeadersInTextThatIsNotLaidOutYet) {
-    view.setScript(Script(MarkdownRenderer(16).render(
+    setScript(Script(MarkdownRenderer(16).render(
         lines(20000) + u"# Far away\n"_s + u"a much longer line than any other "_s.repeated(200) +
         u"\n"_s + lines(100))));
     ASSERT_FALSE(view.isLayoutComplete());
@@ -178,7 +178,7 @@ TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheFontGrows) {
     show(lines(100));
     view.scrollTo(700);
     const QString before = topLine();
-    view.setScript(Script(MarkdownRenderer(28).render(lines(100))));
+    setScript(Script(MarkdownRenderer(28).render(lines(100))));
     view.completeLayout();
     EXPECT_EQ(topLine(), before);
 }
@@ -192,6 +192,44 @@ TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheWidthChanges) {
     EXPECT_NEAR(double(view.offsetAt({20, 1})), double(before), 60);
 }
 
+TEST_F(ScriptViewTest, MovesTheLineOfAnOffsetToTheTop) {
+    show(lines(30) + u"words "_s.repeated(400) + u"\n"_s + lines(60));
+    const qsizetype start = view.script().styled.text.indexOf(u"words"_s);
+    for (const qsizetype offset : {start, start + 1000}) {
+        session->moveTo(offset);
+        EXPECT_NEAR(view.caretRect(offset).top(), 0, 1e-6);
+    }
+    session->moveTo(0);
+    EXPECT_EQ(view.scrollPosition(), 0);
+}
+
+TEST_F(ScriptViewTest, ShowsThePlaceOfAnotherViewOfItsSession) {
+    show((u"words "_s.repeated(40) + u"\n"_s).repeated(20) + lines(50));
+    ScriptView other(session, timers);
+    other.resize(300, 150);
+    other.show();
+    const auto expectSameLine = [&] {
+        const auto line = [](ScriptView& shown) {
+            return unitAround(shown.script().styled.text, shown.offsetAt({20, 1}),
+                              TextSelection::Unit::paragraph)
+                .begin;
+        };
+        EXPECT_EQ(line(other), line(view));
+    };
+    view.scrollTo(701);
+    expectSameLine();
+    EXPECT_GT(other.scrollPosition(), 701) << "it is narrower";
+    view.resize(350, 202);
+    expectSameLine();
+    const double before = view.scrollPosition();
+    other.scrollByHand(other.scrollPosition() + 200);
+    EXPECT_NEAR(view.scrollPosition(), before + 200, 1e-6);
+    expectSameLine();
+    show(u"# New\n"_s + view.script().styled.text);
+    other.completeLayout();
+    expectSameLine();
+}
+
 TEST_F(ScriptViewTest, ClampsThePositionToAShorterText) {
     show(lines(100));
     view.scrollTo(1e9);
@@ -200,7 +238,7 @@ TEST_F(ScriptViewTest, ClampsThePositionToAShorterText) {
 }
 
 TEST_F(ScriptViewTest, LaysLongTextsOutWhileTheProgramGoesOn) {
-    view.setScript(Script(MarkdownRenderer(16).render(lines(20000))));
+    setScript(Script(MarkdownRenderer(16).render(lines(20000))));
     EXPECT_FALSE(view.isLayoutComplete());
     bool completed = false;
     QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { completed = true; });
@@ -221,8 +259,8 @@ class ScriptViewMeasuring : public ScriptViewFixture,
 
 TEST_P(ScriptViewMeasuring, IsToldOnceWhenItIsComplete) {
     // Of two paragraphs that are laid out later, the first one at once.
-    view.setScript(Script(MarkdownRenderer(16).render(u"words "_s.repeated(1300) + u"\n"_s +
-                                                      u"wider words "_s.repeated(650))));
+    setScript(Script(MarkdownRenderer(16).render(u"words "_s.repeated(1300) + u"\n"_s +
+                                                 u"wider words "_s.repeated(650))));
     view.caretRect(0);
     int completions = 0;
     QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { ++completions; });
@@ -267,7 +305,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ScriptViewTest, DoesNotMoveTheReaderWhileALongTextIsLaidOut) {
     const QString text = (u"words "_s.repeated(70) + u"\n"_s).repeated(2000);
-    view.setScript(Script(MarkdownRenderer(16).render(text)));
+    setScript(Script(MarkdownRenderer(16).render(text)));
     view.scrollTo(view.maximumScrollPosition() / 2);
     view.grab();
     const qsizetype before = view.offsetAt({20, 100});
@@ -280,7 +318,7 @@ TEST_F(ScriptViewTest, DrawsTheSamePageWhetherOrNotTheTextAboveHasBeenLaidOut) {
     QString text;
     for (int i = 0; i < 3000; ++i)
         text += u"Paragraph %1 "_s.arg(i) + u"words "_s.repeated(i % 90) + u"\n"_s;
-    view.setScript(Script(MarkdownRenderer(16).render(text)));
+    setScript(Script(MarkdownRenderer(16).render(text)));
     view.scrollTo(1e9);
     view.grab();
     for (int page = 0; page < 5; ++page) {
@@ -299,7 +337,7 @@ TEST_F(ScriptViewTest, DrawsTheSamePageWhetherOrNotTheTextAboveHasBeenLaidOut) {
 }
 
 TEST_F(ScriptViewTest, StaysAtTheEndWhileHeightsAreMeasured) {
-    view.setScript(
+    setScript(
         Script(MarkdownRenderer(16).render((u"words "_s.repeated(70) + u"\n"_s).repeated(2000))));
     view.scrollTo(1e9);
     while (!view.isLayoutComplete())
@@ -308,7 +346,7 @@ TEST_F(ScriptViewTest, StaysAtTheEndWhileHeightsAreMeasured) {
 }
 
 TEST_F(ScriptViewTest, DrawsTheEndOfAVeryTallDocument) {
-    view.setScript(Script(MarkdownRenderer(16).render(u"line\n"_s.repeated(2'500'000))));
+    setScript(Script(MarkdownRenderer(16).render(u"line\n"_s.repeated(2'500'000))));
     ASSERT_GT(view.documentHeight(), 4e7);
     view.scrollTo(view.documentHeight() - 300);
     EXPECT_GT(brightness(view.grab().toImage()), 1.0);

@@ -1,4 +1,4 @@
-#include "prompter/FrameRate.h"
+#include "reading/FrameRate.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "prompter/ContentRenderer.h"
+#include "reading/ContentRenderer.h"
 
 #include "platform/MainQueue.h"
 #include "platform/TaskRunner.h"

@@ -1,4 +1,4 @@
-#include "prompter/layout/ScriptChange.h"
+#include "reading/ScriptChange.h"
 
 #include "render/markdown/MarkdownRenderer.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "prompter/layout/Script.h"
+#include "reading/Script.h"
 
 #include <cstddef>
 

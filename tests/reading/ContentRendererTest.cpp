@@ -1,4 +1,4 @@
-#include "prompter/ContentRenderer.h"
+#include "reading/ContentRenderer.h"
 
 #include "support/FakeMainQueue.h"
 #include "support/FakeTaskRunner.h"

@@ -1,24 +1,30 @@
-#include "prompter/AutoScroll.h"
+#include "reading/AutoScroll.h"
 
-#include "settings/AppSettings.h"
+#include "RecordingView.h"
+
+#include "reading/ReadingSession.h"
+#include "settings/PersistedSettings.h"
 #include "support/FakeDisplayLinkMaker.h"
 #include "support/FakeMainQueue.h"
 #include "support/FakeTimerMaker.h"
 
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <memory>
+#include <utility>
 
 namespace tessaline {
 namespace {
 
 class AutoScrollTest : public testing::Test {
 protected:
-    std::unique_ptr<AutoScroll> make() {
-        return std::make_unique<AutoScroll>(settings, links, timers, queue,
-                                            [this](double deltaY) { steps.push_back(deltaY); });
+    AutoScrollTest() { session->addView(view); }
+
+    AutoScroll& make() {
+        auto source = std::make_unique<AutoScroll>(session, links, timers, queue);
+        AutoScroll& made = *source;
+        session->setSource(std::move(source));
+        return made;
     }
 
     /// Lets frames pass, at 60 to the second.
@@ -28,25 +34,25 @@ protected:
         queue.runAll();
     }
 
-    QTemporaryDir folder;
-    AppSettings settings{folder.filePath(QStringLiteral("config.json"))};
+    PersistedSettings settings;
+    RecordingView view;
     FakeDisplayLinkMaker links;
     FakeTimerMaker timers;
     FakeMainQueue queue;
-    std::vector<double> steps;
+    const std::shared_ptr<ReadingSession> session = std::make_shared<ReadingSession>(settings);
     std::uint64_t hostTime = 0;
 };
 
 TEST_F(AutoScrollTest, RunsFromTheStartWhenTheSettingsSaySo) {
     settings.autoScrollEnabled = true;
-    EXPECT_TRUE(make()->running());
+    EXPECT_TRUE(make().running());
     settings.autoScrollEnabled = false;
-    EXPECT_FALSE(make()->running());
+    EXPECT_FALSE(make().running());
 }
 
 TEST_F(AutoScrollTest, RunsNoTimerWhereThereIsADisplayLink) {
     settings.autoScrollEnabled = true;
-    const auto scroll = make();
+    make();
     EXPECT_TRUE(timers.liveIntervals().empty());
     EXPECT_EQ(links.living.size(), 1u);
 }
@@ -55,11 +61,11 @@ TEST_F(AutoScrollTest, MovesAtTheSpeedOfTheRate) {
     settings.autoScrollEnabled = true;
     settings.scrollRate = ScrollRate::fast;
     settings.scrollSpeed = 5.0;
-    const auto scroll = make();
+    make();
     refresh(2);
-    ASSERT_EQ(steps.size(), 2u);
-    EXPECT_DOUBLE_EQ(steps[0], -0.32);
-    EXPECT_DOUBLE_EQ(steps[1], -0.32);
+    ASSERT_EQ(view.steps.size(), 2u);
+    EXPECT_DOUBLE_EQ(view.steps[0], 0.32);
+    EXPECT_DOUBLE_EQ(view.steps[1], 0.32);
 }
 
 TEST_F(AutoScrollTest, StandsStillAtSpeedZeroAtEveryRate) {
@@ -67,9 +73,9 @@ TEST_F(AutoScrollTest, StandsStillAtSpeedZeroAtEveryRate) {
     settings.scrollSpeed = 0;
     for (const ScrollRate rate : allScrollRates) {
         settings.scrollRate = rate;
-        const auto scroll = make();
+        make();
         refresh(10);
-        EXPECT_TRUE(steps.empty());
+        EXPECT_TRUE(view.steps.empty());
     }
 }
 
@@ -77,21 +83,21 @@ TEST_F(AutoScrollTest, TakesANewSpeedOver) {
     settings.autoScrollEnabled = true;
     settings.scrollRate = ScrollRate::fast;
     settings.scrollSpeed = 5.0;
-    const auto scroll = make();
+    make();
     settings.scrollSpeed = 2.5;
-    scroll->updateSpeed();
+    session->updatePace();
     refresh(1);
-    ASSERT_EQ(steps.size(), 1u);
-    EXPECT_DOUBLE_EQ(steps[0], -0.16);
+    ASSERT_EQ(view.steps.size(), 1u);
+    EXPECT_DOUBLE_EQ(view.steps[0], 0.16);
 }
 
 TEST_F(AutoScrollTest, MovesNothingOnceTheSettingsSayNo) {
     settings.autoScrollEnabled = true;
     settings.scrollSpeed = 5.0;
-    const auto scroll = make();
+    make();
     settings.autoScrollEnabled = false;
     refresh(5);
-    EXPECT_TRUE(steps.empty());
+    EXPECT_TRUE(view.steps.empty());
 }
 
 TEST_F(AutoScrollTest, FallsBackToTheTimerWithoutADisplayLink) {
@@ -100,36 +106,36 @@ TEST_F(AutoScrollTest, FallsBackToTheTimerWithoutADisplayLink) {
     settings.scrollRate = ScrollRate::fast;
     settings.scrollSpeed = 5.0;
     testing::internal::CaptureStdout();
-    const auto scroll = make();
+    AutoScroll& scroll = make();
     EXPECT_NE(testing::internal::GetCapturedStdout().find("falling back to Timer"),
               std::string::npos);
-    EXPECT_TRUE(scroll->running());
+    EXPECT_TRUE(scroll.running());
     timers.advance(1.5 / 60);
     queue.runAll();
-    ASSERT_EQ(steps.size(), 1u);
-    EXPECT_DOUBLE_EQ(steps[0], -0.32);
-    scroll->stop();
-    EXPECT_FALSE(scroll->running());
+    ASSERT_EQ(view.steps.size(), 1u);
+    EXPECT_DOUBLE_EQ(view.steps[0], 0.32);
+    scroll.stop();
+    EXPECT_FALSE(scroll.running());
     EXPECT_TRUE(timers.liveIntervals().empty());
 }
 
 TEST_F(AutoScrollTest, RunsNoTimerBeforeItIsSwitchedOnWithoutADisplayLink) {
     links.available = false;
-    const auto scroll = make();
+    AutoScroll& scroll = make();
     EXPECT_TRUE(timers.liveIntervals().empty());
-    scroll->start();
-    EXPECT_TRUE(scroll->running());
+    scroll.start();
+    EXPECT_TRUE(scroll.running());
     EXPECT_EQ(timers.liveIntervals().size(), 1u);
 }
 
 TEST_F(AutoScrollTest, DeliversNothingOnceItIsGone) {
     settings.autoScrollEnabled = true;
     settings.scrollSpeed = 5.0;
-    auto scroll = make();
+    make();
     links.refresh(1);
-    scroll.reset();
+    session->setSource(nullptr);
     queue.runAll();
-    EXPECT_TRUE(steps.empty());
+    EXPECT_TRUE(view.steps.empty());
 }
 
 } // namespace

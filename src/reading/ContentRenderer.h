@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Lifetime.h"
-#include "prompter/layout/Script.h"
+#include "reading/Script.h"
 
 #include <QString>
 

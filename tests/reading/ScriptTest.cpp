@@ -1,4 +1,4 @@
-#include "prompter/layout/Script.h"
+#include "reading/Script.h"
 
 #include "render/markdown/MarkdownRenderer.h"
 #include "render/markdown/StyledTextBuilder.h"

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace tessaline {
+
+struct Pace;
+
+/// What moves the reader of a session along without a hand. It moves from wherever the reader is,
+/// so that hands always win. Main thread only.
+class PositionSource {
+public:
+    virtual ~PositionSource() = default;
+
+    /// Begins to move the reader. Does nothing while it does.
+    virtual void start() = 0;
+
+    /// Leaves the reader where they are.
+    virtual void stop() = 0;
+
+    virtual void setPace(const Pace& pace) = 0;
+};
+
+} // namespace tessaline
