@@ -27,10 +27,15 @@ class Strip(SettingsTestCase):
         self.write_settings(
             activeSourceType="obsidian", enabledSourceTypes=["clipboard", "obsidian"]
         )
-        (self.support_folder() / "tessaline-content.md").write_text("sent")
+        (self.support_folder() / "tessaline-content.md").write_text("## sent")
         (self.support_folder() / "clipboard-content.md").write_text("pasted")
         self.start()
         self.wait_for_text(PROMPTER, "1 words • ~5s")
+
+    def assert_says_that_the_script_begins_with_a_heading(self):
+        heading = self.control(PROMPTER, "heading", "sent")
+        self.assertEqual(heading.description, "Level 2")
+        self.assertTrue(heading.lies_in(self.control(PROMPTER, "text", "Script").area))
 
     def start_another_program(self):
         probe = self.desktop.start("other", [self.probe(), "normal", "#0000ff"])
@@ -47,6 +52,7 @@ class Strip(SettingsTestCase):
         ]
 
     def test_explains_itself_while_another_program_has_the_keyboard(self):
+        self.assert_says_that_the_script_begins_with_a_heading()
         other = self.start_another_program()
         for (role, name), tool_tip in TOOL_TIPS.items():
             with self.subTest(name):

@@ -87,18 +87,10 @@ void ScriptView::scrollByHand(double position) {
     scrollTo(position);
 }
 
-void ScriptView::moveBy(double points) {
-    setPosition(scrollTop + points);
-}
-
 void ScriptView::moveTo(qsizetype offset) {
     setPosition(positionOf(offset));
     measureVisible();
     setPosition(positionOf(offset));
-}
-
-void ScriptView::follow(const ReadingPlace& place) {
-    setPosition(positionOf(place));
 }
 
 void ScriptView::setPosition(double position) {
@@ -353,6 +345,11 @@ QRectF ScriptView::caretRect(qsizetype offset) {
     QRectF rect;
     keepPlaceDuring([&] { rect = layout.caretRect(offset); });
     return rect.translated(horizontalInset, verticalInset - scrollTop);
+}
+
+QRectF ScriptView::paragraphRect(std::size_t paragraph) const {
+    const double top = layout.topOf(paragraph) + verticalInset - scrollTop;
+    return {horizontalInset, top, layout.textWidth(), layout.heightOf(paragraph)};
 }
 
 qsizetype ScriptView::offsetAt(const QPointF& point) {

@@ -31,6 +31,7 @@ public:
                QWidget* parent = nullptr);
     ~ScriptView() override;
 
+    ReadingSession& reading() const { return *session; }
     const Script& script() const { return layout.script(); }
 
     /// How far the document's top lies above the view's.
@@ -69,6 +70,10 @@ public:
     /// Where the caret before an offset is drawn, in the view's coordinates.
     QRectF caretRect(qsizetype offset);
 
+    /// Where a paragraph is, with the spacing around it, in the view's coordinates. In part an
+    /// estimate until `isLayoutComplete`.
+    QRectF paragraphRect(std::size_t paragraph) const;
+
     /// The offset nearest to a point in the view's coordinates.
     qsizetype offsetAt(const QPointF& point);
 
@@ -90,9 +95,9 @@ protected:
 
 private:
     void scriptChanged(const Script& before, const ScriptChange& change, bool placeIsKept) override;
-    void moveBy(double points) override;
+    void moveBy(double points) override { setPosition(scrollTop + points); }
     void moveTo(qsizetype offset) override;
-    void follow(const ReadingPlace& place) override;
+    void follow(const ReadingPlace& place) override { setPosition(positionOf(place)); }
     double distance() const override { return maximumScrollPosition(); }
 
     void setPosition(double position);

@@ -1,6 +1,8 @@
 #include "prompter/view/ScriptViewAccessible.h"
 
+#include "prompter/view/HeadingAccessible.h"
 #include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
 
 #include <algorithm>
 
@@ -56,6 +58,55 @@ void installScriptViewAccessibility() {
 
 ScriptViewAccessible::ScriptViewAccessible(ScriptView& scriptView)
     : QAccessibleWidget(&scriptView, QAccessible::EditableText) {}
+
+ScriptViewAccessible::~ScriptViewAccessible() {
+    forgetHeadings();
+}
+
+void ScriptViewAccessible::forgetHeadings() const {
+    for (const Heading& heading : headings)
+        if (heading.id != 0) QAccessible::deleteAccessibleInterface(heading.id);
+    headings.clear();
+}
+
+void ScriptViewAccessible::findHeadings() const {
+    const auto& script = view().reading().script();
+    if (script == searchedScript) return;
+    forgetHeadings();
+    searchedScript = script;
+    for (std::size_t i = 0; i < script->paragraphs.size(); ++i)
+        if (script->headingLevel(i) > 0) headings.push_back({i, 0});
+}
+
+int ScriptViewAccessible::childCount() const {
+    findHeadings();
+    return QAccessibleWidget::childCount() + int(headings.size());
+}
+
+QAccessibleInterface* ScriptViewAccessible::child(int index) const {
+    findHeadings();
+    const int place = index - QAccessibleWidget::childCount();
+    if (place < 0) return QAccessibleWidget::child(index);
+    if (place >= int(headings.size())) return nullptr;
+    Heading& heading = headings[std::size_t(place)];
+    if (heading.id == 0) {
+        heading.id = QAccessible::registerAccessibleInterface(
+            new HeadingAccessible(view(), heading.paragraph));
+    }
+    return QAccessible::accessibleInterface(heading.id);
+}
+
+int ScriptViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
+    const auto* heading = dynamic_cast<const HeadingAccessible*>(child);
+    if (!heading) return QAccessibleWidget::indexOfChild(child);
+    findHeadings();
+    const auto found =
+        std::find_if(headings.begin(), headings.end(), [&](const Heading& candidate) {
+            return candidate.paragraph == heading->paragraph();
+        });
+    if (found == headings.end() || !heading->isValid()) return -1;
+    return QAccessibleWidget::childCount() + int(found - headings.begin());
+}
 
 ScriptView& ScriptViewAccessible::view() const {
     return *static_cast<ScriptView*>(widget());

@@ -2,20 +2,31 @@
 
 #include <QAccessibleWidget>
 
+#include <cstddef>
+#include <memory>
+#include <vector>
+
 namespace tessaline {
 
 class ScriptView;
+struct Script;
 
 /// Makes every script view from now on speak to screen readers. May be called more than once.
 void installScriptViewAccessibility();
 
-/// What a screen reader sees of a script view: a read-only text of many lines.
+/// What a screen reader sees of a script view: a read-only text of many lines, and its headings as
+/// objects of their own, behind the view's widgets.
 class ScriptViewAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     explicit ScriptViewAccessible(ScriptView& view);
+    ~ScriptViewAccessible() override;
 
     void* interface_cast(QAccessible::InterfaceType type) override;
     QAccessible::State state() const override;
+
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
 
     void selection(int selectionIndex, int* startOffset, int* endOffset) const override;
     int selectionCount() const override;
@@ -36,6 +47,15 @@ private:
     ScriptView& view() const;
     const QString& content() const;
     void select(int anchor, int caret);
+    void findHeadings() const;
+    void forgetHeadings() const;
+
+    struct Heading {
+        std::size_t paragraph;
+        QAccessible::Id id; ///< 0 until somebody asks for the object
+    };
+    mutable std::shared_ptr<const Script> searchedScript;
+    mutable std::vector<Heading> headings; ///< of that script
 };
 
 } // namespace tessaline

@@ -77,6 +77,44 @@ TEST_F(ScriptViewAccessibleTest, DescribesTheLookOfTheText) {
     EXPECT_TRUE(text().attributes(0, &begin, &end).contains(u"font-size:16pt"_s));
 }
 
+TEST_F(ScriptViewAccessibleTest, HasItsHeadingsAsObjects) {
+    const int widgets = interface().childCount();
+    show(u"# One\n"_s + lines(50) + u"### Two *more*\n"_s + lines(50));
+    ASSERT_EQ(interface().childCount(), widgets + 2);
+    const auto* one = interface().child(widgets);
+    const auto* two = interface().child(widgets + 1);
+    EXPECT_EQ(one->role(), QAccessible::Heading);
+    EXPECT_EQ(one->text(QAccessible::Name), u"One"_s);
+    EXPECT_EQ(one->text(QAccessible::Description), u"Level 1"_s);
+    EXPECT_EQ(two->text(QAccessible::Name), u"Two more"_s);
+    EXPECT_EQ(two->text(QAccessible::Description), u"Level 3"_s);
+    EXPECT_EQ(interface().indexOfChild(two), widgets + 1);
+    EXPECT_EQ(two->parent(), &interface());
+    EXPECT_EQ(interface().child(widgets + 2), nullptr);
+}
+
+TEST_F(ScriptViewAccessibleTest, PlacesHeadingsWhereTheyAreSeen) {
+    show(lines(50) + u"# Far\n"_s + lines(50));
+    const auto* heading = interface().child(interface().childCount() - 1);
+    EXPECT_TRUE(heading->state().offscreen);
+    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_FALSE(heading->state().offscreen);
+    const QPoint corner = view.mapToGlobal(QPoint(0, 0));
+    EXPECT_NEAR(heading->rect().top(), corner.y(), 1);
+    EXPECT_GT(heading->rect().height(), 20);
+}
+
+TEST_F(ScriptViewAccessibleTest, HasTheHeadingsOfTheTextThatIsShown) {
+    show(u"# One\n## Two"_s);
+    const int count = interface().childCount();
+    const QAccessible::Id old = QAccessible::uniqueId(interface().child(count - 1));
+    show(u"# Other"_s);
+    EXPECT_FALSE(QAccessible::accessibleInterface(old)->isValid());
+    EXPECT_EQ(interface().childCount(), count - 1);
+    EXPECT_EQ(interface().child(count - 2)->text(QAccessible::Name), u"Other"_s);
+    EXPECT_EQ(QAccessible::accessibleInterface(old), nullptr);
+}
+
 TEST_F(ScriptViewAccessibleTest, TellsWhatAParagraphIs) {
     show(u"# One\n###### *Six*\nbody\n- item\n> quote\n```\ncode\n```\n---"_s);
     const auto styleOf = [this](const QString& words) {
