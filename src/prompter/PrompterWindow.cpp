@@ -232,7 +232,8 @@ void PrompterWindow::renderContent() {
 }
 
 void PrompterWindow::renderMarkdown(const QString& content) {
-    renderer.render(content, settings.fontSize,
+    view->setFontSize(settings.fontSize);
+    renderer.render(content,
                     [this](RenderedContent rendered) { showContent(std::move(rendered)); });
 }
 

@@ -11,7 +11,9 @@ namespace tessaline {
 
 namespace {
 
-RenderedContent rendered(const QString& markdown, double fontSize) {
+constexpr double fontSize = 16.0;
+
+RenderedContent rendered(const QString& markdown) {
     // Counting takes a copy of the text, which is gone before rendering takes as much.
     const qsizetype wordCount = MarkdownRenderer::wordCount(markdown);
     return {Script(MarkdownRenderer(fontSize).render(markdown)), wordCount};
@@ -26,13 +28,13 @@ void ContentRenderer::cancel() {
     request.reset();
 }
 
-void ContentRenderer::render(const QString& markdown, double fontSize, Handler done) {
+void ContentRenderer::render(const QString& markdown, Handler done) {
     request.emplace();
-    if (markdown.size() <= mostRenderedAtOnce) return done(rendered(markdown, fontSize));
+    if (markdown.size() <= mostRenderedAtOnce) return done(rendered(markdown));
 
-    tasks.run([markdown, fontSize, deliver = request->guard(std::move(done)), &mainQueue = queue] {
+    tasks.run([markdown, deliver = request->guard(std::move(done)), &mainQueue = queue] {
         if (!deliver.isAlive()) return;
-        auto content = std::make_shared<RenderedContent>(rendered(markdown, fontSize));
+        auto content = std::make_shared<RenderedContent>(rendered(markdown));
         mainQueue.post([content, deliver] { deliver(std::move(*content)); });
     });
 }

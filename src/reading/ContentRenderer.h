@@ -31,9 +31,10 @@ public:
     /// Borrows both.
     ContentRenderer(TaskRunner& tasks, MainQueue& queue);
 
-    /// Renders Markdown with body text of so many points, counts its words, and calls `done` with
-    /// the result on the main thread, unless something else has been asked for in the meantime.
-    void render(const QString& markdown, double fontSize, Handler done);
+    /// Renders Markdown, counts its words, and calls `done` with the result on the main thread,
+    /// unless something else has been asked for in the meantime. All texts have fonts for the same
+    /// body size, so that what two of them share is the same; views resize them.
+    void render(const QString& markdown, Handler done);
 
     /// Whatever is being rendered is not wanted any more.
     void cancel();

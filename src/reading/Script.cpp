@@ -23,7 +23,7 @@ StyledText withoutCarriageReturns(StyledText styled) {
         }
         if (text.size() > start) runs.push_back({int(start), int(text.size() - start), run.style});
     }
-    return {std::move(text), std::move(runs), std::move(styled.styles)};
+    return {std::move(text), std::move(runs), std::move(styled.styles), styled.fontSize};
 }
 
 } // namespace

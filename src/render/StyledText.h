@@ -27,6 +27,7 @@ struct StyledText {
     QString text;                       ///< UTF-16
     std::vector<Run> runs;              ///< cover the text without gaps; neighbours differ in style
     std::vector<TextAttributes> styles; ///< the distinct attribute sets that runs refer to
+    double fontSize = 0.0; ///< of body text, which a view may replace; 0: every font is as it is
 
     /// The attributes of one of this text's runs.
     const TextAttributes& attributes(const Run& run) const { return styles[run.style]; }

@@ -202,7 +202,7 @@ TEST_F(PrompterWindowTest, RerendersWithTheFontSizeOfTheSettings) {
     settings.fontSize = 30;
     window().rerender();
     const auto& styled = window().textView().script().styled;
-    EXPECT_EQ(styled.attributes(styled.runs.front()).font->size, 40);
+    EXPECT_EQ(window().textView().sizeOf(*styled.attributes(styled.runs.front()).font), 40);
 }
 
 TEST_F(PrompterWindowTest, RerendersNothingBeforeTheFirstText) {

@@ -16,7 +16,7 @@ namespace {
 class ContentRendererTest : public testing::Test {
 protected:
     void render(const QString& markdown) {
-        renderer.render(markdown, 16, [this](const RenderedContent& content) {
+        renderer.render(markdown, [this](const RenderedContent& content) {
             shown.push_back(content.script.styled.text.left(5));
             words = content.wordCount;
         });
@@ -66,7 +66,7 @@ TEST_F(ContentRendererTest, DropsWhatIsNotWantedAnyMore) {
 
 TEST_F(ContentRendererTest, MayGoAwayWhileATextIsBeingRendered) {
     auto passing = std::make_unique<ContentRenderer>(tasks, queue);
-    passing->render(longText, 16, [this](const RenderedContent&) { shown.push_back(u"late"_s); });
+    passing->render(longText, [this](const RenderedContent&) { shown.push_back(u"late"_s); });
     passing.reset();
     tasks.runAll();
     queue.runAll();

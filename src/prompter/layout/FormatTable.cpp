@@ -31,8 +31,13 @@ double scaleOf(const QFont& font) {
     return drawn > 0.0 ? pointsOf(font) / drawn : 1.0;
 }
 
-FormatTable::Entry makeEntry(const TextAttributes& attributes) {
-    const QFont font = attributes.font ? resolvedFont(*attributes.font) : defaultTextFont();
+QFont grown(TextFont font, double growth) {
+    font.size += growth;
+    return resolvedFont(font);
+}
+
+FormatTable::Entry makeEntry(const TextAttributes& attributes, double growth) {
+    const QFont font = attributes.font ? grown(*attributes.font, growth) : defaultTextFont();
     FormatTable::Entry entry;
     entry.font = font;
     entry.font.setStrikeOut(attributes.strikethrough != 0);
@@ -85,13 +90,13 @@ double scaledLineHeight(double height, double leading, double scale) {
     return std::ceil(height * scale) + std::max(leading, 0.0) * scale;
 }
 
-FormatTable::FormatTable() : plainEntry(makeEntry({})) {}
+FormatTable::FormatTable() : plainEntry(makeEntry({}, 0.0)) {}
 
-void FormatTable::assign(const std::vector<TextAttributes>& styles) {
+void FormatTable::assign(const std::vector<TextAttributes>& styles, double growth) {
     entries.clear();
     entries.reserve(styles.size());
     for (const auto& attributes : styles)
-        entries.push_back(makeEntry(attributes));
+        entries.push_back(makeEntry(attributes, growth));
 }
 
 FormatTable FormatTable::ofSelected() const {

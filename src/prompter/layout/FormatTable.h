@@ -39,8 +39,8 @@ public:
 
     FormatTable();
 
-    /// Replaces the table by one for these sets.
-    void assign(const std::vector<TextAttributes>& styles);
+    /// Replaces the table by one for these sets, with every font so many points larger.
+    void assign(const std::vector<TextAttributes>& styles, double growth = 0.0);
 
     /// The same table for what is selected: everything in white, as colours of its own may be
     /// faint.

@@ -28,8 +28,10 @@ void ScriptLayout::setScript(std::shared_ptr<const Script> script) {
 
 void ScriptLayout::setScript(std::shared_ptr<const Script> script, const ScriptChange& change) {
     const std::size_t oldCount = currentScript->paragraphs.size();
+    const double oldGrowth = fontGrowth();
     currentScript = std::move(script);
-    formats.assign(currentScript->styled.styles);
+    formats.assign(currentScript->styled.styles, fontGrowth());
+    if (fontGrowth() != oldGrowth) return estimateAll();
     keepMeasured(change, oldCount);
 }
 
@@ -66,6 +68,18 @@ void ScriptLayout::setTextWidth(double points) {
     if (points == columnWidth) return;
     columnWidth = points;
     estimateAll();
+}
+
+void ScriptLayout::setFontSize(double points) {
+    if (points == bodySize) return;
+    bodySize = points;
+    formats.assign(currentScript->styled.styles, fontGrowth());
+    estimateAll();
+}
+
+double ScriptLayout::fontGrowth() const {
+    const double written = currentScript->styled.fontSize;
+    return bodySize > 0.0 && written > 0.0 ? bodySize - written : 0.0;
 }
 
 void ScriptLayout::estimateAll() {

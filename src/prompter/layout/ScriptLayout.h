@@ -35,8 +35,16 @@ public:
     /// Sets the column's width in points.
     void setTextWidth(double points);
 
+    /// Sets the size of body text in points; other text that the script sizes by it follows. Before
+    /// that, and for 0, everything has the size that the script says.
+    void setFontSize(double points);
+
     const Script& script() const { return *currentScript; }
     double textWidth() const { return columnWidth; }
+    double fontSize() const { return bodySize; }
+
+    /// By how many points the fonts here are larger than the script says.
+    double fontGrowth() const;
 
     /// The column's height, in part estimated until `isMeasured`.
     double height() const { return heights.total(); }
@@ -83,6 +91,7 @@ private:
     std::size_t nextToMeasure = 0; ///< no paragraph before this one is unmeasured
     std::map<std::size_t, ParagraphLayout> layouts;
     double columnWidth = 400.0;
+    double bodySize = 0.0;
 };
 
 } // namespace tessaline

@@ -100,7 +100,7 @@ void ScriptView::setPosition(double position) {
     tellPlace();
     updateScroller();
     update();
-    prepareStrips();
+    if (!idleTimer.isActive()) idleTimer.start(0, this); // which prepares strips
 }
 
 void ScriptView::tellPlace() {
@@ -154,10 +154,7 @@ void ScriptView::scriptChanged(const Script& before, const ScriptChange& change,
     layout.setScript(session->script(), change);
     if (change.oldCount == 0 && change.newCount == 0) return;
     moveSelectionAcross(change, before);
-    if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
-        layout.measureMore(unitsLaidOutAtOnce + 1, 0);
-    if (placeIsKept) scrollTop = positionOf(session->place());
-    layoutChanged();
+    setAnew(placeIsKept);
     if (!QAccessible::isActive() || before.styled.text == layout.script().styled.text) return;
     QAccessibleTextUpdateEvent event(this, 0, before.styled.text, layout.script().styled.text);
     QAccessible::updateAccessibility(&event);
@@ -178,6 +175,19 @@ void ScriptView::moveSelectionAcross(const ScriptChange& change, const Script& b
     moved.moveTo(movedOffset(currentSelection.anchor()), false);
     moved.moveTo(movedOffset(currentSelection.caret()), true);
     currentSelection = moved;
+}
+
+void ScriptView::setFontSize(double points) {
+    if (points == layout.fontSize()) return;
+    layout.setFontSize(points);
+    setAnew(true);
+}
+
+void ScriptView::setAnew(bool atReadersPlace) {
+    if (script().styled.text.size() <= unitsLaidOutAtOnce)
+        layout.measureMore(unitsLaidOutAtOnce + 1, 0);
+    if (atReadersPlace) scrollTop = positionOf(session->place());
+    layoutChanged();
 }
 
 void ScriptView::layoutChanged() {
@@ -237,10 +247,6 @@ void ScriptView::continueLayout() {
     keepPlaceDuring([this] { layout.measureMore(unitsLaidOutPerSlice, 0); });
 }
 
-void ScriptView::prepareStrips() {
-    if (!idleTimer.isActive()) idleTimer.start(0, this);
-}
-
 void ScriptView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != idleTimer.timerId()) return QWidget::timerEvent(event);
     if (!layout.isMeasured()) return continueLayout();
@@ -270,10 +276,7 @@ void ScriptView::resizeEvent(QResizeEvent*) {
         return updateScroller();
     }
     layout.setTextWidth(textWidth);
-    if (layout.script().styled.text.size() <= unitsLaidOutAtOnce)
-        layout.measureMore(unitsLaidOutAtOnce + 1, 0);
-    scrollTop = positionOf(session->place());
-    layoutChanged();
+    setAnew(true);
 }
 
 void ScriptView::sizeFrame() {

@@ -34,6 +34,12 @@ public:
     ReadingSession& reading() const { return *session; }
     const Script& script() const { return layout.script(); }
 
+    /// Sets the size of body text in points; the reader keeps their place.
+    void setFontSize(double points);
+
+    /// The size that a font of the script has here, in points.
+    double sizeOf(const TextFont& font) const { return font.size + layout.fontGrowth(); }
+
     /// How far the document's top lies above the view's.
     double scrollPosition() const { return scrollTop; }
 
@@ -108,11 +114,11 @@ private:
     template <typename Action>
     bool keepPlaceDuring(Action action);
     void measureVisible();
+    void setAnew(bool atReadersPlace);
     void layoutChanged();
     void continueLayout();
     double positionOfParagraph(std::size_t paragraph) const;
     void goByHand(std::size_t paragraph);
-    void prepareStrips();
     void sizeFrame();
     void composeFrame();
     void updateScroller();

@@ -37,11 +37,11 @@ QString paragraphStyle(const ParagraphStyle& style) {
 }
 
 /// Text attributes in the form that screen readers expect.
-QString describe(const TextAttributes& attributes) {
+QString describe(const TextAttributes& attributes, const ScriptView& view) {
     QString result;
     if (attributes.font) {
         const bool bold = attributes.font->weight == TextFont::Weight::bold;
-        result += u"font-size:%1pt;"_s.arg(attributes.font->size);
+        result += u"font-size:%1pt;"_s.arg(view.sizeOf(*attributes.font));
         result += u"font-weight:%1;"_s.arg(bold ? u"bold"_s : u"normal"_s);
         result += u"font-style:%1;"_s.arg(attributes.font->italic ? u"italic"_s : u"normal"_s);
     }
@@ -209,7 +209,7 @@ QString ScriptViewAccessible::attributes(int offset, int* startOffset, int* endO
     const StyledText::Run& run = *(behind - 1);
     *startOffset = run.start;
     *endOffset = run.start + run.length;
-    return describe(styled.attributes(run));
+    return describe(styled.attributes(run), view());
 }
 
 } // namespace tessaline

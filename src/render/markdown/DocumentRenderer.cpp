@@ -49,7 +49,9 @@ void DocumentRenderer::appendNewline() {
 }
 
 StyledText DocumentRenderer::take() {
-    return builder.take();
+    StyledText styled = builder.take();
+    styled.fontSize = renderer.fontSize;
+    return styled;
 }
 
 void DocumentRenderer::appendLine(QStringView line) {

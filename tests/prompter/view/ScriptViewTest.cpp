@@ -183,6 +183,39 @@ TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheFontGrows) {
     EXPECT_EQ(topLine(), before);
 }
 
+TEST_F(ScriptViewTest, LooksTheSameInAnotherFontSizeAsATextThatWasMadeForIt) {
+    const QString text = u"# Title\n- item\n**bold** `code`\n```\nblock\n```\n"_s + lines(20);
+    show(text);
+    view.setFontSize(24.5);
+    const QImage resized = view.grab().toImage();
+    setScript(Script(MarkdownRenderer(24.5).render(text)));
+    view.completeLayout();
+    EXPECT_EQ(view.grab().toImage(), resized);
+}
+
+TEST_F(ScriptViewTest, KeepsTheReadersLineAndTheSelectionWhenTheFontSizeChanges) {
+    show(lines(100));
+    view.scrollTo(700);
+    const QString line = topLine();
+    TextSelection selection;
+    selection.moveTo(10, false);
+    selection.moveTo(600, true);
+    view.setSelection(selection);
+    const QString selected = view.selectedText();
+    view.setFontSize(28);
+    EXPECT_EQ(topLine(), line);
+    EXPECT_EQ(view.selectedText(), selected);
+}
+
+TEST_F(ScriptViewTest, LeavesFontsThatBelongToNoBodySizeAsTheyAre) {
+    StyledText styled = MarkdownRenderer(16).render(u"text"_s);
+    styled.fontSize = 0;
+    setScript(Script(std::move(styled)));
+    const double height = view.documentHeight();
+    view.setFontSize(40);
+    EXPECT_EQ(view.documentHeight(), height);
+}
+
 TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheWidthChanges) {
     show((u"words "_s.repeated(40) + u"\n"_s).repeated(50) + lines(50));
     view.scrollTo(view.maximumScrollPosition() * 0.5);
