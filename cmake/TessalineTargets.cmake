@@ -80,7 +80,7 @@ endif()
 
 # tessaline_test(NAME [OPTIMISED] SOURCES ... LIBRARIES ... [LABELS ...])
 # declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. The target
-# threaded_tests builds all those with the label "threads".
+# threaded_tests builds all those with the label "threads"; "clock" is for those that watch the real one.
 # Tests are compiled more often than they run, so only what they test is optimised, unless they
 # compute much themselves: OPTIMISED.
 function(tessaline_test name)
@@ -98,7 +98,9 @@ function(tessaline_test name)
   endif()
   set(properties TIMEOUT 120)
   if(ARG_LABELS)
-    list(APPEND properties LABELS "${ARG_LABELS}")
+    # Discovery takes a list for further properties unless its separators are escaped.
+    string(REPLACE ";" "\\;" labels "${ARG_LABELS}")
+    list(APPEND properties LABELS "${labels}")
   endif()
   gtest_discover_tests(
     test_${name}
