@@ -26,19 +26,14 @@ class PrompterTestCase(TessalineTestCase):
 
     def text_pixels(self):
         """The colours of what is read, row by row."""
-        picture = self.desktop.picture()
-        x, y, width, height = TEXT
-        return [
-            [picture.pixel(column, row) for column in range(x, x + width)]
-            for row in range(y, y + height)
-        ]
+        return self.desktop.region(*TEXT)
 
     def ink_rows(self):
         """The rows of the text, from its top, that something is drawn on."""
         return [
             number
             for number, row in enumerate(self.text_pixels())
-            if any(max(pixel) > 90 for pixel in row)
+            if max(row) > 90
         ]
 
     def wait_for_text(self):

@@ -68,7 +68,7 @@ class Sliders(SettingsTestCase):
     def test_the_prompter_follows_the_width_while_the_mouse_is_down(self):
         self.start_with_settings(self.write_script(TALK))
         slider = self.grab("Width")
-        before = self.desktop.picture().region(self.left, 60, WIDTH, HEIGHT - 80)
+        before = self.desktop.region(self.left, 60, WIDTH, HEIGHT - 80)
         widths = []
         for value in (500, 600, 700):
             self.desktop.move_mouse(*self.place_of(slider, value))
@@ -83,7 +83,7 @@ class Sliders(SettingsTestCase):
         self.assertTrue(
             holds_for(lambda: self.prompter_area()[2] == widths[-1], 0.3), "nothing moves by itself"
         )
-        inside = self.desktop.picture().region(self.left, 60, WIDTH, HEIGHT - 80)
+        inside = self.desktop.region(self.left, 60, WIDTH, HEIGHT - 80)
         self.assertNotEqual(inside, before, "the text is broken anew")
         self.assertAlmostEqual(self.settings()["width"], widths[-1], delta=1)
         self.wait_for_text(TITLE, f"{int(self.settings()['width'])}px")

@@ -78,7 +78,7 @@ class Strip(SettingsTestCase):
         x, y, width, _ = self.prompter_area()
         left, _, room, _ = self.minimize_button.area
         start = left + room - x
-        return self.desktop.picture().region(x + start, y, width - start - ROUNDING, PANEL_HEIGHT)
+        return self.desktop.region(x + start, y, width - start - ROUNDING, PANEL_HEIGHT)
 
     def assert_folding_moves_nothing(self):
         self.minimize_button = self.control(PROMPTER, "push button", "Minimize")

@@ -54,13 +54,13 @@ class TalkTestCase(SettingsTestCase):
         """The rows of the text, from its top, on which a screenshot has the bar."""
         return [
             number
-            for number, row in enumerate(self.desktop.picture().region(*self.script().area))
+            for number, row in enumerate(self.desktop.region(*self.script().area))
             if b"\1" * BAR_PIXELS in bytes(max(row[i : i + 3]) > INK for i in range(0, len(row), 3))
         ]
 
     def assert_scrolls_on(self):
         """By what the program tells, and by what is seen."""
         area = self.script().area
-        before, start = self.desktop.picture().region(*area), self.position()
+        before, start = self.desktop.region(*area), self.position()
         wait_until(lambda: self.position() > start + 2, "the text scrolls on")
-        self.assertNotEqual(self.desktop.picture().region(*area), before)
+        self.assertNotEqual(self.desktop.region(*area), before)

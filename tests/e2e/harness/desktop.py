@@ -221,8 +221,13 @@ class Desktop:
         size = self.geometry(window)[2:]
         return Picture(*size, self.x.image(window, 0, 0, *size))
 
+    def region(self, x, y, width, height):
+        """The rows of pixels of a part of the screen, as bytes that can be compared."""
+        image = self.x.image(self.x.root, x, y, width, height)
+        return Picture(width, height, image).region(0, 0, width, height)
+
     def pixel(self, x, y):
-        return Picture(1, 1, self.x.image(self.x.root, x, y, 1, 1)).pixel(0, 0)
+        return tuple(self.region(x, y, 1, 1)[0])
 
     def wait_for_pixel(self, x, y, color):
         wait_until(lambda: self.pixel(x, y) == color, f"pixel ({x}, {y}) is {color}")

@@ -1,6 +1,7 @@
 """The parts of a desktop session, each started by a function that returns once it is usable. They
 start programs through `start(name, command)`, so that these are ended whatever goes wrong here."""
 
+import contextlib
 import os
 import pathlib
 import re
@@ -8,6 +9,7 @@ import shutil
 import subprocess
 
 from .waiting import wait_until
+from .x_connection import XConnection
 
 PANEL_HEIGHT = 30
 PANEL_COLOR = (0, 255, 0)
@@ -94,17 +96,12 @@ def property_value(shown):
     return match.group(1).strip() if match else ""
 
 
-def root_property(env, name):
-    command = ["xprop", "-root", name]
-    result = subprocess.run(command, env=env, capture_output=True, text=True, check=False)
-    return property_value(result.stdout)
-
-
 def start_window_manager(start, env, name):
     command, last_property = WINDOW_MANAGERS[name]
-    require(name, "xprop")
+    require(name)
     start(name, command)
-    wait_until(lambda: root_property(env, last_property), f"{name} manages the screen")
+    with contextlib.closing(XConnection(env["DISPLAY"])) as x:
+        wait_until(lambda: x.numbers(x.root, last_property), f"{name} manages the screen")
 
 
 def start_panel(start, env, screen_height, tray=None, height=PANEL_HEIGHT, monitor="all"):
@@ -118,12 +115,13 @@ def start_panel(start, env, screen_height, tray=None, height=PANEL_HEIGHT, monit
         )
     )
     start("tint2", ["tint2", "-c", config])
+    with contextlib.closing(XConnection(env["DISPLAY"])) as x:
 
-    def has_room():
-        areas = root_property(env, "_NET_WORKAREA").replace(",", " ").split()
-        return len(areas) >= 4 and int(areas[3]) < screen_height
+        def has_room():
+            heights = x.numbers(x.root, "_NET_WORKAREA")[3:4]
+            return heights and heights[0] < screen_height
 
-    wait_until(has_room, "the panel has its strip of the screen")
+        wait_until(has_room, "the panel has its strip of the screen")
 
 
 def start_compositor(start, env):

@@ -90,7 +90,8 @@ class TessalineTestCase(DesktopTestCase):
         return self.desktop.folder / "runtime/tessaline" / (self.desktop.env["DISPLAY"] + ".socket")
 
     def status(self):
-        """What the running program tells of itself."""
+        """What the running program tells of itself, once it hears other calls."""
+        wait_until(self.socket_path().exists, "the program hears other calls")
         return ControlClient(self.socket_path()).status()
 
     def prompter_is_shown(self):
