@@ -1,6 +1,6 @@
 #include "AppDelegateFixture.h"
 
-#include "Witnesses.h"
+#include "JournalingPorts.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
 #include "support/PrintQt.h"

@@ -1,6 +1,6 @@
 #include "AppDelegateFixture.h"
 
-#include "Witnesses.h"
+#include "JournalingPorts.h"
 #include "sources/SourceManager.h"
 
 namespace tessaline {
