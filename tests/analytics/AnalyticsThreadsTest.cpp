@@ -11,7 +11,9 @@
 #include <atomic>
 #include <future>
 #include <map>
+#include <memory>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace tessaline {
@@ -58,8 +60,15 @@ protected:
         }
         recorder.flush();
         std::promise<void> done;
-        fileTasks.run([&done] { done.set_value(); });
+        historyTasks.run([&done] { done.set_value(); });
         done.get_future().wait();
+    }
+
+    static ThreadTaskRunner& runOnThreads(Platform& platform) {
+        auto runner = std::make_unique<ThreadTaskRunner>();
+        ThreadTaskRunner& made = *runner;
+        platform.historyTasks = std::move(runner);
+        return made;
     }
 
     static constexpr int threadCount = 4;
@@ -69,10 +78,8 @@ protected:
     AnalyticsStage stage;
     QString support = QFileInfo(stage.path).path();
     std::atomic<int> sent = 0;
-    ThreadTaskRunner fileTasks;
-    Analytics recorder{{.timers = stage.timers,
-                        .fileTasks = fileTasks,
-                        .bundle = stage.bundle,
+    ThreadTaskRunner& historyTasks = runOnThreads(stage.platform);
+    Analytics recorder{{.platform = stage.platform,
                         .environment = stage.environment,
                         .signal = [this](const QString&, const Analytics::Properties&) { ++sent; },
                         .historyPath = stage.path}};
