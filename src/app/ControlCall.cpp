@@ -23,9 +23,11 @@ int fail(const QString& reason) {
 
 QString nobodyRuns() {
     const QString finding = u"no prompter is running"_s;
-    if (isInASession()) return finding;
-    return finding + u" that can be found: ctl needs the environment of the desktop's session, and "
-                     "neither DISPLAY nor WAYLAND_DISPLAY is set"_s;
+    const auto missing = missingSession();
+    if (!missing) return finding;
+    return finding +
+           u" that can be found: ctl needs the environment of the desktop's session, and "_s +
+           *missing;
 }
 
 } // namespace

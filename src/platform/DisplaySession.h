@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace tessaline {
@@ -12,8 +13,15 @@ namespace tessaline {
 /// there is none, in one line. Main thread.
 std::optional<QString> prepareDisplay();
 
-/// Whether the environment says which session this is, so that the prompter that runs in it can be
-/// found. Needs no application object.
-bool isInASession();
+/// The text of an environment variable; empty where it is not set.
+using SessionVariable = std::function<QString(const char* name)>;
+
+/// What the session's display is called, the same in every program on it; empty where the user has
+/// one session only. Needs no application object, like the next one.
+QString displayOfSession(const SessionVariable& variable);
+
+/// What the environment lacks to say which session this is, as half a sentence. Without it, the
+/// prompter that runs in the session is not found.
+std::optional<QString> missingSession();
 
 } // namespace tessaline

@@ -2,6 +2,7 @@
 
 #include "app/remote/InstanceLock.h"
 #include "app/remote/TemporaryFolder.h"
+#include "platform/DisplaySession.h"
 #include "settings/FilePath.h"
 
 #include <QByteArray>
@@ -32,14 +33,8 @@ bool makePrivateFolder(const QString& path) {
     return isPrivateFolder(path);
 }
 
-/// A file name for the display. Screens of one X display share it.
-QString displayName(const InstanceAddress::Variable& variable) {
-    QString display = variable("DISPLAY");
-    if (display.isEmpty()) {
-        display = variable("WAYLAND_DISPLAY");
-    } else if (const auto dot = display.indexOf(u'.', display.lastIndexOf(u':')); dot > 0) {
-        display.truncate(dot);
-    }
+/// A file name for the display.
+QString displayName(const QString& display) {
     if (display.isEmpty()) return u"main"_s;
     const QByteArray name = display.toUtf8().toPercentEncoding(":");
     constexpr qsizetype longestReadable = 32;
@@ -70,7 +65,7 @@ bool isUsable(const InstanceAddress& address) {
 std::optional<InstanceAddress> InstanceAddress::ofSession(const Variable& variable,
                                                           const QString& temporaryFolder,
                                                           QString* problem) {
-    const QString display = displayName(variable);
+    const QString display = displayName(displayOfSession(variable));
     const InstanceAddress usual{runtimeFolderOfOurs(variable("XDG_RUNTIME_DIR")), display};
     const InstanceAddress other{temporaryFolder + u"/tessaline-%1"_s.arg(::geteuid()), display};
     // Whoever runs may have started while there was no usual place.

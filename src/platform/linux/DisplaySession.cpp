@@ -37,8 +37,17 @@ std::optional<QString> prepareDisplay() {
     return std::nullopt;
 }
 
-bool isInASession() {
-    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+QString displayOfSession(const SessionVariable& variable) {
+    const QString display = variable("DISPLAY");
+    if (display.isEmpty()) return variable("WAYLAND_DISPLAY");
+    // Screens of one X display share a session.
+    const auto dot = display.indexOf(u'.', display.lastIndexOf(u':'));
+    return dot > 0 ? display.first(dot) : display;
+}
+
+std::optional<QString> missingSession() {
+    if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY")) return std::nullopt;
+    return u"neither DISPLAY nor WAYLAND_DISPLAY is set"_s;
 }
 
 } // namespace tessaline

@@ -1,4 +1,3 @@
-#include "platform/DisplaySession.h"
 #include "platform/macos/MacAdapters.h"
 
 #include <QScreen>
@@ -23,14 +22,6 @@ std::vector<CGDirectDisplayID> activeDisplays() {
 }
 
 } // namespace
-
-std::optional<QString> prepareDisplay() {
-    return std::nullopt;
-}
-
-bool isInASession() {
-    return true; // a user has one, and everything finds it
-}
 
 ScreenIdentity identifyScreen(const QScreen& screen) {
     // Qt does not tell a screen's display, and names repeat; but Qt and Core Graphics both count
