@@ -8,20 +8,9 @@
 #include "ui/ConfigWindow.h"
 #include "ui/controls/FittingScrollArea.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QWindow>
 
 namespace tessaline {
-
-namespace {
-
-QRect primaryGeometry() {
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    return primary ? primary->geometry() : QRect();
-}
-
-} // namespace
 
 ConfigWindowPlacer::ConfigWindowPlacer(ConfigWindow& configWindow,
                                        const PrompterWindow& prompterWindow,
@@ -35,7 +24,7 @@ ConfigWindowPlacer::ConfigWindowPlacer(ConfigWindow& configWindow,
 void ConfigWindowPlacer::place() {
     const QRect primary = primaryGeometry();
     const Screen screen = prompter.currentScreen().value_or(screens.preferredScreen());
-    Rect unfolded = fromQtCoordinates(prompter.geometry(), primary);
+    Rect unfolded = prompter.frame();
     unfolded.height = settings.height;
     unfolded.y = screen.frame.maxY() - settings.height;
 

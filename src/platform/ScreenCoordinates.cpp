@@ -1,5 +1,8 @@
 #include "platform/ScreenCoordinates.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <cmath>
 
 namespace tessaline {
@@ -10,6 +13,11 @@ int rounded(double value) {
 }
 
 } // namespace
+
+QRect primaryGeometry() {
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    return primary ? primary->geometry() : QRect();
+}
 
 // QRect::right and QRect::bottom are one short of the edge, hence the sums.
 

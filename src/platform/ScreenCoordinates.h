@@ -6,6 +6,9 @@
 
 namespace tessaline {
 
+/// The primary screen in Qt's coordinates, or an empty rectangle. Needs the QGuiApplication.
+QRect primaryGeometry();
+
 /// Translates a rectangle from Qt's coordinates (top left origin, y downwards) to ours: from the
 /// bottom left corner of the primary screen, y upwards. `primary` is that screen in Qt's
 /// coordinates.

@@ -1,15 +1,20 @@
 #pragma once
 
+#include "platform/Rect.h"
+
 #include <Qt>
 
 #include <cstdint>
 #include <functional>
 
+class QWidget;
+
 namespace tessaline {
 
-/// What the prompter's window needs beyond what Qt offers. Windows are named by their native
-/// identifier, QWidget::winId; when Qt creates the native window anew, apply the traits again. Main
-/// thread only.
+struct Screen;
+
+/// What the prompter's window needs beyond what Qt offers. A native window is named by its
+/// identifier, QWidget::winId; when Qt creates it anew, apply the traits again. Main thread only.
 class WindowTraits {
 public:
     using NativeWindow = std::uintptr_t;
@@ -34,9 +39,21 @@ public:
     /// cannot do that; this is logged once, and the window stays as it is.
     virtual bool excludeFromCapture(NativeWindow window) = 0;
 
+    /// Puts the window into its place on a screen, shown or not: `frame` in points. On a display
+    /// server that lets no window choose where it is, what counts is its size and how far it is
+    /// from the screen's edges. Where there is no screen, an empty one is handed in.
+    virtual void place(QWidget& window, const Rect& frame, const Screen& screen) = 0;
+
+    /// Where the window is now, or will be once it is shown, in points.
+    virtual Rect frame(const QWidget& window) const = 0;
+
     /// Keeps the window above menu bars, panels and full-screen windows, on every desktop, out of
-    /// taskbar, pager and window cycling. Call it before the window is shown.
-    virtual void floatAboveEverything(NativeWindow window) = 0;
+    /// taskbar, pager and window cycling, for as long as it is shown. Call it right after the
+    /// window was shown.
+    virtual void adopt(QWidget& window) = 0;
+
+    /// Ends what `adopt` began. Call it before the window is hidden or destroyed.
+    virtual void release(QWidget& window) = 0;
 
     /// Directs the keyboard to the shown window and remembers who had it. Does nothing when the
     /// window has it already.

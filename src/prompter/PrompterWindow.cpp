@@ -21,9 +21,7 @@
 #include "settings/AppSettings.h"
 
 #include <QEasingCurve>
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -44,11 +42,6 @@ constexpr double unitsPerWheelStep = 120.0;
 /// The desktop's standard resize animation takes this long for every so many points.
 constexpr double resizeMilliseconds = 200.0;
 constexpr double resizePoints = 150.0;
-
-QRect primaryGeometry() {
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    return primary ? primary->geometry() : QRect();
-}
 
 double overlap(const Rect& a, const Rect& b) {
     const double width = std::min(a.maxX(), b.maxX()) - std::max(a.minX(), b.minX());
@@ -71,7 +64,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowe
     resizing.setEasingCurve(QEasingCurve::InOutSine);
     connect(&resizing, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
         // It also tells values while it is being set up.
-        if (isResizing()) setGeometry(value.toRect());
+        if (isResizing()) place(value.toRect(), currentScreen().value_or(Screen{}));
     });
     connect(&resizing, &QVariantAnimation::finished, this, [this] {
         squareCorners = collapsed;
@@ -85,7 +78,9 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowe
     platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
-PrompterWindow::~PrompterWindow() = default;
+PrompterWindow::~PrompterWindow() {
+    if (isVisible()) platform.windowTraits->release(*this);
+}
 
 void PrompterWindow::setupUI() {
     strip = new ControlStrip(this);
@@ -102,9 +97,10 @@ void PrompterWindow::setupUI() {
 void PrompterWindow::updateFrame() {
     const PrompterPlacement placement{settings.width, settings.height, settings.xOffset};
     if (screenManager) {
-        setFrame(prompterFrame(placement, screenManager->preferredScreen().frame));
+        const Screen screen = screenManager->preferredScreen();
+        setFrame(prompterFrame(placement, screen.frame), screen);
     } else if (const auto main = platform.screens->mainScreen()) {
-        setFrame(prompterFrameOnMainScreen(placement, main->frame));
+        setFrame(prompterFrameOnMainScreen(placement, main->frame), *main);
     } else {
         return;
     }
@@ -116,19 +112,27 @@ void PrompterWindow::updateFrame() {
         platform.displayLinks->setRefreshRate(screen->refreshRate);
 }
 
-void PrompterWindow::setFrame(const Rect& frame) {
+void PrompterWindow::setFrame(const Rect& target, const Screen& screen) {
     resizing.stop();
-    setGeometry(toQtCoordinates(frame, primaryGeometry()));
+    place(toQtCoordinates(target, primaryGeometry()), screen);
+}
+
+void PrompterWindow::place(const QRect& target, const Screen& screen) {
+    platform.windowTraits->place(*this, fromQtCoordinates(target, primaryGeometry()), screen);
+}
+
+Rect PrompterWindow::frame() const {
+    return platform.windowTraits->frame(*this);
 }
 
 std::optional<Screen> PrompterWindow::currentScreen() const {
-    const Rect frame = fromQtCoordinates(geometry(), primaryGeometry());
+    const Rect own = frame();
     const auto all = platform.screens->all();
     const auto covered =
         std::max_element(all.begin(), all.end(), [&](const auto& a, const auto& b) {
-            return overlap(frame, a.frame) < overlap(frame, b.frame);
+            return overlap(own, a.frame) < overlap(own, b.frame);
         });
-    if (covered != all.end() && overlap(frame, covered->frame) > 0) return *covered;
+    if (covered != all.end() && overlap(own, covered->frame) > 0) return *covered;
     if (screenManager) return screenManager->preferredScreen();
     return platform.screens->mainScreen();
 }
@@ -138,12 +142,12 @@ double PrompterWindow::menuBarHeight() const {
 }
 
 void PrompterWindow::toggleCollapsed() {
-    const QRect settled = isResizing() ? resizing.endValue().toRect() : geometry();
-    const Rect frame = fromQtCoordinates(settled, primaryGeometry());
-    if (!collapsed) expandedHeight = frame.height;
+    const Rect settledFrame =
+        isResizing() ? fromQtCoordinates(resizing.endValue().toRect(), primaryGeometry()) : frame();
+    if (!collapsed) expandedHeight = settledFrame.height;
     collapsed = !collapsed;
-    const Rect target =
-        collapsed ? collapsedFrame(frame, menuBarHeight()) : expandedFrame(frame, expandedHeight);
+    const Rect target = collapsed ? collapsedFrame(settledFrame, menuBarHeight())
+                                  : expandedFrame(settledFrame, expandedHeight);
     if (!collapsed) squareCorners = false;
     arrangeContent();
     animateTo(target);
@@ -164,12 +168,13 @@ void PrompterWindow::cutOut(const QRegion& part) {
     shape();
 }
 
-void PrompterWindow::animateTo(const Rect& frame) {
-    const QRect target = toQtCoordinates(frame, primaryGeometry());
-    const double distance = std::abs(target.height() - height());
+void PrompterWindow::animateTo(const Rect& target) {
+    const QRect start = toQtCoordinates(frame(), primaryGeometry());
+    const QRect end = toQtCoordinates(target, primaryGeometry());
+    const double distance = std::abs(end.height() - start.height());
     resizing.stop();
-    resizing.setStartValue(geometry());
-    resizing.setEndValue(target);
+    resizing.setStartValue(start);
+    resizing.setEndValue(end);
     resizing.setDuration(int(distance / resizePoints * resizeMilliseconds));
     resizing.start();
 }
@@ -193,8 +198,14 @@ void PrompterWindow::resizeEvent(QResizeEvent*) {
     shape();
 }
 
+void PrompterWindow::setVisible(bool visible) {
+    const bool changes = visible != isVisible();
+    if (changes && !visible) platform.windowTraits->release(*this);
+    QWidget::setVisible(visible);
+    if (changes && visible) platform.windowTraits->adopt(*this);
+}
+
 void PrompterWindow::showEvent(QShowEvent* event) {
-    platform.windowTraits->floatAboveEverything(winId());
     platform.windowTraits->excludeFromCapture(winId());
     if (!std::exchange(watchesClicks, true))
         new FocusOnClick(*windowHandle(), *platform.windowTraits);

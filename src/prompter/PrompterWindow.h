@@ -47,6 +47,9 @@ public:
     /// clicked there.
     void cutOut(const QRegion& part);
 
+    /// Where the window is, in points.
+    Rect frame() const;
+
     /// The screen that most of the window is on, or should be while it is on none.
     std::optional<Screen> currentScreen() const;
 
@@ -89,6 +92,7 @@ public:
     ScriptView& textView() const { return *view; }
 
 protected:
+    void setVisible(bool visible) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -100,8 +104,9 @@ private:
     void renderMarkdown(const QString& content);
     void renderPlaceholder();
     void showContent(RenderedContent content);
-    void setFrame(const Rect& frame);
-    void animateTo(const Rect& frame);
+    void setFrame(const Rect& target, const Screen& screen);
+    void place(const QRect& target, const Screen& screen);
+    void animateTo(const Rect& target);
     bool isResizing() const;
     void arrangeContent();
     void updateStatsOfWhatIsSeen();

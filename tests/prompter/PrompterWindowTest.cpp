@@ -50,11 +50,37 @@ TEST_F(PrompterWindowTest, TellsTheDisplayLinkTheRateOfItsScreen) {
 }
 
 TEST_F(PrompterWindowTest, AsksForItsTraitsWhenItIsShown) {
-    const std::vector<WindowTraits::NativeWindow> itself{window().winId()};
-    EXPECT_EQ(traits.floating, itself);
-    EXPECT_EQ(traits.excluded, itself);
+    EXPECT_EQ(traits.floating, std::vector<const QWidget*>{&window()});
+    EXPECT_EQ(traits.excluded, std::vector<WindowTraits::NativeWindow>{window().winId()});
     EXPECT_TRUE(window().windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_TRUE(window().windowFlags().testFlag(Qt::BypassWindowManagerHint));
+}
+
+TEST_F(PrompterWindowTest, FloatsForAsLongAsItIsShown) {
+    window().show();
+    EXPECT_EQ(traits.floating.size(), 1U);
+    window().hide();
+    EXPECT_TRUE(traits.floating.empty());
+    window().hide();
+    window().show();
+    EXPECT_EQ(traits.floating.size(), 1U);
+    prompter.reset();
+    EXPECT_TRUE(traits.floating.empty());
+}
+
+TEST_F(PrompterWindowTest, IsPlacedOnItsScreenInEveryStepOfFolding) {
+    window();
+    EXPECT_EQ(traits.places.back().second, screens.attached[0]);
+    traits.places.clear();
+    window().toggleCollapsed();
+    finishResizing(32);
+    ASSERT_GT(traits.places.size(), 1U);
+    for (const auto& [frame, screen] : traits.places) {
+        EXPECT_EQ(frame.maxY(), screens.main->frame.maxY());
+        EXPECT_EQ(screen, screens.attached[0]);
+    }
+    EXPECT_EQ(traits.places.back().first, window().frame());
+    EXPECT_EQ(window().frame().height, 32);
 }
 
 TEST_F(PrompterWindowTest, KeepsTheTextBelowTheStripOfControls) {

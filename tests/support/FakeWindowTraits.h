@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Screen.h"
 #include "platform/WindowTraits.h"
 
 #include <functional>
@@ -9,7 +10,7 @@
 
 namespace tessaline {
 
-/// Window traits that only keep book of what a window asked for.
+/// Window traits that keep book of what a window asked for, and move it where it is placed.
 class FakeWindowTraits final : public WindowTraits {
 public:
     Qt::WindowFlags creationFlags() const override { return flags; }
@@ -24,7 +25,11 @@ public:
         return canExclude;
     }
 
-    void floatAboveEverything(NativeWindow window) override { floating.push_back(window); }
+    void place(QWidget& window, const Rect& frame, const Screen& screen) override;
+    Rect frame(const QWidget& window) const override;
+    void adopt(QWidget& window) override;
+    void release(QWidget& window) override;
+
     void takeKeyboard(NativeWindow window) override { keyboardOwner = window; }
 
     void giveKeyboardBack(NativeWindow window) override {
@@ -36,7 +41,8 @@ public:
     std::function<void()> translucencyChanged;
     bool canExclude = true;
     std::vector<NativeWindow> excluded;
-    std::vector<NativeWindow> floating;
+    std::vector<const QWidget*> floating; ///< adopted and not released
+    std::vector<std::pair<Rect, Screen>> places;
     std::optional<NativeWindow> keyboardOwner; ///< none: another program has the keyboard
 };
 

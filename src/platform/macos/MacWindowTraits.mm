@@ -1,8 +1,10 @@
 #include "platform/WindowTraits.h"
 #include "platform/macos/MacAdapters.h"
+#include "platform/qt/WidgetFrame.h"
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
 #include <QGuiApplication>
+#include <QWidget>
 
 #import <AppKit/AppKit.h>
 
@@ -32,14 +34,22 @@ public:
         return true;
     }
 
-    void floatAboveEverything(NativeWindow window) override {
-        NSWindow* native = windowOf(window);
+    void place(QWidget& window, const Rect& frame, const Screen& /*screen*/) override {
+        setFrame(window, frame);
+    }
+
+    Rect frame(const QWidget& window) const override { return frameOf(window); }
+
+    void adopt(QWidget& window) override {
+        NSWindow* native = windowOf(window.winId());
         native.level = NSScreenSaverWindowLevel;
         native.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
                                     NSWindowCollectionBehaviorStationary |
                                     NSWindowCollectionBehaviorIgnoresCycle;
         native.hasShadow = YES;
     }
+
+    void release(QWidget& /*window*/) override {}
 
     void takeKeyboard(NativeWindow window) override {
         // The click that leads here may have made us the front application already. The menu bar

@@ -1,5 +1,7 @@
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
+#include "platform/qt/WidgetFrame.h"
+
 #include <QLoggingCategory>
 
 #include <utility>
@@ -32,11 +34,21 @@ bool UnsupportedWindowTraits::excludeFromCapture(NativeWindow /*window*/) {
     return false;
 }
 
-void UnsupportedWindowTraits::floatAboveEverything(NativeWindow /*window*/) {
+void UnsupportedWindowTraits::place(QWidget& window, const Rect& frame, const Screen& /*screen*/) {
+    setFrame(window, frame);
+}
+
+Rect UnsupportedWindowTraits::frame(const QWidget& window) const {
+    return frameOf(window);
+}
+
+void UnsupportedWindowTraits::adopt(QWidget& /*window*/) {
     if (!std::exchange(reportedLevel, true)) {
         qCWarning(windowLog, "This system decides by itself how a window is placed and stacked.");
     }
 }
+
+void UnsupportedWindowTraits::release(QWidget& /*window*/) {}
 
 void UnsupportedWindowTraits::takeKeyboard(NativeWindow /*window*/) {}
 

@@ -13,7 +13,10 @@ public:
     void onTranslucencyChange(std::function<void()> changed) override;
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
-    void floatAboveEverything(NativeWindow window) override;
+    void place(QWidget& window, const Rect& frame, const Screen& screen) override;
+    Rect frame(const QWidget& window) const override;
+    void adopt(QWidget& window) override;
+    void release(QWidget& window) override;
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
 

@@ -40,10 +40,10 @@ void reportScreens(const Screens& screens, const ScreenManager& manager) {
 void showFloating(QWidget& window, WindowTraits& traits) {
     window.setWindowFlags(Qt::FramelessWindowHint | traits.creationFlags());
     window.setGeometry(400, 0, 300, 120);
-    traits.floatAboveEverything(window.winId());
     report(u"capture"_s, {{u"excluded"_s, traits.excludeFromCapture(window.winId())}});
     new FocusOnClick(*window.windowHandle(), traits);
     window.show();
+    traits.adopt(window);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "support/PrintQt.h"
 #include "support/RecordedLog.h"
 
+#include <QWidget>
+
 #include <gmock/gmock.h>
 
 namespace tessaline {
@@ -30,8 +32,10 @@ TEST(UnsupportedWindowTraits, SayOnceThatCapturesShowTheWindow) {
 TEST(UnsupportedWindowTraits, SayOnceThatTheSystemPlacesTheWindow) {
     const RecordedLog log;
     UnsupportedWindowTraits traits;
-    traits.floatAboveEverything(1);
-    traits.floatAboveEverything(1);
+    QWidget window;
+    traits.adopt(window);
+    traits.release(window);
+    traits.adopt(window);
     EXPECT_THAT(log.entries(),
                 ElementsAre(QStringLiteral("tessaline.window: This system decides by itself how a "
                                            "window is placed and stacked.")));

@@ -1,9 +1,11 @@
 #include "platform/linux/x11/X11WindowTraits.h"
 
 #include "platform/linux/x11/XcbReply.h"
+#include "platform/qt/WidgetFrame.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
+#include <QWidget>
 
 #include <utility>
 
@@ -52,10 +54,24 @@ bool X11WindowTraits::excludeFromCapture(NativeWindow /*window*/) {
     return false;
 }
 
-void X11WindowTraits::floatAboveEverything(NativeWindow window) {
-    floating = static_cast<XWindow>(window);
+void X11WindowTraits::place(QWidget& window, const Rect& frame, const Screen& /*screen*/) {
+    setFrame(window, frame);
+}
+
+Rect X11WindowTraits::frame(const QWidget& window) const {
+    return frameOf(window);
+}
+
+void X11WindowTraits::adopt(QWidget& window) {
+    floating = static_cast<XWindow>(window.winId());
     stacking.listen();
     raiseTimer.start();
+}
+
+void X11WindowTraits::release(QWidget& window) {
+    if (floating != static_cast<XWindow>(window.winId())) return;
+    floating = XCB_NONE;
+    raiseTimer.stop();
 }
 
 void X11WindowTraits::takeKeyboard(NativeWindow window) {

@@ -38,8 +38,12 @@ public:
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
 
+    void place(QWidget& window, const Rect& frame, const Screen& screen) override;
+    Rect frame(const QWidget& window) const override;
+
     /// Keeps one window on top; another one takes the place of the first.
-    void floatAboveEverything(NativeWindow window) override;
+    void adopt(QWidget& window) override;
+    void release(QWidget& window) override;
 
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
