@@ -1,23 +1,21 @@
 #include "analytics/EventDecoder.h"
 
 #include "analytics/Iso8601.h"
-
-#include <nlohmann/json.hpp>
+#include "settings/JsonReader.h"
 
 #include <string>
 
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
-using nlohmann::json;
 
 namespace {
 
 /// Values nested deeper than this are not ours.
 constexpr int greatestDepth = 64;
 
-/// Follows the parser through the array. Each function answers whether to go on.
-class EventReader final : public nlohmann::json_sax<json> {
+/// Follows the array as it is read.
+class EventReader final : public JsonVisitor {
 public:
     explicit EventReader(const EventVisitor& visitor) : visit(visitor) {}
 
@@ -25,14 +23,9 @@ public:
 
     bool null() override { return scalar(); }
     bool boolean(bool /*value*/) override { return scalar(); }
-    bool number_integer(number_integer_t /*value*/) override { return scalar(); }
-    bool number_unsigned(number_unsigned_t /*value*/) override { return scalar(); }
-    bool number_float(number_float_t /*value*/, const string_t& /*text*/) override {
-        return scalar();
-    }
-    bool binary(binary_t& /*value*/) override { return scalar(); }
+    bool number(double /*value*/) override { return scalar(); }
 
-    bool string(string_t& value) override {
+    bool string(const std::string& value) override {
         if (depth == inProperties && memberKey == propertiesKey) {
             event.properties.insert(propertyKey, QString::fromStdString(value));
             return true;
@@ -46,13 +39,13 @@ public:
         return memberKey == timestampKey ? takeTimestamp(QString::fromStdString(value)) : scalar();
     }
 
-    bool key(string_t& value) override {
+    bool key(const std::string& value) override {
         if (depth == inEvent) memberKey = value;
         if (depth == inProperties) propertyKey = QString::fromStdString(value);
         return true;
     }
 
-    bool start_object(std::size_t /*elements*/) override {
+    bool beginObject() override {
         const bool isEvent = depth == inHistory;
         const bool isProperties = depth == inEvent && memberKey == propertiesKey;
         if (isEvent) startEvent();
@@ -63,23 +56,16 @@ public:
         return isEvent || isProperties ? enter() : structure();
     }
 
-    bool end_object() override {
+    bool endObject() override {
         --depth;
         return depth == inHistory ? endEvent() : true;
     }
 
-    bool start_array(std::size_t /*elements*/) override {
-        return depth == outside ? enter() : structure();
-    }
+    bool beginArray() override { return depth == outside ? enter() : structure(); }
 
-    bool end_array() override {
+    bool endArray() override {
         --depth;
         return true;
-    }
-
-    bool parse_error(std::size_t position, const std::string& /*token*/,
-                     const json::exception& /*exception*/) override {
-        return fail(u"Invalid JSON at byte %1"_s.arg(position));
     }
 
 private:
@@ -99,7 +85,7 @@ private:
     }
 
     bool failInEvent(const QString& what) {
-        return fail(u"%1 of event %2"_s.arg(what).arg(number));
+        return fail(u"%1 of event %2"_s.arg(what).arg(eventNumber));
     }
 
     bool enter() { return ++depth <= greatestDepth || fail(u"The JSON is nested too deeply"_s); }
@@ -107,7 +93,7 @@ private:
     /// Whether a value that is not of the form of the present place may stand there.
     bool isPassedOver() {
         if (depth == outside) return fail(u"The JSON is not an array"_s);
-        if (depth == inHistory) return fail(u"Event %1 is not an object"_s.arg(number + 1));
+        if (depth == inHistory) return fail(u"Event %1 is not an object"_s.arg(eventNumber + 1));
         const bool isOurs =
             memberKey == nameKey || memberKey == timestampKey || memberKey == propertiesKey;
         return !isOurs ||
@@ -121,7 +107,7 @@ private:
         event = {};
         memberKey.clear();
         hasName = hasProperties = false;
-        ++number;
+        ++eventNumber;
     }
 
     bool takeTimestamp(const QString& text) {
@@ -141,7 +127,7 @@ private:
     const EventVisitor& visit;
     QString description;
     int depth = outside;
-    qint64 number = 0; ///< of the present event, from 1
+    qint64 eventNumber = 0; ///< of the present event, from 1
     AnalyticsEvent event;
     bool hasName = false;
     bool hasProperties = false;
@@ -153,11 +139,9 @@ private:
 
 bool decodeEvents(const QByteArray& bytes, const EventVisitor& visit, QString* error) {
     EventReader reader(visit);
-    const bool isRead = nlohmann::json::sax_parse(bytes.begin(), bytes.end(), &reader);
-    // The parser takes a NUL for the end of the text.
-    const qsizetype nul = isRead ? bytes.indexOf('\0') : -1;
-    if (isRead && nul < 0) return true;
-    if (error) *error = isRead ? u"Invalid JSON at byte %1"_s.arg(nul + 1) : reader.problem();
+    QString invalid;
+    if (visitJson(bytes, reader, invalid)) return true;
+    if (error) *error = reader.problem().isEmpty() ? invalid : reader.problem();
     return false;
 }
 

@@ -1,10 +1,7 @@
 #include "analytics/HistoryText.h"
 
 #include "analytics/Iso8601.h"
-
-#include <nlohmann/json.hpp>
-
-#include <string>
+#include "settings/JsonWriter.h"
 
 namespace tessaline {
 
@@ -15,27 +12,23 @@ constexpr QByteArrayView end("\n]\n");
 constexpr qsizetype pieceSize = qsizetype{64} << 10;
 constexpr int fastest = 1; ///< events are so much alike that more effort saves little
 
-/// A string as JSON writes it, in quotes.
-std::string quoted(const QString& text) {
-    return nlohmann::json(text.toStdString()).dump();
-}
-
 } // namespace
 
 void HistoryText::append(const AnalyticsEvent& event) {
-    if (!empty) latest += ",";
-    latest += "\n  {\n    \"name\": ";
-    latest += quoted(event.name);
-    latest += ",\n    \"timestamp\": ";
-    latest += quoted(toIso8601(event.timestamp));
-    latest += ",\n    \"properties\": {";
+    JsonWriter json = JsonWriter::inside(latest, 1, empty);
+    json.beginObject();
+    json.key("name");
+    json.string(event.name);
+    json.key("timestamp");
+    json.string(toIso8601(event.timestamp));
+    json.key("properties");
+    json.beginObject();
     for (auto property = event.properties.begin(); property != event.properties.end(); ++property) {
-        latest += property == event.properties.begin() ? "\n      " : ",\n      ";
-        latest += quoted(property.key());
-        latest += ": ";
-        latest += quoted(property.value());
+        json.key(property.key());
+        json.string(property.value());
     }
-    latest += event.properties.isEmpty() ? "}\n  }" : "\n    }\n  }";
+    json.endObject();
+    json.endObject();
     empty = false;
     packWhenLarge();
 }

@@ -1,6 +1,6 @@
 #include "cli/ControlAnswer.h"
 
-#include <nlohmann/json.hpp>
+#include "settings/JsonWriter.h"
 
 namespace tessaline {
 
@@ -8,28 +8,44 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-std::string written(const QString& text) {
-    return text.toStdString();
+void write(JsonWriter& json, bool value) {
+    json.boolean(value);
 }
 
-std::string written(SourceType source) {
-    return rawValue(source).toStdString();
+void write(JsonWriter& json, double value) {
+    json.real(value);
 }
 
-std::string written(ScrollRate rate) {
-    return rawValue(rate).toStdString();
+void write(JsonWriter& json, qint64 count) {
+    json.number(double(count));
 }
 
-template <typename Value>
-Value written(Value value) {
-    return value;
+void write(JsonWriter& json, int count) {
+    json.number(count);
+}
+
+void write(JsonWriter& json, const QString& text) {
+    json.string(text);
+}
+
+void write(JsonWriter& json, SourceType source) {
+    json.string(rawValue(source));
+}
+
+void write(JsonWriter& json, ScrollRate rate) {
+    json.string(rawValue(rate));
 }
 
 QString json(const PrompterStatus& status) {
-    nlohmann::ordered_json fields;
-    PrompterStatus::visitFields(
-        status, [&fields](const char* name, const auto& value) { fields[name] = written(value); });
-    return QString::fromStdString(fields.dump());
+    QByteArray bytes;
+    JsonWriter json(bytes, JsonWriter::Layout::compact);
+    json.beginObject();
+    PrompterStatus::visitFields(status, [&json](const char* name, const auto& value) {
+        json.key(name);
+        write(json, value);
+    });
+    json.endObject();
+    return QString::fromUtf8(bytes);
 }
 
 QString position(const PrompterStatus& status) {

@@ -1,7 +1,7 @@
 #include "cli/ControlRequest.h"
 
 #include "cli/CommandTable.h"
-#include "export/PlainNumber.h"
+#include "settings/PlainNumber.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "export/HtmlStyles.h"
 
-#include "export/PlainNumber.h"
+#include "settings/PlainNumber.h"
 
 #include <algorithm>
 #include <map>

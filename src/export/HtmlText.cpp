@@ -1,6 +1,6 @@
 #include "export/HtmlText.h"
 
-#include "export/LoneSurrogate.h"
+#include "settings/LoneSurrogate.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "export/JsonRendering.h"
 
 #include "export/ByteSink.h"
-#include "export/JsonWriter.h"
+#include "settings/JsonWriter.h"
 
 #include <vector>
 
@@ -84,7 +84,7 @@ void writeParagraph(JsonWriter& json, const ParagraphStyle& style) {
 /// The members that all runs of a style share.
 QByteArray membersOf(const TextAttributes& attributes) {
     QByteArray out;
-    JsonWriter json(out, runDepth);
+    JsonWriter json = JsonWriter::inside(out, runDepth, false);
     if (attributes.font) writeFont(json, *attributes.font);
     if (attributes.foreground) writeColor(json, "foreground", *attributes.foreground);
     if (attributes.background) writeColor(json, "background", *attributes.background);
@@ -107,7 +107,7 @@ bool writeJson(const StyledText& styled, qsizetype wordCount, ByteSink& sink) {
     JsonWriter json(out);
     json.beginObject();
     json.key("text");
-    json.string(styled.text);
+    json.exactString(styled.text);
     json.key("wordCount");
     json.number(double(wordCount));
     json.key("runs");

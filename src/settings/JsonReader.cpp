@@ -28,36 +28,58 @@ QString invalidAt(std::size_t byte) {
     return u"Invalid JSON at byte %1"_s.arg(byte);
 }
 
-/// Builds the value that the parser goes through. Each function answers whether to go on.
-class ValueBuilder final : public nlohmann::json_sax<json> {
+/// Passes the parser's events on.
+class Events final : public nlohmann::json_sax<json> {
+public:
+    Events(JsonVisitor& borrowed, QString& problem) : visitor(borrowed), error(problem) {}
+
+    bool null() override { return visitor.null(); }
+    bool boolean(bool value) override { return visitor.boolean(value); }
+    bool number_integer(number_integer_t value) override { return visitor.number(double(value)); }
+    bool number_unsigned(number_unsigned_t value) override { return visitor.number(double(value)); }
+    bool number_float(number_float_t value, const string_t& /*text*/) override {
+        return visitor.number(value);
+    }
+    bool string(string_t& value) override { return visitor.string(value); }
+    bool binary(binary_t& /*value*/) override { return visitor.null(); }
+
+    bool start_object(std::size_t /*members*/) override { return visitor.beginObject(); }
+    bool key(string_t& name) override { return visitor.key(name); }
+    bool end_object() override { return visitor.endObject(); }
+    bool start_array(std::size_t /*elements*/) override { return visitor.beginArray(); }
+    bool end_array() override { return visitor.endArray(); }
+
+    bool parse_error(std::size_t position, const std::string& /*token*/,
+                     const json::exception& /*exception*/) override {
+        error = invalidAt(position);
+        return false;
+    }
+
+private:
+    JsonVisitor& visitor;
+    QString& error;
+};
+
+/// Builds the value that the visitor is shown.
+class ValueBuilder final : public JsonVisitor {
 public:
     JsonValue root;
     QString problem;
 
     bool null() override { return put(std::monostate()); }
     bool boolean(bool value) override { return put(value); }
-    bool number_integer(number_integer_t value) override { return put(double(value)); }
-    bool number_unsigned(number_unsigned_t value) override { return put(double(value)); }
-    bool number_float(number_float_t value, const string_t& /*text*/) override {
-        return put(value);
-    }
-    bool string(string_t& value) override { return put(QString::fromStdString(value)); }
-    bool binary(binary_t& /*value*/) override { return put(std::monostate()); }
+    bool number(double value) override { return put(value); }
+    bool string(const std::string& value) override { return put(QString::fromStdString(value)); }
 
-    bool start_object(std::size_t /*members*/) override { return enter(JsonValue::Object()); }
-    bool start_array(std::size_t /*elements*/) override { return enter(JsonValue::Array()); }
-    bool end_object() override { return leave(); }
-    bool end_array() override { return leave(); }
+    bool beginObject() override { return enter(JsonValue::Object()); }
+    bool beginArray() override { return enter(JsonValue::Array()); }
+    bool endObject() override { return leave(); }
+    bool endArray() override { return leave(); }
 
-    bool key(string_t& name) override {
+    bool key(const std::string& name) override {
         std::get<JsonValue::Object>(open.back()->content)
             .push_back({QString::fromStdString(name), {}});
         return true;
-    }
-
-    bool parse_error(std::size_t position, const std::string& /*token*/,
-                     const json::exception& /*exception*/) override {
-        return fail(invalidAt(position));
     }
 
 private:
@@ -102,14 +124,8 @@ private:
 /// None, with the reason in `problem`, also for what only this parser refuses.
 std::optional<JsonValue> parseStrictly(const QByteArray& bytes, QString& problem) {
     ValueBuilder builder;
-    if (!json::sax_parse(bytes.begin(), bytes.end(), &builder)) {
-        problem = builder.problem;
-        return std::nullopt;
-    }
-    // The parser takes a NUL for the end of the text.
-    const qsizetype nul = bytes.indexOf('\0');
-    if (nul < 0) return std::move(builder.root);
-    problem = invalidAt(std::size_t(nul) + 1);
+    if (visitJson(bytes, builder, problem)) return std::move(builder.root);
+    if (!builder.problem.isEmpty()) problem = builder.problem;
     return std::nullopt;
 }
 
@@ -200,6 +216,22 @@ std::optional<JsonValue> parseJson(const QByteArray& bytes, QString* error) {
     if (!value) value = parseStrictly(withoutUnusableValues(bytes), problem);
     if (!value && error) *error = problem;
     return value;
+}
+
+std::optional<JsonValue> parseJsonObject(const QByteArray& bytes, QString* error) {
+    auto value = parseJson(bytes, error);
+    if (!value || value->as<JsonValue::Object>()) return value;
+    if (error) *error = u"The JSON is not an object"_s;
+    return std::nullopt;
+}
+
+bool visitJson(const QByteArray& bytes, JsonVisitor& visitor, QString& error) {
+    Events events(visitor, error);
+    if (!json::sax_parse(bytes.begin(), bytes.end(), &events)) return false;
+    // The parser takes a NUL for the end of the text.
+    const qsizetype nul = bytes.indexOf('\0');
+    if (nul >= 0) error = invalidAt(std::size_t(nul) + 1);
+    return nul < 0;
 }
 
 std::optional<JsonValue> readJsonFile(const QString& path, QString* error) {

@@ -1,13 +1,12 @@
 #include "sources/obsidian/CommunityPlugins.h"
 
 #include "settings/JsonReader.h"
+#include "settings/JsonWriter.h"
 #include "settings/WholeFile.h"
 #include "sources/obsidian/CompanionPlugin.h"
 
 #include <QFile>
 #include <QStringList>
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <optional>
@@ -36,10 +35,13 @@ std::optional<QStringList> readList(const QString& path, QString* error) {
 
 /// As Obsidian itself writes it: two spaces, no line break at the end.
 QByteArray written(const QStringList& list) {
-    auto array = nlohmann::json::array();
+    QByteArray bytes;
+    JsonWriter json(bytes);
+    json.beginArray();
     for (const QString& text : list)
-        array.push_back(text.toStdString());
-    return QByteArray::fromStdString(array.dump(2));
+        json.string(text);
+    json.endArray();
+    return bytes.trimmed();
 }
 
 } // namespace

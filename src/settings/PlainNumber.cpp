@@ -1,4 +1,4 @@
-#include "export/PlainNumber.h"
+#include "settings/PlainNumber.h"
 
 #include <QLocale>
 
