@@ -96,7 +96,7 @@ public:
         if (!file.open(QIODevice::WriteOnly)) qFatal("No registry can be written.");
         file.write(registryOf(vaults));
         file.close();
-        settings.enabledSourceTypes.insert(SourceType::obsidian);
+        settings.setSourceEnabled(SourceType::obsidian, true);
         window.show();
         window.startPeriodicRefresh();
         QCoreApplication::processEvents();

@@ -174,21 +174,21 @@ double Analytics::secondsSinceStart() const {
 
 Analytics::Properties Analytics::describeEnvironment(const AppSettings& settings) const {
     const EnvironmentProbe& environment = setup.environment;
-    const bool obsidianEnabled = settings.enabledSourceTypes.count(SourceType::obsidian) > 0;
+    const bool obsidianEnabled = settings.isSourceEnabled(SourceType::obsidian);
     return {
         {u"obsidian_app_installed"_s, booleanText(environment.isObsidianAppInstalled())},
         {u"obsidian_vault_found"_s, booleanText(environment.isObsidianVaultFound())},
         {u"obsidian_plugin_installed"_s, booleanText(environment.isObsidianPluginInstalled())},
         {u"obsidian_plugin_active"_s, booleanText(environment.isObsidianPluginActive())},
         {u"obsidian_source_enabled"_s, booleanText(obsidianEnabled)},
-        {u"active_source"_s, rawValue(settings.activeSourceType)},
+        {u"active_source"_s, rawValue(settings.activeSourceType())},
         {u"enabled_sources"_s, joined(settings.getEnabledSources())},
         {u"accessibility_granted"_s, booleanText(environment.isAccessibilityGranted())},
         {u"screen_count"_s, QString::number(environment.screenCount())},
-        {u"scroll_rate"_s, rawValue(settings.scrollRate)},
-        {u"font_size"_s, number(settings.fontSize)},
-        {u"window_width"_s, number(settings.width)},
-        {u"window_height"_s, number(settings.height)},
+        {u"scroll_rate"_s, rawValue(settings.scrollRate())},
+        {u"font_size"_s, number(settings.fontSize())},
+        {u"window_width"_s, number(settings.width())},
+        {u"window_height"_s, number(settings.height())},
     };
 }
 

@@ -79,14 +79,14 @@ PrompterStatus AppDelegate::status() const {
     return {.version = CommandLine::version(),
             .visible = prompter().isVisible(),
             .collapsed = prompter().isCollapsed(),
-            .source = settings.activeSourceType,
+            .source = settings.activeSourceType(),
             .words = session.words(),
             .time = timeText(session.readingSeconds()),
             .scrollPosition = view.scrollPosition(),
             .maximumScrollPosition = view.maximumScrollPosition(),
-            .speed = settings.scrollSpeed,
-            .rate = settings.scrollRate,
-            .autoScroll = settings.autoScrollEnabled,
+            .speed = settings.scrollSpeed(),
+            .rate = settings.scrollRate(),
+            .autoScroll = settings.autoScrollEnabled(),
             .frameRate = session.framesPerSecond()};
 }
 
@@ -101,7 +101,7 @@ SourceManager& AppDelegate::sources() const {
 void AppDelegate::applicationDidFinishLaunching() {
     environment.recorder.trackAppLaunch();
     createSourceManager();
-    screenManager.preferredDisplayID = settings.preferredDisplayID;
+    screenManager.preferredDisplayID = settings.preferredDisplayID();
     createPrompterWindow();
     createConfigWindow();
     connectButtons();
@@ -111,12 +111,12 @@ void AppDelegate::applicationDidFinishLaunching() {
     sourceChangeObserver =
         platform.notifications->observe(SourceManager::activeSourceDidChangeNotification(),
                                         weakly(&AppDelegate::activeSourceChanged));
-    prompterWindow->updateSourceIndicator(settings.activeSourceType);
+    prompterWindow->updateSourceIndicator(settings.activeSourceType());
     configureTelemetry();
     environment.recorder.trackPermissionStatus(PermissionType::accessibility,
                                                platform.trust->isTrusted());
     environment.recorder.trackEnvironmentSnapshot(settings);
-    if (settings.hasCompletedOnboarding) {
+    if (settings.hasCompletedOnboarding()) {
         startApp();
     } else {
         showOnboarding();
@@ -146,7 +146,7 @@ void AppDelegate::createConfigWindow() {
     configWindow =
         std::make_unique<ConfigWindow>(settings, sourceManager.get(), platform, services());
     configWindow->setScreenManager(&screenManager);
-    configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
+    configWindow->onSettingsChanged = weakly(&AppDelegate::repositionConfigWindow);
     configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
     configWindow->winId(); // makes the native window
     configPlacer = std::make_unique<ConfigWindowPlacer>(*configWindow, *prompterWindow,
@@ -248,12 +248,12 @@ void AppDelegate::toggleMinimize() {
 void AppDelegate::toggleScroll() {
     prompter().toggleAutoScroll();
     config().refreshUI();
-    environment.recorder.trackAutoScrollToggled(settings.autoScrollEnabled, settings.scrollRate);
+    environment.recorder.trackAutoScrollToggled(settings.autoScrollEnabled(),
+                                                settings.scrollRate());
 }
 
 void AppDelegate::cycleSource() {
     sources().cycleSource();
-    config().refreshUI();
 }
 
 void AppDelegate::showConfig() {
@@ -324,10 +324,8 @@ void AppDelegate::pasteFromClipboard(std::function<void(const QString& problem)>
 }
 
 void AppDelegate::makeClipboardActive() {
-    if (settings.activeSourceType == SourceType::clipboard) return;
-    sources().setActiveSource(SourceType::clipboard);
-    prompter().updateSourceIndicator(SourceType::clipboard);
-    config().refreshUI();
+    if (settings.activeSourceType() != SourceType::clipboard)
+        sources().setActiveSource(SourceType::clipboard);
 }
 
 void AppDelegate::trackPaste() {
@@ -335,27 +333,21 @@ void AppDelegate::trackPaste() {
 }
 
 void AppDelegate::setScrollSpeed(double speed) {
-    const double chosen = std::clamp(speed, 0.0, AppSettings::maxScrollSpeed);
-    settings.scrollSpeed = chosen;
-    if (chosen > 0) settings.lastNonZeroScrollSpeed = chosen;
-    settings.save();
-    prompter().updateScrollParameters();
-    environment.recorder.trackSettingChanged(u"scrollSpeed"_s, QString::number(chosen));
+    settings.setScrollSpeed(speed);
+    environment.recorder.trackSettingChanged(u"scrollSpeed"_s,
+                                             QString::number(settings.scrollSpeed()));
 }
 
 void AppDelegate::chooseScrollRate(ScrollRate rate) {
-    settings.scrollRate = rate;
-    settings.save();
-    config().refreshUI();
-    settingsChanged();
-    environment.recorder.trackDisplaySettings(settings);
+    settings.setScrollRate(rate);
+    repositionConfigWindow();
+    environment.recorder.trackDisplaySettings(settings.values());
 }
 
 bool AppDelegate::chooseSource(SourceType source) {
     const auto enabled = settings.getEnabledSources();
     if (std::find(enabled.begin(), enabled.end(), source) == enabled.end()) return false;
     sources().setActiveSource(source);
-    config().refreshUI();
     handleSourceChange(source);
     return true;
 }
@@ -366,13 +358,6 @@ void AppDelegate::performScroll(double deltaY) {
 
 void AppDelegate::showContent(const QString& content) {
     prompter().updateText(content);
-}
-
-void AppDelegate::settingsChanged() {
-    prompter().updateFrame();
-    prompter().rerender();
-    prompter().updateScrollParameters();
-    repositionConfigWindow();
 }
 
 void AppDelegate::screensChanged() {

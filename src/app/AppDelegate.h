@@ -101,7 +101,6 @@ private:
     void makeClipboardActive();
     void trackPaste();
     void showContent(const QString& content);
-    void settingsChanged();
     void screensChanged();
     void handleSourceChange(SourceType source);
     void activeSourceChanged(const Notification& change);

@@ -25,8 +25,8 @@ void ConfigWindowPlacer::place() {
     const QRect primary = primaryGeometry();
     const Screen screen = prompter.currentScreen().value_or(screens.preferredScreen());
     Rect unfolded = prompter.frame();
-    unfolded.height = settings.height;
-    unfolded.y = screen.frame.maxY() - settings.height;
+    unfolded.height = settings.height();
+    unfolded.y = screen.frame.maxY() - settings.height();
 
     const QMargins frame = window.windowHandle()->frameMargins();
     const int forFrame = frame.isNull() ? titleBarAllowance : frame.top() + frame.bottom();

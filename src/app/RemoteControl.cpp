@@ -50,9 +50,9 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::pause:
         return setAutoScroll(false);
     case ControlCommand::faster:
-        return delegate.setScrollSpeed(settings.scrollSpeed + speedStep);
+        return delegate.setScrollSpeed(settings.scrollSpeed() + speedStep);
     case ControlCommand::slower:
-        return delegate.setScrollSpeed(settings.scrollSpeed - speedStep);
+        return delegate.setScrollSpeed(settings.scrollSpeed() - speedStep);
     case ControlCommand::speed:
         return delegate.setScrollSpeed(request.speed());
     case ControlCommand::rate:
@@ -91,7 +91,7 @@ void RemoteControl::carryOut(const ControlRequest& request) {
 }
 
 void RemoteControl::setAutoScroll(bool on) {
-    if (delegate.currentSettings().autoScrollEnabled != on) delegate.toggleScroll();
+    if (delegate.currentSettings().autoScrollEnabled() != on) delegate.toggleScroll();
 }
 
 void RemoteControl::setCollapsed(bool collapsed) {

@@ -55,7 +55,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowe
     : QWidget(nullptr, Qt::FramelessWindowHint | borrowedPlatform.windowTraits->creationFlags())
     , settings(appSettings)
     , platform(borrowedPlatform)
-    , session(std::make_shared<ReadingSession>(settings))
+    , session(std::make_shared<ReadingSession>(settings.values()))
     , renderer(*platform.renderTasks, *platform.mainQueue) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -75,6 +75,8 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowe
     updateFrame();
     session->setSource(std::make_unique<AutoScroll>(session, *platform.displayLinks,
                                                     *platform.timers, *platform.mainQueue));
+    settingsObservation =
+        settings.observe([this](const PersistedSettings& before) { settingsChanged(before); });
     platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
@@ -95,7 +97,7 @@ void PrompterWindow::setupUI() {
 }
 
 void PrompterWindow::updateFrame() {
-    const PrompterPlacement placement{settings.width, settings.height, settings.xOffset};
+    const PrompterPlacement placement{settings.width(), settings.height(), settings.xOffset()};
     if (screenManager) {
         const Screen screen = screenManager->preferredScreen();
         setFrame(prompterFrame(placement, screen.frame), screen);
@@ -243,7 +245,7 @@ void PrompterWindow::renderContent() {
 }
 
 void PrompterWindow::renderMarkdown(const QString& content) {
-    view->setFontSize(settings.fontSize);
+    view->setFontSize(settings.fontSize());
     renderer.render(content,
                     [this](RenderedContent rendered) { showContent(std::move(rendered)); });
 }
@@ -275,19 +277,23 @@ void PrompterWindow::performScroll(double deltaY) {
 }
 
 void PrompterWindow::toggleAutoScroll() {
-    settings.autoScrollEnabled = !settings.autoScrollEnabled;
-    if (!settings.autoScrollEnabled) {
-        session->stop();
-    } else {
-        if (settings.scrollSpeed <= 0) {
-            if (settings.lastNonZeroScrollSpeed <= 0)
-                settings.lastNonZeroScrollSpeed = AppSettings::defaultResumeSpeed;
-            settings.scrollSpeed = settings.lastNonZeroScrollSpeed;
-        }
-        updateScrollParameters();
-        session->start();
+    settings.setAutoScrollEnabled(!settings.autoScrollEnabled());
+}
+
+// Other fields than these are not to be seen here.
+void PrompterWindow::settingsChanged(const PersistedSettings& before) {
+    const PersistedSettings& now = settings.values();
+    const bool looksOtherwise = now.width != before.width || now.height != before.height ||
+                                now.xOffset != before.xOffset || now.fontSize != before.fontSize ||
+                                now.scrollRate != before.scrollRate ||
+                                now.preferredDisplayID != before.preferredDisplayID;
+    if (looksOtherwise) {
+        updateFrame();
+        rerender();
     }
-    settings.save();
+    if (looksOtherwise || now.scrollSpeed != before.scrollSpeed) updateScrollParameters();
+    if (now.autoScrollEnabled == before.autoScrollEnabled) return;
+    now.autoScrollEnabled ? session->start() : session->stop();
 }
 
 void PrompterWindow::updateScrollParameters() {

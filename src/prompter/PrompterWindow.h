@@ -3,6 +3,7 @@
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
 #include "reading/ContentRenderer.h"
+#include "settings/AppSettings.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
 
@@ -15,7 +16,6 @@
 
 namespace tessaline {
 
-class AppSettings;
 class ControlStrip;
 class ReadingSession;
 class ScreenManager;
@@ -29,7 +29,7 @@ class PrompterWindow : public QWidget {
 
 public:
     /// Builds the window, places it on the main screen and starts auto-scroll if the settings say
-    /// so; shows nothing yet. Both arguments are borrowed.
+    /// so; shows nothing yet. Follows the settings from then on. Both arguments are borrowed.
     PrompterWindow(AppSettings& settings, const Platform& platform);
     ~PrompterWindow() override;
 
@@ -111,8 +111,10 @@ private:
     void arrangeContent();
     void updateStatsOfWhatIsSeen();
     void shape();
+    void settingsChanged(const PersistedSettings& before);
 
     AppSettings& settings;
+    AppSettings::Observation settingsObservation;
     const Platform& platform;
     const std::shared_ptr<ReadingSession> session;
     const ScreenManager* screenManager = nullptr;

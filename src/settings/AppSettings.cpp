@@ -1,18 +1,15 @@
 #include "settings/AppSettings.h"
 
-#include "settings/JsonReader.h"
-#include "settings/KeptCopy.h"
 #include "settings/SettingsCodec.h"
+#include "settings/SettingsFile.h"
 #include "settings/SupportFolder.h"
-#include "settings/WholeFile.h"
 
 #include <QDir>
-#include <QFileInfo>
-#include <QLoggingCategory>
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <utility>
 
 namespace tessaline {
 
@@ -20,91 +17,143 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-Q_LOGGING_CATEGORY(settingsLog, "app.tessaline.Tessaline.settings", QtInfoMsg)
-
 void printLine(const QString& line) {
     std::fputs((line + u'\n').toUtf8().constData(), stdout);
     std::fflush(stdout);
 }
 
-/// The next save replaces the file, and somebody may have written it by hand. Returns whether that
-/// is no loss any more.
-bool keepUnusableFile(const QString& path) {
-    if (!QFileInfo(path).isFile()) return true;
-    QString error;
-    const QString copy = keepCopy(path, &error);
-    if (copy.isEmpty()) {
-        qCWarning(settingsLog, "No copy can be made of the configuration that cannot be used: %ls",
-                  qUtf16Printable(error));
-    } else {
-        qCWarning(settingsLog, "The configuration that cannot be used is kept as %ls",
-                  qUtf16Printable(copy));
-    }
-    return !copy.isEmpty();
-}
-
 } // namespace
 
-AppSettings::AppSettings() {
+AppSettings::AppSettings(const std::optional<QString>& configPath)
+    : testConfigURL(configPath)
+    , file(std::make_unique<SettingsFile<PersistedSettings>>(
+          [this] { return this->configPath(); }, configurationTable(), UnknownKeys::dropped)) {
     loadSettings();
 }
 
-AppSettings::AppSettings(const QString& configPath) : testConfigURL(configPath) {
-    loadSettings();
-}
+AppSettings::~AppSettings() = default;
 
 void AppSettings::loadSettings() {
-    const QString path = configPath();
-    if (!QFileInfo::exists(path)) {
+    if (!file->exists()) {
         save();
         return;
     }
     QString error;
-    const auto bytes = readWholeFile(path, &error, jsonFileLimit);
-    const auto loaded = bytes ? decodeSettings(*bytes, &error) : std::nullopt;
-    if (!loaded) {
-        printLine(u"⚠️ Failed to load config: "_s + error);
-        if (!keepUnusableFile(path)) unwritten = *this;
-        return;
+    auto loaded = file->load(current, &error);
+    if (!loaded) return printLine(u"⚠️ Failed to load config: "_s + error);
+    if (loaded->scrollSpeed > 0) {
+        loaded->lastNonZeroScrollSpeed = loaded->scrollSpeed;
+    } else if (loaded->lastNonZeroScrollSpeed <= 0) {
+        loaded->lastNonZeroScrollSpeed = PersistedSettings::defaultResumeSpeed;
     }
-    unwritten.reset();
-    PersistedSettings::operator=(*loaded);
-    if (scrollSpeed > 0) {
-        lastNonZeroScrollSpeed = scrollSpeed;
-    } else if (lastNonZeroScrollSpeed <= 0) {
-        lastNonZeroScrollSpeed = defaultResumeSpeed;
-    }
+    announce(std::exchange(current, *std::move(loaded)));
 }
 
 void AppSettings::save() const {
-    if (unwritten) {
-        if (*unwritten == *this) return;
-        keepUnusableFile(configPath());
-        unwritten.reset();
-    }
     QString error;
-    const auto bytes = encodeSettings(*this, &error);
-    if (!bytes || !writeWholeFile(configPath(), *bytes, &error))
-        printLine(u"❌ Failed to save config: "_s + error);
+    if (!file->save(current, &error)) printLine(u"❌ Failed to save config: "_s + error);
+}
+
+void AppSettings::change(const std::function<void(PersistedSettings& values)>& edit) {
+    const PersistedSettings before = current;
+    edit(current);
+    configurationTable().limit(current);
+    save();
+    announce(before);
+}
+
+void AppSettings::setFontSize(double points) {
+    change([points](auto& values) { values.fontSize = points; });
+}
+
+void AppSettings::setWidth(double points) {
+    change([points](auto& values) { values.width = points; });
+}
+
+void AppSettings::setHeight(double points) {
+    change([points](auto& values) { values.height = points; });
+}
+
+void AppSettings::setXOffset(double points) {
+    change([points](auto& values) { values.xOffset = points; });
+}
+
+void AppSettings::setScrollSpeed(double speed) {
+    change([speed](auto& values) {
+        values.scrollSpeed = std::clamp(speed, 0.0, PersistedSettings::maxScrollSpeed);
+        if (values.scrollSpeed > 0) values.lastNonZeroScrollSpeed = values.scrollSpeed;
+    });
+}
+
+void AppSettings::setAutoScrollEnabled(bool enabled) {
+    change([enabled](auto& values) {
+        values.autoScrollEnabled = enabled;
+        if (!enabled || values.scrollSpeed > 0) return;
+        if (values.lastNonZeroScrollSpeed <= 0)
+            values.lastNonZeroScrollSpeed = PersistedSettings::defaultResumeSpeed;
+        values.scrollSpeed = values.lastNonZeroScrollSpeed;
+    });
+}
+
+void AppSettings::setScrollRate(ScrollRate rate) {
+    change([rate](auto& values) { values.scrollRate = rate; });
+}
+
+void AppSettings::setHasCompletedOnboarding(bool completed) {
+    change([completed](auto& values) { values.hasCompletedOnboarding = completed; });
+}
+
+void AppSettings::setActiveSourceType(SourceType source) {
+    change([source](auto& values) { values.activeSourceType = source; });
+}
+
+void AppSettings::setAppleNotesConfig(const std::optional<AppleNotesConfiguration>& note) {
+    change([&note](auto& values) { values.appleNotesConfig = note; });
+}
+
+void AppSettings::setPreferredDisplayID(std::optional<std::uint32_t> display) {
+    change([display](auto& values) { values.preferredDisplayID = display; });
 }
 
 void AppSettings::setSourceEnabled(SourceType source, bool enabled) {
-    enabledSourceTypes.insert(SourceType::clipboard);
-    if (source == SourceType::clipboard) return;
-    if (enabled) {
-        enabledSourceTypes.insert(source);
-    } else {
-        enabledSourceTypes.erase(source);
-        if (activeSourceType == source) activeSourceType = SourceType::clipboard;
+    if (source == SourceType::clipboard) {
+        current.enabledSourceTypes.insert(SourceType::clipboard);
+        return;
     }
-    save();
+    change([source, enabled](auto& values) {
+        values.enabledSourceTypes.insert(SourceType::clipboard);
+        if (enabled) {
+            values.enabledSourceTypes.insert(source);
+        } else {
+            values.enabledSourceTypes.erase(source);
+            if (values.activeSourceType == source) values.activeSourceType = SourceType::clipboard;
+        }
+    });
 }
 
 std::vector<SourceType> AppSettings::getEnabledSources() const {
     std::vector<SourceType> sources;
     std::copy_if(availableSources.begin(), availableSources.end(), std::back_inserter(sources),
-                 [this](SourceType source) { return enabledSourceTypes.count(source) > 0; });
+                 [this](SourceType source) { return isSourceEnabled(source); });
     return sources;
+}
+
+bool AppSettings::isSourceEnabled(SourceType source) const {
+    return current.enabledSourceTypes.contains(source);
+}
+
+AppSettings::Observation AppSettings::observe(Observer observer) {
+    auto observation = std::make_shared<const Observer>(std::move(observer));
+    observers.push_back(observation);
+    return observation;
+}
+
+void AppSettings::announce(const PersistedSettings& before) {
+    if (before == current) return;
+    std::erase_if(observers, [](const auto& observer) { return observer.expired(); });
+    // A copy: who is called may register and drop others.
+    for (const auto& observer : std::vector(observers))
+        if (const auto living = observer.lock()) (*living)(before);
 }
 
 QString AppSettings::configPath() const {

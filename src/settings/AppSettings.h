@@ -6,21 +6,26 @@
 
 #include <QString>
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace tessaline {
 
-/// The user's choices. One instance is shared by reference with every part of the program; whoever
-/// changes a field calls `save` at once. Main thread only.
-class AppSettings : public PersistedSettings {
+template <typename Values>
+class SettingsFile;
+
+/// The user's choices. One instance is shared by reference with every part of the program. A change
+/// is one call: it is brought within its limits, saved at once, and told to the observers. Main
+/// thread only.
+class AppSettings {
 public:
-    /// Starts from the defaults and loads the configuration file over them.
-    AppSettings();
+    /// Starts from the defaults and loads the configuration file over them: the one at
+    /// `configPath`, if given, in place of the standard one.
+    explicit AppSettings(const std::optional<QString>& configPath = std::nullopt);
 
-    /// As above, with the file at `configPath` in place of the standard one.
-    explicit AppSettings(const QString& configPath);
-
+    ~AppSettings();
     AppSettings(const AppSettings&) = delete;
     AppSettings& operator=(const AppSettings&) = delete;
 
@@ -33,12 +38,55 @@ public:
     /// Writes every persisted field, whole or not at all. A failure is reported on standard output.
     void save() const;
 
+    const PersistedSettings& values() const { return current; }
+    const QString& notePath() const { return current.notePath; }
+    double fontSize() const { return current.fontSize; }
+    double width() const { return current.width; }
+    double height() const { return current.height; }
+    double xOffset() const { return current.xOffset; }
+    double scrollSpeed() const { return current.scrollSpeed; }
+    double lastNonZeroScrollSpeed() const { return current.lastNonZeroScrollSpeed; }
+    bool autoScrollEnabled() const { return current.autoScrollEnabled; }
+    ScrollRate scrollRate() const { return current.scrollRate; }
+    bool hasCompletedOnboarding() const { return current.hasCompletedOnboarding; }
+    SourceType activeSourceType() const { return current.activeSourceType; }
+    const auto& appleNotesConfig() const { return current.appleNotesConfig; }
+    const auto& enabledSourceTypes() const { return current.enabledSourceTypes; }
+    const auto& preferredDisplayID() const { return current.preferredDisplayID; }
+
+    void setFontSize(double points);
+    void setWidth(double points);
+    void setHeight(double points);
+    void setXOffset(double points);
+    /// From 0 to the greatest speed. One above 0 is also the speed to resume with.
+    void setScrollSpeed(double speed);
+    /// Switching it on while the speed is 0 resumes with the last speed.
+    void setAutoScrollEnabled(bool enabled);
+    void setScrollRate(ScrollRate rate);
+    void setHasCompletedOnboarding(bool completed);
+    void setActiveSourceType(SourceType source);
+    void setAppleNotesConfig(const std::optional<AppleNotesConfiguration>& note);
+    void setPreferredDisplayID(std::optional<std::uint32_t> display);
+
     /// Switches a source on or off and saves. The clipboard cannot be switched off; switching the
     /// active source off makes the clipboard active.
     void setSourceEnabled(SourceType source, bool enabled);
 
+    /// Several fields at once, for whoever has to write them together.
+    void change(const std::function<void(PersistedSettings& values)>& edit);
+
     /// The enabled sources among those offered to the user, in the order they are offered.
     std::vector<SourceType> getEnabledSources() const;
+    bool isSourceEnabled(SourceType source) const;
+
+    /// Hears of changes once they are saved, with the values from before.
+    using Observer = std::function<void(const PersistedSettings& before)>;
+    /// Keeps an observer registered for as long as it lives. It may outlive the settings.
+    using Observation = std::shared_ptr<const Observer>;
+
+    /// Observers are called in the order in which they registered. They may register and drop
+    /// others: a new one hears of the next change, a dropped one of none any more.
+    [[nodiscard]] Observation observe(Observer observer);
 
     SourceMode sourceMode = SourceMode::file; ///< in memory only
     QString clipboardContent;                 ///< in memory only
@@ -46,9 +94,12 @@ public:
 
 private:
     QString configPath() const;
+    void announce(const PersistedSettings& before);
 
-    /// What was in memory when a file could be neither used nor copied.
-    mutable std::optional<PersistedSettings> unwritten;
+    PersistedSettings current;
+    std::vector<std::weak_ptr<const Observer>> observers;
+
+    const std::unique_ptr<SettingsFile<PersistedSettings>> file;
 };
 
 } // namespace tessaline

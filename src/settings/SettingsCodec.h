@@ -1,6 +1,7 @@
 #pragma once
 
 #include "settings/PersistedSettings.h"
+#include "settings/SettingsTable.h"
 
 #include <QByteArray>
 #include <QString>
@@ -9,15 +10,12 @@
 
 namespace tessaline {
 
-/// Reads the content of a configuration file. Keys that are absent or null keep their default,
-/// unknown keys are ignored, scroll speeds are limited to the greatest one, the clipboard is always
-/// enabled and the active source is an enabled one. Any other departure from the format fails the
-/// whole decode: none is returned and `error` receives a one-line description.
-std::optional<PersistedSettings> decodeSettings(const QByteArray& bytes, QString* error = nullptr);
+/// What the configuration file holds: its keys, and that the clipboard is always enabled and the
+/// active source is an enabled one.
+const SettingsTable<PersistedSettings>& configurationTable();
 
-/// Writes the content of a configuration file: pretty-printed, keys in their fixed order, optional
-/// ones left out when there is no value. JSON has no form for a number that is not finite: with
-/// one of those none is returned and `error` receives a one-line description.
+/// Reads and writes the content of a configuration file by that table.
+std::optional<PersistedSettings> decodeSettings(const QByteArray& bytes, QString* error = nullptr);
 std::optional<QByteArray> encodeSettings(const PersistedSettings& settings,
                                          QString* error = nullptr);
 

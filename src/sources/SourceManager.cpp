@@ -32,8 +32,8 @@ SourceManager::SourceManager(AppSettings& sharedSettings, UsageRecorder& usageRe
     , clipboard(clipboardSource.get()) {
     sources.emplace(SourceType::obsidian, std::move(obsidianSource));
     sources.emplace(SourceType::clipboard, std::move(clipboardSource));
-    const bool enabled = settings.enabledSourceTypes.contains(settings.activeSourceType);
-    setActiveSource(enabled ? settings.activeSourceType : SourceType::clipboard);
+    const bool enabled = settings.isSourceEnabled(settings.activeSourceType());
+    setActiveSource(enabled ? settings.activeSourceType() : SourceType::clipboard);
 }
 
 SourceManager::~SourceManager() = default;
@@ -52,13 +52,12 @@ void SourceManager::setActiveSource(SourceType type) {
     if (active) active->stopWatching();
     const auto registered = sources.find(type);
     active = registered == sources.end() ? nullptr : registered->second.get();
-    settings.activeSourceType = type;
-    settings.save();
+    settings.setActiveSourceType(type);
     notifications.post({activeSourceDidChangeNotification(), this, {{u"sourceType"_s, type}}});
 }
 
 void SourceManager::setSourceEnabled(SourceType type, bool enabled) {
-    const auto previouslyActive = settings.activeSourceType;
+    const auto previouslyActive = settings.activeSourceType();
     settings.setSourceEnabled(type, enabled);
     if (enabled || previouslyActive != type) return;
     setActiveSource(SourceType::clipboard);
@@ -68,7 +67,7 @@ void SourceManager::setSourceEnabled(SourceType type, bool enabled) {
 void SourceManager::cycleSource() {
     const auto enabled = settings.getEnabledSources();
     if (enabled.size() < 2) return;
-    const auto current = std::find(enabled.begin(), enabled.end(), settings.activeSourceType);
+    const auto current = std::find(enabled.begin(), enabled.end(), settings.activeSourceType());
     const bool isLast = current == enabled.end() || std::next(current) == enabled.end();
     setActiveSource(isLast ? enabled.front() : *std::next(current));
     startWatching();
@@ -86,8 +85,7 @@ void SourceManager::updateAppleNotesConfig(const std::optional<AppleNotesConfigu
     const auto registered = sources.find(SourceType::appleNotes);
     auto* source = registered == sources.end() ? nullptr : registered->second.get();
     if (auto* notes = dynamic_cast<AppleNotesSource*>(source)) notes->configuration = config;
-    settings.appleNotesConfig = config;
-    settings.save();
+    settings.setAppleNotesConfig(config);
 }
 
 void SourceManager::handleContentUpdate(const QString& text) {
@@ -95,13 +93,13 @@ void SourceManager::handleContentUpdate(const QString& text) {
     const bool isCounted = text.constData() == content.constData() && text.size() == content.size();
     if (!isCounted) wordCount = MarkdownRenderer::wordCount(text);
     content = text;
-    recorder.trackContentLoaded(settings.activeSourceType, wordCount);
+    recorder.trackContentLoaded(settings.activeSourceType(), wordCount);
     notifications.post({contentDidUpdateNotification(), this, {{u"content"_s, text}}});
     if (onContentUpdate) onContentUpdate(text);
 }
 
 void SourceManager::handleContentPaste(const std::optional<QString>& pasted) {
-    const bool isShown = settings.activeSourceType == SourceType::clipboard;
+    const bool isShown = settings.activeSourceType() == SourceType::clipboard;
     if (pasted && isShown) handleContentUpdate(*pasted);
 }
 

@@ -49,6 +49,8 @@ ConfigWindow::ConfigWindow(AppSettings& edited, SourceManager* manager,
     setWindowTitle(u"Settings"_s);
     setDarkLook(*this, SystemPalette::settingsBackground);
     layOut();
+    settingsObservation =
+        settings.observe([this](const PersistedSettings& before) { settingsChanged(before); });
 }
 
 ConfigWindow::~ConfigWindow() = default;
@@ -89,6 +91,18 @@ QWidget* ConfigWindow::createContent() {
 
 void ConfigWindow::setScreenManager(ScreenManager* manager) {
     display->setScreenManager(manager);
+}
+
+// Whoever changed them: what a control of ours changed it shows already.
+void ConfigWindow::settingsChanged(const PersistedSettings& before) {
+    display->showSettings();
+    integrations->showSettings();
+    if (before.enabledSourceTypes != settings.enabledSourceTypes()) {
+        sources->rebuildSourcePopup();
+    } else {
+        sources->selectActiveSource();
+        sources->updateSourceConfigVisibility();
+    }
 }
 
 void ConfigWindow::refreshUI() {
@@ -145,7 +159,7 @@ void ConfigWindow::obsidianToggleChanged(bool on) {
     }
     sources->selectActiveSource();
     sources->updateSourceConfigVisibility();
-    announceSource(settings.activeSourceType);
+    announceSource(settings.activeSourceType());
 }
 
 void ConfigWindow::announceSettings() const {

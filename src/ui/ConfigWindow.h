@@ -1,6 +1,7 @@
 #pragma once
 
 #include "permissions/PermissionManager.h"
+#include "settings/AppSettings.h"
 #include "settings/SourceType.h"
 #include "ui/Services.h"
 
@@ -12,7 +13,6 @@
 namespace tessaline {
 
 class AccessibilityRow;
-class AppSettings;
 class DisplaySection;
 class IntegrationsSection;
 class ScreenManager;
@@ -20,7 +20,7 @@ class SourceManager;
 class SourceSection;
 
 /// The settings window. Edits the shared settings live: every change is saved and announced at
-/// once. Closing hides it; it can be shown again. Main thread only.
+/// once. Shows what others change. Closing hides it; it can be shown again. Main thread only.
 class ConfigWindow : public QWidget {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ public:
     /// is.
     bool isSliderHeld() const;
 
-    /// Called after every saved change.
+    /// Called after every change by a control of this window, once it is saved and shown.
     std::function<void()> onSettingsChanged;
 
     /// Called when the window has another size, or could have since a slider was let go.
@@ -75,6 +75,7 @@ protected:
 
 private:
     void layOut();
+    void settingsChanged(const PersistedSettings& before);
     QWidget* createContent();
     void obsidianToggleChanged(bool on);
     void fixAccessibility();
@@ -83,6 +84,7 @@ private:
     void announceSource(SourceType source) const;
 
     AppSettings& settings;
+    AppSettings::Observation settingsObservation;
     SourceManager* sourceManager;
     const Platform& platform;
     Services services;

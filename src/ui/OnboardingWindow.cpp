@@ -68,11 +68,12 @@ OnboardingWindow::~OnboardingWindow() {
 
 /// A fresh start, whatever was chosen in an earlier one.
 void OnboardingWindow::resetSourceChoice() {
-    settings.enabledSourceTypes = {SourceType::clipboard};
-    if (sourceManager && settings.activeSourceType != SourceType::clipboard)
+    if (sourceManager && settings.activeSourceType() != SourceType::clipboard)
         sourceManager->setActiveSource(SourceType::clipboard);
-    settings.activeSourceType = SourceType::clipboard;
-    settings.save();
+    settings.change([](PersistedSettings& values) {
+        values.enabledSourceTypes = {SourceType::clipboard};
+        values.activeSourceType = SourceType::clipboard;
+    });
 }
 
 void OnboardingWindow::setupUI() {
@@ -162,7 +163,7 @@ QWidget* OnboardingWindow::createIntegrationsSection() {
 }
 
 bool OnboardingWindow::isObsidianEnabled() const {
-    return settings.enabledSourceTypes.contains(SourceType::obsidian);
+    return settings.isSourceEnabled(SourceType::obsidian);
 }
 
 ObsidianStatusText OnboardingWindow::pluginStatus() const {
@@ -196,9 +197,11 @@ void OnboardingWindow::updatePermissionStatus() {
 }
 
 void OnboardingWindow::toggleObsidian(bool enabled) {
-    // The manager first: by the settings it knows whether the active source goes.
-    if (sourceManager) sourceManager->setSourceEnabled(SourceType::obsidian, enabled);
-    settings.setSourceEnabled(SourceType::obsidian, enabled);
+    if (sourceManager) {
+        sourceManager->setSourceEnabled(SourceType::obsidian, enabled);
+    } else {
+        settings.setSourceEnabled(SourceType::obsidian, enabled);
+    }
     if (enabled) {
         services.recorder.record(
             {.name = u"source_enabled"_s,
@@ -235,8 +238,7 @@ void OnboardingWindow::updateIntegrationStatuses() {
 void OnboardingWindow::continueClicked() {
     if (finished) return;
     finished = true;
-    settings.hasCompletedOnboarding = true;
-    settings.save();
+    settings.setHasCompletedOnboarding(true);
     permissionManager.stopPolling();
     services.recorder.trackOnboardingCompleted(platform.trust->isTrusted(), isObsidianEnabled());
     // Whoever is called may drop the window.

@@ -277,11 +277,11 @@ TEST_F(AnalyticsTest, DescribesABareEnvironment) {
 TEST_F(AnalyticsTest, DescribesAFullEnvironment) {
     AppSettings settings(stage.folder.filePath(u"config.json"_s));
     settings.setSourceEnabled(SourceType::obsidian, true);
-    settings.activeSourceType = SourceType::obsidian;
-    settings.fontSize = 18.5;
-    settings.width = 600.25;
-    settings.height = 301;
-    settings.scrollRate = ScrollRate::fast;
+    settings.setActiveSourceType(SourceType::obsidian);
+    settings.setFontSize(18.5);
+    settings.setWidth(600.25);
+    settings.setHeight(301);
+    settings.setScrollRate(ScrollRate::fast);
     stage.environment.appInstalled = stage.environment.vaultFound = true;
     stage.environment.pluginInstalled = stage.environment.pluginActive = true;
     stage.environment.accessibilityGranted = true;

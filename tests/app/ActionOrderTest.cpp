@@ -95,7 +95,7 @@ TEST_F(ActionOrder, OfTheNormalStart) {
 }
 
 TEST_F(ActionOrder, OfTheFirstRunWindowsAppearance) {
-    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     launchWatched();
     const QStringList concerned = {u"policy regular"_s, u"onboarding_started"_s,
                                    u"make Welcome to Tessaline"_s, u"show Welcome to Tessaline"_s,
@@ -104,7 +104,7 @@ TEST_F(ActionOrder, OfTheFirstRunWindowsAppearance) {
 }
 
 TEST_F(ActionOrder, OfTheFirstRunsEnd) {
-    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     launchWatched();
     delegate->openText(u"# Opened"_s);
     journal.clear();
@@ -126,7 +126,7 @@ TEST_F(ActionOrder, OfTheSettingsWindowsAppearance) {
 }
 
 TEST_F(ActionOrder, OfWhatFollowsAChangeOfTheSettings) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.hasCompletedOnboarding = true;
         settings.autoScrollEnabled = true;
         settings.scrollSpeed = 2.5;

@@ -25,7 +25,7 @@ using ::testing::ElementsAre;
 class AppDelegateConnections : public AppDelegateFixture {
 protected:
     void enableBothSources() {
-        configure([](AppSettings& settings) {
+        configure([](PersistedSettings& settings) {
             settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
         });
     }
@@ -72,7 +72,7 @@ TEST_F(AppDelegateConnections, PlaceAndRenderThePrompterAnewWhenASettingChanges)
 }
 
 TEST_F(AppDelegateConnections, ScrollAtTheRateThatIsChosen) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.autoScrollEnabled = true;
         settings.scrollSpeed = 2.5;
     });

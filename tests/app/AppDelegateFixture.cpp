@@ -2,9 +2,12 @@
 
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
+#include "settings/SettingsCodec.h"
 #include "sources/ClipboardSource.h"
 #include "ui/ConfigWindow.h"
 #include "ui/OnboardingWindow.h"
+
+#include "support/TestFiles.h"
 
 #include <QApplication>
 #include <QDir>
@@ -37,15 +40,15 @@ AppDelegateFixture::AppDelegateFixture() {
     screen.visibleFrame = screen.frame;
     screens.attached = {screen};
     screens.main = screen;
-    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = true; });
+    configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = true; });
 }
 
 AppDelegateFixture::~AppDelegateFixture() = default;
 
-void AppDelegateFixture::configure(const std::function<void(AppSettings&)>& change) {
-    AppSettings settings;
-    change(settings);
-    settings.save();
+void AppDelegateFixture::configure(const std::function<void(PersistedSettings&)>& change) {
+    PersistedSettings values = AppSettings().values();
+    change(values);
+    putFile(supportFolderPath() + QStringLiteral("/config.json"), encodeSettings(values).value());
 }
 
 Environment AppDelegateFixture::environment() {

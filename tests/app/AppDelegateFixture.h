@@ -50,7 +50,7 @@ protected:
     AppDelegateFixture();
 
     /// Writes the configuration file that the delegate will find.
-    void configure(const std::function<void(AppSettings&)>& change);
+    void configure(const std::function<void(PersistedSettings&)>& change);
     /// Constructs the delegate, if that was not done, and launches it.
     AppDelegate& launch();
 
@@ -60,7 +60,7 @@ protected:
     OnboardingWindow* onboarding() const;
 
     /// What the settings file says now.
-    static AppSettings savedSettings() { return {}; }
+    static AppSettings savedSettings() { return AppSettings(); }
     /// The script of the clipboard source that the next start would find.
     static QString keptScript();
     /// What the prompter's label of the source says.

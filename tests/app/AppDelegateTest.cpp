@@ -53,17 +53,17 @@ TEST_F(AppDelegateTest, ShowsThePrompterAtANormalStart) {
 }
 
 TEST_F(AppDelegateTest, StartsWithTheClipboardWhenTheActiveSourceIsNotEnabled) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.activeSourceType = SourceType::obsidian;
         settings.enabledSourceTypes = {SourceType::clipboard};
     });
     launch();
-    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(savedSettings().activeSourceType(), SourceType::clipboard);
     EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
 }
 
 TEST_F(AppDelegateTest, WatchesTheActiveSourceFromTheStart) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.activeSourceType = SourceType::obsidian;
         settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
     });
@@ -129,15 +129,15 @@ TEST_F(AppDelegateTest, FoldsAndUnfoldsThePrompterByItsMinimizeButton) {
 }
 
 TEST_F(AppDelegateTest, TogglesAutoScrollByItsButtonAndRecordsTheNewState) {
-    configure([](AppSettings& settings) { settings.scrollRate = ScrollRate::fast; });
+    configure([](PersistedSettings& settings) { settings.scrollRate = ScrollRate::fast; });
     launch();
     prompter()->controls().autoScrollButton->click();
-    EXPECT_TRUE(savedSettings().autoScrollEnabled);
+    EXPECT_TRUE(savedSettings().autoScrollEnabled());
     EXPECT_EQ(recorder.events.back().name, u"auto_scroll_toggled"_s);
     EXPECT_EQ(recorder.events.back().properties,
               (QMap<QString, QString>{{u"enabled"_s, u"true"_s}, {u"scroll_rate"_s, u"fast"_s}}));
     prompter()->controls().autoScrollButton->click();
-    EXPECT_FALSE(savedSettings().autoScrollEnabled);
+    EXPECT_FALSE(savedSettings().autoScrollEnabled());
 }
 
 TEST_F(AppDelegateTest, OpensTheSettingsByTheirButton) {
@@ -152,7 +152,7 @@ TEST_F(AppDelegateTest, OpensTheSettingsByTheirButton) {
 }
 
 TEST_F(AppDelegateTest, OpensTheSettingsRightBelowThePrompterWhateverItsOffset) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.height = 300;
         settings.xOffset = 100;
     });
@@ -164,7 +164,7 @@ TEST_F(AppDelegateTest, OpensTheSettingsRightBelowThePrompterWhateverItsOffset) 
 }
 
 TEST_F(AppDelegateTest, OpensTheSettingsWholeOnAScreenThatAHighPrompterFills) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.width = 380;
         settings.height = 800;
     });
@@ -188,7 +188,7 @@ TEST_F(AppDelegateTest, KeepsTheSettingsOnTheScreenWhenPanelsCome) {
 }
 
 TEST_F(AppDelegateTest, CutsThePrompterOutWhereTheSettingsLieOverIt) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.width = 800;
         settings.height = 800;
     });
@@ -222,7 +222,7 @@ TEST_F(AppDelegateTest, HangsFromTheChosenScreenFromTheStart) {
     other.id = 2;
     other.frame.x = other.frame.width;
     screens.attached.push_back(other);
-    configure([](AppSettings& settings) { settings.preferredDisplayID = 2; });
+    configure([](PersistedSettings& settings) { settings.preferredDisplayID = 2; });
     launch();
     EXPECT_GE(prompter()->x(), int(other.frame.x));
 }
@@ -306,14 +306,14 @@ TEST_F(AppDelegateTest, DropsAPasteThatComesAfterItsEnd) {
 }
 
 TEST_F(AppDelegateTest, PastesIntoTheClipboardSourceWhateverIsActive) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.activeSourceType = SourceType::obsidian;
         settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
     });
     launch();
     pasteboard.text = u"Hello"_s;
     localKeys.press({.characters = u"v"_s, .modifiers = Modifier::command});
-    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(savedSettings().activeSourceType(), SourceType::clipboard);
     EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
     EXPECT_EQ(config()->findChild<PopupButton*>(u"config_sourcePopup"_s)->currentText(),
               u"Clipboard"_s);
@@ -330,7 +330,7 @@ TEST_F(AppDelegateTest, ShowsAnOpenedTextAsIfItHadBeenPasted) {
 }
 
 TEST_F(AppDelegateTest, ChangesNothingForAnOpenedTextThatIsEmpty) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.activeSourceType = SourceType::obsidian;
         settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
     });

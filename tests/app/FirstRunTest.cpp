@@ -17,7 +17,7 @@ using ::testing::Not;
 class FirstRun : public AppDelegateFixture {
 protected:
     FirstRun() {
-        configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+        configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     }
 };
 
@@ -50,7 +50,7 @@ TEST_F(FirstRun, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
     launch();
     onboarding()->onSkip();
     EXPECT_TRUE(prompter()->isVisible());
-    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
+    EXPECT_FALSE(savedSettings().hasCompletedOnboarding());
 }
 
 TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
@@ -58,7 +58,7 @@ TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
     onboarding()->close();
     EXPECT_TRUE(prompter()->isVisible());
     EXPECT_EQ(localKeys.starts, 1);
-    EXPECT_FALSE(savedSettings().hasCompletedOnboarding);
+    EXPECT_FALSE(savedSettings().hasCompletedOnboarding());
     mainQueue.runAll();
     EXPECT_FALSE(onboarding());
 }
@@ -81,7 +81,7 @@ TEST_F(FirstRun, StartsOnceHoweverOftenItsWindowCalls) {
 }
 
 TEST_F(FirstRun, StartsWithTheClipboardWhateverWasActiveBefore) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.hasCompletedOnboarding = false;
         settings.activeSourceType = SourceType::obsidian;
         settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
@@ -89,7 +89,7 @@ TEST_F(FirstRun, StartsWithTheClipboardWhateverWasActiveBefore) {
     launch();
     onboarding()->onComplete();
     mainQueue.runAll(); // ends the watch over the permission
-    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(savedSettings().activeSourceType(), SourceType::clipboard);
     EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
     EXPECT_THAT(timers.liveIntervals(), Not(Contains(1.0))); // nobody reads Obsidian's file
 }

@@ -55,7 +55,7 @@ TEST_F(LaunchOrder, OfANormalStart) {
 }
 
 TEST_F(LaunchOrder, OfAFirstStart) {
-    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     launchAmongWitnesses();
     EXPECT_EQ(journal.first(untilTheWindows.size()), untilTheWindows);
     EXPECT_EQ(journal.value(untilTheWindows.size()), u"onboarding_started"_s);

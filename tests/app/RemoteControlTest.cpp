@@ -80,10 +80,10 @@ TEST_F(RemoteControlTest, StartsAndStopsTheText) {
     launch();
     EXPECT_EQ(textOf(u"play"_s), u"auto-scroll on"_s);
     EXPECT_EQ(textOf(u"play"_s), u"auto-scroll on"_s);
-    EXPECT_TRUE(savedSettings().autoScrollEnabled);
+    EXPECT_TRUE(savedSettings().autoScrollEnabled());
     EXPECT_EQ(textOf(u"pause"_s), u"auto-scroll off"_s);
     EXPECT_EQ(textOf(u"pause"_s), u"auto-scroll off"_s);
-    EXPECT_FALSE(savedSettings().autoScrollEnabled);
+    EXPECT_FALSE(savedSettings().autoScrollEnabled());
     EXPECT_EQ(textOf(u"toggle"_s), u"auto-scroll on"_s);
     EXPECT_EQ(textOf(u"toggle"_s), u"auto-scroll off"_s);
 }
@@ -91,20 +91,20 @@ TEST_F(RemoteControlTest, StartsAndStopsTheText) {
 TEST_F(RemoteControlTest, ChangesSpeedAndRate) {
     launch();
     EXPECT_EQ(textOf(u"speed 2"_s), u"speed 2"_s);
-    const double speed = delegate->currentSettings().scrollSpeed;
+    const double speed = delegate->currentSettings().scrollSpeed();
     textOf(u"faster"_s);
-    EXPECT_GT(delegate->currentSettings().scrollSpeed, speed);
+    EXPECT_GT(delegate->currentSettings().scrollSpeed(), speed);
     textOf(u"slower"_s);
     textOf(u"slower"_s);
-    EXPECT_LT(delegate->currentSettings().scrollSpeed, speed);
+    EXPECT_LT(delegate->currentSettings().scrollSpeed(), speed);
     EXPECT_EQ(textOf(u"speed 5"_s), u"speed 5"_s);
     EXPECT_EQ(textOf(u"faster"_s), u"speed 5"_s);
     EXPECT_EQ(textOf(u"rate fast"_s), u"rate fast"_s);
-    EXPECT_EQ(savedSettings().scrollRate, ScrollRate::fast);
+    EXPECT_EQ(savedSettings().scrollRate(), ScrollRate::fast);
 }
 
 TEST_F(RemoteControlTest, ChangesNothingButTheRate) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.hasCompletedOnboarding = true;
         settings.width = 1234.5; // more than the slider can show
         settings.height = 77.25;
@@ -112,13 +112,13 @@ TEST_F(RemoteControlTest, ChangesNothingButTheRate) {
         settings.xOffset = 7;
         settings.scrollSpeed = 1.5;
     });
-    const PersistedSettings before = savedSettings();
+    const PersistedSettings before = savedSettings().values();
     launch();
     recorder.events.clear();
     EXPECT_EQ(textOf(u"rate slow"_s), u"rate slow"_s);
     PersistedSettings expected = before;
     expected.scrollRate = ScrollRate::slow;
-    EXPECT_EQ(PersistedSettings(savedSettings()), expected);
+    EXPECT_EQ(savedSettings().values(), expected);
     const auto* popup = config()->findChild<PopupButton*>(u"tickFactorPopup"_s);
     ASSERT_TRUE(popup);
     EXPECT_EQ(popup->currentText(), u"Slow"_s);
@@ -129,16 +129,16 @@ TEST_F(RemoteControlTest, ChangesNothingButTheRate) {
 }
 
 TEST_F(RemoteControlTest, ChangesNothingButTheSource) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.hasCompletedOnboarding = true;
         settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
         settings.width = 1234.5;
     });
-    PersistedSettings expected = savedSettings();
+    PersistedSettings expected = savedSettings().values();
     launch();
     expected.activeSourceType = SourceType::obsidian;
     EXPECT_EQ(textOf(u"source obsidian"_s), u"source obsidian"_s);
-    EXPECT_EQ(PersistedSettings(savedSettings()), expected);
+    EXPECT_EQ(savedSettings().values(), expected);
     const auto* popup = config()->findChild<PopupButton*>(u"config_sourcePopup"_s);
     ASSERT_TRUE(popup);
     EXPECT_EQ(popup->currentText(), u"Obsidian"_s);
@@ -212,22 +212,22 @@ TEST_F(RemoteControlTest, SaysPastedOnceThatIsTrue) {
 }
 
 TEST_F(RemoteControlTest, ChoosesAmongTheEnabledSources) {
-    configure([](AppSettings& settings) {
+    configure([](PersistedSettings& settings) {
         settings.hasCompletedOnboarding = true;
         settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
         settings.activeSourceType = SourceType::clipboard;
     });
     launch();
     EXPECT_EQ(textOf(u"source obsidian"_s), u"source obsidian"_s);
-    EXPECT_EQ(savedSettings().activeSourceType, SourceType::obsidian);
+    EXPECT_EQ(savedSettings().activeSourceType(), SourceType::obsidian);
 }
 
 TEST_F(RemoteControlTest, RefusesASourceThatIsNotEnabled) {
     launch();
-    ASSERT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    ASSERT_EQ(savedSettings().activeSourceType(), SourceType::clipboard);
     EXPECT_EQ(refusalOf(u"source obsidian"_s),
               u"the source 'obsidian' is not enabled in the settings"_s);
-    EXPECT_EQ(savedSettings().activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(savedSettings().activeSourceType(), SourceType::clipboard);
 }
 
 TEST_F(RemoteControlTest, TellsWhatThePrompterShowsAndDoes) {
@@ -245,7 +245,7 @@ TEST_F(RemoteControlTest, TellsWhatThePrompterShowsAndDoes) {
 }
 
 TEST_F(RemoteControlTest, WaitsForTheFirstRunToEndButTellsTheStatus) {
-    configure([](AppSettings& settings) { settings.hasCompletedOnboarding = false; });
+    configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     launch();
     EXPECT_EQ(refusalOf(u"play"_s), u"the first-run window is still open"_s);
     EXPECT_FALSE(statusAfter(u"status"_s).visible);

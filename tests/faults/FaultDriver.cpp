@@ -43,15 +43,17 @@ void print(const QString& text) {
 void loadSettings(const QString& path) {
     const Armed armed;
     const AppSettings settings(path);
-    print(u"font size %1\n"_s.arg(settings.fontSize));
+    print(u"font size %1\n"_s.arg(settings.fontSize()));
 }
 
 void saveSettings(const QString& path) {
     AppSettings settings(path);
-    settings.fontSize = 22;
-    settings.notePath = u"x"_s.repeated(20000);
+    const QString longPath = u"x"_s.repeated(20000);
     const Armed armed;
-    settings.save();
+    settings.change([&longPath](PersistedSettings& values) {
+        values.fontSize = 22;
+        values.notePath = longPath;
+    });
 }
 
 /// A history that is yet to be read, with a new event.

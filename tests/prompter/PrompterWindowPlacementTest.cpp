@@ -51,22 +51,22 @@ TEST_F(PrompterWindowPlacement, HangsFromTheTopOfTheChosenScreen) {
 
 TEST_F(PrompterWindowPlacement, StaysWithinTheSidesOfTheChosenScreen) {
     choose(projectorID);
-    settings.xOffset = 2000;
+    settings.setXOffset(2000);
     window().updateFrame();
     EXPECT_EQ(window().geometry().left(), -450);
-    settings.xOffset = -2000;
+    settings.setXOffset(-2000);
     window().updateFrame();
     EXPECT_EQ(window().geometry().left(), -1000);
 }
 
 TEST_F(PrompterWindowPlacement, IsNotHeldWithinTheMainScreenWithoutAChoice) {
-    settings.xOffset = 2000;
+    settings.setXOffset(2000);
     window().updateFrame();
     EXPECT_EQ(window().geometry().left(), (primarySize().width() - 450) / 2 + 2000);
 }
 
 TEST_F(PrompterWindowPlacement, MeasuresTheStripOnThePreferredScreenWhileItIsOnNone) {
-    settings.xOffset = 20'000;
+    settings.setXOffset(20'000);
     window().updateFrame();
     EXPECT_EQ(window().menuBarHeight(), 32) << "of the main screen, for want of a choice";
     choose(projectorID);
@@ -76,7 +76,7 @@ TEST_F(PrompterWindowPlacement, MeasuresTheStripOnThePreferredScreenWhileItIsOnN
 TEST_F(PrompterWindowPlacement, TakesTheHeightOfTheSettingsAlsoWhileCollapsed) {
     window().toggleCollapsed();
     finishResizing(32);
-    settings.height = 300;
+    settings.setHeight(300);
     window().updateFrame();
     EXPECT_EQ(window().height(), 300);
     EXPECT_TRUE(window().isCollapsed());

@@ -79,49 +79,49 @@ TEST_F(PrompterWindowScrolling, FollowsATrackpadWithControlExactly) {
 }
 
 TEST_F(PrompterWindowScrolling, ResumesByItselfAtTheDefaultSpeedWhenThereIsNone) {
-    settings.scrollSpeed = 0;
-    settings.lastNonZeroScrollSpeed = 0;
+    settings.setScrollSpeed(0);
+    settings.change([](auto& values) { values.lastNonZeroScrollSpeed = 0; });
     window().toggleAutoScroll();
-    EXPECT_TRUE(settings.autoScrollEnabled);
-    EXPECT_EQ(settings.scrollSpeed, 2.0);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 2.0);
+    EXPECT_TRUE(settings.autoScrollEnabled());
+    EXPECT_EQ(settings.scrollSpeed(), 2.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed(), 2.0);
     EXPECT_TRUE(linkIsStarted());
     const AppSettings saved(*settings.testConfigURL);
-    EXPECT_TRUE(saved.autoScrollEnabled);
-    EXPECT_EQ(saved.scrollSpeed, 2.0);
-    EXPECT_EQ(saved.lastNonZeroScrollSpeed, 2.0);
+    EXPECT_TRUE(saved.autoScrollEnabled());
+    EXPECT_EQ(saved.scrollSpeed(), 2.0);
+    EXPECT_EQ(saved.lastNonZeroScrollSpeed(), 2.0);
 }
 
 TEST_F(PrompterWindowScrolling, ResumesByItselfAtTheLastSpeed) {
-    settings.scrollSpeed = 0;
-    settings.lastNonZeroScrollSpeed = 3;
+    settings.setScrollSpeed(0);
+    settings.change([](auto& values) { values.lastNonZeroScrollSpeed = 3; });
     window().toggleAutoScroll();
-    EXPECT_EQ(settings.scrollSpeed, 3.0);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 3.0);
+    EXPECT_EQ(settings.scrollSpeed(), 3.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed(), 3.0);
 }
 
 TEST_F(PrompterWindowScrolling, KeepsItsSpeedWhenItIsSwitchedOffAndOn) {
-    settings.scrollSpeed = 1.5;
-    settings.lastNonZeroScrollSpeed = 3;
+    settings.setScrollSpeed(1.5);
+    settings.change([](auto& values) { values.lastNonZeroScrollSpeed = 3; });
     window().toggleAutoScroll();
     window().toggleAutoScroll();
-    EXPECT_FALSE(AppSettings(*settings.testConfigURL).autoScrollEnabled);
-    EXPECT_EQ(settings.scrollSpeed, 1.5);
+    EXPECT_FALSE(AppSettings(*settings.testConfigURL).autoScrollEnabled());
+    EXPECT_EQ(settings.scrollSpeed(), 1.5);
     window().toggleAutoScroll();
-    EXPECT_EQ(settings.scrollSpeed, 1.5);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, 3.0);
+    EXPECT_EQ(settings.scrollSpeed(), 1.5);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed(), 3.0);
 }
 
 TEST_F(PrompterWindowScrolling, MovesTheTextWithEveryFrameUntilItIsSwitchedOff) {
-    settings.scrollRate = ScrollRate::fast;
-    settings.scrollSpeed = 2.5;
+    settings.setScrollRate(ScrollRate::fast);
+    settings.setScrollSpeed(2.5);
     window().toggleAutoScroll();
     for (std::uint64_t frame = 1; frame <= 10; ++frame)
         links.refresh(frame);
     queue.runAll();
     EXPECT_NEAR(position(), 1.6, 1e-9);
     window().toggleAutoScroll();
-    EXPECT_FALSE(settings.autoScrollEnabled);
+    EXPECT_FALSE(settings.autoScrollEnabled());
     EXPECT_FALSE(linkIsStarted());
     links.refresh(11);
     queue.runAll();
@@ -129,10 +129,10 @@ TEST_F(PrompterWindowScrolling, MovesTheTextWithEveryFrameUntilItIsSwitchedOff) 
 }
 
 TEST_F(PrompterWindowScrolling, TakesAnotherSpeedOverWhileItMoves) {
-    settings.scrollRate = ScrollRate::fast;
-    settings.scrollSpeed = 2.5;
+    settings.setScrollRate(ScrollRate::fast);
+    settings.setScrollSpeed(2.5);
     window().toggleAutoScroll();
-    settings.scrollSpeed = 5.0;
+    settings.setScrollSpeed(5.0);
     window().updateScrollParameters();
     links.refresh(1);
     queue.runAll();

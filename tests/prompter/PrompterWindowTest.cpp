@@ -26,9 +26,9 @@ TEST_F(PrompterWindowTest, HangsFromTheTopCentreOfTheScreen) {
 
 TEST_F(PrompterWindowTest, FollowsTheSettings) {
     window();
-    settings.width = 600;
-    settings.height = 300;
-    settings.xOffset = 10;
+    settings.setWidth(600);
+    settings.setHeight(300);
+    settings.setXOffset(10);
     window().updateFrame();
     const int screenWidth = QApplication::primaryScreen()->size().width();
     EXPECT_EQ(window().geometry(), QRect((screenWidth - 600) / 2 + 10, 0, 600, 300));
@@ -38,7 +38,7 @@ TEST_F(PrompterWindowTest, StaysWhereItIsWithoutAScreen) {
     const QRect before = window().geometry();
     screens.attached.clear();
     screens.main.reset();
-    settings.width = 700;
+    settings.setWidth(700);
     window().updateFrame();
     EXPECT_EQ(window().geometry(), before);
     EXPECT_EQ(window().menuBarHeight(), 24);
@@ -112,7 +112,7 @@ TEST_F(PrompterWindowTest, CollapsesIntoTheStripAndComesBack) {
 }
 
 TEST_F(PrompterWindowTest, ExpandsToAHundredPointsAtLeast) {
-    settings.height = 60;
+    settings.setHeight(60);
     window().toggleCollapsed();
     finishResizing(32);
     window().toggleCollapsed();
@@ -197,7 +197,7 @@ TEST_F(PrompterWindowTest, ShowsAHintInPlaceOfThePlaceholder) {
 TEST_F(PrompterWindowTest, CentresTheHintAnewWhenItsHeightChanges) {
     show(u"PLACEHOLDER"_s);
     for (const double height : {600.0, 180.0, 256.0}) {
-        settings.height = height;
+        settings.setHeight(height);
         window().updateFrame();
         expectHintInTheMiddle();
     }
@@ -225,7 +225,7 @@ TEST_F(PrompterWindowTest, KeepsTheHintWhenALongTextBeforeItIsRenderedTooLate) {
 
 TEST_F(PrompterWindowTest, RerendersWithTheFontSizeOfTheSettings) {
     show(u"# Hello\nyou"_s);
-    settings.fontSize = 30;
+    settings.setFontSize(30);
     window().rerender();
     const auto& styled = window().textView().script().styled;
     EXPECT_EQ(window().textView().sizeOf(*styled.attributes(styled.runs.front()).font), 40);
@@ -239,7 +239,7 @@ TEST_F(PrompterWindowTest, RerendersNothingBeforeTheFirstText) {
 
 TEST_F(PrompterWindowTest, RerendersThePlaceholderAsItsHint) {
     show(u"PLACEHOLDER"_s);
-    settings.fontSize = 30;
+    settings.setFontSize(30);
     window().rerender();
     EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
     EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
@@ -286,7 +286,7 @@ TEST_F(PrompterWindowTest, CorrectsTheTimeOnceAQuestionHasMeasuredTheRestOfTheTe
 
 TEST_F(PrompterWindowTest, ShowsTheRateInTheColorOfTheStatistics) {
     show(u"text"_s);
-    settings.scrollRate = ScrollRate::fast;
+    settings.setScrollRate(ScrollRate::fast);
     window().updateScrollParameters();
     EXPECT_EQ(window().controls().statsLabel->color(), SystemPalette::red);
 }

@@ -32,7 +32,7 @@ protected:
     std::string printedByLoading() const {
         testing::internal::CaptureStdout();
         const AppSettings settings(path);
-        EXPECT_EQ(static_cast<const PersistedSettings&>(settings), PersistedSettings());
+        EXPECT_EQ(settings.values(), PersistedSettings());
         return testing::internal::GetCapturedStdout();
     }
 
@@ -63,14 +63,14 @@ TEST_P(AppSettingsUnusableFile, IsReportedAndKeptUntilTheNextSave) {
     EXPECT_EQ(fileBytes(path), GetParam().bytes);
 
     AppSettings settings(home.path() + u"/other.json"_s);
+    settings.setFontSize(20);
     settings.testConfigURL = path;
-    settings.fontSize = 20;
     settings.loadSettings();
-    EXPECT_EQ(settings.fontSize, 20.0);
+    EXPECT_EQ(settings.fontSize(), 20.0);
     EXPECT_EQ(fileBytes(path), GetParam().bytes);
 
     EXPECT_EQ(printedBySaving(settings), "");
-    EXPECT_EQ(AppSettings(path).fontSize, 20.0);
+    EXPECT_EQ(AppSettings(path).fontSize(), 20.0);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -210,20 +210,18 @@ TEST_F(AppSettingsCopy, MissingMakesEverySaveKeepTheFileUntilSomethingChanges) {
     settings.setSourceEnabled(SourceType::obsidian, false);
     EXPECT_EQ(fileBytes(path), large);
     disk.empty();
-    settings.fontSize = 21;
-    settings.save();
-    settings.fontSize = 16;
-    settings.save();
+    settings.setFontSize(21);
+    settings.setFontSize(16);
     testing::internal::GetCapturedStdout();
     EXPECT_EQ(log.entries(), cannotBeCopied(u"No space left on device"_s) + isKeptAs(copy));
     EXPECT_EQ(fileBytes(copy), large);
-    EXPECT_EQ(AppSettings(path).fontSize, 16.0);
+    EXPECT_EQ(AppSettings(path).fontSize(), 16.0);
 }
 
 TEST_F(AppSettingsFile, LoadsAFileOfTheGreatestSize) {
     const QByteArray json = R"({"fontSize": 20})";
     putFile(path, json + QByteArray(16'777'216 - json.size(), ' '));
-    EXPECT_EQ(AppSettings(path).fontSize, 20.0);
+    EXPECT_EQ(AppSettings(path).fontSize(), 20.0);
 }
 
 constexpr auto openToAll = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
@@ -274,11 +272,10 @@ TEST_F(AppSettingsFile, ASymbolicLinkStaysOneAndItsTargetIsLoadedAndSaved) {
     putFile(target, R"({"fontSize": 20})");
     ASSERT_TRUE(QFile::link(target, path));
     AppSettings settings(path);
-    EXPECT_EQ(settings.fontSize, 20.0);
-    settings.fontSize = 21;
-    settings.save();
+    EXPECT_EQ(settings.fontSize(), 20.0);
+    settings.setFontSize(21);
     EXPECT_TRUE(QFileInfo(path).isSymLink());
-    EXPECT_EQ(AppSettings(target).fontSize, 21.0);
+    EXPECT_EQ(AppSettings(target).fontSize(), 21.0);
 }
 
 TEST_F(AppSettingsFile, ADanglingLinkCountsAsNoFileAndReceivesTheDefaults) {
@@ -294,9 +291,9 @@ TEST_F(AppSettingsFile, AFolderThatCannotBeCreatedIsReportedByTheSave) {
     testing::internal::CaptureStdout();
     AppSettings settings;
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "❌ Failed to save config: Not a directory\n");
-    settings.fontSize = 20;
+    settings.setFontSize(20);
     EXPECT_EQ(printedBySaving(settings), "❌ Failed to save config: Not a directory\n");
-    EXPECT_EQ(settings.fontSize, 20.0);
+    EXPECT_EQ(settings.fontSize(), 20.0);
 }
 
 TEST_F(AppSettingsFile, AMissingFolderOfTheTestFileIsReportedByTheSave) {

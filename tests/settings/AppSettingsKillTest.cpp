@@ -46,13 +46,15 @@ protected:
 TEST_F(AppSettingsKill, LeavesTheLastOrTheNextSettings) {
     constexpr int length = 1000;
     AppSettings settings(path);
-    PersistedSettings& values = settings;
+    const auto save = [&](const PersistedSettings& next) {
+        settings.change([&](PersistedSettings& values) { values = next; });
+    };
+    PersistedSettings next = version(1, length);
     int number = 1;
-    values = version(number, length);
-    settings.save();
+    save(next);
     for (int kill = 0; kill < kills; ++kill) {
         ASSERT_NO_FATAL_FAILURE(process.killDuring(
-            [&](int turn) { values = version(number + turn, length); }, [&] { settings.save(); }));
+            [&](int turn) { next = version(number + turn, length); }, [&] { save(next); }));
         const int found = versionFound(length);
         ASSERT_FALSE(HasFailure());
         ASSERT_GE(found, number);

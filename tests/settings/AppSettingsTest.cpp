@@ -11,6 +11,7 @@
 #include <limits>
 #include <ostream>
 #include <type_traits>
+#include <vector>
 
 namespace tessaline {
 namespace {
@@ -38,7 +39,7 @@ protected:
 
 TEST_F(AppSettingsTest, StartsWithTheDefaultsAndWritesThemWhereThereIsNoFile) {
     const AppSettings settings;
-    EXPECT_EQ(static_cast<const PersistedSettings&>(settings), PersistedSettings());
+    EXPECT_EQ(settings.values(), PersistedSettings());
     EXPECT_EQ(settings.sourceMode, SourceMode::file);
     EXPECT_EQ(settings.clipboardContent, QString());
     EXPECT_EQ(settings.testConfigURL, std::nullopt);
@@ -51,16 +52,16 @@ TEST_F(AppSettingsTest, StartsWithTheDefaultsAndWritesThemWhereThereIsNoFile) {
 
 TEST_F(AppSettingsTest, LoadsWhatWasSaved) {
     AppSettings settings;
-    settings.notePath = u"/talk.md"_s;
-    settings.width = 612.5;
-    settings.scrollSpeed = settings.lastNonZeroScrollSpeed = 1.5;
-    settings.enabledSourceTypes.insert(SourceType::obsidian);
-    settings.activeSourceType = SourceType::obsidian;
-    settings.appleNotesConfig = {u"x-coredata://7"_s, u"Talk"_s};
-    settings.obsidianBookmarkData = QByteArray("\0\1", 2);
-    settings.preferredDisplayID = 77;
-    settings.save();
-    EXPECT_EQ(static_cast<const PersistedSettings&>(reloaded()), settings);
+    settings.change([](auto& values) { values.notePath = u"/talk.md"_s; });
+    settings.setWidth(612.5);
+    settings.setScrollSpeed(1.5);
+    settings.setSourceEnabled(SourceType::obsidian, true);
+    settings.setActiveSourceType(SourceType::obsidian);
+    settings.setAppleNotesConfig(AppleNotesConfiguration{u"x-coredata://7"_s, u"Talk"_s});
+    settings.change(
+        [](PersistedSettings& values) { values.obsidianBookmarkData = QByteArray("\0\1", 2); });
+    settings.setPreferredDisplayID(77);
+    EXPECT_EQ(reloaded().values(), settings.values());
 }
 
 TEST_F(AppSettingsTest, NeverWritesWhatLivesInMemoryOnly) {
@@ -80,28 +81,28 @@ TEST_F(AppSettingsTest, LoadingKeepsWhatLivesInMemoryOnly) {
     settings.clipboardContent = u"text"_s;
     putConfig(R"({"fontSize": 20, "sourceMode": "file", "clipboardContent": "other"})");
     settings.loadSettings();
-    EXPECT_EQ(settings.fontSize, 20.0);
+    EXPECT_EQ(settings.fontSize(), 20.0);
     EXPECT_EQ(settings.sourceMode, SourceMode::clipboard);
     EXPECT_EQ(settings.clipboardContent, u"text"_s);
 }
 
 TEST_F(AppSettingsTest, LoadingTakesOptionalValuesAway) {
     AppSettings settings;
-    settings.preferredDisplayID = 77;
-    settings.appleNotesConfig = {u"7"_s, u"Talk"_s};
-    settings.obsidianBookmarkData = "bytes";
+    settings.setPreferredDisplayID(77);
+    settings.setAppleNotesConfig(AppleNotesConfiguration{u"7"_s, u"Talk"_s});
+    settings.change([](auto& values) { values.obsidianBookmarkData = "bytes"; });
     putConfig("{}");
     settings.loadSettings();
-    EXPECT_EQ(static_cast<const PersistedSettings&>(settings), PersistedSettings());
+    EXPECT_EQ(settings.values(), PersistedSettings());
 }
 
 TEST_F(AppSettingsTest, LoadingKeepsPresentValuesAndWritesThemWhereTheFileIsGone) {
     AppSettings settings;
-    settings.fontSize = 20;
+    settings.setFontSize(20);
     ASSERT_TRUE(QFile::remove(path));
     settings.loadSettings();
-    EXPECT_EQ(settings.fontSize, 20.0);
-    EXPECT_EQ(reloaded().fontSize, 20.0);
+    EXPECT_EQ(settings.fontSize(), 20.0);
+    EXPECT_EQ(reloaded().fontSize(), 20.0);
 }
 
 struct SpeedCase {
@@ -120,8 +121,8 @@ class AppSettingsSpeeds : public AppSettingsTest, public testing::WithParamInter
 TEST_P(AppSettingsSpeeds, AreLimitedAndRepairedWithoutSaving) {
     putConfig(GetParam().json);
     const AppSettings settings;
-    EXPECT_EQ(settings.scrollSpeed, GetParam().scrollSpeed);
-    EXPECT_EQ(settings.lastNonZeroScrollSpeed, GetParam().resumeSpeed);
+    EXPECT_EQ(settings.scrollSpeed(), GetParam().scrollSpeed);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed(), GetParam().resumeSpeed);
     EXPECT_EQ(fileBytes(path), GetParam().json);
 }
 
@@ -145,9 +146,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(AppSettingsTest, CreatesItsFolderAgainForEverySave) {
     AppSettings settings;
     ASSERT_TRUE(QDir(home.path() + u"/Library"_s).removeRecursively());
-    settings.fontSize = 20;
-    settings.save();
-    EXPECT_EQ(reloaded().fontSize, 20.0);
+    settings.setFontSize(20);
+    EXPECT_EQ(reloaded().fontSize(), 20.0);
 }
 
 TEST_F(AppSettingsTest, FollowsTheHomeFolderOfTheMoment) {
@@ -163,9 +163,8 @@ TEST_F(AppSettingsTest, UsesTheTestFileInPlaceOfTheStandardOne) {
     putFile(testPath, R"({"fontSize": 20})");
     AppSettings settings(testPath);
     EXPECT_EQ(settings.testConfigURL, testPath);
-    EXPECT_EQ(settings.fontSize, 20.0);
-    settings.fontSize = 21;
-    settings.save();
+    EXPECT_EQ(settings.fontSize(), 20.0);
+    settings.setFontSize(21);
     EXPECT_TRUE(fileBytes(testPath).contains("\"fontSize\": 21.0"));
     EXPECT_FALSE(QFileInfo::exists(folder));
 }
@@ -175,32 +174,30 @@ TEST_F(AppSettingsTest, SwitchesToTheTestFileAndBackAfterConstruction) {
     const QByteArray standard = fileBytes(path);
     const QString testPath = home.path() + u"/test.json"_s;
     settings.testConfigURL = testPath;
-    settings.fontSize = 20;
-    settings.save();
+    settings.setFontSize(20);
     EXPECT_EQ(fileBytes(path), standard);
     EXPECT_TRUE(fileBytes(testPath).contains("\"fontSize\": 20.0"));
     settings.testConfigURL.reset();
     settings.loadSettings();
-    EXPECT_EQ(settings.fontSize, 16.0);
+    EXPECT_EQ(settings.fontSize(), 16.0);
 }
 
 TEST_F(AppSettingsTest, EnablesASourceAndSaves) {
     AppSettings settings;
     settings.setSourceEnabled(SourceType::obsidian, true);
-    EXPECT_THAT(settings.enabledSourceTypes,
+    EXPECT_THAT(settings.enabledSourceTypes(),
                 UnorderedElementsAre(SourceType::clipboard, SourceType::obsidian));
-    EXPECT_EQ(settings.activeSourceType, SourceType::clipboard);
-    EXPECT_EQ(reloaded().enabledSourceTypes, settings.enabledSourceTypes);
+    EXPECT_EQ(settings.activeSourceType(), SourceType::clipboard);
+    EXPECT_EQ(reloaded().enabledSourceTypes(), settings.enabledSourceTypes());
 }
 
 TEST_F(AppSettingsTest, DisablingTheActiveSourceMakesTheClipboardActiveAndSaves) {
     AppSettings settings;
     settings.setSourceEnabled(SourceType::obsidian, true);
-    settings.activeSourceType = SourceType::obsidian;
-    settings.save();
+    settings.setActiveSourceType(SourceType::obsidian);
     settings.setSourceEnabled(SourceType::obsidian, false);
-    EXPECT_THAT(settings.enabledSourceTypes, UnorderedElementsAre(SourceType::clipboard));
-    EXPECT_EQ(settings.activeSourceType, SourceType::clipboard);
+    EXPECT_THAT(settings.enabledSourceTypes(), UnorderedElementsAre(SourceType::clipboard));
+    EXPECT_EQ(settings.activeSourceType(), SourceType::clipboard);
     EXPECT_TRUE(fileBytes(path).contains("\"activeSourceType\": \"clipboard\""));
     EXPECT_FALSE(fileBytes(path).contains("obsidian\""));
 }
@@ -209,18 +206,18 @@ TEST_F(AppSettingsTest, DisablingAnotherSourceKeepsTheActiveOne) {
     AppSettings settings;
     settings.setSourceEnabled(SourceType::obsidian, true);
     settings.setSourceEnabled(SourceType::appleNotes, true);
-    settings.activeSourceType = SourceType::obsidian;
+    settings.setActiveSourceType(SourceType::obsidian);
     settings.setSourceEnabled(SourceType::appleNotes, false);
-    EXPECT_EQ(settings.activeSourceType, SourceType::obsidian);
-    EXPECT_EQ(reloaded().activeSourceType, SourceType::obsidian);
+    EXPECT_EQ(settings.activeSourceType(), SourceType::obsidian);
+    EXPECT_EQ(reloaded().activeSourceType(), SourceType::obsidian);
 }
 
 TEST_F(AppSettingsTest, TheClipboardCannotBeDisabledAndIsNotSaved) {
     AppSettings settings;
     ASSERT_TRUE(QFile::remove(path));
     settings.setSourceEnabled(SourceType::clipboard, false);
-    EXPECT_THAT(settings.enabledSourceTypes, UnorderedElementsAre(SourceType::clipboard));
-    EXPECT_EQ(settings.activeSourceType, SourceType::clipboard);
+    EXPECT_THAT(settings.enabledSourceTypes(), UnorderedElementsAre(SourceType::clipboard));
+    EXPECT_EQ(settings.activeSourceType(), SourceType::clipboard);
     settings.setSourceEnabled(SourceType::clipboard, true);
     EXPECT_FALSE(QFileInfo::exists(path));
 }
@@ -229,9 +226,9 @@ TEST_F(AppSettingsTest, TheClipboardIsEnabledAfterEverySwitch) {
     for (const SourceType source : allSourceTypes) {
         for (const bool enabled : {true, false}) {
             AppSettings settings;
-            settings.enabledSourceTypes.clear();
+            settings.change([](auto& values) { values.enabledSourceTypes.clear(); });
             settings.setSourceEnabled(source, enabled);
-            EXPECT_EQ(settings.enabledSourceTypes.count(SourceType::clipboard), 1U);
+            EXPECT_EQ(settings.enabledSourceTypes().count(SourceType::clipboard), 1U);
         }
     }
 }
@@ -239,25 +236,92 @@ TEST_F(AppSettingsTest, TheClipboardIsEnabledAfterEverySwitch) {
 TEST_F(AppSettingsTest, ListsEnabledSourcesInTheOrderOfferedWithoutAppleNotes) {
     AppSettings settings;
     EXPECT_THAT(settings.getEnabledSources(), ElementsAre(SourceType::clipboard));
-    settings.enabledSourceTypes = {SourceType::clipboard, SourceType::appleNotes,
-                                   SourceType::obsidian};
+    settings.change([](auto& values) {
+        values.enabledSourceTypes = {SourceType::clipboard, SourceType::appleNotes,
+                                     SourceType::obsidian};
+    });
     EXPECT_THAT(settings.getEnabledSources(),
                 ElementsAre(SourceType::obsidian, SourceType::clipboard));
-    settings.enabledSourceTypes = {SourceType::appleNotes};
+    settings.change([](auto& values) { values.enabledSourceTypes = {SourceType::appleNotes}; });
     EXPECT_THAT(settings.getEnabledSources(), testing::IsEmpty());
 }
 
 TEST_F(AppSettingsTest, ReportsANumberThatCannotBeWrittenAndKeepsFileAndValues) {
     AppSettings settings;
+    settings.setFontSize(20);
     const QByteArray before = fileBytes(path);
-    settings.fontSize = 20;
-    settings.width = std::numeric_limits<double>::infinity();
     testing::internal::CaptureStdout();
-    settings.save();
+    settings.setWidth(std::numeric_limits<double>::infinity());
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "❌ Failed to save config: \"width\" is not a finite number\n");
     EXPECT_EQ(fileBytes(path), before);
-    EXPECT_EQ(settings.fontSize, 20.0);
+    EXPECT_EQ(settings.fontSize(), 20.0);
+}
+
+TEST_F(AppSettingsTest, SavesEachChangeOnceAndThenTellsWhatWasBefore) {
+    AppSettings settings;
+    ASSERT_TRUE(QFile::remove(path));
+    std::vector<double> sizes;
+    const auto observation = settings.observe([&](const PersistedSettings& before) {
+        sizes = {before.fontSize, settings.fontSize(), reloaded().fontSize()};
+    });
+    settings.setFontSize(20);
+    EXPECT_THAT(sizes, ElementsAre(16, 20, 20));
+}
+
+TEST_F(AppSettingsTest, TellsNobodyOfAChangeThatIsNone) {
+    AppSettings settings;
+    int calls = 0;
+    const auto observation = settings.observe([&](const PersistedSettings&) { ++calls; });
+    ASSERT_TRUE(QFile::remove(path));
+    settings.setFontSize(16);
+    settings.setScrollSpeed(-1);
+    EXPECT_EQ(calls, 0);
+    EXPECT_TRUE(QFileInfo::exists(path));
+}
+
+TEST_F(AppSettingsTest, TellsOfFieldsThatChangeTogetherOnce) {
+    AppSettings settings;
+    int calls = 0;
+    const auto observation = settings.observe([&](const PersistedSettings&) { ++calls; });
+    settings.change([](PersistedSettings& values) {
+        values.width = 600;
+        values.height = 300;
+    });
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(AppSettingsTest, TellsObserversInTheirOrderUntilTheyAreDropped) {
+    AppSettings settings;
+    std::vector<int> called;
+    AppSettings::Observation first;
+    AppSettings::Observation second;
+    AppSettings::Observation third;
+    first = settings.observe([&](const PersistedSettings&) {
+        called.push_back(1);
+        second.reset();
+    });
+    second = settings.observe([&](const PersistedSettings&) { called.push_back(2); });
+    third = settings.observe([&](const PersistedSettings&) { called.push_back(3); });
+    settings.setWidth(600);
+    first.reset();
+    settings.setWidth(700);
+    EXPECT_THAT(called, ElementsAre(1, 3, 3));
+}
+
+TEST_F(AppSettingsTest, KeepsTheSpeedWithinItsLimitsAndRemembersItForLater) {
+    AppSettings settings;
+    settings.setScrollSpeed(9);
+    EXPECT_EQ(settings.scrollSpeed(), 5.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed(), 5.0);
+    settings.setScrollSpeed(1.5);
+    settings.setScrollSpeed(-1);
+    EXPECT_EQ(settings.scrollSpeed(), 0.0);
+    EXPECT_EQ(settings.lastNonZeroScrollSpeed(), 1.5);
+    settings.setAutoScrollEnabled(true);
+    EXPECT_EQ(reloaded().scrollSpeed(), 1.5);
+    settings.change([](PersistedSettings& values) { values.scrollSpeed = 9; });
+    EXPECT_EQ(settings.scrollSpeed(), 5.0);
 }
 
 } // namespace

@@ -121,14 +121,13 @@ TEST_F(WholeFileFailure, AFullDiskIsReportedAndKeepsTheOldSettings) {
     AppSettings settings(path);
     const QByteArray before = fileBytes(path);
     disk.fill();
-    settings.fontSize = 20;
     testing::internal::CaptureStdout();
-    settings.save();
+    settings.setFontSize(20);
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "❌ Failed to save config: No space left on device\n");
     EXPECT_EQ(fileBytes(path), before);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), (QStringList{u"file"_s, u"filler"_s}));
-    EXPECT_EQ(settings.fontSize, 20.0);
+    EXPECT_EQ(settings.fontSize(), 20.0);
 }
 
 } // namespace

@@ -24,8 +24,10 @@ namespace tessaline {
 class SourceManagerFixture : public ::testing::Test {
 protected:
     void SetUp() override {
-        settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
-        settings.activeSourceType = SourceType::obsidian;
+        settings.change([](auto& values) {
+            values.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
+        });
+        settings.setActiveSourceType(SourceType::obsidian);
     }
 
     /// Builds the manager and forgets what its construction posted.
@@ -42,13 +44,13 @@ protected:
     }
 
     void buildWithActive(SourceType type) {
-        settings.activeSourceType = type;
-        settings.enabledSourceTypes.insert(type);
+        settings.setActiveSourceType(type);
+        settings.setSourceEnabled(type, true);
         build();
     }
 
     /// What the settings file names as active now.
-    SourceType savedActiveSource() const { return AppSettings(settingsPath).activeSourceType; }
+    SourceType savedActiveSource() const { return AppSettings(settingsPath).activeSourceType(); }
 
     QTemporaryDir folder;
     const QString settingsPath = folder.filePath(QStringLiteral("config.json"));

@@ -52,10 +52,10 @@ TEST_F(SourceManagerTest, StartsNothingWhenItIsBuilt) {
 }
 
 TEST_F(SourceManagerTest, ActivatesTheClipboardWhenTheSourceOfTheSettingsIsNotEnabled) {
-    settings.enabledSourceTypes = {SourceType::clipboard};
+    settings.change([](auto& values) { values.enabledSourceTypes = {SourceType::clipboard}; });
     build();
     EXPECT_EQ(manager->activeSource(), clipboard);
-    EXPECT_EQ(settings.activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(settings.activeSourceType(), SourceType::clipboard);
     EXPECT_EQ(savedActiveSource(), SourceType::clipboard);
 }
 
@@ -168,7 +168,7 @@ TEST_F(SourceManagerTest, DoesNothingWithATextThatArrivesAfterItIsGone) {
 TEST_F(SourceManagerTest, HasNoActiveSourceForAppleNotes) {
     buildWithActive(SourceType::appleNotes);
     EXPECT_EQ(manager->activeSource(), nullptr);
-    EXPECT_EQ(settings.activeSourceType, SourceType::appleNotes);
+    EXPECT_EQ(settings.activeSourceType(), SourceType::appleNotes);
     manager->startWatching();
     EXPECT_EQ(obsidian->starts, 0);
     EXPECT_THAT(updates, IsEmpty());
@@ -178,11 +178,11 @@ TEST_F(SourceManagerTest, StoresAndClearsTheAppleNotesConfiguration) {
     buildWithActive(SourceType::appleNotes);
     const AppleNotesConfiguration note{u"id"_s, u"name"_s};
     manager->updateAppleNotesConfig(note);
-    EXPECT_EQ(settings.appleNotesConfig, note);
-    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig, note);
+    EXPECT_EQ(settings.appleNotesConfig(), note);
+    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig(), note);
     manager->updateAppleNotesConfig(std::nullopt);
-    EXPECT_EQ(settings.appleNotesConfig, std::nullopt);
-    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig, std::nullopt);
+    EXPECT_EQ(settings.appleNotesConfig(), std::nullopt);
+    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig(), std::nullopt);
 }
 
 TEST_F(SourceManagerTest, GivesTheAppleNotesConfigurationToARegisteredSource) {
@@ -197,7 +197,7 @@ TEST_F(SourceManagerTest, GivesTheAppleNotesConfigurationToARegisteredSource) {
     const AppleNotesConfiguration note{u"id"_s, u"name"_s};
     manager->updateAppleNotesConfig(note);
     EXPECT_EQ(notes->configuration, note);
-    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig, note);
+    EXPECT_EQ(AppSettings(settingsPath).appleNotesConfig(), note);
     manager->updateAppleNotesConfig(std::nullopt);
     EXPECT_EQ(notes->configuration, std::nullopt);
     manager->setActiveSource(SourceType::appleNotes);
@@ -210,7 +210,7 @@ TEST_F(SourceManagerTest, LeavesAnotherKindOfSourceAloneThatStandsForAppleNotes)
     manager->registerSource(SourceType::appleNotes, std::make_unique<FakeContentSource>());
     const AppleNotesConfiguration note{u"id"_s, u"name"_s};
     manager->updateAppleNotesConfig(note);
-    EXPECT_EQ(settings.appleNotesConfig, note);
+    EXPECT_EQ(settings.appleNotesConfig(), note);
 }
 
 TEST_F(SourceManagerTest, KeepsASourceThatIsRegisteredAlready) {

@@ -51,7 +51,7 @@ TEST_F(SourceSwitching, HasSetAndSavedTheChangeWhenItPostsIt) {
     std::optional<SourceType> set;
     const auto observation = notifications.observe(
         SourceManager::activeSourceDidChangeNotification(), [&](const Notification&) {
-            set = settings.activeSourceType;
+            set = settings.activeSourceType();
             saved = savedActiveSource();
             EXPECT_EQ(manager->activeSource(), clipboard);
         });
@@ -69,10 +69,10 @@ TEST_F(SourceSwitching, PostsTheChangeToASourceThatDoesNotExist) {
 }
 
 TEST_F(SourceSwitching, OnlyStoresThatASourceWasSwitchedOn) {
-    settings.enabledSourceTypes = {SourceType::clipboard};
+    settings.change([](auto& values) { values.enabledSourceTypes = {SourceType::clipboard}; });
     buildWithActive(SourceType::clipboard);
     manager->setSourceEnabled(SourceType::obsidian, true);
-    EXPECT_TRUE(settings.enabledSourceTypes.contains(SourceType::obsidian));
+    EXPECT_TRUE(settings.isSourceEnabled(SourceType::obsidian));
     EXPECT_EQ(manager->activeSource(), clipboard);
     EXPECT_THAT(changes, IsEmpty());
 }
@@ -81,7 +81,7 @@ TEST_F(SourceSwitching, FallsBackToTheClipboardWhenTheActiveSourceIsSwitchedOff)
     build();
     putFile(clipboardPath, "kept");
     manager->setSourceEnabled(SourceType::obsidian, false);
-    EXPECT_FALSE(settings.enabledSourceTypes.contains(SourceType::obsidian));
+    EXPECT_FALSE(settings.isSourceEnabled(SourceType::obsidian));
     EXPECT_EQ(manager->activeSource(), clipboard);
     EXPECT_EQ(obsidian->stops, 1);
     EXPECT_THAT(changes, ElementsAre(SourceType::clipboard));
@@ -90,7 +90,7 @@ TEST_F(SourceSwitching, FallsBackToTheClipboardWhenTheActiveSourceIsSwitchedOff)
 
 TEST_F(SourceSwitching, FallsBackToTheClipboardAlsoWhenThatIsNotEnabled) {
     build();
-    settings.enabledSourceTypes = {SourceType::obsidian};
+    settings.change([](auto& values) { values.enabledSourceTypes = {SourceType::obsidian}; });
     manager->setSourceEnabled(SourceType::obsidian, false);
     EXPECT_EQ(manager->activeSource(), clipboard);
     EXPECT_THAT(changes, ElementsAre(SourceType::clipboard));
@@ -108,7 +108,7 @@ TEST_F(SourceSwitching, FallsBackToTheClipboardAlsoWhenAnotherSourceIsEnabled) {
 TEST_F(SourceSwitching, RestartsTheClipboardWhenItIsSwitchedOffWhileActive) {
     buildWithActive(SourceType::clipboard);
     manager->setSourceEnabled(SourceType::clipboard, false);
-    EXPECT_TRUE(settings.enabledSourceTypes.contains(SourceType::clipboard));
+    EXPECT_TRUE(settings.isSourceEnabled(SourceType::clipboard));
     EXPECT_THAT(changes, ElementsAre(SourceType::clipboard));
     EXPECT_THAT(updates, ElementsAre(ClipboardSource::placeholder()));
 }
@@ -133,7 +133,7 @@ TEST_F(SourceSwitching, CyclesThroughTheEnabledSources) {
 }
 
 TEST_F(SourceSwitching, DoesNotCycleWithOneEnabledSource) {
-    settings.enabledSourceTypes = {SourceType::clipboard};
+    settings.change([](auto& values) { values.enabledSourceTypes = {SourceType::clipboard}; });
     buildWithActive(SourceType::clipboard);
     putFile(settingsPath, "not saved again");
     manager->cycleSource();

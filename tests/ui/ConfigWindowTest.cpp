@@ -98,9 +98,9 @@ TEST_F(ConfigWindowTest, SaysEverythingFromTopToBottom) {
 
 TEST_F(ConfigWindowTest, ClipsNothing) {
     stage.screens.main->frame.height = 1600;
-    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
-    stage.settings.activeSourceType = SourceType::appleNotes;
-    stage.settings.xOffset = -135.5;
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
+    stage.settings.setActiveSourceType(SourceType::appleNotes);
+    stage.settings.setXOffset(-135.5);
     window().refreshUI();
     shown().fitInto(window().wholeSize().height());
     QTest::qWait(0);
@@ -121,10 +121,10 @@ TEST_F(ConfigWindowTest, ClipsNothing) {
 TEST_F(ConfigWindowTest, FollowsItsContentsHeight) {
     shown().fitInto(1600);
     const int before = window().height();
-    stage.settings.activeSourceType = SourceType::appleNotes;
+    stage.settings.setActiveSourceType(SourceType::appleNotes);
     window().refreshUI();
     EXPECT_TRUE(QTest::qWaitFor([&] { return window().height() >= before + 30; }, 3000));
-    stage.settings.activeSourceType = SourceType::clipboard;
+    stage.settings.setActiveSourceType(SourceType::clipboard);
     window().refreshUI();
     EXPECT_TRUE(QTest::qWaitFor([&] { return window().height() == before; }, 3000));
     EXPECT_EQ(window().width(), 320);
@@ -134,7 +134,7 @@ TEST_F(ConfigWindowTest, HasItsSizeAsSoonAsItIsRefreshedAlsoWhileItIsHidden) {
     window().fitInto(1600);
     const QSize before = window().size();
     EXPECT_EQ(before.width(), 320);
-    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
     window().refreshUI();
     const QSize hidden = window().size();
     EXPECT_GT(hidden.height(), before.height());
@@ -196,7 +196,7 @@ TEST_F(ConfigWindowTest, StartsOnNoControlEachTimeItIsShown) {
 }
 
 TEST_F(ConfigWindowTest, TheTabKeyGoesFromTopToBottom) {
-    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
     shown();
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
@@ -270,7 +270,7 @@ TEST_F(ConfigWindowTest, LooksAtThePermissionWhenItIsRefreshed) {
 }
 
 TEST_F(ConfigWindowTest, LooksAfterPluginAndPermissionEveryTwoSeconds) {
-    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
     stage.installObsidian();
     window().startPeriodicRefresh();
     EXPECT_THAT(stage.timers.liveIntervals(), ElementsAre(2.0));
@@ -321,10 +321,10 @@ TEST_F(ConfigWindowTest, TheKeysThatCloseWindowsCloseIt) {
 }
 
 TEST_F(ConfigWindowTest, BuildingItChangesAndSavesNothing) {
-    const auto before = static_cast<const PersistedSettings&>(stage.settings);
+    const auto before = stage.settings.values();
     QFile::remove(stage.configPath);
     shown();
-    EXPECT_EQ(static_cast<const PersistedSettings&>(stage.settings), before);
+    EXPECT_EQ(stage.settings.values(), before);
     EXPECT_FALSE(QFile::exists(stage.configPath));
     EXPECT_EQ(settingsChanges, 0);
     EXPECT_TRUE(stage.recorder.events.empty());

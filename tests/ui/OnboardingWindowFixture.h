@@ -54,7 +54,7 @@ protected:
     Alert* sheet() { return visibleSheet(window()); }
 
     bool obsidianEnabled() const {
-        return AppSettings(stage.configPath).enabledSourceTypes.contains(SourceType::obsidian);
+        return AppSettings(stage.configPath).isSourceEnabled(SourceType::obsidian);
     }
 
     WindowStage stage;

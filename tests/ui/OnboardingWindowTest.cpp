@@ -25,15 +25,14 @@ protected:
 };
 
 TEST_F(OnboardingWindowTest, StartsAfreshWithTheClipboardAndSavesThat) {
-    stage.settings.enabledSourceTypes = {SourceType::obsidian, SourceType::clipboard};
-    stage.settings.activeSourceType = SourceType::obsidian;
-    stage.settings.save();
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
+    stage.settings.setActiveSourceType(SourceType::obsidian);
     window();
-    EXPECT_THAT(stage.settings.enabledSourceTypes, ElementsAre(SourceType::clipboard));
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_THAT(stage.settings.enabledSourceTypes(), ElementsAre(SourceType::clipboard));
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::clipboard);
     const AppSettings saved(stage.configPath);
-    EXPECT_THAT(saved.enabledSourceTypes, ElementsAre(SourceType::clipboard));
-    EXPECT_EQ(saved.activeSourceType, SourceType::clipboard);
+    EXPECT_THAT(saved.enabledSourceTypes(), ElementsAre(SourceType::clipboard));
+    EXPECT_EQ(saved.activeSourceType(), SourceType::clipboard);
 }
 
 TEST_F(OnboardingWindowTest, ClearsAStaleEntryAndDoesNotMindFailure) {
@@ -47,8 +46,8 @@ TEST_F(OnboardingWindowTest, ClearsAStaleEntryAndDoesNotMindFailure) {
 }
 
 TEST_F(OnboardingWindowTest, StartsAfreshBeforeItClearsAStaleEntry) {
-    stage.settings.activeSourceType = SourceType::obsidian;
-    stage.settings.enabledSourceTypes = {SourceType::obsidian};
+    stage.settings.setActiveSourceType(SourceType::obsidian);
+    stage.settings.change([](auto& values) { values.enabledSourceTypes = {SourceType::obsidian}; });
     sourceManager = stage.makeSourceManager();
     std::vector<std::size_t> callsBefore;
     const auto observation = stage.notifications.observe(
@@ -216,7 +215,7 @@ TEST_F(OnboardingWindowTest, FinishingSavesRecordsCallsAndCloses) {
     shown();
     window().onComplete = [this] {
         ++completions;
-        EXPECT_TRUE(AppSettings(stage.configPath).hasCompletedOnboarding);
+        EXPECT_TRUE(AppSettings(stage.configPath).hasCompletedOnboarding());
         EXPECT_THAT(stage.timers.liveIntervals(), IsEmpty());
         EXPECT_THAT(stage.recorder.names(), ElementsAre(u"onboarding_completed"_s));
         EXPECT_TRUE(window().isVisible());
@@ -266,7 +265,7 @@ TEST_F(OnboardingWindowTest, NeedsNobodyToTell) {
     shown();
     window().onComplete = nullptr;
     continueButton().click();
-    EXPECT_TRUE(stage.settings.hasCompletedOnboarding);
+    EXPECT_TRUE(stage.settings.hasCompletedOnboarding());
     EXPECT_FALSE(window().isVisible());
 }
 
@@ -277,7 +276,7 @@ TEST_F(OnboardingWindowTest, ClosingWithoutFinishingIsToldOnceAndCallsNobody) {
     EXPECT_EQ(closings, 1);
     EXPECT_EQ(completions, 0);
     EXPECT_FALSE(window().isVisible());
-    EXPECT_FALSE(AppSettings(stage.configPath).hasCompletedOnboarding);
+    EXPECT_FALSE(AppSettings(stage.configPath).hasCompletedOnboarding());
     shown().close();
     EXPECT_EQ(closings, 1);
 }

@@ -69,7 +69,7 @@ struct Set : WindowStage {
 
     void enableObsidian(bool pluginInstalled, bool pluginEnabled) {
         installObsidian(pluginInstalled, pluginEnabled);
-        settings.enabledSourceTypes.insert(SourceType::obsidian);
+        settings.setSourceEnabled(SourceType::obsidian, true);
     }
 };
 
@@ -89,14 +89,14 @@ void takeSettings(const Camera& camera) {
         Settings off;
         camera.take(*off.build(), u"settings-obsidian-off"_s);
         off.trust.trusted = true;
-        off.settings.xOffset = -135.9;
+        off.settings.setXOffset(-135.9);
         camera.take(*off.build(), u"settings-left-granted"_s);
     }
     {
         Settings on;
         on.enableObsidian(true, true);
-        on.settings.xOffset = 235;
-        on.settings.preferredDisplayID = 9;
+        on.settings.setXOffset(235);
+        on.settings.setPreferredDisplayID(9);
         on.trust.trusted = true;
         camera.take(*on.build(), u"settings-obsidian-active"_s);
         on.obsidian.pluginEnabled = false;
@@ -132,10 +132,10 @@ void takeSettings(const Camera& camera) {
     }
     {
         Settings notes;
-        notes.settings.activeSourceType = SourceType::appleNotes;
+        notes.settings.setActiveSourceType(SourceType::appleNotes);
         const auto window = notes.build();
         camera.take(*window, u"settings-notes-none"_s);
-        notes.settings.appleNotesConfig = {u"1"_s, u"Opening keynote for the spring meeting"_s};
+        notes.settings.setAppleNotesConfig(AppleNotesConfiguration{u"1"_s, u"Opening keynote for the spring meeting"_s});
         window->refreshUI();
         camera.take(*window, u"settings-notes-chosen"_s);
         window->findChild<QPushButton*>(u"selectNoteButton"_s)->click();

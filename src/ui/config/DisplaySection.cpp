@@ -36,24 +36,24 @@ DisplaySection::DisplaySection(AppSettings& shared, const Screens& attached,
     widthValueLabel = addSliderRow(u"Width"_s, u"widthValueLabel"_s);
     widthSlider = addSlider(u"Width"_s, u"widthSlider"_s);
     widthSlider->setLimits(380, 800);
-    widthSlider->setPoints(settings.width);
+    widthSlider->setPoints(settings.width());
 
     heightValueLabel = addSliderRow(u"Height"_s, u"heightValueLabel"_s);
     heightSlider = addSlider(u"Height"_s, u"heightSlider"_s);
     heightSlider->setLimits(100, 800);
-    heightSlider->setPoints(settings.height);
+    heightSlider->setPoints(settings.height());
 
     fontValueLabel = addSliderRow(u"Font Size"_s, u"fontValueLabel"_s);
     fontSlider = addSlider(u"Font Size"_s, u"fontSlider"_s);
     fontSlider->setLimits(10, 30);
-    fontSlider->setPoints(settings.fontSize);
+    fontSlider->setPoints(settings.fontSize());
 
     xOffsetLabel = addSliderRow(u"Position"_s, u"xOffsetLabel"_s);
     xOffsetLabel->setText(u"Center"_s);
     xOffsetSlider = addSlider(u"Position"_s, u"xOffsetSlider"_s);
     xOffsetSlider->setDeadZone(PositionRange::deadZone);
     updatePositionSliderLimits();
-    xOffsetSlider->setPoints(settings.xOffset);
+    xOffsetSlider->setPoints(settings.xOffset());
 
     column->addWidget(createScrollRateRow());
 }
@@ -111,7 +111,7 @@ PopupButton* DisplaySection::createTickFactorPopup() {
     popup->setObjectName(u"tickFactorPopup"_s);
     for (const ScrollRate rate : allScrollRates)
         popup->addItem(title(rate));
-    popup->setCurrentText(title(settings.scrollRate));
+    popup->setCurrentText(title(settings.scrollRate()));
     connect(popup, &PopupButton::activated, this, &DisplaySection::configChanged);
     return popup;
 }
@@ -126,7 +126,7 @@ double DisplaySection::computeMaxXOffset() const {
     } else if (!all.empty()) {
         width = all.front().frame.width;
     }
-    return PositionRange::maximumOffset(width, settings.width);
+    return PositionRange::maximumOffset(width, settings.width());
 }
 
 bool DisplaySection::isSliderHeld() const {
@@ -152,26 +152,28 @@ void DisplaySection::updateXOffsetLabel() {
 }
 
 void DisplaySection::selectScrollRate() {
-    tickFactorPopup->setCurrentText(title(settings.scrollRate));
+    tickFactorPopup->setCurrentText(title(settings.scrollRate()));
 }
 
 void DisplaySection::configChanged() {
-    settings.width = widthSlider->points();
-    settings.height = heightSlider->points();
-    settings.fontSize = fontSlider->points();
-    updatePositionSliderLimits();
-    xOffsetSlider->setPoints(PositionRange::snapped(xOffsetSlider->points()));
-    settings.xOffset = xOffsetSlider->points();
-    if (tickFactorPopup->currentIndex() >= 0) {
-        const QString selected = tickFactorPopup->currentText();
-        settings.scrollRate = selected == title(ScrollRate::slow)     ? ScrollRate::slow
-                              : selected == title(ScrollRate::medium) ? ScrollRate::medium
-                                                                      : ScrollRate::fast;
-    }
-    settings.save();
+    settings.change([this](PersistedSettings& values) { takeControls(values); });
     updateValueLabels();
     if (onSettingsChanged) onSettingsChanged();
-    recorder.trackDisplaySettings(settings);
+    recorder.trackDisplaySettings(settings.values());
+}
+
+void DisplaySection::takeControls(PersistedSettings& values) {
+    values.width = widthSlider->points();
+    values.height = heightSlider->points();
+    values.fontSize = fontSlider->points();
+    updatePositionSliderLimits();
+    xOffsetSlider->setPoints(PositionRange::snapped(xOffsetSlider->points()));
+    values.xOffset = xOffsetSlider->points();
+    if (tickFactorPopup->currentIndex() < 0) return;
+    const QString selected = tickFactorPopup->currentText();
+    values.scrollRate = selected == title(ScrollRate::slow)     ? ScrollRate::slow
+                        : selected == title(ScrollRate::medium) ? ScrollRate::medium
+                                                                : ScrollRate::fast;
 }
 
 void DisplaySection::rebuildScreenPopup() {
@@ -184,17 +186,21 @@ void DisplaySection::rebuildScreenPopup() {
                                  quint32(screen.id));
         }
     }
-    const auto preferred = settings.preferredDisplayID;
+    selectPreferredScreen();
+}
+
+void DisplaySection::selectPreferredScreen() {
+    const auto preferred = settings.preferredDisplayID();
     if (!preferred || !screenPopup->selectItemCarrying(quint32(*preferred)))
         screenPopup->setCurrentIndex(0);
 }
 
 void DisplaySection::screenSelectionChanged() {
     const quint32 chosen = screenPopup->currentData().toUInt();
-    settings.preferredDisplayID =
+    const auto display =
         chosen == automaticDisplay ? std::nullopt : std::optional<std::uint32_t>(chosen);
-    if (screenManager) screenManager->preferredDisplayID = settings.preferredDisplayID;
-    settings.save();
+    if (screenManager) screenManager->preferredDisplayID = display;
+    settings.setPreferredDisplayID(display);
     updatePositionSliderLimits();
     updateXOffsetLabel();
     if (onSettingsChanged) onSettingsChanged();
@@ -202,12 +208,13 @@ void DisplaySection::screenSelectionChanged() {
 }
 
 void DisplaySection::showSettings() {
-    widthSlider->setPoints(settings.width);
-    heightSlider->setPoints(settings.height);
-    fontSlider->setPoints(settings.fontSize);
+    widthSlider->setPoints(settings.width());
+    heightSlider->setPoints(settings.height());
+    fontSlider->setPoints(settings.fontSize());
     updatePositionSliderLimits();
-    xOffsetSlider->setPoints(settings.xOffset);
+    xOffsetSlider->setPoints(settings.xOffset());
     selectScrollRate();
+    selectPreferredScreen();
     updateValueLabels();
 }
 

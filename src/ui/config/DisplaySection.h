@@ -15,6 +15,7 @@ class PopupButton;
 class ScreenManager;
 class Screens;
 class UsageRecorder;
+struct PersistedSettings;
 
 /// The controls for where and how large the prompter is and how fast it scrolls. Every change goes
 /// into the settings and is saved and announced at once. Main thread only.
@@ -32,7 +33,7 @@ public:
     /// Called after every saved change.
     std::function<void()> onSettingsChanged;
 
-    /// Shows the settings' sizes, position and scroll rate.
+    /// Shows the settings' sizes, position, scroll rate and, if it is attached, display.
     void showSettings();
 
     /// Lists the displays that are attached now and selects the preferred one.
@@ -68,7 +69,9 @@ private:
     void updatePositionSliderLimits();
     void updateXOffsetLabel();
     void selectScrollRate();
+    void selectPreferredScreen();
     void configChanged();
+    void takeControls(PersistedSettings& values);
     void screenSelectionChanged();
 
     AppSettings& settings;

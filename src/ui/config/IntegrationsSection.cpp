@@ -92,7 +92,7 @@ QWidget* IntegrationsSection::createStatusRow() {
 }
 
 bool IntegrationsSection::isObsidianEnabled() const {
-    return settings.enabledSourceTypes.contains(SourceType::obsidian);
+    return settings.isSourceEnabled(SourceType::obsidian);
 }
 
 void IntegrationsSection::showSettings() {

@@ -57,7 +57,7 @@ QWidget* SourceSection::createFileRow() {
     filePathField->setObjectName(u"filePathField"_s);
     filePathField->setFont(systemFont(13));
     filePathField->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    filePathField->showText(settings.notePath);
+    filePathField->showText(settings.notePath());
     row->addWidget(filePathField);
     browseButton = new BezelButton(u"Browse..."_s);
     browseButton->setObjectName(u"browseButton"_s);
@@ -93,7 +93,7 @@ void SourceSection::rebuildSourcePopup() {
 }
 
 void SourceSection::selectActiveSource() {
-    sourcePopup->selectItemCarrying(QVariant::fromValue(settings.activeSourceType));
+    sourcePopup->selectItemCarrying(QVariant::fromValue(settings.activeSourceType()));
 }
 
 void SourceSection::updateSourceConfigVisibility() {
@@ -101,14 +101,14 @@ void SourceSection::updateSourceConfigVisibility() {
     auto* noteRow = sourceConfigContainer->findChild<QWidget*>(u"noteConfig"_s);
     if (!fileRow || !noteRow) return;
     fileRow->hide();
-    const bool choosesNote = settings.activeSourceType == SourceType::appleNotes;
+    const bool choosesNote = settings.activeSourceType() == SourceType::appleNotes;
     noteRow->setVisible(choosesNote);
     sourceConfigContainer->setVisible(choosesNote);
     if (choosesNote) showNoteName();
 }
 
 void SourceSection::showNoteName() {
-    const auto& note = settings.appleNotesConfig;
+    const auto& note = settings.appleNotesConfig();
     noteNameField->showText(note ? note->noteName : u"No note selected"_s);
 }
 
@@ -116,9 +116,11 @@ void SourceSection::sourceTypeChanged() {
     const QVariant selected = sourcePopup->currentData();
     if (!selected.canConvert<SourceType>()) return;
     const auto source = selected.value<SourceType>();
-    settings.activeSourceType = source;
-    settings.save();
-    if (sourceManager) sourceManager->setActiveSource(source);
+    if (sourceManager) {
+        sourceManager->setActiveSource(source);
+    } else {
+        settings.setActiveSourceType(source);
+    }
     updateSourceConfigVisibility();
     if (onSourceChanged) onSourceChanged(source);
 }
@@ -127,9 +129,11 @@ void SourceSection::browseForFile() {}
 
 void SourceSection::selectNote() {
     NotePicker::pick(*window(), notes, lifetime.guard([this](const AppleNotesConfiguration& note) {
-        settings.appleNotesConfig = note;
-        settings.save();
-        if (sourceManager) sourceManager->updateAppleNotesConfig(note);
+        if (sourceManager) {
+            sourceManager->updateAppleNotesConfig(note);
+        } else {
+            settings.setAppleNotesConfig(note);
+        }
         noteNameField->showText(note.noteName);
     }));
 }

@@ -18,7 +18,7 @@ using testing::IsEmpty;
 
 class IntegrationSettings : public ConfigWindowFixture {
 protected:
-    void enableObsidian() { stage.settings.enabledSourceTypes.insert(SourceType::obsidian); }
+    void enableObsidian() { stage.settings.setSourceEnabled(SourceType::obsidian, true); }
 
     Switch& obsidianToggle() { return control<Switch>("obsidianToggle"); }
     QLabel& status() { return control<QLabel>("obsidianStatusLabel"); }
@@ -104,7 +104,7 @@ TEST_F(IntegrationSettings, SwitchingOnEnablesTheSourceAndRecordsIt) {
     stage.installObsidian(true, true);
     shown();
     QTest::mouseClick(&obsidianToggle(), Qt::LeftButton);
-    EXPECT_TRUE(stage.settings.enabledSourceTypes.contains(SourceType::obsidian));
+    EXPECT_TRUE(stage.settings.isSourceEnabled(SourceType::obsidian));
     ASSERT_THAT(stage.recorder.names(), ElementsAre(u"source_enabled"_s));
     EXPECT_EQ(stage.recorder.events[0].properties,
               (QMap<QString, QString>{{u"source_type"_s, u"obsidian"_s}}));
@@ -121,7 +121,7 @@ TEST_F(IntegrationSettings, SpaceSwitchesToo) {
     useSourceManager();
     stage.installObsidian(true, true);
     QTest::keyClick(&obsidianToggle(), Qt::Key_Space);
-    EXPECT_TRUE(stage.settings.enabledSourceTypes.contains(SourceType::obsidian));
+    EXPECT_TRUE(stage.settings.isSourceEnabled(SourceType::obsidian));
 }
 
 TEST_F(IntegrationSettings, SwitchingOnInstallsAMissingPluginAndTellsTheOutcome) {
@@ -141,13 +141,13 @@ TEST_F(IntegrationSettings, SwitchingOnInstallsAMissingPluginAndTellsTheOutcome)
 
 TEST_F(IntegrationSettings, SwitchingTheActiveSourceOffFallsBackAndSaysSo) {
     enableObsidian();
-    stage.settings.activeSourceType = SourceType::obsidian;
+    stage.settings.setActiveSourceType(SourceType::obsidian);
     useSourceManager();
     stage.installObsidian(true, true);
     shown();
     QTest::mouseClick(&obsidianToggle(), Qt::LeftButton);
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
-    EXPECT_FALSE(stage.settings.enabledSourceTypes.contains(SourceType::obsidian));
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::clipboard);
+    EXPECT_FALSE(stage.settings.isSourceEnabled(SourceType::obsidian));
     EXPECT_EQ(stage.recorder.names().back(), u"source_disabled"_s);
     EXPECT_FALSE(status().isVisible());
     EXPECT_EQ(status().text(), QString());
@@ -196,7 +196,7 @@ TEST_F(IntegrationSettings, ALookUpThatEndsAfterTheWindowIsHarmless) {
 
 TEST_F(IntegrationSettings, WithoutASourceManagerSwitchingIsOnlyRecorded) {
     QTest::mouseClick(&obsidianToggle(), Qt::LeftButton);
-    EXPECT_FALSE(stage.settings.enabledSourceTypes.contains(SourceType::obsidian));
+    EXPECT_FALSE(stage.settings.isSourceEnabled(SourceType::obsidian));
     EXPECT_EQ(stage.recorder.names().front(), u"source_enabled"_s);
 }
 

@@ -22,8 +22,8 @@ using testing::SizeIs;
 class SettingsLook : public ConfigWindowFixture {
 protected:
     SettingsLook() {
-        stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
-        stage.settings.activeSourceType = SourceType::appleNotes;
+        stage.settings.setSourceEnabled(SourceType::obsidian, true);
+        stage.settings.setActiveSourceType(SourceType::appleNotes);
     }
 
     QLabel& label(const QString& text) { return labelReading(shown(), text); }

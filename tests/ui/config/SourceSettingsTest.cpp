@@ -16,9 +16,9 @@ using Notes = std::vector<NoteLibrary::Note>;
 
 class SourceSettings : public ConfigWindowFixture {
 protected:
-    void enableObsidian() { stage.settings.enabledSourceTypes.insert(SourceType::obsidian); }
+    void enableObsidian() { stage.settings.setSourceEnabled(SourceType::obsidian, true); }
 
-    void useNotes() { stage.settings.activeSourceType = SourceType::appleNotes; }
+    void useNotes() { stage.settings.setActiveSourceType(SourceType::appleNotes); }
 
     PopupButton& sourcePopup() { return control<PopupButton>("config_sourcePopup"); }
     QString noteName() { return control<TruncatingLabel>("noteNameField").text(); }
@@ -41,7 +41,7 @@ protected:
 TEST_F(SourceSettings, OfferTheEnabledSourcesAndSelectTheActiveOne) {
     EXPECT_THAT(titlesOf(sourcePopup()), ElementsAre(u"Clipboard"_s));
     enableObsidian();
-    stage.settings.activeSourceType = SourceType::obsidian;
+    stage.settings.setActiveSourceType(SourceType::obsidian);
     window().refreshUI();
     EXPECT_THAT(titlesOf(sourcePopup()), ElementsAre(u"Obsidian"_s, u"Clipboard"_s));
     EXPECT_EQ(sourcePopup().currentText(), u"Obsidian"_s);
@@ -51,7 +51,7 @@ TEST_F(SourceSettings, KeepThePopupsOwnSelectionForASourceThatIsNotOffered) {
     enableObsidian();
     useNotes();
     EXPECT_EQ(sourcePopup().currentText(), u"Obsidian"_s);
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::appleNotes);
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::appleNotes);
 }
 
 TEST_F(SourceSettings, ChoosingASourceSavesActivatesAndAnnouncesIt) {
@@ -64,8 +64,8 @@ TEST_F(SourceSettings, ChoosingASourceSavesActivatesAndAnnouncesIt) {
         });
     window();
     choose("config_sourcePopup", 0);
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::obsidian);
-    EXPECT_EQ(AppSettings(stage.configPath).activeSourceType, SourceType::obsidian);
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::obsidian);
+    EXPECT_EQ(AppSettings(stage.configPath).activeSourceType(), SourceType::obsidian);
     EXPECT_THAT(activated, ElementsAre(SourceType::obsidian));
     EXPECT_THAT(sources, ElementsAre(SourceType::obsidian));
 }
@@ -74,21 +74,21 @@ TEST_F(SourceSettings, ChoosingASourceNeedsNoManagerAndNobodyToTell) {
     enableObsidian();
     window().onSourceChanged = nullptr;
     choose("config_sourcePopup", 0);
-    EXPECT_EQ(AppSettings(stage.configPath).activeSourceType, SourceType::obsidian);
+    EXPECT_EQ(AppSettings(stage.configPath).activeSourceType(), SourceType::obsidian);
 }
 
 TEST_F(SourceSettings, AnItemWithoutASourceChangesNothing) {
     window();
     sourcePopup().addItem(u"Stray"_s);
     choose("config_sourcePopup", 1);
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::clipboard);
     EXPECT_THAT(sources, IsEmpty());
 }
 
 class SourceRows : public SourceSettings, public testing::WithParamInterface<SourceType> {};
 
 TEST_P(SourceRows, ShowTheNoteForAppleNotesOnlyAndNeverTheFile) {
-    stage.settings.activeSourceType = GetParam();
+    stage.settings.setActiveSourceType(GetParam());
     shown();
     const bool isNotes = GetParam() == SourceType::appleNotes;
     EXPECT_EQ(control<QWidget>("noteConfig").isVisible(), isNotes);
@@ -103,18 +103,18 @@ TEST_F(SourceSettings, HideTheNoteOnceAnotherSourceIsChosen) {
     shown();
     ASSERT_TRUE(control<QWidget>("noteConfig").isVisible());
     choose("config_sourcePopup", 0);
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::clipboard);
     EXPECT_FALSE(control<QWidget>("noteConfig").isVisible());
     EXPECT_FALSE(control<QWidget>("sourceConfigContainer").isVisible());
 }
 
 TEST_F(SourceSettings, TheFileRowIsInert) {
-    stage.settings.notePath = u"/home/someone/script.md"_s;
+    stage.settings.change([](auto& values) { values.notePath = u"/home/someone/script.md"_s; });
     EXPECT_EQ(control<TruncatingLabel>("filePathField").text(), u"/home/someone/script.md"_s);
     EXPECT_EQ(control<QPushButton>("browseButton").text(), u"Browse..."_s);
-    const auto before = static_cast<const PersistedSettings&>(stage.settings);
+    const auto before = stage.settings.values();
     control<QPushButton>("browseButton").click();
-    EXPECT_EQ(static_cast<const PersistedSettings&>(stage.settings), before);
+    EXPECT_EQ(stage.settings.values(), before);
     EXPECT_FALSE(sheet());
 }
 
@@ -126,7 +126,7 @@ TEST_F(SourceSettings, SayThatNoNoteIsSelected) {
 TEST_F(SourceSettings, NameTheChosenNote) {
     useNotes();
     window();
-    stage.settings.appleNotesConfig = {u"id"_s, u"Keynote"_s};
+    stage.settings.setAppleNotesConfig(AppleNotesConfiguration{u"id"_s, u"Keynote"_s});
     window().refreshUI();
     EXPECT_EQ(noteName(), u"Keynote"_s);
 }
@@ -151,8 +151,8 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
     notePopup().setCurrentIndex(2); // of the same name as the first
     QTest::mouseClick(picker->buttons[0], Qt::LeftButton);
     const AppleNotesConfiguration chosen{u"3"_s, u"Zebra"_s};
-    EXPECT_EQ(stage.settings.appleNotesConfig, chosen);
-    EXPECT_EQ(AppSettings(stage.configPath).appleNotesConfig, chosen);
+    EXPECT_EQ(stage.settings.appleNotesConfig(), chosen);
+    EXPECT_EQ(AppSettings(stage.configPath).appleNotesConfig(), chosen);
     EXPECT_EQ(noteName(), u"Zebra"_s);
 }
 
@@ -170,16 +170,16 @@ TEST_F(SourceSettings, GiveThePickedNoteToTheSourceThatReadsIt) {
 TEST_F(SourceSettings, PickingANoteNeedsNoManager) {
     useNotes();
     QTest::keyClick(pick(Notes{{u"1"_s, u"Ant"_s}}), Qt::Key_Return);
-    EXPECT_EQ(AppSettings(stage.configPath).appleNotesConfig,
+    EXPECT_EQ(AppSettings(stage.configPath).appleNotesConfig(),
               (AppleNotesConfiguration{u"1"_s, u"Ant"_s}));
 }
 
 TEST_F(SourceSettings, CancellingThePickerChangesNothing) {
     useNotes();
-    stage.settings.appleNotesConfig = {u"0"_s, u"Old"_s};
+    stage.settings.setAppleNotesConfig(AppleNotesConfiguration{u"0"_s, u"Old"_s});
     const Alert* picker = pick(Notes{{u"1"_s, u"Ant"_s}});
     QTest::mouseClick(picker->buttons[1], Qt::LeftButton);
-    EXPECT_EQ(stage.settings.appleNotesConfig, (AppleNotesConfiguration{u"0"_s, u"Old"_s}));
+    EXPECT_EQ(stage.settings.appleNotesConfig(), (AppleNotesConfiguration{u"0"_s, u"Old"_s}));
     EXPECT_EQ(noteName(), u"Old"_s);
     QTest::keyClick(pick(Notes{{u"1"_s, u"Ant"_s}}), Qt::Key_Escape);
     EXPECT_EQ(noteName(), u"Old"_s);
@@ -190,7 +190,7 @@ TEST_F(SourceSettings, APickedItemWithoutANoteChangesNothing) {
     Alert* picker = pick(Notes{{u"1"_s, u"Ant"_s}});
     notePopup().setItemData(0, {});
     QTest::keyClick(picker, Qt::Key_Return);
-    EXPECT_EQ(stage.settings.appleNotesConfig, std::nullopt);
+    EXPECT_EQ(stage.settings.appleNotesConfig(), std::nullopt);
 }
 
 TEST_F(SourceSettings, SayThatThereAreNoNotes) {
@@ -222,7 +222,7 @@ TEST_F(SourceSettings, TellAnyOtherFailure) {
 
 TEST(SourceSettingsGone, ANoteListThatComesTooLateFindsNobody) {
     WindowStage stage;
-    stage.settings.activeSourceType = SourceType::appleNotes;
+    stage.settings.setActiveSourceType(SourceType::appleNotes);
     auto window =
         std::make_unique<ConfigWindow>(stage.settings, nullptr, stage.platform, stage.services);
     window->findChild<QPushButton*>(u"selectNoteButton"_s)->click();

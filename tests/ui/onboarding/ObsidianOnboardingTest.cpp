@@ -55,7 +55,7 @@ TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutAVault) {
 TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
     giveObsidianAnIcon();
     stage.installObsidian(true, true);
-    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
     window();
     EXPECT_EQ(obsidian().statusLabel->text(),
               u"Send notes from Obsidian straight into the prompter"_s);
@@ -142,8 +142,8 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOffRecordsAndUninstallsNothing) {
 }
 
 TEST_F(ObsidianOnboarding, TakesAnActiveObsidianFromTheSourceManagerAtFirst) {
-    stage.settings.enabledSourceTypes.insert(SourceType::obsidian);
-    stage.settings.activeSourceType = SourceType::obsidian;
+    stage.settings.setSourceEnabled(SourceType::obsidian, true);
+    stage.settings.setActiveSourceType(SourceType::obsidian);
     sourceManager = stage.makeSourceManager();
     window();
     EXPECT_TRUE(clipboardIsActive());
@@ -157,7 +157,7 @@ TEST_F(ObsidianOnboarding, TellsTheSourceManagerToo) {
     sourceManager->setActiveSource(SourceType::obsidian);
     QTest::keyClick(sheet(), Qt::Key_Return);
     switchObsidian();
-    EXPECT_EQ(stage.settings.activeSourceType, SourceType::clipboard);
+    EXPECT_EQ(stage.settings.activeSourceType(), SourceType::clipboard);
     EXPECT_TRUE(clipboardIsActive());
     EXPECT_FALSE(obsidianEnabled());
 }
