@@ -47,11 +47,6 @@ public:
         prompter.show();
         prompter.updateText(SampleTalk().write(words));
         settle();
-        window.onSettingsChanged = [this] {
-            prompter.updateFrame();
-            prompter.rerender();
-            prompter.updateScrollParameters();
-        };
         window.show();
         QCoreApplication::processEvents();
     }

@@ -3,6 +3,7 @@
 #include "analytics/UsageRecorder.h"
 #include "app/ConfigWindowPlacer.h"
 #include "app/PrompterCutout.h"
+#include "app/ScriptIntake.h"
 #include "app/StatusItem.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "cli/CommandLine.h"
@@ -10,7 +11,6 @@
 #include "platform/ActivationPolicy.h"
 #include "platform/BundleInformation.h"
 #include "platform/MainQueue.h"
-#include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
@@ -20,14 +20,12 @@
 #include "prompter/view/ScriptView.h"
 #include "reading/ReadingSession.h"
 #include "sources/ClipboardSource.h"
-#include "sources/FollowedFile.h"
 #include "sources/ObsidianSource.h"
 #include "sources/SourceManager.h"
 #include "ui/ConfigWindow.h"
 #include "ui/OnboardingWindow.h"
 #include "ui/Services.h"
 
-#include <QLoggingCategory>
 #include <QWindow>
 
 #include <algorithm>
@@ -38,8 +36,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
 
 /// The object, which the launch must have made by now.
 template <typename Object>
@@ -98,6 +94,10 @@ SourceManager& AppDelegate::sources() const {
     return required(sourceManager, "source manager");
 }
 
+ScriptIntake& AppDelegate::scripts() const {
+    return required(scriptIntake, "script intake");
+}
+
 void AppDelegate::applicationDidFinishLaunching() {
     environment.recorder.trackAppLaunch();
     createSourceManager();
@@ -133,6 +133,8 @@ void AppDelegate::createSourceManager() {
         std::make_unique<ObsidianSource>(*platform.mainQueue, *platform.fileTasks,
                                          *platform.timers),
         std::make_unique<ClipboardSource>(*platform.pasteboard));
+    scriptIntake =
+        std::make_unique<ScriptIntake>(*sourceManager, settings, platform, environment.recorder);
 }
 
 void AppDelegate::createPrompterWindow() {
@@ -189,7 +191,7 @@ void AppDelegate::startApp() {
     prompter().makeKeyAndOrderFront();
     setupShortcuts();
     sources().startWatching();
-    if (textToOpen) showText(*std::exchange(textToOpen, std::nullopt));
+    scripts().start();
 }
 
 void AppDelegate::setupShortcuts() {
@@ -283,27 +285,11 @@ void AppDelegate::bringToFront(QWidget& window) {
 }
 
 void AppDelegate::openText(const QString& text) {
-    if (text.isEmpty()) return;
-    followedFile.reset();
-    showText(text);
-}
-
-void AppDelegate::showText(const QString& text) {
-    if (text.isEmpty()) return;
-    if (!hasStarted()) {
-        textToOpen = text;
-    } else {
-        makeClipboardActive();
-        sources().pasteText(text);
-        trackPaste();
-    }
+    scripts().open(text);
 }
 
 void AppDelegate::followFile(const QString& path, const QString& text) {
-    showText(text);
-    followedFile =
-        std::make_unique<FollowedFile>(path, text, *platform.mainQueue, *platform.fileTasks,
-                                       *platform.timers, weakly(&AppDelegate::showText));
+    scripts().follow(path, text);
 }
 
 void AppDelegate::pasteFromClipboard() {
@@ -311,25 +297,7 @@ void AppDelegate::pasteFromClipboard() {
 }
 
 void AppDelegate::pasteFromClipboard(std::function<void(const QString& problem)> done) {
-    followedFile.reset();
-    makeClipboardActive();
-    platform.pasteboard->refresh(
-        lifetime.guard([this, done = std::move(done)](const QString& problem) {
-            sources().pasteFromClipboard();
-            trackPaste();
-            if (!problem.isEmpty())
-                qCWarning(shellLog, "Nothing was pasted: %ls", qUtf16Printable(problem));
-            done(problem);
-        }));
-}
-
-void AppDelegate::makeClipboardActive() {
-    if (settings.activeSourceType() != SourceType::clipboard)
-        sources().setActiveSource(SourceType::clipboard);
-}
-
-void AppDelegate::trackPaste() {
-    environment.recorder.trackContentPasted(sources().currentWordCount());
+    scripts().paste(std::move(done));
 }
 
 void AppDelegate::setScrollSpeed(double speed) {
@@ -377,7 +345,7 @@ void AppDelegate::activeSourceChanged(const Notification& change) {
     const auto* source = change.value<SourceType>(u"sourceType"_s);
     if (!source) return;
     prompter().updateSourceIndicator(*source);
-    if (*source != SourceType::clipboard) followedFile.reset();
+    if (*source != SourceType::clipboard) scripts().stopFollowing();
 }
 
 void AppDelegate::repositionConfigWindow() {

@@ -13,7 +13,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 class QWidget;
 
@@ -21,10 +20,10 @@ namespace tessaline {
 
 class ConfigWindow;
 class ConfigWindowPlacer;
-class FollowedFile;
 class OnboardingWindow;
 class PrompterCutout;
 class PrompterWindow;
+class ScriptIntake;
 class Shortcuts;
 class SourceManager;
 class StatusItem;
@@ -97,9 +96,6 @@ private:
     void finishOnboarding();
     void dropFinishedOnboarding();
 
-    void showText(const QString& text);
-    void makeClipboardActive();
-    void trackPaste();
     void showContent(const QString& content);
     void screensChanged();
     void handleSourceChange(SourceType source);
@@ -110,6 +106,7 @@ private:
     Services services() const;
     ConfigWindow& config() const;
     SourceManager& sources() const;
+    ScriptIntake& scripts() const;
 
     /// A call of the member function that does nothing once the delegate is gone.
     template <typename... Arguments>
@@ -123,6 +120,7 @@ private:
     ScreenManager screenManager;
     PermissionManager permissionManager;
     std::unique_ptr<SourceManager> sourceManager;
+    std::unique_ptr<ScriptIntake> scriptIntake;
     std::unique_ptr<PrompterWindow> prompterWindow;
     std::unique_ptr<PrompterCutout> prompterCutout;
     std::unique_ptr<ConfigWindow> configWindow;
@@ -132,8 +130,6 @@ private:
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Shortcuts> shortcuts;
     NotificationCenter::Observation sourceChangeObserver;
-    std::unique_ptr<FollowedFile> followedFile;
-    std::optional<QString> textToOpen; ///< waits for the normal start
     Lifetime lifetime;
 };
 

@@ -135,7 +135,8 @@ void takeSettings(const Camera& camera) {
         notes.settings.setActiveSourceType(SourceType::appleNotes);
         const auto window = notes.build();
         camera.take(*window, u"settings-notes-none"_s);
-        notes.settings.setAppleNotesConfig(AppleNotesConfiguration{u"1"_s, u"Opening keynote for the spring meeting"_s});
+        notes.settings.setAppleNotesConfig(
+            AppleNotesConfiguration{u"1"_s, u"Opening keynote for the spring meeting"_s});
         window->refreshUI();
         camera.take(*window, u"settings-notes-chosen"_s);
         window->findChild<QPushButton*>(u"selectNoteButton"_s)->click();
