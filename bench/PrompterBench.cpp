@@ -3,7 +3,6 @@
 #include "Samples.h"
 #include "Verdicts.h"
 
-#include "platform/qt/QtTimerMaker.h"
 #include "prompter/view/ScriptView.h"
 #include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
@@ -56,10 +55,9 @@ private:
     tessaline::PersistedSettings settings;
     std::shared_ptr<tessaline::ReadingSession> session =
         std::make_shared<tessaline::ReadingSession>(settings);
-    tessaline::QtTimerMaker timers;
 
 public:
-    ScriptView view{session, timers};
+    ScriptView view{session};
 };
 
 void setMarkdownAndLayOut(benchmark::State& state) {

@@ -2,7 +2,9 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
-#include "prompter/ElidingLabel.h"
+#include "controls/ElidingLabel.h"
+#include "controls/IconImage.h"
+#include "controls/Labels.h"
 #include "prompter/PrompterGeometry.h"
 #include "prompter/SourceIcon.h"
 #include "prompter/controls/PressableButton.h"
@@ -64,10 +66,10 @@ ControlStrip::ControlStrip(QWidget* parent)
     , minimizeButton(new PressableButton(u"—"_s, smallGlyphSize, this))
     , configButton(new PressableButton(u"⚙\uFE0E"_s, stripGlyphSize, this))
     , autoScrollButton(new PressableButton(u"⏯"_s, stripGlyphSize, this))
-    , sourceIconView(new QLabel(this))
+    , sourceIconView(new IconImage({}, sourceIconSide, this))
     , sourceLabel(new QLabel(u"CLIP"_s, this))
     , pasteButton(new PressableButton(u"📋"_s, smallGlyphSize, this))
-    , statsLabel(new ElidingLabel(this)) {
+    , statsLabel(new ElidingLabel(Qt::ElideLeft, this)) {
     describe(*quitButton, u"prompter_quitButton"_s, u"Quit"_s, u"Quit Tessaline"_s);
     describe(*minimizeButton, u"prompter_minimizeButton"_s, u"Minimize"_s,
              u"Minimize/Expand window"_s);
@@ -84,6 +86,8 @@ ControlStrip::ControlStrip(QWidget* parent)
     sourceLabel->setMinimumWidth(widthOfWidestSource(sourceLabel->font()));
     sourceIconView->hide();
     statsLabel->setFont(systemFont(11, QFont::Medium));
+    statsLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setTextColor(*statsLabel, Qt::white);
     showSourceMode(SourceMode::file);
 }
 
@@ -107,8 +111,7 @@ void ControlStrip::arrange() {
                   {minimizeButtonSide, minimizeButtonSide});
     x = control(*configButton, x);
     x = control(*autoScrollButton, x);
-    if (!sourceIconView->isHidden())
-        x = place(*sourceIconView, x, centre, {sourceIconSide, sourceIconSide});
+    if (!sourceIconView->isHidden()) x = control(*sourceIconView, x);
     x = control(*sourceLabel, x);
     x = control(*pasteButton, x);
     const int statsWidth = std::max(width() - margin - x, 0);
@@ -117,14 +120,12 @@ void ControlStrip::arrange() {
 
 void ControlStrip::showStatistics(const QString& text, const QColor& color) {
     statsLabel->setText(text);
-    statsLabel->setColor(color);
+    setTextColor(*statsLabel, color);
 }
 
 void ControlStrip::showSourceName(const QString& name, const QColor& color) {
     sourceLabel->setText(name);
-    QPalette palette = sourceLabel->palette();
-    palette.setColor(QPalette::WindowText, color);
-    sourceLabel->setPalette(palette);
+    setTextColor(*sourceLabel, color);
     arrange();
 }
 
@@ -138,8 +139,7 @@ void ControlStrip::showSourceMode(SourceMode mode) {
 }
 
 void ControlStrip::showSource(SourceType source) {
-    const QSize size(sourceIconSide, sourceIconSide);
-    sourceIconView->setPixmap(sourceIcon(source).pixmap(size, devicePixelRatioF()));
+    sourceIconView->setIcon(sourceIcon(source));
     sourceIconView->setAccessibleName(displayName(source));
     sourceIconView->show();
     pasteButton->setGlyph(source == SourceType::clipboard ? u"📄"_s : u"📋"_s, sourceGlyphSize);

@@ -9,6 +9,7 @@
 namespace tessaline {
 
 class ElidingLabel;
+class IconImage;
 class PressableButton;
 class TrafficLightCloseButton;
 
@@ -32,7 +33,7 @@ public:
     PressableButton* const minimizeButton;
     PressableButton* const configButton;
     PressableButton* const autoScrollButton;
-    QLabel* const sourceIconView;
+    IconImage* const sourceIconView;
     QLabel* const sourceLabel;
     PressableButton* const pasteButton;
     ElidingLabel* const statsLabel;

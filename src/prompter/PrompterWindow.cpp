@@ -88,7 +88,7 @@ void PrompterWindow::setupUI() {
     strip = new ControlStrip(this);
     scrollArea = new QWidget(this);
     scrollArea->setObjectName(u"prompter_scrollView"_s);
-    view = new ScriptView(session, *platform.timers, scrollArea);
+    view = new ScriptView(session, scrollArea);
     view->setObjectName(u"prompter_textView"_s);
     view->setAccessibleName(u"Script"_s);
     setFocusProxy(view);

@@ -2,10 +2,10 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "controls/IconImage.h"
+#include "controls/Labels.h"
 #include "ui/AlertIcon.h"
 #include "ui/controls/BezelButton.h"
-#include "ui/controls/IconImage.h"
-#include "ui/controls/Labels.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

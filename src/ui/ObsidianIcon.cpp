@@ -1,8 +1,8 @@
 #include "ui/ObsidianIcon.h"
 
+#include "controls/IconImage.h"
 #include "platform/FileIcons.h"
 #include "sources/ObsidianIntegration.h"
-#include "ui/controls/IconImage.h"
 
 namespace tessaline {
 

@@ -1,8 +1,8 @@
 #include "AppDelegateFixture.h"
 
 #include "appearance/SystemPalette.h"
+#include "controls/ElidingLabel.h"
 #include "prompter/ControlStrip.h"
-#include "prompter/ElidingLabel.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/view/ScriptView.h"
@@ -81,7 +81,8 @@ TEST_F(AppDelegateConnections, ScrollAtTheRateThatIsChosen) {
     displayLinks.refresh(1);
     mainQueue.runAll();
     EXPECT_NEAR(prompter()->textView().scrollPosition(), 0.16, 1e-9);
-    EXPECT_EQ(prompter()->controls().statsLabel->color(), SystemPalette::red);
+    EXPECT_EQ(prompter()->controls().statsLabel->palette().color(QPalette::WindowText),
+              SystemPalette::red);
 }
 
 TEST_F(AppDelegateConnections, KeepTheSettingsWindowBelowThePrompterWhenItsHeightChanges) {

@@ -2,10 +2,10 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
-#include "prompter/ElidingLabel.h"
+#include "controls/ElidingLabel.h"
+#include "controls/IconImage.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
-#include "support/PaintCounter.h"
 #include "support/WidgetPicture.h"
 
 #include <gtest/gtest.h>
@@ -137,34 +137,6 @@ TEST_F(ControlStripTest, SetsTheStatisticsInTheirColorAtTheRight) {
     const QRectF red = boundsOf(
         picture, [&](int x, int y) { return picture.pixelColor(x, y) == SystemPalette::red; });
     EXPECT_FALSE(red.isEmpty());
-}
-
-TEST(ElidingLabel, PaintsItselfAgainOnlyInAnotherColour) {
-    ElidingLabel label;
-    label.setColor(SystemPalette::red);
-    label.show();
-    PaintCounter paints(label);
-    paints.take();
-    label.setColor(SystemPalette::red);
-    EXPECT_EQ(paints.take(), 0);
-    label.setColor(SystemPalette::green);
-    EXPECT_EQ(paints.take(), 1);
-}
-
-TEST(ElidingLabel, CutsATextThatDoesNotFitAtItsBeginning) {
-    ElidingLabel label;
-    label.setFont(systemFont(11));
-    label.resize(60, 16);
-    const auto pictureWith = [&](const QString& text) {
-        label.setText(text);
-        return pictureOf(label, 4);
-    };
-    const QImage picture = pictureWith(u"123456 words • ~2m30s"_s);
-    EXPECT_GT(inkOf(picture).left(), 0);
-    EXPECT_NEAR(inkOf(picture).right(), 60, 2);
-    EXPECT_EQ(pictureWith(u"987 words • ~2m30s"_s), picture);
-    EXPECT_NE(pictureWith(u"123456 words • ~2m35s"_s), picture);
-    EXPECT_EQ(label.text(), u"123456 words • ~2m35s"_s);
 }
 
 } // namespace

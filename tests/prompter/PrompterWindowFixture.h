@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/ElidingLabel.h"
 #include "prompter/ControlStrip.h"
-#include "prompter/ElidingLabel.h"
 #include "prompter/Placeholder.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
@@ -64,7 +64,7 @@ protected:
         EXPECT_EQ(margin, (view.height() - 60) / 2.0 + textMargin);
 
         const auto session = std::make_shared<ReadingSession>(settings);
-        ScriptView fresh(session, timers);
+        ScriptView fresh(session);
         fresh.resize(view.size());
         session->setContent({Script(placeholderText(view.height()))});
         EXPECT_EQ(view.grab().toImage(), fresh.grab().toImage());

@@ -1,8 +1,9 @@
 #include "prompter/PrompterWindow.h"
 
 #include "appearance/SystemPalette.h"
+#include "controls/ElidingLabel.h"
+#include "controls/IconImage.h"
 #include "prompter/ControlStrip.h"
-#include "prompter/ElidingLabel.h"
 #include "prompter/PrompterWindowFixture.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
@@ -258,7 +259,8 @@ TEST_F(PrompterWindowTest, KeepsThePlaceWhenAnEditedTextArrives) {
 TEST_F(PrompterWindowTest, TellsWordsAndTime) {
     show(u"one two three"_s);
     EXPECT_EQ(statistics(), u"3 words • ~5s"_s);
-    EXPECT_EQ(window().controls().statsLabel->color(), SystemPalette::yellow);
+    EXPECT_EQ(window().controls().statsLabel->palette().color(QPalette::WindowText),
+              SystemPalette::yellow);
 }
 
 TEST_F(PrompterWindowTest, TellsTheTimeForWhatIsLeftToScroll) {
@@ -288,7 +290,8 @@ TEST_F(PrompterWindowTest, ShowsTheRateInTheColorOfTheStatistics) {
     show(u"text"_s);
     settings.setScrollRate(ScrollRate::fast);
     window().updateScrollParameters();
-    EXPECT_EQ(window().controls().statsLabel->color(), SystemPalette::red);
+    EXPECT_EQ(window().controls().statsLabel->palette().color(QPalette::WindowText),
+              SystemPalette::red);
 }
 
 TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {

@@ -1,29 +1,38 @@
 #include "prompter/controls/OverlayFade.h"
 
+#include <cmath>
 #include <utility>
 
 namespace tessaline {
 
 namespace {
 
-constexpr TimerMaker::Interval stay{1.0};
-constexpr TimerMaker::Interval frame{1.0 / 30.0};
+constexpr int stayMilliseconds = 1000;
 constexpr int fadeSteps = 8;
+constexpr int fadeMilliseconds = 267; // thirty steps a second
+constexpr int courseMilliseconds = stayMilliseconds + fadeMilliseconds;
 
 } // namespace
 
-OverlayFade::OverlayFade(TimerMaker& maker, std::function<void()> changed)
-    : timers(maker), onChange(std::move(changed)) {}
+OverlayFade::OverlayFade(std::function<void()> changed) : onChange(std::move(changed)) {
+    course.setDuration(courseMilliseconds);
+    course.setStartValue(double(fadeSteps));
+    course.setKeyValueAt(double(stayMilliseconds) / courseMilliseconds, double(fadeSteps));
+    course.setEndValue(0.0);
+    // A few steps instead of every value: each one repaints what lies below the overlay.
+    QObject::connect(&course, &QVariantAnimation::valueChanged, &course,
+                     [this](const QVariant& steps) { show(int(std::ceil(steps.toDouble()))); });
+}
 
 void OverlayFade::reveal() {
+    course.stop();
     show(fadeSteps);
-    if (!held) timer = timers.every(stay, [this] { startFading(); });
+    if (!held) course.start();
 }
 
 void OverlayFade::hold() {
     held = true;
-    timer.reset();
-    show(fadeSteps);
+    reveal();
 }
 
 void OverlayFade::letGo() {
@@ -33,21 +42,12 @@ void OverlayFade::letGo() {
 
 void OverlayFade::conceal() {
     held = false;
-    timer.reset();
+    course.stop();
     show(0);
 }
 
 double OverlayFade::opacity() const {
     return static_cast<double>(stepsLeft) / fadeSteps;
-}
-
-void OverlayFade::startFading() {
-    timer = timers.every(frame, [this] { fade(); });
-}
-
-void OverlayFade::fade() {
-    if (stepsLeft == 1) timer.reset();
-    show(stepsLeft - 1);
 }
 
 void OverlayFade::show(int steps) {

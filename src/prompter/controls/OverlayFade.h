@@ -1,19 +1,17 @@
 #pragma once
 
-#include "platform/TimerMaker.h"
+#include <QVariantAnimation>
 
 #include <functional>
-#include <memory>
 
 namespace tessaline {
 
-/// When an overlay is seen: at once and fully when revealed, a second longer, then fading out. No
-/// timer runs while it is hidden or held. Main thread.
+/// When an overlay is seen: at once and fully when revealed, a second longer, then fading out.
+/// Nothing runs while it is hidden or held.
 class OverlayFade {
 public:
-    /// Starts hidden. The maker must outlive this object; changed is called after every change of
-    /// the opacity.
-    OverlayFade(TimerMaker& maker, std::function<void()> changed);
+    /// Starts hidden; `changed` is called after every change of the opacity.
+    explicit OverlayFade(std::function<void()> changed);
 
     /// Shows the overlay and starts its second anew.
     void reveal();
@@ -28,14 +26,14 @@ public:
     /// From 0, hidden, to 1.
     double opacity() const;
 
+    /// Whether the second or the fading is under way.
+    bool isRunning() const { return course.state() == QAbstractAnimation::Running; }
+
 private:
-    void startFading();
-    void fade();
     void show(int steps);
 
-    TimerMaker& timers;
     const std::function<void()> onChange;
-    std::unique_ptr<RepeatingTimer> timer;
+    QVariantAnimation course; ///< of the steps that are left
     int stepsLeft = 0;
     bool held = false;
 };

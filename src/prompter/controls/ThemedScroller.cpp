@@ -14,8 +14,8 @@ constexpr double knobInset = 1.0;
 
 } // namespace
 
-ThemedScroller::ThemedScroller(TimerMaker& timers, QWidget* parent)
-    : QScrollBar(Qt::Vertical, parent), fade(timers, [this] { update(); }) {
+ThemedScroller::ThemedScroller(QWidget* parent)
+    : QScrollBar(Qt::Vertical, parent), fade([this] { update(); }) {
     auto* style = new ThemedScrollerStyle;
     style->setParent(this);
     setStyle(style);

@@ -16,8 +16,7 @@ class ThemedScroller final : public QScrollBar {
     Q_OBJECT
 
 public:
-    /// The timer maker must outlive the scroller.
-    explicit ThemedScroller(TimerMaker& timers, QWidget* parent = nullptr);
+    explicit ThemedScroller(QWidget* parent = nullptr);
 
     /// Shows the scroller for a second; for scrolling that does not pass through it.
     void reveal();

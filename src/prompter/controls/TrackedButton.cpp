@@ -1,8 +1,8 @@
 #include "prompter/controls/TrackedButton.h"
 
 #include "appearance/SystemPalette.h"
+#include "controls/KeyboardFocus.h"
 
-#include <QFocusEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -12,11 +12,6 @@ namespace {
 
 constexpr double ringWidth = 1.5;
 constexpr double ringAlpha = 0.8;
-
-bool comesFromKeyboard(Qt::FocusReason reason) {
-    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-           reason == Qt::ShortcutFocusReason;
-}
 
 } // namespace
 
@@ -33,7 +28,7 @@ bool TrackedButton::isPressed() const {
 }
 
 void TrackedButton::paintFocusRing(QPainter& painter, const QPainterPath& outline) const {
-    if (!hasFocus() || !focusedByKeyboard) return;
+    if (!showsFocus(*this)) return;
     painter.strokePath(outline,
                        QPen(SystemPalette::withAlpha(SystemPalette::blue, ringAlpha), ringWidth));
 }
@@ -59,14 +54,6 @@ void TrackedButton::mousePressEvent(QMouseEvent* event) {
 void TrackedButton::mouseReleaseEvent(QMouseEvent* event) {
     track(hovered, false);
     QAbstractButton::mouseReleaseEvent(event);
-}
-
-void TrackedButton::focusInEvent(QFocusEvent* event) {
-    // A window that comes back to the front gives the focus back as it was.
-    const bool comesBack =
-        event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
-    if (!comesBack) focusedByKeyboard = comesFromKeyboard(event->reason());
-    QAbstractButton::focusInEvent(event);
 }
 
 void TrackedButton::hideEvent(QHideEvent* event) {

@@ -31,7 +31,6 @@ protected:
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -40,7 +39,6 @@ private:
 
     bool hovered = false;
     bool held = false;
-    bool focusedByKeyboard = false;
 };
 
 } // namespace tessaline

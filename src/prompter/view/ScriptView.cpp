@@ -45,14 +45,14 @@ double scrollerScale(double maximum) {
 
 } // namespace
 
-ScriptView::ScriptView(std::shared_ptr<ReadingSession> shown, TimerMaker& timers, QWidget* parent)
+ScriptView::ScriptView(std::shared_ptr<ReadingSession> shown, QWidget* parent)
     : QWidget(parent)
     , session(std::move(shown))
     , strips([this](QPainter& painter, double top, double bottom) {
         painter.translate(horizontalInset, verticalInset);
         layout.draw(painter, top - verticalInset, bottom - verticalInset, currentSelection.range());
     })
-    , scroller(new ThemedScroller(timers, this))
+    , scroller(new ThemedScroller(this))
     , interaction(*this) {
     installScriptViewAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -16,7 +16,6 @@ namespace tessaline {
 
 class ReadingSession;
 class ThemedScroller;
-class TimerMaker;
 
 /// Shows a session's script in a column that scrolls to fractions of a pixel, and moves the
 /// session. Read-only; text can be selected with the mouse and the keyboard and copied. Frames are
@@ -26,9 +25,7 @@ class ScriptView : public QWidget, private ReadingView {
     Q_OBJECT
 
 public:
-    /// The timer maker must outlive the view.
-    ScriptView(std::shared_ptr<ReadingSession> session, TimerMaker& timers,
-               QWidget* parent = nullptr);
+    explicit ScriptView(std::shared_ptr<ReadingSession> session, QWidget* parent = nullptr);
     ~ScriptView() override;
 
     ReadingSession& reading() const { return *session; }

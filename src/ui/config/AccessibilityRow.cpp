@@ -2,9 +2,9 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "controls/Labels.h"
 #include "platform/PlatformTexts.h"
 #include "ui/controls/BezelButton.h"
-#include "ui/controls/Labels.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/StatusDot.h"
 

@@ -2,8 +2,8 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "controls/Labels.h"
 #include "platform/PlatformTexts.h"
-#include "ui/controls/Labels.h"
 #include "ui/controls/Rows.h"
 
 #include <QGridLayout>

@@ -1,6 +1,7 @@
 #include "ui/config/SourceSection.h"
 
 #include "appearance/PointFont.h"
+#include "controls/ElidingLabel.h"
 #include "settings/AppSettings.h"
 #include "sources/SourceManager.h"
 #include "ui/config/NotePicker.h"
@@ -8,7 +9,6 @@
 #include "ui/controls/PopupButton.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/SectionTitle.h"
-#include "ui/controls/TruncatingLabel.h"
 
 #include <QGridLayout>
 
@@ -53,11 +53,12 @@ QWidget* SourceSection::createFileRow() {
     auto* holder = new QWidget;
     holder->setObjectName(u"fileConfig"_s);
     QHBoxLayout* row = layOutRow(*holder, 8);
-    filePathField = new TruncatingLabel(Qt::ElideMiddle, 180);
+    filePathField = new ElidingLabel(Qt::ElideMiddle);
+    filePathField->setFixedWidth(180);
     filePathField->setObjectName(u"filePathField"_s);
     filePathField->setFont(systemFont(13));
     filePathField->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    filePathField->showText(settings.notePath());
+    filePathField->showWithToolTip(settings.notePath());
     row->addWidget(filePathField);
     browseButton = new BezelButton(u"Browse..."_s);
     browseButton->setObjectName(u"browseButton"_s);
@@ -71,7 +72,8 @@ QWidget* SourceSection::createNoteRow() {
     auto* holder = new QWidget;
     holder->setObjectName(u"noteConfig"_s);
     QHBoxLayout* row = layOutRow(*holder, 8);
-    noteNameField = new TruncatingLabel(Qt::ElideRight, 150);
+    noteNameField = new ElidingLabel(Qt::ElideRight);
+    noteNameField->setFixedWidth(150);
     noteNameField->setObjectName(u"noteNameField"_s);
     noteNameField->setFont(systemFont(13));
     showNoteName();
@@ -109,7 +111,7 @@ void SourceSection::updateSourceConfigVisibility() {
 
 void SourceSection::showNoteName() {
     const auto& note = settings.appleNotesConfig();
-    noteNameField->showText(note ? note->noteName : u"No note selected"_s);
+    noteNameField->showWithToolTip(note ? note->noteName : u"No note selected"_s);
 }
 
 void SourceSection::sourceTypeChanged() {
@@ -134,7 +136,7 @@ void SourceSection::selectNote() {
         } else {
             settings.setAppleNotesConfig(note);
         }
-        noteNameField->showText(note.noteName);
+        noteNameField->showWithToolTip(note.noteName);
     }));
 }
 

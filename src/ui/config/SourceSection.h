@@ -13,10 +13,10 @@ class QPushButton;
 namespace tessaline {
 
 class AppSettings;
+class ElidingLabel;
 class NoteLibrary;
 class PopupButton;
 class SourceManager;
-class TruncatingLabel;
 
 /// The choice of the active source, with its title, and for Apple Notes of the note. Main thread
 /// only.
@@ -42,9 +42,9 @@ public:
 
     PopupButton* sourcePopup = nullptr;
     QWidget* sourceConfigContainer = nullptr;
-    TruncatingLabel* filePathField = nullptr;
+    ElidingLabel* filePathField = nullptr;
     QPushButton* browseButton = nullptr;
-    TruncatingLabel* noteNameField = nullptr;
+    ElidingLabel* noteNameField = nullptr;
     QPushButton* selectNoteButton = nullptr;
 
 private:

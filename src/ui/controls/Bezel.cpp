@@ -1,6 +1,7 @@
 #include "ui/controls/Bezel.h"
 
 #include "appearance/SystemPalette.h"
+#include "controls/KeyboardFocus.h"
 
 #include <QPainter>
 #include <QWidget>
@@ -33,10 +34,6 @@ void drawBezel(QPainter& painter, const QWidget& widget, QColor ground, bool pre
                                 cornerRadius - inset);
     }
     painter.restore();
-}
-
-bool showsFocus(const QWidget& widget) {
-    return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 } // namespace tessaline

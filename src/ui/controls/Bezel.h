@@ -14,7 +14,4 @@ inline constexpr int bezelPadding = 10;
 /// while the widget is disabled, ringed while it has the focus by keyboard.
 void drawBezel(QPainter& painter, const QWidget& widget, QColor ground, bool pressed);
 
-/// Whether the widget has the focus and the user works with the keyboard.
-bool showsFocus(const QWidget& widget);
-
 } // namespace tessaline

@@ -1,7 +1,7 @@
 #include "ui/controls/PointSlider.h"
 
 #include "appearance/SystemPalette.h"
-#include "ui/controls/Bezel.h"
+#include "controls/KeyboardFocus.h"
 #include "ui/controls/PointSliderAccessible.h"
 
 #include <QMouseEvent>

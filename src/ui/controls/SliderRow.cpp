@@ -2,7 +2,7 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
-#include "ui/controls/Labels.h"
+#include "controls/Labels.h"
 #include "ui/controls/Rows.h"
 
 namespace tessaline {

@@ -1,7 +1,7 @@
 #include "ui/controls/Switch.h"
 
 #include "appearance/SystemPalette.h"
-#include "ui/controls/Bezel.h"
+#include "controls/KeyboardFocus.h"
 #include "ui/controls/SwitchAccessible.h"
 
 #include <QKeyEvent>

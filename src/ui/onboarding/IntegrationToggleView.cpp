@@ -2,8 +2,8 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
-#include "ui/controls/IconImage.h"
-#include "ui/controls/Labels.h"
+#include "controls/IconImage.h"
+#include "controls/Labels.h"
 #include "ui/controls/Switch.h"
 
 #include <QHBoxLayout>

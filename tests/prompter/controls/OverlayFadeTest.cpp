@@ -1,100 +1,95 @@
 #include "prompter/controls/OverlayFade.h"
 
-#include "support/FakeTimerMaker.h"
+#include "support/FakeAnimationTime.h"
 
-#include <gmock/gmock.h>
-
-#include <vector>
+#include <gtest/gtest.h>
 
 namespace tessaline {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
 class OverlayFadeTest : public ::testing::Test {
 protected:
-    FakeTimerMaker timers;
+    FakeAnimationTime time;
     int changes = 0;
-    OverlayFade fade{timers, [this] { ++changes; }};
+    OverlayFade fade{[this] { ++changes; }};
 };
 
-TEST_F(OverlayFadeTest, StartsHiddenWithoutATimer) {
+TEST_F(OverlayFadeTest, StartsHiddenWithoutAnAnimation) {
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
-    EXPECT_THAT(timers.liveIntervals(), IsEmpty());
+    EXPECT_FALSE(fade.isRunning());
 }
 
 TEST_F(OverlayFadeTest, IsSeenAtOnceAndForASecond) {
     fade.reveal();
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
 
-    timers.advance(0.99);
+    time.advance(0.99);
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
     EXPECT_EQ(changes, 1);
 }
 
 TEST_F(OverlayFadeTest, FadesOutInSmallStepsWithinAThirdOfASecond) {
     fade.reveal();
-    timers.advance(1.0);
+    time.advance(1.0);
 
     double previous = fade.opacity();
     for (int step = 0; step < 8; ++step) {
-        timers.advance(1.0 / 30.0 + 1e-9);
+        time.advance(0.034);
         EXPECT_NEAR(previous - fade.opacity(), 0.125, 1e-9);
         previous = fade.opacity();
     }
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
-TEST_F(OverlayFadeTest, RunsNoTimerOnceHidden) {
+TEST_F(OverlayFadeTest, RunsNothingOnceHidden) {
     fade.reveal();
-    timers.advance(2.0);
-    EXPECT_THAT(timers.liveIntervals(), IsEmpty());
+    time.advance(2.0);
+    EXPECT_FALSE(fade.isRunning());
 
     const int changesWhenHidden = changes;
-    timers.advance(60.0);
+    time.advance(60.0);
     EXPECT_EQ(changes, changesWhenHidden);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
 TEST_F(OverlayFadeTest, EveryRevealStartsTheSecondAnew) {
     fade.reveal();
-    timers.advance(0.9);
+    time.advance(0.9);
     fade.reveal();
-    timers.advance(0.9);
+    time.advance(0.9);
 
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
-    EXPECT_THAT(timers.liveIntervals(), ElementsAre(1.0));
+    EXPECT_TRUE(fade.isRunning());
 }
 
 TEST_F(OverlayFadeTest, ARevealInMidFadeBringsItBackWhole) {
     fade.reveal();
-    timers.advance(1.1);
+    time.advance(1.1);
     ASSERT_LT(fade.opacity(), 1.0);
 
     fade.reveal();
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
-    timers.advance(0.9);
+    time.advance(0.9);
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
 }
 
-TEST_F(OverlayFadeTest, StaysWhileHeldWithoutATimer) {
+TEST_F(OverlayFadeTest, StaysWhileHeldWithoutAnAnimation) {
     fade.hold();
     fade.reveal();
-    timers.advance(60.0);
+    time.advance(60.0);
 
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
-    EXPECT_THAT(timers.liveIntervals(), IsEmpty());
+    EXPECT_FALSE(fade.isRunning());
 }
 
 TEST_F(OverlayFadeTest, FadesASecondAfterItIsLetGo) {
     fade.hold();
-    timers.advance(5.0);
+    time.advance(5.0);
     fade.letGo();
-    timers.advance(0.9);
+    time.advance(0.9);
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
 
-    timers.advance(0.5);
+    time.advance(0.5);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
@@ -104,15 +99,15 @@ TEST_F(OverlayFadeTest, ConcealingEndsAlsoAHold) {
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 
     fade.reveal();
-    timers.advance(2.0);
+    time.advance(2.0);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
 TEST_F(OverlayFadeTest, StaysConcealedWhenItWasAboutToFade) {
     fade.reveal();
     fade.conceal();
-    EXPECT_THAT(timers.liveIntervals(), IsEmpty());
-    timers.advance(2.0);
+    EXPECT_FALSE(fade.isRunning());
+    time.advance(2.0);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 

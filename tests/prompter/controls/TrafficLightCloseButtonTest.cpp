@@ -172,7 +172,7 @@ TEST_F(TrafficLightCloseButtonTest, ShowsARingForTheKeyboardFocus) {
     first->setFocus();
     const QImage unfocused = pictureOf(*second);
 
-    second->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(first, Qt::Key_Tab);
 
     ASSERT_TRUE(second->hasFocus());
     EXPECT_NE(pictureOf(*second), unfocused);

@@ -4,7 +4,6 @@
 #include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
 #include "settings/PersistedSettings.h"
-#include "support/FakeTimerMaker.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -50,8 +49,7 @@ protected:
 
     PersistedSettings settings;
     const std::shared_ptr<ReadingSession> session = std::make_shared<ReadingSession>(settings);
-    FakeTimerMaker timers;
-    ScriptView view{session, timers};
+    ScriptView view{session};
 };
 
 } // namespace tessaline

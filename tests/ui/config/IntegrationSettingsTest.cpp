@@ -1,7 +1,7 @@
 #include "appearance/SystemPalette.h"
+#include "controls/IconImage.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
-#include "ui/controls/IconImage.h"
 #include "ui/controls/StatusDot.h"
 #include "ui/controls/Switch.h"
 

@@ -1,4 +1,5 @@
 #include "appearance/SystemPalette.h"
+#include "controls/ElidingLabel.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/TextType.h"
@@ -7,7 +8,6 @@
 #include "ui/controls/Separator.h"
 #include "ui/controls/SliderRow.h"
 #include "ui/controls/StatusDot.h"
-#include "ui/controls/TruncatingLabel.h"
 
 #include <QFontMetricsF>
 
@@ -155,8 +155,8 @@ TEST_F(SettingsLook, TheSourcesRowHasItsSizes) {
     EXPECT_GE(container.height(), 30);
     EXPECT_EQ(container.top(), bounds(control<PopupButton>("config_sourcePopup")).bottom() + 1 + 8);
     EXPECT_EQ(bounds(control<QWidget>("noteConfig")).top(), container.top());
-    EXPECT_EQ(control<TruncatingLabel>("noteNameField").width(), 150);
-    EXPECT_EQ(control<TruncatingLabel>("filePathField").width(), 180);
+    EXPECT_EQ(control<ElidingLabel>("noteNameField").width(), 150);
+    EXPECT_EQ(control<ElidingLabel>("filePathField").width(), 180);
     EXPECT_EQ(bounds(control<QPushButton>("selectNoteButton")).left(), 20 + 150 + 8);
 }
 

@@ -1,8 +1,8 @@
+#include "controls/ElidingLabel.h"
 #include "sources/notes/AppleNotesSource.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/SpokenControls.h"
-#include "ui/controls/TruncatingLabel.h"
 
 namespace tessaline {
 namespace {
@@ -21,7 +21,7 @@ protected:
     void useNotes() { stage.settings.setActiveSourceType(SourceType::appleNotes); }
 
     PopupButton& sourcePopup() { return control<PopupButton>("config_sourcePopup"); }
-    QString noteName() { return control<TruncatingLabel>("noteNameField").text(); }
+    QString noteName() { return control<ElidingLabel>("noteNameField").text(); }
 
     void pressSelectNote() {
         QTest::mouseClick(&control<QPushButton>("selectNoteButton"), Qt::LeftButton);
@@ -110,7 +110,7 @@ TEST_F(SourceSettings, HideTheNoteOnceAnotherSourceIsChosen) {
 
 TEST_F(SourceSettings, TheFileRowIsInert) {
     stage.settings.change([](auto& values) { values.notePath = u"/home/someone/script.md"_s; });
-    EXPECT_EQ(control<TruncatingLabel>("filePathField").text(), u"/home/someone/script.md"_s);
+    EXPECT_EQ(control<ElidingLabel>("filePathField").text(), u"/home/someone/script.md"_s);
     EXPECT_EQ(control<QPushButton>("browseButton").text(), u"Browse..."_s);
     const auto before = stage.settings.values();
     control<QPushButton>("browseButton").click();

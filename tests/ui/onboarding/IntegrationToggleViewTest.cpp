@@ -1,7 +1,7 @@
 #include "ui/onboarding/IntegrationToggleView.h"
 
+#include "controls/IconImage.h"
 #include "support/PrintQt.h"
-#include "ui/controls/IconImage.h"
 #include "ui/controls/Switch.h"
 
 #include <QLabel>

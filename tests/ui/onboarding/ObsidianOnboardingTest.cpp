@@ -1,6 +1,6 @@
+#include "controls/IconImage.h"
 #include "support/PrintQt.h"
 #include "ui/OnboardingWindowFixture.h"
-#include "ui/controls/IconImage.h"
 
 namespace tessaline {
 namespace {

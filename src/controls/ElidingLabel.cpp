@@ -1,34 +1,33 @@
-#include "ui/controls/TruncatingLabel.h"
+#include "controls/ElidingLabel.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
 namespace tessaline {
 
-TruncatingLabel::TruncatingLabel(Qt::TextElideMode elideMode, int width, QWidget* parent)
+ElidingLabel::ElidingLabel(Qt::TextElideMode elideMode, QWidget* parent)
     : QLabel(parent), mode(elideMode) {
     setTextFormat(Qt::PlainText);
-    setFixedWidth(width);
 }
 
-void TruncatingLabel::showText(const QString& whole) {
+void ElidingLabel::showWithToolTip(const QString& whole) {
     setText(whole);
     const bool fits = QFontMetricsF(font()).horizontalAdvance(whole) <= contentsRect().width();
     setToolTip(fits ? QString() : whole.toHtmlEscaped());
 }
 
-QSize TruncatingLabel::minimumSizeHint() const {
+QSize ElidingLabel::minimumSizeHint() const {
     return {0, QLabel::minimumSizeHint().height()};
 }
 
-void TruncatingLabel::paintEvent(QPaintEvent*) {
+void ElidingLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFrame(&painter);
     const QRect inside = contentsRect();
     const QString oneLine = QString(text()).replace(u'\n', u' ');
     const QString shown = QFontMetricsF(font()).elidedText(oneLine, mode, inside.width());
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(inside, int(Qt::AlignVCenter | Qt::AlignLeading), shown);
+    painter.drawText(inside, int(alignment()), shown);
 }
 
 } // namespace tessaline

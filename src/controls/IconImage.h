@@ -5,11 +5,14 @@
 
 namespace tessaline {
 
-/// An icon scaled into a square, as sharp as the screen shows it. Main thread only.
+/// An icon scaled into a square, as sharp as the screen shows it.
 class IconImage : public QLabel {
 public:
     /// A square of so many points.
-    IconImage(const QIcon& icon, int size, QWidget* parent = nullptr);
+    IconImage(const QIcon& icon, int side, QWidget* parent = nullptr);
+
+    /// Shows another icon.
+    void setIcon(const QIcon& newIcon);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,4 +1,4 @@
-#include "ui/controls/IconImage.h"
+#include "controls/IconImage.h"
 
 #include "support/WidgetPicture.h"
 

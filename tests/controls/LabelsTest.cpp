@@ -1,4 +1,4 @@
-#include "ui/controls/Labels.h"
+#include "controls/Labels.h"
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"

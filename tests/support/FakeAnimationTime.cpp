@@ -1,0 +1,43 @@
+#include "support/FakeAnimationTime.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <algorithm>
+
+namespace tessaline {
+
+namespace {
+
+constexpr double frameMilliseconds = 4.0;
+
+} // namespace
+
+FakeAnimationTime::FakeAnimationTime() {
+    install();
+}
+
+FakeAnimationTime::~FakeAnimationTime() {
+    uninstall();
+}
+
+void FakeAnimationTime::advance(double seconds) {
+    const double end = now + seconds * 1000;
+    while (now < end) {
+        // Animations begin with the next turn of the event loop.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+        now = std::min(now + frameMilliseconds, end);
+        if (isRunning()) QAnimationDriver::advance();
+    }
+}
+
+qint64 FakeAnimationTime::elapsed() const {
+    return isRunning() ? qint64(now - startedAt) : 0;
+}
+
+void FakeAnimationTime::start() {
+    startedAt = now;
+    QAnimationDriver::start();
+}
+
+} // namespace tessaline
