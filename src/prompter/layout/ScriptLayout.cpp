@@ -120,18 +120,25 @@ double ScriptLayout::measureMore(qsizetype units, double anchor) {
 void ScriptLayout::measureBetween(double top, double bottom) {
     std::size_t index = paragraphAt(top);
     for (double y = topOf(index); y < bottom && index < measured.size(); ++index) {
-        if (!measured[index]) laidOut(index);
+        if (!measured[index]) measuredLayout(index);
         y += heights.height(index);
     }
 }
 
-const ParagraphLayout& ScriptLayout::laidOut(std::size_t index) {
+void ScriptLayout::measureAt(qsizetype offset) {
+    measuredLayout(paragraphOf(offset));
+}
+
+const ParagraphLayout& ScriptLayout::laidOut(std::size_t index) const {
     const auto [entry, isNew] = layouts.try_emplace(index);
-    if (isNew) {
-        entry->second = ParagraphLayout(*currentScript, index, formats, columnWidth);
-        setMeasured(index, entry->second.height());
-    }
+    if (isNew) entry->second = ParagraphLayout(*currentScript, index, formats, columnWidth);
     return entry->second;
+}
+
+const ParagraphLayout& ScriptLayout::measuredLayout(std::size_t index) {
+    const ParagraphLayout& layout = laidOut(index);
+    setMeasured(index, layout.height());
+    return layout;
 }
 
 void ScriptLayout::forgetLayoutsOutside(std::size_t first, std::size_t last) {
@@ -144,7 +151,7 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
     const std::size_t first = paragraphAt(top);
     std::size_t index = first;
     for (double y = topOf(first); y < bottom && index < measured.size(); ++index) {
-        const ParagraphLayout& layout = laidOut(index);
+        const ParagraphLayout& layout = measuredLayout(index);
         const Script::Paragraph& paragraph = currentScript->paragraphs[index];
         // Lines are placed in fixed point, which does not reach the end of very long documents.
         painter.translate(0, y);
@@ -161,7 +168,7 @@ void ScriptLayout::draw(QPainter& painter, double top, double bottom, const Text
     forgetLayoutsOutside(first, index);
 }
 
-qsizetype ScriptLayout::offsetAt(const QPointF& point) {
+qsizetype ScriptLayout::offsetAt(const QPointF& point) const {
     const std::size_t index = paragraphAt(point.y());
     const ParagraphLayout& layout = laidOut(index);
     return currentScript->paragraphs[index].start +
@@ -177,7 +184,7 @@ std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
     return std::size_t(next - paragraphs.begin()) - 1;
 }
 
-QRectF ScriptLayout::caretRect(qsizetype offset) {
+QRectF ScriptLayout::caretRect(qsizetype offset) const {
     const std::size_t index = paragraphOf(offset);
     const ParagraphLayout& layout = laidOut(index);
     return layout.caretRect(offset - currentScript->paragraphs[index].start)

@@ -18,10 +18,10 @@ class QPainter;
 
 namespace tessaline {
 
-/// A script set in a column. Paragraphs are laid out when they are drawn or asked about; the
-/// heights of the others are estimated until they have been measured, so that a text of any length
-/// is ready at once. Coordinates are points from the column's top left corner, y downwards; offsets
-/// are UTF-16 units of the script's text.
+/// A script set in a column. The heights of paragraphs are estimated until they are drawn or
+/// measured, so that a text of any length is ready at once. Questions change no height. Coordinates
+/// are points from the column's top left corner, y downwards; offsets are UTF-16 units of the
+/// script's text.
 class ScriptLayout {
 public:
     ScriptLayout();
@@ -59,6 +59,9 @@ public:
     /// Measures everything between two heights, so that drawing there changes nothing any more.
     void measureBetween(double top, double bottom);
 
+    /// Measures the paragraph that an offset lies in.
+    void measureAt(qsizetype offset);
+
     /// The paragraph at a height, and where a paragraph begins.
     std::size_t paragraphAt(double y) const { return heights.indexAt(y); }
     double topOf(std::size_t paragraph) const { return heights.topOf(paragraph); }
@@ -68,16 +71,17 @@ public:
     void draw(QPainter& painter, double top, double bottom, const TextRange& selection);
 
     /// The offset nearest to a point.
-    qsizetype offsetAt(const QPointF& point);
+    qsizetype offsetAt(const QPointF& point) const;
 
     /// The paragraph that an offset lies in.
     std::size_t paragraphOf(qsizetype offset) const;
 
     /// The place of the caret before an offset, without width.
-    QRectF caretRect(qsizetype offset);
+    QRectF caretRect(qsizetype offset) const;
 
 private:
-    const ParagraphLayout& laidOut(std::size_t index);
+    const ParagraphLayout& laidOut(std::size_t index) const;
+    const ParagraphLayout& measuredLayout(std::size_t index);
     void setMeasured(std::size_t index, double height);
     void estimateAll();
     void forgetLayoutsOutside(std::size_t first, std::size_t last);
@@ -89,7 +93,7 @@ private:
     std::vector<bool> measured;
     std::size_t unmeasured = 0;
     std::size_t nextToMeasure = 0; ///< no paragraph before this one is unmeasured
-    std::map<std::size_t, ParagraphLayout> layouts;
+    mutable std::map<std::size_t, ParagraphLayout> layouts; ///< kept for the next question
     double columnWidth = 400.0;
     double bodySize = 0.0;
 };

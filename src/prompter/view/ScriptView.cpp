@@ -344,10 +344,8 @@ void ScriptView::copySelection() const {
     if (!currentSelection.range().isEmpty()) QApplication::clipboard()->setText(selectedText());
 }
 
-QRectF ScriptView::caretRect(qsizetype offset) {
-    QRectF rect;
-    keepPlaceDuring([&] { rect = layout.caretRect(offset); });
-    return rect.translated(horizontalInset, verticalInset - scrollTop);
+QRectF ScriptView::caretRect(qsizetype offset) const {
+    return layout.caretRect(offset).translated(horizontalInset, verticalInset - scrollTop);
 }
 
 QRectF ScriptView::paragraphRect(std::size_t paragraph) const {
@@ -355,14 +353,12 @@ QRectF ScriptView::paragraphRect(std::size_t paragraph) const {
     return {horizontalInset, top, layout.textWidth(), layout.heightOf(paragraph)};
 }
 
-qsizetype ScriptView::offsetAt(const QPointF& point) {
-    qsizetype offset = 0;
-    const QPointF place(point.x() - horizontalInset, point.y() + scrollTop - verticalInset);
-    keepPlaceDuring([&] { offset = layout.offsetAt(place); });
-    return offset;
+qsizetype ScriptView::offsetAt(const QPointF& point) const {
+    return layout.offsetAt({point.x() - horizontalInset, point.y() + scrollTop - verticalInset});
 }
 
 void ScriptView::reveal(qsizetype offset) {
+    keepPlaceDuring([&] { layout.measureAt(offset); });
     const QRectF caret = caretRect(offset);
     if (caret.top() < 0) scrollTo(scrollTop + caret.top() - verticalInset);
     if (caret.bottom() > height()) scrollTo(scrollTop + caret.bottom() - height() + verticalInset);

@@ -71,14 +71,14 @@ public:
     void reveal(qsizetype offset);
 
     /// Where the caret before an offset is drawn, in the view's coordinates.
-    QRectF caretRect(qsizetype offset);
+    QRectF caretRect(qsizetype offset) const;
 
     /// Where a paragraph is, with the spacing around it, in the view's coordinates. In part an
     /// estimate until `isLayoutComplete`.
     QRectF paragraphRect(std::size_t paragraph) const;
 
     /// The offset nearest to a point in the view's coordinates.
-    qsizetype offsetAt(const QPointF& point);
+    qsizetype offsetAt(const QPointF& point) const;
 
 Q_SIGNALS:
     /// The whole document has been laid out: its height is exact now.

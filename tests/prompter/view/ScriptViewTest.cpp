@@ -238,7 +238,7 @@ TEST_F(ScriptViewTest, MovesTheLineOfAnOffsetToTheTop) {
 
 TEST_F(ScriptViewTest, ShowsThePlaceOfAnotherViewOfItsSession) {
     show((u"words "_s.repeated(40) + u"\n"_s).repeated(20) + lines(50));
-    ScriptView other(session, timers);
+    ScriptView other(session);
     other.resize(300, 150);
     other.show();
     const auto expectSameLine = [&] {
@@ -294,7 +294,7 @@ TEST_P(ScriptViewMeasuring, IsToldOnceWhenItIsComplete) {
     // Of two paragraphs that are laid out later, the first one at once.
     setScript(Script(MarkdownRenderer(16).render(u"words "_s.repeated(1300) + u"\n"_s +
                                                  u"wider words "_s.repeated(650))));
-    view.caretRect(0);
+    view.reveal(0);
     int completions = 0;
     QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { ++completions; });
     ASSERT_FALSE(view.isLayoutComplete());
@@ -314,27 +314,36 @@ TEST_P(ScriptViewMeasuring, IsToldOnceWhenItIsComplete) {
 
 INSTANTIATE_TEST_SUITE_P(
     EveryWay, ScriptViewMeasuring,
-    testing::Values(
-        Measuring{"Caret",
-                  [](ScriptView& view) { view.caretRect(view.script().styled.text.size()); }},
-        Measuring{"Point",
-                  [](ScriptView& view) {
-                      view.offsetAt({20, view.documentHeight() - 20});
-                  }},
-        Measuring{"Reveal",
-                  [](ScriptView& view) { view.reveal(view.script().styled.text.size()); }},
-        Measuring{"Paint",
-                  [](ScriptView& view) {
-                      view.scrollTo(view.maximumScrollPosition());
-                      view.grab();
-                  }},
-        Measuring{"Events",
-                  [](ScriptView& view) {
-                      while (!view.isLayoutComplete())
-                          QCoreApplication::processEvents();
-                  }},
-        Measuring{"Request", [](ScriptView& view) { view.completeLayout(); }}),
+    testing::Values(Measuring{"Reveal",
+                              [](ScriptView& view) {
+                                  view.reveal(view.script().styled.text.size());
+                              }},
+                    Measuring{"Paint",
+                              [](ScriptView& view) {
+                                  view.scrollTo(view.maximumScrollPosition());
+                                  view.grab();
+                              }},
+                    Measuring{"Events",
+                              [](ScriptView& view) {
+                                  while (!view.isLayoutComplete())
+                                      QCoreApplication::processEvents();
+                              }},
+                    Measuring{"Request", [](ScriptView& view) { view.completeLayout(); }}),
     [](const auto& tested) { return tested.param.name; });
+
+TEST_F(ScriptViewTest, IsChangedByNoQuestion) {
+    setScript(
+        Script(MarkdownRenderer(16).render((u"words "_s.repeated(1300) + u"\n"_s).repeated(9))));
+    view.scrollTo(view.maximumScrollPosition());
+    const double height = view.documentHeight();
+    const double position = view.scrollPosition();
+    const qsizetype end = view.script().styled.text.size();
+    EXPECT_GT(view.caretRect(end).top(), view.caretRect(end / 2).top());
+    EXPECT_GT(view.offsetAt({20, 1}), view.offsetAt({20, -height / 2}));
+    EXPECT_FALSE(view.isLayoutComplete());
+    EXPECT_EQ(view.documentHeight(), height);
+    EXPECT_EQ(view.scrollPosition(), position);
+}
 
 TEST_F(ScriptViewTest, DoesNotMoveTheReaderWhileALongTextIsLaidOut) {
     const QString text = (u"words "_s.repeated(70) + u"\n"_s).repeated(2000);
