@@ -82,7 +82,7 @@ struct Foundation {
     }
 };
 
-void hearLaterStarts(InstanceServer& server, const QString& path) {
+void listenToLaterStarts(InstanceServer& server, const QString& path) {
     QString problem;
     if (!path.isEmpty() && !server.listen(path, &problem))
         qCWarning(shellLog, "Later starts cannot reach this one: %ls", qUtf16Printable(problem));
@@ -96,7 +96,7 @@ int runUntilStopped(AppDelegate& delegate, const Platform& platform, const QStri
                                                         const InstanceServer::Reply& reply) {
         commands.carryOut(request, reply);
     });
-    hearLaterStarts(server, socketPath);
+    listenToLaterStarts(server, socketPath);
     return QApplication::exec();
 }
 

@@ -8,30 +8,30 @@ namespace tessaline {
 namespace {
 
 /// Never destroyed, as it has to outlive every static object. Empty: nothing to save.
-std::function<void()>& wordsToSay() {
-    static auto* const words = new std::function<void()>;
-    return *words;
+std::function<void()>& saving() {
+    static auto* const action = new std::function<void()>;
+    return *action;
 }
 
 void saveAndEnd() {
     // Once only, also if saving should fail in a way that exits again.
-    const auto words = std::exchange(wordsToSay(), nullptr);
-    if (!words) return;
-    words();
+    const auto save = std::exchange(saving(), nullptr);
+    if (!save) return;
+    save();
     std::_Exit(EXIT_FAILURE);
 }
 
 } // namespace
 
-AbruptExit::AbruptExit(std::function<void()> lastWords) {
-    wordsToSay() = std::move(lastWords);
+AbruptExit::AbruptExit(std::function<void()> save) {
+    saving() = std::move(save);
     // The last to be registered is the first to be called: nothing that exists by now has been
     // destroyed then.
     std::atexit(&saveAndEnd);
 }
 
 AbruptExit::~AbruptExit() {
-    wordsToSay() = nullptr;
+    saving() = nullptr;
 }
 
 } // namespace tessaline

@@ -9,10 +9,10 @@ namespace tessaline {
 /// thread.
 class AbruptExit {
 public:
-    /// Calls `lastWords`, on the thread that exits, and then ends the program with EXIT_FAILURE at
+    /// Calls `save`, on the thread that exits, and then ends the program with EXIT_FAILURE at
     /// once: the program's other threads still run, so that tearing down what they use would be
     /// worse than leaving it.
-    explicit AbruptExit(std::function<void()> lastWords);
+    explicit AbruptExit(std::function<void()> save);
 
     /// From now on `exit` has its usual effect.
     ~AbruptExit();

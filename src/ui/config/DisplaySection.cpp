@@ -7,7 +7,7 @@
 #include "platform/Screens.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
-#include "ui/config/PositionRange.h"
+#include "ui/config/HorizontalPosition.h"
 #include "ui/controls/PointSlider.h"
 #include "ui/controls/PopupButton.h"
 #include "ui/controls/Rows.h"
@@ -51,7 +51,7 @@ DisplaySection::DisplaySection(AppSettings& shared, const Screens& attached,
     xOffsetLabel = addSliderRow(u"Position"_s, u"xOffsetLabel"_s);
     xOffsetLabel->setText(u"Center"_s);
     xOffsetSlider = addSlider(u"Position"_s, u"xOffsetSlider"_s);
-    xOffsetSlider->setDeadZone(PositionRange::deadZone);
+    xOffsetSlider->setDeadZone(HorizontalPosition::deadZone);
     updatePositionSliderLimits();
     xOffsetSlider->setPoints(settings.xOffset());
 
@@ -126,7 +126,7 @@ double DisplaySection::computeMaxXOffset() const {
     } else if (!all.empty()) {
         width = all.front().frame.width;
     }
-    return PositionRange::maximumOffset(width, settings.width());
+    return HorizontalPosition::maximumOffset(width, settings.width());
 }
 
 bool DisplaySection::isSliderHeld() const {
@@ -141,14 +141,14 @@ void DisplaySection::updatePositionSliderLimits() {
 }
 
 void DisplaySection::updateValueLabels() {
-    widthValueLabel->setText(PositionRange::valueText(widthSlider->points(), u"px"_s));
-    heightValueLabel->setText(PositionRange::valueText(heightSlider->points(), u"px"_s));
-    fontValueLabel->setText(PositionRange::valueText(fontSlider->points(), u"pt"_s));
+    widthValueLabel->setText(lengthText(widthSlider->points(), u"px"_s));
+    heightValueLabel->setText(lengthText(heightSlider->points(), u"px"_s));
+    fontValueLabel->setText(lengthText(fontSlider->points(), u"pt"_s));
     updateXOffsetLabel();
 }
 
 void DisplaySection::updateXOffsetLabel() {
-    xOffsetLabel->setText(PositionRange::positionText(xOffsetSlider->points()));
+    xOffsetLabel->setText(HorizontalPosition::text(xOffsetSlider->points()));
 }
 
 void DisplaySection::selectScrollRate() {
@@ -167,7 +167,7 @@ void DisplaySection::takeControls(PersistedSettings& values) {
     values.height = heightSlider->points();
     values.fontSize = fontSlider->points();
     updatePositionSliderLimits();
-    xOffsetSlider->setPoints(PositionRange::snapped(xOffsetSlider->points()));
+    xOffsetSlider->setPoints(HorizontalPosition::snapped(xOffsetSlider->points()));
     values.xOffset = xOffsetSlider->points();
     if (tickFactorPopup->currentIndex() < 0) return;
     const QString selected = tickFactorPopup->currentText();

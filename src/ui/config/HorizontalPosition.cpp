@@ -1,4 +1,4 @@
-#include "ui/config/PositionRange.h"
+#include "ui/config/HorizontalPosition.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,25 +13,25 @@ constexpr double offsetWithoutDisplay = 500.0;
 
 } // namespace
 
-double PositionRange::maximumOffset(std::optional<double> displayWidth, double prompterWidth) {
+double HorizontalPosition::maximumOffset(std::optional<double> displayWidth, double prompterWidth) {
     if (!displayWidth) return offsetWithoutDisplay;
     return std::max(0.0, (*displayWidth - prompterWidth) * 0.5);
 }
 
-double PositionRange::snapped(double offset) {
+double HorizontalPosition::snapped(double offset) {
     return std::abs(offset) <= deadZone ? 0.0 : offset;
 }
 
-QString PositionRange::valueText(double value, const QString& unit) {
+QString lengthText(double value, const QString& unit) {
     return QString::number(int(value)) + unit;
 }
 
 // Both the sign and the word tell the direction, on purpose.
-QString PositionRange::positionText(double offset) {
+QString HorizontalPosition::text(double offset) {
     const int whole = int(offset);
     if (whole == 0) return u"Center"_s;
-    if (whole < 0) return valueText(offset, u"px left"_s);
-    return u'+' + valueText(offset, u"px right"_s);
+    if (whole < 0) return lengthText(offset, u"px left"_s);
+    return u'+' + lengthText(offset, u"px right"_s);
 }
 
 } // namespace tessaline

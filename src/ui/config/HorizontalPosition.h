@@ -6,9 +6,11 @@
 
 namespace tessaline {
 
-/// How far the prompter may be shifted sideways, and how sizes and positions are put in words. Pure
-/// functions; all lengths in points.
-struct PositionRange {
+/// The whole part of a length, without the fraction, and the unit behind it: "600px".
+QString lengthText(double value, const QString& unit);
+
+/// How far the prompter is shifted sideways from the middle of its display, in points.
+struct HorizontalPosition {
     /// Shifts up to here, either way, are taken for none.
     static constexpr double deadZone = 20.0;
 
@@ -19,11 +21,8 @@ struct PositionRange {
     /// 0 within the dead zone, else the offset itself.
     static double snapped(double offset);
 
-    /// The whole part, without the fraction, and the unit behind it: "600px".
-    static QString valueText(double value, const QString& unit);
-
     /// "Center", "-35px left" or "+35px right".
-    static QString positionText(double offset);
+    static QString text(double offset);
 };
 
 } // namespace tessaline

@@ -1,4 +1,4 @@
-#include "ui/config/PositionRange.h"
+#include "ui/config/HorizontalPosition.h"
 
 #include "support/PrintQt.h"
 
@@ -9,18 +9,18 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-TEST(PositionRange, ReachesToEitherEdgeOfTheDisplayAndNoFarther) {
-    EXPECT_EQ(PositionRange::maximumOffset(1000, 800), 100.0);
-    EXPECT_EQ(PositionRange::maximumOffset(1001, 800), 100.5);
+TEST(HorizontalPosition, ReachesToEitherEdgeOfTheDisplayAndNoFarther) {
+    EXPECT_EQ(HorizontalPosition::maximumOffset(1000, 800), 100.0);
+    EXPECT_EQ(HorizontalPosition::maximumOffset(1001, 800), 100.5);
 }
 
-TEST(PositionRange, IsEmptyForAPrompterAsWideAsTheDisplayOrWider) {
-    EXPECT_EQ(PositionRange::maximumOffset(800, 800), 0.0);
-    EXPECT_EQ(PositionRange::maximumOffset(640, 800), 0.0);
+TEST(HorizontalPosition, IsEmptyForAPrompterAsWideAsTheDisplayOrWider) {
+    EXPECT_EQ(HorizontalPosition::maximumOffset(800, 800), 0.0);
+    EXPECT_EQ(HorizontalPosition::maximumOffset(640, 800), 0.0);
 }
 
-TEST(PositionRange, IsFixedWithoutADisplay) {
-    EXPECT_EQ(PositionRange::maximumOffset(std::nullopt, 800), 500.0);
+TEST(HorizontalPosition, IsFixedWithoutADisplay) {
+    EXPECT_EQ(HorizontalPosition::maximumOffset(std::nullopt, 800), 500.0);
 }
 
 struct Snap {
@@ -31,7 +31,7 @@ struct Snap {
 class PositionSnapping : public testing::TestWithParam<Snap> {};
 
 TEST_P(PositionSnapping, TakesTheMiddleForSmallOffsetsOnly) {
-    EXPECT_EQ(PositionRange::snapped(GetParam().offset), GetParam().snapped);
+    EXPECT_EQ(HorizontalPosition::snapped(GetParam().offset), GetParam().snapped);
 }
 
 INSTANTIATE_TEST_SUITE_P(Offsets, PositionSnapping,
@@ -46,7 +46,7 @@ struct Words {
 class PositionText : public testing::TestWithParam<Words> {};
 
 TEST_P(PositionText, TellsTheWholePointsAndTheDirectionTwice) {
-    EXPECT_EQ(PositionRange::positionText(GetParam().offset), GetParam().text);
+    EXPECT_EQ(HorizontalPosition::text(GetParam().offset), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Offsets, PositionText,
@@ -55,9 +55,9 @@ INSTANTIATE_TEST_SUITE_P(Offsets, PositionText,
                                          Words{35.9, u"+35px right"_s}, Words{-35, u"-35px left"_s},
                                          Words{-35.9, u"-35px left"_s}));
 
-TEST(PositionRange, CutsTheFractionOffAValue) {
-    EXPECT_EQ(PositionRange::valueText(600, u"px"_s), u"600px"_s);
-    EXPECT_EQ(PositionRange::valueText(18.99, u"pt"_s), u"18pt"_s);
+TEST(HorizontalPosition, CutsTheFractionOffAValue) {
+    EXPECT_EQ(lengthText(600, u"px"_s), u"600px"_s);
+    EXPECT_EQ(lengthText(18.99, u"pt"_s), u"18pt"_s);
 }
 
 } // namespace
