@@ -15,8 +15,6 @@
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
-#include "prompter/controls/PressableButton.h"
-#include "prompter/controls/TrafficLightCloseButton.h"
 #include "prompter/view/ScriptView.h"
 #include "reading/ReadingSession.h"
 #include "sources/ClipboardSource.h"
@@ -160,15 +158,15 @@ void AppDelegate::createConfigWindow() {
 
 void AppDelegate::connectButtons() {
     const ControlStrip& controls = prompterWindow->controls();
-    const auto wire = [this](QAbstractButton* button, void (AppDelegate::*action)()) {
-        QObject::connect(button, &QAbstractButton::clicked, button, weakly(action));
+    const auto wire = [&](void (ControlStrip::*pressed)(), void (AppDelegate::*action)()) {
+        QObject::connect(&controls, pressed, &controls, weakly(action));
     };
-    wire(controls.configButton, &AppDelegate::showConfig);
-    wire(controls.autoScrollButton, &AppDelegate::toggleScroll);
-    wire(controls.minimizeButton, &AppDelegate::toggleMinimize);
-    wire(controls.pasteButton, &AppDelegate::cycleSource);
+    wire(&ControlStrip::configPressed, &AppDelegate::showConfig);
+    wire(&ControlStrip::autoScrollPressed, &AppDelegate::toggleScroll);
+    wire(&ControlStrip::minimizePressed, &AppDelegate::toggleMinimize);
+    wire(&ControlStrip::pastePressed, &AppDelegate::cycleSource);
     // It hides only: the program ends from the status menu.
-    wire(controls.quitButton, &AppDelegate::hidePrompterWindow);
+    wire(&ControlStrip::quitPressed, &AppDelegate::hidePrompterWindow);
 }
 
 void AppDelegate::setupStatusItem() {

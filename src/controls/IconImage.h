@@ -7,6 +7,8 @@ namespace tessaline {
 
 /// An icon scaled into a square, as sharp as the screen shows it.
 class IconImage : public QLabel {
+    Q_OBJECT
+
 public:
     /// A square of so many points.
     IconImage(const QIcon& icon, int side, QWidget* parent = nullptr);

@@ -88,6 +88,12 @@ ControlStrip::ControlStrip(QWidget* parent)
     statsLabel->setFont(systemFont(11, QFont::Medium));
     statsLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setTextColor(*statsLabel, Qt::white);
+    sourceIconView->setObjectName(u"prompter_sourceIconView"_s);
+    connect(quitButton, &QAbstractButton::clicked, this, &ControlStrip::quitPressed);
+    connect(minimizeButton, &QAbstractButton::clicked, this, &ControlStrip::minimizePressed);
+    connect(configButton, &QAbstractButton::clicked, this, &ControlStrip::configPressed);
+    connect(autoScrollButton, &QAbstractButton::clicked, this, &ControlStrip::autoScrollPressed);
+    connect(pasteButton, &QAbstractButton::clicked, this, &ControlStrip::pastePressed);
     showSourceMode(SourceMode::file);
 }
 

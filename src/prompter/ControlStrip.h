@@ -3,8 +3,9 @@
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
 
-#include <QLabel>
 #include <QWidget>
+
+class QLabel;
 
 namespace tessaline {
 
@@ -14,7 +15,7 @@ class PressableButton;
 class TrafficLightCloseButton;
 
 /// The row of controls along the prompter's top edge. It draws nothing of its own and knows no
-/// actions: whoever owns it connects the buttons. Main thread only.
+/// actions: it tells which button was pressed. Main thread only.
 class ControlStrip : public QWidget {
     Q_OBJECT
 
@@ -29,14 +30,12 @@ public:
     void showSource(SourceType source);
     void showCollapsed(bool collapsed);
 
-    TrafficLightCloseButton* const quitButton;
-    PressableButton* const minimizeButton;
-    PressableButton* const configButton;
-    PressableButton* const autoScrollButton;
-    IconImage* const sourceIconView;
-    QLabel* const sourceLabel;
-    PressableButton* const pasteButton;
-    ElidingLabel* const statsLabel;
+Q_SIGNALS:
+    void quitPressed();
+    void minimizePressed();
+    void configPressed();
+    void autoScrollPressed();
+    void pastePressed();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -45,6 +44,14 @@ private:
     void showSourceName(const QString& name, const QColor& color);
     void arrange();
 
+    TrafficLightCloseButton* const quitButton;
+    PressableButton* const minimizeButton;
+    PressableButton* const configButton;
+    PressableButton* const autoScrollButton;
+    IconImage* const sourceIconView;
+    QLabel* const sourceLabel;
+    PressableButton* const pasteButton;
+    ElidingLabel* const statsLabel;
     double stripHeight = 24.0;
 };
 

@@ -73,8 +73,7 @@ QWidget* ConfigWindow::createContent() {
     display->onSettingsChanged = [this] { announceSettings(); };
     display->onSliderReleased = [this] { announceSize(); };
     accessibility = new AccessibilityRow;
-    connect(accessibility->accessibilityFixButton, &QPushButton::clicked, this,
-            &ConfigWindow::fixAccessibility);
+    connect(accessibility, &AccessibilityRow::fixPressed, this, &ConfigWindow::fixAccessibility);
 
     auto* content = new QWidget;
     QVBoxLayout* column = layOutColumn(*content, spacing);

@@ -231,8 +231,7 @@ void OnboardingWindow::updateIntegrationStatuses() {
     const auto found = integrationToggles.find(SourceType::obsidian);
     if (found == integrationToggles.end()) return;
     const ObsidianStatusText status = pluginStatus();
-    found->second->toggleSwitch->setChecked(status.sourceEnabled);
-    found->second->statusLabel->setText(status.textWithVault());
+    found->second->showState(status.sourceEnabled, status.textWithVault());
 }
 
 void OnboardingWindow::continueClicked() {

@@ -1,5 +1,7 @@
 #include "AppDelegateFixture.h"
 
+#include "support/Part.h"
+
 #include "appearance/SystemPalette.h"
 #include "controls/ElidingLabel.h"
 #include "prompter/ControlStrip.h"
@@ -81,8 +83,9 @@ TEST_F(AppDelegateConnections, ScrollAtTheRateThatIsChosen) {
     displayLinks.refresh(1);
     mainQueue.runAll();
     EXPECT_NEAR(prompter()->textView().scrollPosition(), 0.16, 1e-9);
-    EXPECT_EQ(prompter()->controls().statsLabel->palette().color(QPalette::WindowText),
-              SystemPalette::red);
+    EXPECT_EQ(
+        part<QLabel>(*prompter(), "prompter_statsLabel")->palette().color(QPalette::WindowText),
+        SystemPalette::red);
 }
 
 TEST_F(AppDelegateConnections, KeepTheSettingsWindowBelowThePrompterWhenItsHeightChanges) {
@@ -160,10 +163,10 @@ TEST_F(AppDelegateConnections, CycleTheSourceByThePasteButton) {
     enableBothSources();
     launch();
     ASSERT_EQ(shownSource(), u"CLIPBOARD"_s);
-    prompter()->controls().pasteButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_pasteButton")->click();
     EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
     EXPECT_THAT(timers.liveIntervals(), Contains(1.0));
-    prompter()->controls().pasteButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_pasteButton")->click();
     EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
 }
 
@@ -171,7 +174,7 @@ TEST_F(AppDelegateConnections, ShowTheCycledSourceInTheSettings) {
     enableBothSources();
     launch();
     delegate->showConfig();
-    prompter()->controls().pasteButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_pasteButton")->click();
     const auto* popup = config()->findChild<PopupButton*>(u"config_sourcePopup"_s);
     ASSERT_NE(popup, nullptr);
     EXPECT_EQ(popup->currentText(), u"Obsidian"_s);

@@ -1,5 +1,7 @@
 #include "AppDelegateFixture.h"
 
+#include "support/Part.h"
+
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
 #include "settings/SettingsCodec.h"
@@ -86,7 +88,7 @@ QString AppDelegateFixture::keptScript() {
 }
 
 QString AppDelegateFixture::shownSource() const {
-    return prompter()->controls().sourceLabel->text();
+    return part<QLabel>(*prompter(), "prompter_sourceLabel")->text();
 }
 
 bool AppDelegateFixture::recorded(const QString& name) const {

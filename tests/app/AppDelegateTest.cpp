@@ -6,6 +6,7 @@
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "sources/SourceManager.h"
+#include "support/Part.h"
 #include "support/TestFiles.h"
 #include "ui/ConfigWindow.h"
 #include "ui/controls/PopupButton.h"
@@ -102,7 +103,7 @@ TEST_F(AppDelegateTest, RecordsWhetherThePermissionIsGranted) {
 TEST_F(AppDelegateTest, HidesThePrompterByItsQuitButtonAndShowsItAgainInItsPlace) {
     launch();
     const QRect place = prompter()->geometry();
-    prompter()->controls().quitButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_quitButton")->click();
     EXPECT_FALSE(prompter()->isVisible());
     EXPECT_EQ(terminations, 0);
     EXPECT_TRUE(recorded(u"window_hidden"_s));
@@ -120,10 +121,10 @@ TEST_F(AppDelegateTest, HidesThePrompterByItsQuitButtonAndShowsItAgainInItsPlace
 
 TEST_F(AppDelegateTest, FoldsAndUnfoldsThePrompterByItsMinimizeButton) {
     launch();
-    prompter()->controls().minimizeButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_minimizeButton")->click();
     EXPECT_TRUE(prompter()->isCollapsed());
     EXPECT_EQ(recorder.events.back().name, u"window_minimized"_s);
-    prompter()->controls().minimizeButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_minimizeButton")->click();
     EXPECT_FALSE(prompter()->isCollapsed());
     EXPECT_EQ(recorder.events.back().name, u"window_expanded"_s);
 }
@@ -131,19 +132,19 @@ TEST_F(AppDelegateTest, FoldsAndUnfoldsThePrompterByItsMinimizeButton) {
 TEST_F(AppDelegateTest, TogglesAutoScrollByItsButtonAndRecordsTheNewState) {
     configure([](PersistedSettings& settings) { settings.scrollRate = ScrollRate::fast; });
     launch();
-    prompter()->controls().autoScrollButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_autoScrollButton")->click();
     EXPECT_TRUE(savedSettings().autoScrollEnabled());
     EXPECT_EQ(recorder.events.back().name, u"auto_scroll_toggled"_s);
     EXPECT_EQ(recorder.events.back().properties,
               (QMap<QString, QString>{{u"enabled"_s, u"true"_s}, {u"scroll_rate"_s, u"fast"_s}}));
-    prompter()->controls().autoScrollButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_autoScrollButton")->click();
     EXPECT_FALSE(savedSettings().autoScrollEnabled());
 }
 
 TEST_F(AppDelegateTest, OpensTheSettingsByTheirButton) {
     launch();
     const std::size_t timersBefore = timers.liveIntervals().size();
-    prompter()->controls().configButton->click();
+    part<QAbstractButton>(*prompter(), "prompter_configButton")->click();
     EXPECT_TRUE(config()->isVisible());
     EXPECT_EQ(activationPolicy.activations, 1);
     ASSERT_EQ(timers.liveIntervals().size(), timersBefore + 1);

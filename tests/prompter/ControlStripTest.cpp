@@ -2,10 +2,9 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
-#include "controls/ElidingLabel.h"
-#include "controls/IconImage.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
+#include "support/Part.h"
 #include "support/WidgetPicture.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +25,7 @@ protected:
     ControlStripTest() { strip.resize(450, 44); }
 
     QColor sourceLabelColor() const {
-        return strip.sourceLabel->palette().color(QPalette::WindowText);
+        return part<QLabel>(strip, "prompter_sourceLabel")->palette().color(QPalette::WindowText);
     }
 
     ControlStrip strip;
@@ -40,61 +39,72 @@ void expectGlyph(const PressableButton& button, const QString& glyph, double poi
 }
 
 TEST_F(ControlStripTest, StartsWithTheGlyphsInTheirSizes) {
-    expectGlyph(*strip.minimizeButton, u"—"_s, 12, QFont::Normal);
-    expectGlyph(*strip.configButton, u"⚙\uFE0E"_s, 16, QFont::Normal);
-    expectGlyph(*strip.autoScrollButton, u"⏯"_s, 16, QFont::Normal);
+    expectGlyph(*part<PressableButton>(strip, "prompter_minimizeButton"), u"—"_s, 12,
+                QFont::Normal);
+    expectGlyph(*part<PressableButton>(strip, "prompter_configButton"), u"⚙\uFE0E"_s, 16,
+                QFont::Normal);
+    expectGlyph(*part<PressableButton>(strip, "prompter_autoScrollButton"), u"⏯"_s, 16,
+                QFont::Normal);
 }
 
 TEST_F(ControlStripTest, StartsInFileModeWithoutASourceIcon) {
-    EXPECT_EQ(strip.sourceLabel->text(), u"FILE"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"FILE"_s);
     EXPECT_EQ(sourceLabelColor(), SystemPalette::blue);
-    expectGlyph(*strip.pasteButton, u"📋"_s, 14, QFont::Normal);
-    EXPECT_TRUE(strip.sourceIconView->isHidden());
+    expectGlyph(*part<PressableButton>(strip, "prompter_pasteButton"), u"📋"_s, 14, QFont::Normal);
+    EXPECT_TRUE(part<QLabel>(strip, "prompter_sourceIconView")->isHidden());
 }
 
 TEST_F(ControlStripTest, ShowsClipboardMode) {
     strip.showSourceMode(SourceMode::clipboard);
-    EXPECT_EQ(strip.sourceLabel->text(), u"CLIP"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"CLIP"_s);
     EXPECT_EQ(sourceLabelColor(), SystemPalette::orange);
-    expectGlyph(*strip.pasteButton, u"📄"_s, 14, QFont::Normal);
+    expectGlyph(*part<PressableButton>(strip, "prompter_pasteButton"), u"📄"_s, 14, QFont::Normal);
 }
 
 TEST_F(ControlStripTest, TellsTheClipboardFromTheOtherSourcesByThePage) {
     strip.showSource(SourceType::clipboard);
-    expectGlyph(*strip.pasteButton, u"📄"_s, 14, QFont::Normal);
+    expectGlyph(*part<PressableButton>(strip, "prompter_pasteButton"), u"📄"_s, 14, QFont::Normal);
     strip.showSource(SourceType::obsidian);
-    expectGlyph(*strip.pasteButton, u"📋"_s, 14, QFont::Normal);
+    expectGlyph(*part<PressableButton>(strip, "prompter_pasteButton"), u"📋"_s, 14, QFont::Normal);
 }
 
 TEST_F(ControlStripTest, DrawsTheSquareLighterThanTheDash) {
     strip.showCollapsed(true);
-    expectGlyph(*strip.minimizeButton, u"□"_s, 14, QFont::DemiBold);
+    expectGlyph(*part<PressableButton>(strip, "prompter_minimizeButton"), u"□"_s, 14,
+                QFont::DemiBold);
     strip.showCollapsed(false);
-    expectGlyph(*strip.minimizeButton, u"—"_s, 14, QFont::Bold);
+    expectGlyph(*part<PressableButton>(strip, "prompter_minimizeButton"), u"—"_s, 14, QFont::Bold);
 }
 
 TEST_F(ControlStripTest, SetsItsLabelsSmall) {
-    EXPECT_NEAR(pointsOf(strip.sourceLabel->font()), 9, 0.01);
-    EXPECT_EQ(strip.sourceLabel->font().weight(), QFont::Bold);
-    EXPECT_EQ(strip.sourceLabel->alignment(), Qt::AlignCenter);
-    EXPECT_NEAR(pointsOf(strip.statsLabel->font()), 11, 0.01);
-    EXPECT_EQ(strip.statsLabel->font().weight(), QFont::Medium);
+    EXPECT_NEAR(pointsOf(part<QLabel>(strip, "prompter_sourceLabel")->font()), 9, 0.01);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->font().weight(), QFont::Bold);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->alignment(), Qt::AlignCenter);
+    EXPECT_NEAR(pointsOf(part<QLabel>(strip, "prompter_statsLabel")->font()), 11, 0.01);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_statsLabel")->font().weight(), QFont::Medium);
 }
 
 TEST_F(ControlStripTest, CentresTheCloseButtonInTheStrip) {
     for (const auto& [height, top] : {std::pair{24.0, 6}, {32.0, 10}, {38.0, 13}}) {
         strip.setStripHeight(height);
-        EXPECT_EQ(strip.quitButton->geometry(), QRect(10, top, 12, 12)) << height;
+        EXPECT_EQ(part<QAbstractButton>(strip, "prompter_quitButton")->geometry(),
+                  QRect(10, top, 12, 12))
+            << height;
     }
 }
 
 TEST_F(ControlStripTest, LinesTheOthersUpWithTheCloseButtonSideBySide) {
     strip.setStripHeight(32);
     strip.showSource(SourceType::obsidian);
-    const std::vector<QWidget*> controls{
-        strip.quitButton,     strip.minimizeButton, strip.configButton, strip.autoScrollButton,
-        strip.sourceIconView, strip.sourceLabel,    strip.pasteButton,  strip.statsLabel};
-    const QRectF closeButton = strip.quitButton->geometry();
+    const std::vector<QWidget*> controls{part<QAbstractButton>(strip, "prompter_quitButton"),
+                                         part<QAbstractButton>(strip, "prompter_minimizeButton"),
+                                         part<QAbstractButton>(strip, "prompter_configButton"),
+                                         part<QAbstractButton>(strip, "prompter_autoScrollButton"),
+                                         part<QLabel>(strip, "prompter_sourceIconView"),
+                                         part<QLabel>(strip, "prompter_sourceLabel"),
+                                         part<QAbstractButton>(strip, "prompter_pasteButton"),
+                                         part<QLabel>(strip, "prompter_statsLabel")};
+    const QRectF closeButton = part<QAbstractButton>(strip, "prompter_quitButton")->geometry();
     for (std::size_t i = 1; i < controls.size(); ++i) {
         const QRectF geometry = controls[i]->geometry();
         EXPECT_NEAR(geometry.center().y(), closeButton.center().y(), 0.5) << i;
@@ -102,7 +112,7 @@ TEST_F(ControlStripTest, LinesTheOthersUpWithTheCloseButtonSideBySide) {
         EXPECT_GE(space, 2) << i;
         EXPECT_LE(space, 4) << i;
     }
-    EXPECT_EQ(QRectF(strip.statsLabel->geometry()).right(), 440);
+    EXPECT_EQ(QRectF(part<QLabel>(strip, "prompter_statsLabel")->geometry()).right(), 440);
 }
 
 TEST_F(ControlStripTest, KeepsItsPlacesWhenTheSourceOrTheFoldingChanges) {
@@ -110,8 +120,14 @@ TEST_F(ControlStripTest, KeepsItsPlacesWhenTheSourceOrTheFoldingChanges) {
     const auto places = [&] {
         std::vector<QRect> found;
         for (const QWidget* control : std::initializer_list<QWidget*>{
-                 strip.quitButton, strip.minimizeButton, strip.configButton, strip.autoScrollButton,
-                 strip.sourceIconView, strip.sourceLabel, strip.pasteButton, strip.statsLabel})
+                 part<QAbstractButton>(strip, "prompter_quitButton"),
+                 part<QAbstractButton>(strip, "prompter_minimizeButton"),
+                 part<QAbstractButton>(strip, "prompter_configButton"),
+                 part<QAbstractButton>(strip, "prompter_autoScrollButton"),
+                 part<QLabel>(strip, "prompter_sourceIconView"),
+                 part<QLabel>(strip, "prompter_sourceLabel"),
+                 part<QAbstractButton>(strip, "prompter_pasteButton"),
+                 part<QLabel>(strip, "prompter_statsLabel")})
             found.push_back(control->geometry());
         return found;
     };
@@ -122,14 +138,16 @@ TEST_F(ControlStripTest, KeepsItsPlacesWhenTheSourceOrTheFoldingChanges) {
     EXPECT_EQ(places(), before);
     strip.showCollapsed(false);
     EXPECT_EQ(places(), before);
-    EXPECT_GE(strip.minimizeButton->width(), strip.minimizeButton->sizeHint().width());
-    EXPECT_GE(strip.minimizeButton->height(), strip.minimizeButton->sizeHint().height());
+    EXPECT_GE(part<QAbstractButton>(strip, "prompter_minimizeButton")->width(),
+              part<QAbstractButton>(strip, "prompter_minimizeButton")->sizeHint().width());
+    EXPECT_GE(part<QAbstractButton>(strip, "prompter_minimizeButton")->height(),
+              part<QAbstractButton>(strip, "prompter_minimizeButton")->sizeHint().height());
 }
 
 TEST_F(ControlStripTest, SetsTheStatisticsInTheirColorAtTheRight) {
     strip.setStripHeight(32);
     strip.showStatistics(u"1 words"_s, SystemPalette::red);
-    ElidingLabel& label = *strip.statsLabel;
+    QLabel& label = *part<QLabel>(strip, "prompter_statsLabel");
     const QImage picture = pictureOf(label, 4);
     const QRectF ink = inkOf(picture);
     EXPECT_NEAR(ink.right(), label.width(), 2);

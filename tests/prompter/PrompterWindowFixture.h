@@ -13,6 +13,7 @@
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
 #include "support/FakeWindowTraits.h"
+#include "support/Part.h"
 #include "support/TestPlatform.h"
 
 #include <QApplication>
@@ -54,7 +55,7 @@ protected:
         window().textView().completeLayout();
     }
 
-    QString statistics() { return window().controls().statsLabel->text(); }
+    QString statistics() { return part<QLabel>(window(), "prompter_statsLabel")->text(); }
 
     /// The hint takes sixty points, about, in the middle of the text view.
     void expectHintInTheMiddle() {

@@ -3,6 +3,8 @@
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "screens/ScreenManager.h"
 
+#include "support/Part.h"
+
 #include <optional>
 
 namespace tessaline {
@@ -87,7 +89,7 @@ TEST_F(PrompterWindowPlacement, TakesTheHeightOfTheSettingsAlsoWhileCollapsed) {
 }
 
 TEST_F(PrompterWindowPlacement, CentresItsControlsInAPanelThatHasGrown) {
-    const auto* quitButton = window().controls().quitButton;
+    const auto* quitButton = part<QAbstractButton>(window(), "prompter_quitButton");
     EXPECT_EQ(quitButton->geometry(), QRect(10, 10, 12, 12));
     screens.attached[0].visibleFrame.height -= 8;
     window().updateFrame();

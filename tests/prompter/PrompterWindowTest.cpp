@@ -1,5 +1,7 @@
 #include "prompter/PrompterWindow.h"
 
+#include "support/Part.h"
+
 #include "appearance/SystemPalette.h"
 #include "controls/ElidingLabel.h"
 #include "controls/IconImage.h"
@@ -91,7 +93,7 @@ TEST_F(PrompterWindowTest, KeepsTheTextBelowTheStripOfControls) {
     EXPECT_EQ(scrollArea->geometry(), QRect(10, 44, 430, 202));
     EXPECT_EQ(window().textView().geometry(), scrollArea->rect());
     EXPECT_EQ(window().menuBarHeight(), 32);
-    const auto* quit = window().controls().quitButton;
+    const auto* quit = part<QAbstractButton>(window(), "prompter_quitButton");
     EXPECT_EQ(quit->geometry(), QRect(10, 10, 12, 12));
 }
 
@@ -259,7 +261,7 @@ TEST_F(PrompterWindowTest, KeepsThePlaceWhenAnEditedTextArrives) {
 TEST_F(PrompterWindowTest, TellsWordsAndTime) {
     show(u"one two three"_s);
     EXPECT_EQ(statistics(), u"3 words • ~5s"_s);
-    EXPECT_EQ(window().controls().statsLabel->palette().color(QPalette::WindowText),
+    EXPECT_EQ(part<QLabel>(window(), "prompter_statsLabel")->palette().color(QPalette::WindowText),
               SystemPalette::yellow);
 }
 
@@ -271,14 +273,14 @@ TEST_F(PrompterWindowTest, TellsTheTimeForWhatIsLeftToScroll) {
     EXPECT_EQ(statistics(), u"200 words • ~%1m%2s"_s.arg(seconds / 60).arg(seconds % 60));
 }
 
-TEST_F(PrompterWindowTest, CorrectsTheTimeOnceAQuestionHasMeasuredTheRestOfTheText) {
+TEST_F(PrompterWindowTest, CorrectsTheTimeOnceTheRestOfTheTextHasBeenMeasured) {
     window().updateText(u"iiii "_s.repeated(1500) + u"\n"_s + u"iiii "_s.repeated(1500));
     queue.runAll();
     auto& view = window().textView();
     ASSERT_FALSE(view.isLayoutComplete());
     const QString estimate = statistics();
-    view.caretRect(0);
-    view.caretRect(view.script().styled.text.size());
+    view.reveal(0);
+    view.reveal(view.script().styled.text.size());
     ASSERT_TRUE(view.isLayoutComplete());
     const QString told = statistics();
     window().updateStats();
@@ -290,43 +292,49 @@ TEST_F(PrompterWindowTest, ShowsTheRateInTheColorOfTheStatistics) {
     show(u"text"_s);
     settings.setScrollRate(ScrollRate::fast);
     window().updateScrollParameters();
-    EXPECT_EQ(window().controls().statsLabel->palette().color(QPalette::WindowText),
+    EXPECT_EQ(part<QLabel>(window(), "prompter_statsLabel")->palette().color(QPalette::WindowText),
               SystemPalette::red);
 }
 
 TEST_F(PrompterWindowTest, NamesTheSourceInItsColor) {
     const ControlStrip& strip = window().controls();
-    const auto color = [&] { return strip.sourceLabel->palette().color(QPalette::WindowText); };
+    const auto color = [&] {
+        return part<QLabel>(strip, "prompter_sourceLabel")->palette().color(QPalette::WindowText);
+    };
     window().updateSourceIndicator(SourceType::obsidian);
-    EXPECT_EQ(strip.sourceLabel->text(), u"OBSIDIAN"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"OBSIDIAN"_s);
     EXPECT_EQ(color(), QColor::fromRgbF(0.49F, 0.23F, 0.93F));
-    EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Obsidian)"_s);
-    EXPECT_EQ(strip.pasteButton->text(), u"📋"_s);
-    EXPECT_TRUE(strip.sourceIconView->isVisible());
-    EXPECT_EQ(strip.sourceIconView->accessibleName(), u"Obsidian"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->toolTip(),
+              u"Cycle content source (current: Obsidian)"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->text(), u"📋"_s);
+    EXPECT_TRUE(part<QLabel>(strip, "prompter_sourceIconView")->isVisible());
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceIconView")->accessibleName(), u"Obsidian"_s);
     window().updateSourceIndicator(SourceType::appleNotes);
-    EXPECT_EQ(strip.sourceLabel->text(), u"APPLE NOTES"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"APPLE NOTES"_s);
     EXPECT_EQ(color(), SystemPalette::yellow);
     window().updateSourceIndicator(SourceType::clipboard);
-    EXPECT_EQ(strip.sourceLabel->text(), u"CLIPBOARD"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"CLIPBOARD"_s);
     EXPECT_EQ(color(), SystemPalette::orange);
-    EXPECT_EQ(strip.pasteButton->toolTip(), u"Cycle content source (current: Clipboard)"_s);
-    EXPECT_EQ(strip.pasteButton->text(), u"📄"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->toolTip(),
+              u"Cycle content source (current: Clipboard)"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->text(), u"📄"_s);
 }
 
 TEST_F(PrompterWindowTest, NamesTheSourceMode) {
     const ControlStrip& strip = window().controls();
-    EXPECT_EQ(strip.sourceLabel->text(), u"FILE"_s);
-    EXPECT_EQ(strip.pasteButton->toolTip(), u"Switch to clipboard mode (paste)"_s);
-    EXPECT_EQ(strip.pasteButton->text(), u"📋"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"FILE"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->toolTip(),
+              u"Switch to clipboard mode (paste)"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->text(), u"📋"_s);
     window().updateSourceModeIndicator(SourceMode::clipboard);
-    EXPECT_EQ(strip.sourceLabel->text(), u"CLIP"_s);
-    EXPECT_EQ(strip.pasteButton->toolTip(), u"Switch back to file mode"_s);
-    EXPECT_EQ(strip.pasteButton->text(), u"📄"_s);
+    EXPECT_EQ(part<QLabel>(strip, "prompter_sourceLabel")->text(), u"CLIP"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->toolTip(),
+              u"Switch back to file mode"_s);
+    EXPECT_EQ(part<QAbstractButton>(strip, "prompter_pasteButton")->text(), u"📄"_s);
 }
 
 TEST_F(PrompterWindowTest, ShowsWhatTheMinimizeButtonDoesNext) {
-    const auto* button = window().controls().minimizeButton;
+    const auto* button = part<QAbstractButton>(window(), "prompter_minimizeButton");
     EXPECT_EQ(button->text(), u"—"_s);
     window().toggleCollapsed();
     EXPECT_EQ(button->text(), u"□"_s);

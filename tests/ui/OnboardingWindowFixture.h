@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Part.h"
 #include "ui/OnboardingWindow.h"
 #include "ui/VisibleSheet.h"
 #include "ui/WindowStage.h"
@@ -49,7 +50,9 @@ protected:
         return *window().findChild<QPushButton*>(QStringLiteral("onboarding_continueButton"));
     }
 
-    void switchObsidian() { QTest::mouseClick(obsidian().toggleSwitch, Qt::LeftButton); }
+    void switchObsidian() {
+        QTest::mouseClick(part<Switch>(obsidian(), "toggleSwitch"), Qt::LeftButton);
+    }
 
     Alert* sheet() { return visibleSheet(window()); }
 

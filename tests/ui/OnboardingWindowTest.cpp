@@ -1,4 +1,5 @@
 #include "appearance/SystemPalette.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/OnboardingWindowFixture.h"
 #include "ui/SpokenControls.h"
@@ -79,9 +80,9 @@ TEST_F(OnboardingWindowTest, HasItsTextsAndSize) {
     EXPECT_EQ(
         window().findChild<QLabel*>(u"onboarding_subtitle"_s)->text(),
         u"Turn the top of your screen into a teleprompter. Read scripts, notes, or any text right below your camera."_s);
-    EXPECT_EQ(permission().titleLabel->text(), u"Shortcuts in Any Application"_s);
+    EXPECT_EQ(part<QLabel>(permission(), "titleLabel")->text(), u"Shortcuts in Any Application"_s);
     EXPECT_EQ(
-        permission().descriptionLabel->text(),
+        part<QLabel>(permission(), "descriptionLabel")->text(),
         u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s);
     EXPECT_EQ(continueButton().text(), u"Get Started"_s);
     EXPECT_GE(continueButton().width(), 120);
@@ -143,14 +144,14 @@ TEST_F(OnboardingWindowTest, SetsItsTextsInTheirSizesAndWeights) {
               TextType(24, QFont::Bold));
     EXPECT_EQ(typeOf(label(u"Optional Permissions"_s)), TextType(12, QFont::DemiBold));
     EXPECT_EQ(typeOf(label(u"Content Sources"_s)), TextType(12, QFont::DemiBold));
-    EXPECT_EQ(typeOf(*permission().titleLabel), TextType(14, QFont::DemiBold));
-    EXPECT_EQ(typeOf(*permission().descriptionLabel), TextType(12, QFont::Normal));
-    EXPECT_EQ(typeOf(*obsidian().titleLabel), TextType(14, QFont::DemiBold));
-    EXPECT_EQ(typeOf(*obsidian().statusLabel), TextType(11, QFont::Normal));
-    EXPECT_EQ(typeOf(*obsidian().iconLabel), TextType(20, QFont::Normal));
-    EXPECT_EQ(permission().statusIndicator->size(), QSize(12, 12));
-    EXPECT_GE(permission().grantButton->minimumWidth(), 100);
-    EXPECT_EQ(obsidian().iconLabel->width(), 24);
+    EXPECT_EQ(typeOf(*part<QLabel>(permission(), "titleLabel")), TextType(14, QFont::DemiBold));
+    EXPECT_EQ(typeOf(*part<QLabel>(permission(), "descriptionLabel")), TextType(12, QFont::Normal));
+    EXPECT_EQ(typeOf(*part<QLabel>(obsidian(), "titleLabel")), TextType(14, QFont::DemiBold));
+    EXPECT_EQ(typeOf(*part<QLabel>(obsidian(), "statusLabel")), TextType(11, QFont::Normal));
+    EXPECT_EQ(typeOf(*part<QLabel>(obsidian(), "iconLabel")), TextType(20, QFont::Normal));
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->size(), QSize(12, 12));
+    EXPECT_GE(part<QPushButton>(permission(), "grantButton")->minimumWidth(), 100);
+    EXPECT_EQ(part<QLabel>(obsidian(), "iconLabel")->width(), 24);
 }
 
 TEST_F(OnboardingWindowTest, EveryControlHasARoleAndANameForScreenReaders) {
@@ -166,32 +167,33 @@ TEST_F(OnboardingWindowTest, EveryButtonsNameHoldsItsText) {
 }
 
 TEST_F(OnboardingWindowTest, OffersTheClipboardForGoodAndNoAppleNotes) {
-    window();
-    EXPECT_EQ(row("clipboardToggleView").statusLabel->text(), u"Default — paste any text"_s);
-    EXPECT_TRUE(row("clipboardToggleView").toggleSwitch->isChecked());
-    EXPECT_FALSE(row("clipboardToggleView").toggleSwitch->isEnabled());
-    EXPECT_EQ(row("clipboardToggleView").iconLabel->text(), u"📋"_s);
+    const auto& clipboard = row("clipboardToggleView");
+    EXPECT_EQ(part<QLabel>(clipboard, "statusLabel")->text(), u"Default — paste any text"_s);
+    EXPECT_TRUE(part<Switch>(clipboard, "toggleSwitch")->isChecked());
+    EXPECT_FALSE(part<Switch>(clipboard, "toggleSwitch")->isEnabled());
+    EXPECT_EQ(part<QLabel>(clipboard, "iconLabel")->text(), u"📋"_s);
     EXPECT_EQ(window().findChildren<IntegrationToggleView*>().size(), 2);
 }
 
 TEST_F(OnboardingWindowTest, SaysWhatToDoWhereShortcutsAreOutOfReach) {
     shown();
     EXPECT_EQ(
-        permission().descriptionLabel->text(),
+        part<QLabel>(permission(), "descriptionLabel")->text(),
         u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused.\nNot available on this desktop: in its keyboard settings, bind a key to “tessaline ctl toggle” instead."_s);
-    EXPECT_FALSE(permission().grantButton->isVisible()) << "there is nobody to ask";
+    EXPECT_FALSE(part<QPushButton>(permission(), "grantButton")->isVisible())
+        << "there is nobody to ask";
     EXPECT_EQ(window().size(), QSize(520, 520));
 }
 
 TEST_F(OnboardingWindowTest, NoticesTheGrantWithinASecond) {
     shown();
-    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::orange);
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->color(), SystemPalette::orange);
     EXPECT_THAT(stage.timers.liveIntervals(), ElementsAre(1.0));
     stage.trust.trusted = true;
     stage.pass(1.0);
-    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::green);
-    EXPECT_EQ(permission().grantButton->text(), u"Available ✓"_s);
-    EXPECT_FALSE(permission().grantButton->isEnabled());
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->color(), SystemPalette::green);
+    EXPECT_EQ(part<QPushButton>(permission(), "grantButton")->text(), u"Available ✓"_s);
+    EXPECT_FALSE(part<QPushButton>(permission(), "grantButton")->isEnabled());
 }
 
 TEST_F(OnboardingWindowTest, NoticesTheGrantWhenItBecomesActive) {
@@ -199,7 +201,7 @@ TEST_F(OnboardingWindowTest, NoticesTheGrantWhenItBecomesActive) {
     stage.trust.trusted = true;
     QEvent activation(QEvent::WindowActivate);
     QCoreApplication::sendEvent(&window(), &activation);
-    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::green);
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->color(), SystemPalette::green);
 }
 
 TEST_F(OnboardingWindowTest, HearsOfChangesFromAnySender) {
@@ -207,7 +209,7 @@ TEST_F(OnboardingWindowTest, HearsOfChangesFromAnySender) {
     stage.trust.trusted = true;
     stage.notifications.post(
         {PermissionManager::permissionStatusDidChangeNotification(), &stage, {}});
-    EXPECT_EQ(permission().statusIndicator->color(), SystemPalette::green);
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->color(), SystemPalette::green);
 }
 
 TEST_F(OnboardingWindowTest, FinishingSavesRecordsCallsAndCloses) {
@@ -239,8 +241,8 @@ TEST_P(FinishingKey, PressesGetStartedWhereverTheFocusIs) {
     shown();
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    obsidian().toggleSwitch->setFocus();
-    QTest::keyClick(obsidian().toggleSwitch, GetParam());
+    part<Switch>(obsidian(), "toggleSwitch")->setFocus();
+    QTest::keyClick(part<Switch>(obsidian(), "toggleSwitch"), GetParam());
     EXPECT_EQ(completions, 1);
     EXPECT_FALSE(obsidianEnabled());
 }
@@ -258,7 +260,7 @@ TEST_F(OnboardingWindowTest, TheTabKeyGoesFromTopToBottom) {
         QTest::keyClick(&window(), Qt::Key_Tab);
         visited.push_back(window().focusWidget());
     }
-    EXPECT_THAT(visited, ElementsAre(obsidian().toggleSwitch, &continueButton()));
+    EXPECT_THAT(visited, ElementsAre(part<Switch>(obsidian(), "toggleSwitch"), &continueButton()));
 }
 
 TEST_F(OnboardingWindowTest, NeedsNobodyToTell) {

@@ -26,6 +26,7 @@ AccessibilityRow::AccessibilityRow(QWidget* parent)
     accessibilityFixButton->setObjectName(u"accessibilityFixButton"_s);
     accessibilityFixButton->setAccessibleName(u"Grant Access for Accessibility"_s);
     alternativeLabel->setObjectName(u"accessibilityAlternative"_s);
+    connect(accessibilityFixButton, &QPushButton::clicked, this, &AccessibilityRow::fixPressed);
     auto* row = new QHBoxLayout;
     row->setSpacing(6);
     row->addWidget(accessibilityDot);

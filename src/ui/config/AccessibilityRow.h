@@ -20,6 +20,11 @@ public:
     /// Shows the state.
     void updateStatus(bool trusted);
 
+Q_SIGNALS:
+    /// The user asks for the permission.
+    void fixPressed();
+
+private:
     StatusDot* accessibilityDot = nullptr;
     QLabel* accessibilityLabel = nullptr;
     QPushButton* accessibilityFixButton = nullptr;

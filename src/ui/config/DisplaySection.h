@@ -48,17 +48,6 @@ public:
     /// Whether the user holds a slider with the mouse.
     bool isSliderHeld() const;
 
-    PopupButton* screenPopup = nullptr;
-    PointSlider* widthSlider = nullptr;
-    PointSlider* heightSlider = nullptr;
-    PointSlider* fontSlider = nullptr;
-    PointSlider* xOffsetSlider = nullptr;
-    PopupButton* tickFactorPopup = nullptr;
-    QLabel* widthValueLabel = nullptr;
-    QLabel* heightValueLabel = nullptr;
-    QLabel* fontValueLabel = nullptr;
-    QLabel* xOffsetLabel = nullptr;
-
 private:
     QWidget* createScreenRow();
     QWidget* createScrollRateRow();
@@ -74,6 +63,16 @@ private:
     void takeControls(PersistedSettings& values);
     void screenSelectionChanged();
 
+    PopupButton* screenPopup = nullptr;
+    PointSlider* widthSlider = nullptr;
+    PointSlider* heightSlider = nullptr;
+    PointSlider* fontSlider = nullptr;
+    PointSlider* xOffsetSlider = nullptr;
+    PopupButton* tickFactorPopup = nullptr;
+    QLabel* widthValueLabel = nullptr;
+    QLabel* heightValueLabel = nullptr;
+    QLabel* fontValueLabel = nullptr;
+    QLabel* xOffsetLabel = nullptr;
     AppSettings& settings;
     const Screens& screens;
     UsageRecorder& recorder;

@@ -36,12 +36,6 @@ public:
     /// Installs the plug-in, tells the outcome in an alert and shows the new status.
     void reinstallObsidianPlugin();
 
-    Switch* clipboardToggle = nullptr;
-    Switch* obsidianToggle = nullptr;
-    StatusDot* obsidianStatusDot = nullptr;
-    QLabel* obsidianStatusLabel = nullptr;
-    QPushButton* obsidianConfigButton = nullptr;
-
 Q_SIGNALS:
     /// The user switched Obsidian on or off.
     void obsidianToggled(bool on);
@@ -53,6 +47,11 @@ private:
     bool isObsidianEnabled() const;
     void showPlugin(bool installed, bool enabled);
 
+    Switch* clipboardToggle = nullptr;
+    Switch* obsidianToggle = nullptr;
+    StatusDot* obsidianStatusDot = nullptr;
+    QLabel* obsidianStatusLabel = nullptr;
+    QPushButton* obsidianConfigButton = nullptr;
     const AppSettings& settings;
     const Services& services;
     const FileIcons& icons;

@@ -40,13 +40,6 @@ public:
     /// Called with the new source after the user chose another one.
     std::function<void(SourceType)> onSourceChanged;
 
-    PopupButton* sourcePopup = nullptr;
-    QWidget* sourceConfigContainer = nullptr;
-    ElidingLabel* filePathField = nullptr;
-    QPushButton* browseButton = nullptr;
-    ElidingLabel* noteNameField = nullptr;
-    QPushButton* selectNoteButton = nullptr;
-
 private:
     QWidget* createFileRow();
     QWidget* createNoteRow();
@@ -55,6 +48,12 @@ private:
     void selectNote();
     void showNoteName();
 
+    PopupButton* sourcePopup = nullptr;
+    QWidget* sourceConfigContainer = nullptr;
+    ElidingLabel* filePathField = nullptr;
+    QPushButton* browseButton = nullptr;
+    ElidingLabel* noteNameField = nullptr;
+    QPushButton* selectNoteButton = nullptr;
     AppSettings& settings;
     SourceManager* sourceManager;
     NoteLibrary& notes;

@@ -44,6 +44,9 @@ void IntegrationToggleView::setupUI(bool isEnabled, const QString& statusText,
         makeLabel(displayName(sourceType), systemFont(14, QFont::DemiBold), SystemPalette::label);
     statusLabel = makeLabel(statusText, systemFont(11), SystemPalette::secondaryLabel);
     toggleSwitch = new Switch(displayName(sourceType));
+    titleLabel->setObjectName(u"titleLabel"_s);
+    statusLabel->setObjectName(u"statusLabel"_s);
+    toggleSwitch->setObjectName(u"toggleSwitch"_s);
     toggleSwitch->setChecked(isEnabled);
     toggleSwitch->setEnabled(!isLocked);
     connect(toggleSwitch, &Switch::clicked, this, &IntegrationToggleView::toggleChanged);
@@ -62,12 +65,19 @@ void IntegrationToggleView::setupUI(bool isEnabled, const QString& statusText,
     row->addWidget(toggleSwitch);
 }
 
-QWidget* IntegrationToggleView::createIcon(const QIcon& image) {
+void IntegrationToggleView::showState(bool isEnabled, const QString& statusText) {
+    toggleSwitch->setChecked(isEnabled);
+    statusLabel->setText(statusText);
+}
+
+QWidget* IntegrationToggleView::createIcon(const QIcon& image) const {
     if (image.isNull()) {
-        iconLabel = makeIconLabel(emoji(sourceType), emojiSize, iconSize);
+        QLabel* iconLabel = makeIconLabel(emoji(sourceType), emojiSize, iconSize);
+        iconLabel->setObjectName(u"iconLabel"_s);
         return iconLabel;
     }
-    iconImageView = new IconImage(image, iconSize);
+    auto* iconImageView = new IconImage(image, iconSize);
+    iconImageView->setObjectName(u"iconImageView"_s);
     return iconImageView;
 }
 

@@ -11,7 +11,6 @@ class QLabel;
 
 namespace tessaline {
 
-class IconImage;
 class Switch;
 
 /// One content source: what it is, a line on its state, and a switch for it. Main thread only.
@@ -25,20 +24,22 @@ public:
     /// Builds the row; call it once. Without an image the source's emoji stands in its place.
     void setupUI(bool isEnabled, const QString& statusText, const QIcon& iconImage);
 
+    /// Shows another state.
+    void showState(bool isEnabled, const QString& statusText);
+
     /// Called with the new state when the user switches.
     std::function<void(bool on)> onToggleChanged;
 
     const SourceType sourceType;
     const bool isLocked;
-    QLabel* iconLabel = nullptr;        ///< null with an image
-    IconImage* iconImageView = nullptr; ///< null without one
-    QLabel* titleLabel = nullptr;
-    QLabel* statusLabel = nullptr;
-    Switch* toggleSwitch = nullptr;
 
 private:
     void toggleChanged();
-    QWidget* createIcon(const QIcon& image);
+    QWidget* createIcon(const QIcon& image) const;
+
+    QLabel* titleLabel = nullptr;
+    QLabel* statusLabel = nullptr;
+    Switch* toggleSwitch = nullptr;
 };
 
 } // namespace tessaline

@@ -30,6 +30,9 @@ PermissionStatusView::PermissionStatusView(const QString& title, const QString& 
     , grantButton(new BezelButton(u"Open System Preferences"_s))
     , purpose(description) {
     grantButton->setMinimumWidth(leastButtonWidth);
+    statusIndicator->setObjectName(u"statusIndicator"_s);
+    titleLabel->setObjectName(u"titleLabel"_s);
+    descriptionLabel->setObjectName(u"descriptionLabel"_s);
     grantButton->setObjectName(u"grantButton"_s);
     connect(grantButton, &QPushButton::clicked, this, &PermissionStatusView::grantButtonClicked);
 

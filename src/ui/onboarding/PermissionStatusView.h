@@ -29,14 +29,13 @@ public:
     /// Called when the user asks for the permission.
     std::function<void()> onGrantButtonClicked;
 
+private:
+    void grantButtonClicked();
+
     StatusDot* statusIndicator = nullptr;
     QLabel* titleLabel = nullptr;
     QLabel* descriptionLabel = nullptr;
     QPushButton* grantButton = nullptr;
-
-private:
-    void grantButtonClicked();
-
     QString purpose;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/onboarding/IntegrationToggleView.h"
 
 #include "controls/IconImage.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/controls/Switch.h"
 
@@ -29,12 +30,12 @@ class IntegrationFace : public testing::TestWithParam<Face> {};
 TEST_P(IntegrationFace, ShowsTheSourceByEmojiAndNameWithoutAnImage) {
     IntegrationToggleView view(GetParam().source, false);
     view.setupUI(false, u"status"_s, {});
-    ASSERT_TRUE(view.iconLabel);
-    EXPECT_FALSE(view.iconImageView);
-    EXPECT_EQ(view.iconLabel->text(), GetParam().emoji);
-    EXPECT_EQ(view.titleLabel->text(), GetParam().name);
-    EXPECT_EQ(view.statusLabel->text(), u"status"_s);
-    EXPECT_EQ(view.toggleSwitch->accessibleName(), GetParam().name);
+    ASSERT_TRUE(part<QLabel>(view, "iconLabel"));
+    EXPECT_FALSE(part<IconImage>(view, "iconImageView"));
+    EXPECT_EQ(part<QLabel>(view, "iconLabel")->text(), GetParam().emoji);
+    EXPECT_EQ(part<QLabel>(view, "titleLabel")->text(), GetParam().name);
+    EXPECT_EQ(part<QLabel>(view, "statusLabel")->text(), u"status"_s);
+    EXPECT_EQ(part<Switch>(view, "toggleSwitch")->accessibleName(), GetParam().name);
     EXPECT_EQ(view.height(), 60);
 }
 
@@ -48,13 +49,13 @@ TEST(IntegrationToggleView, ShowsTheImageInPlaceOfTheEmoji) {
     picture.fill(Qt::red);
     IntegrationToggleView view(SourceType::obsidian, false);
     view.setupUI(true, {}, QIcon(picture));
-    EXPECT_FALSE(view.iconLabel);
-    ASSERT_TRUE(view.iconImageView);
-    EXPECT_TRUE(view.isAncestorOf(view.titleLabel));
-    EXPECT_TRUE(view.isAncestorOf(view.statusLabel));
-    EXPECT_EQ(view.iconImageView->size(), QSize(24, 24));
+    EXPECT_FALSE(part<QLabel>(view, "iconLabel"));
+    ASSERT_TRUE(part<IconImage>(view, "iconImageView"));
+    EXPECT_TRUE(view.isAncestorOf(part<QLabel>(view, "titleLabel")));
+    EXPECT_TRUE(view.isAncestorOf(part<QLabel>(view, "statusLabel")));
+    EXPECT_EQ(part<IconImage>(view, "iconImageView")->size(), QSize(24, 24));
     // Filled to the edges although the picture is smaller.
-    const QImage drawn = view.iconImageView->grab().toImage();
+    const QImage drawn = part<IconImage>(view, "iconImageView")->grab().toImage();
     EXPECT_EQ(drawn.pixelColor(1, 1), QColor(Qt::red));
     EXPECT_EQ(drawn.pixelColor(22, 22), QColor(Qt::red));
 }
@@ -62,11 +63,11 @@ TEST(IntegrationToggleView, ShowsTheImageInPlaceOfTheEmoji) {
 TEST(IntegrationToggleView, TellsTheNewStateToWhoeverAskedForIt) {
     IntegrationToggleView view(SourceType::obsidian, false);
     view.setupUI(false, {}, {});
-    QTest::mouseClick(view.toggleSwitch, Qt::LeftButton); // nobody asked
+    QTest::mouseClick(part<Switch>(view, "toggleSwitch"), Qt::LeftButton); // nobody asked
     std::vector<bool> states;
     view.onToggleChanged = [&states](bool on) { states.push_back(on); };
-    QTest::mouseClick(view.toggleSwitch, Qt::LeftButton);
-    QTest::mouseClick(view.toggleSwitch, Qt::LeftButton);
+    QTest::mouseClick(part<Switch>(view, "toggleSwitch"), Qt::LeftButton);
+    QTest::mouseClick(part<Switch>(view, "toggleSwitch"), Qt::LeftButton);
     EXPECT_THAT(states, ElementsAre(false, true));
 }
 
@@ -75,9 +76,9 @@ TEST(IntegrationToggleView, ALockedRowCannotBeSwitched) {
     view.setupUI(true, {}, {});
     std::vector<bool> states;
     view.onToggleChanged = [&states](bool on) { states.push_back(on); };
-    QTest::mouseClick(view.toggleSwitch, Qt::LeftButton);
-    EXPECT_FALSE(view.toggleSwitch->isEnabled());
-    EXPECT_TRUE(view.toggleSwitch->isChecked());
+    QTest::mouseClick(part<Switch>(view, "toggleSwitch"), Qt::LeftButton);
+    EXPECT_FALSE(part<Switch>(view, "toggleSwitch")->isEnabled());
+    EXPECT_TRUE(part<Switch>(view, "toggleSwitch")->isChecked());
     EXPECT_THAT(states, IsEmpty());
 }
 

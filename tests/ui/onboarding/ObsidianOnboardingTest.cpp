@@ -1,4 +1,5 @@
 #include "controls/IconImage.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/OnboardingWindowFixture.h"
 
@@ -25,9 +26,10 @@ protected:
 TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutTheApplication) {
     stage.obsidian.vault = u"/vault"_s;
     window();
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Obsidian not detected on this computer"_s);
-    EXPECT_FALSE(obsidian().toggleSwitch->isEnabled());
-    EXPECT_TRUE(obsidian().iconLabel);
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
+              u"Obsidian not detected on this computer"_s);
+    EXPECT_FALSE(part<Switch>(obsidian(), "toggleSwitch")->isEnabled());
+    EXPECT_TRUE(part<QLabel>(obsidian(), "iconLabel"));
     switchObsidian();
     EXPECT_FALSE(obsidianEnabled());
 }
@@ -36,10 +38,10 @@ TEST_F(ObsidianOnboarding, ObsidianCanBeUsedWhereItsVaultIsProofEnough) {
     stage.obsidian.vault = u"/vault"_s;
     stage.obsidian.isProvenByVault = true;
     shown();
-    EXPECT_EQ(obsidian().statusLabel->text(),
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
               u"Send notes from Obsidian straight into the prompter"_s);
-    EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
-    EXPECT_TRUE(obsidian().iconLabel);
+    EXPECT_TRUE(part<Switch>(obsidian(), "toggleSwitch")->isEnabled());
+    EXPECT_TRUE(part<QLabel>(obsidian(), "iconLabel"));
     switchObsidian();
     EXPECT_TRUE(obsidianEnabled());
     EXPECT_EQ(stage.obsidian.installations, 1);
@@ -48,8 +50,8 @@ TEST_F(ObsidianOnboarding, ObsidianCanBeUsedWhereItsVaultIsProofEnough) {
 TEST_F(ObsidianOnboarding, ObsidianCannotBeUsedWithoutAVault) {
     stage.obsidian.appPath = u"/apps/obsidian"_s;
     window();
-    EXPECT_EQ(obsidian().statusLabel->text(), u"No Obsidian vault found"_s);
-    EXPECT_FALSE(obsidian().toggleSwitch->isEnabled());
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(), u"No Obsidian vault found"_s);
+    EXPECT_FALSE(part<Switch>(obsidian(), "toggleSwitch")->isEnabled());
 }
 
 TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
@@ -57,11 +59,11 @@ TEST_F(ObsidianOnboarding, ObsidianStartsOffAndShowsItsIcon) {
     stage.installObsidian(true, true);
     stage.settings.setSourceEnabled(SourceType::obsidian, true);
     window();
-    EXPECT_EQ(obsidian().statusLabel->text(),
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
               u"Send notes from Obsidian straight into the prompter"_s);
-    EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
-    EXPECT_FALSE(obsidian().toggleSwitch->isChecked());
-    EXPECT_TRUE(obsidian().iconImageView);
+    EXPECT_TRUE(part<Switch>(obsidian(), "toggleSwitch")->isEnabled());
+    EXPECT_FALSE(part<Switch>(obsidian(), "toggleSwitch")->isChecked());
+    EXPECT_TRUE(part<IconImage>(obsidian(), "iconImageView"));
 }
 
 TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
@@ -84,8 +86,8 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
     EXPECT_EQ(sheet()->iconLabel->grab().toImage().pixelColor(24, 24), QColor(Qt::red));
     ASSERT_EQ(sheet()->buttons.size(), 1u);
     EXPECT_EQ(sheet()->buttons[0]->text(), u"OK"_s);
-    EXPECT_TRUE(obsidian().toggleSwitch->isChecked());
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin active ✓"_s);
+    EXPECT_TRUE(part<Switch>(obsidian(), "toggleSwitch")->isChecked());
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(), u"Plugin active ✓"_s);
 }
 
 TEST_F(ObsidianOnboarding, LooksForTheVaultOnce) {
@@ -95,8 +97,8 @@ TEST_F(ObsidianOnboarding, LooksForTheVaultOnce) {
     stage.obsidian.vault.reset();
     switchObsidian();
     EXPECT_EQ(stage.obsidian.vaultSearches, 1);
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin active ✓"_s);
-    EXPECT_TRUE(obsidian().toggleSwitch->isEnabled());
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(), u"Plugin active ✓"_s);
+    EXPECT_TRUE(part<Switch>(obsidian(), "toggleSwitch")->isEnabled());
 }
 
 TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
@@ -111,8 +113,8 @@ TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
     EXPECT_TRUE(isWarning(window(), *sheet()));
     EXPECT_EQ(stage.recorder.events[1].properties[u"success"_s], u"false"_s);
     EXPECT_TRUE(obsidianEnabled());
-    EXPECT_TRUE(obsidian().toggleSwitch->isChecked());
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin not found"_s);
+    EXPECT_TRUE(part<Switch>(obsidian(), "toggleSwitch")->isChecked());
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(), u"Plugin not found"_s);
     QTest::keyClick(sheet(), Qt::Key_Escape);
     EXPECT_FALSE(sheet());
     EXPECT_TRUE(window().isVisible());
@@ -123,7 +125,8 @@ TEST_F(ObsidianOnboarding, TellsThatThePluginIsDisabledInObsidian) {
     stage.obsidian.installResult.success = false;
     shown();
     switchObsidian();
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Plugin installed but disabled in Obsidian"_s);
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
+              u"Plugin installed but disabled in Obsidian"_s);
 }
 
 TEST_F(ObsidianOnboarding, SwitchingObsidianOffRecordsAndUninstallsNothing) {
@@ -137,7 +140,7 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOffRecordsAndUninstallsNothing) {
     EXPECT_TRUE(stage.obsidian.pluginInstalled);
     EXPECT_THAT(stage.recorder.events, IsEmpty());
     EXPECT_FALSE(sheet());
-    EXPECT_EQ(obsidian().statusLabel->text(),
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
               u"Send notes from Obsidian straight into the prompter"_s);
 }
 

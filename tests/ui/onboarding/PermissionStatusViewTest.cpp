@@ -1,6 +1,7 @@
 #include "ui/onboarding/PermissionStatusView.h"
 
 #include "appearance/SystemPalette.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/controls/StatusDot.h"
 
@@ -17,43 +18,43 @@ using namespace Qt::Literals::StringLiterals;
 
 TEST(PermissionStatusView, OffersNoButtonWhereNobodyCanGrantThePermission) {
     const PermissionStatusView view(u"Title"_s, u"What for"_s, false);
-    EXPECT_EQ(view.titleLabel->text(), u"Title"_s);
-    EXPECT_TRUE(view.descriptionLabel->text().startsWith(u"What for\n"_s));
-    EXPECT_TRUE(view.descriptionLabel->text().contains(u"tessaline ctl"_s));
-    EXPECT_TRUE(view.isAncestorOf(view.descriptionLabel));
-    EXPECT_EQ(view.statusIndicator->color(), SystemPalette::orange);
-    EXPECT_TRUE(view.grantButton->isHidden());
+    EXPECT_EQ(part<QLabel>(view, "titleLabel")->text(), u"Title"_s);
+    EXPECT_TRUE(part<QLabel>(view, "descriptionLabel")->text().startsWith(u"What for\n"_s));
+    EXPECT_TRUE(part<QLabel>(view, "descriptionLabel")->text().contains(u"tessaline ctl"_s));
+    EXPECT_TRUE(view.isAncestorOf(part<QLabel>(view, "descriptionLabel")));
+    EXPECT_EQ(part<StatusDot>(view, "statusIndicator")->color(), SystemPalette::orange);
+    EXPECT_TRUE(part<QPushButton>(view, "grantButton")->isHidden());
 }
 
 TEST(PermissionStatusView, SaysThatThePermissionIsGranted) {
     const PermissionStatusView view(u"Title"_s, u"What for"_s, true);
-    EXPECT_EQ(view.descriptionLabel->text(), u"What for"_s);
-    EXPECT_EQ(view.statusIndicator->color(), SystemPalette::green);
-    EXPECT_EQ(view.grantButton->text(), u"Available ✓"_s);
-    EXPECT_FALSE(view.grantButton->isEnabled());
+    EXPECT_EQ(part<QLabel>(view, "descriptionLabel")->text(), u"What for"_s);
+    EXPECT_EQ(part<StatusDot>(view, "statusIndicator")->color(), SystemPalette::green);
+    EXPECT_EQ(part<QPushButton>(view, "grantButton")->text(), u"Available ✓"_s);
+    EXPECT_FALSE(part<QPushButton>(view, "grantButton")->isEnabled());
 }
 
 TEST(PermissionStatusView, FollowsTheState) {
     PermissionStatusView view(u"Title"_s, u"What for"_s, true);
     view.updateStatus(false);
-    EXPECT_TRUE(view.grantButton->isHidden());
-    EXPECT_EQ(view.statusIndicator->accessibleName(), u"Not available"_s);
+    EXPECT_TRUE(part<QPushButton>(view, "grantButton")->isHidden());
+    EXPECT_EQ(part<StatusDot>(view, "statusIndicator")->accessibleName(), u"Not available"_s);
     view.updateStatus(true);
-    EXPECT_FALSE(view.grantButton->isHidden());
-    EXPECT_FALSE(view.grantButton->isEnabled());
-    EXPECT_EQ(view.descriptionLabel->text(), u"What for"_s);
-    EXPECT_EQ(view.statusIndicator->accessibleName(), u"Available"_s);
+    EXPECT_FALSE(part<QPushButton>(view, "grantButton")->isHidden());
+    EXPECT_FALSE(part<QPushButton>(view, "grantButton")->isEnabled());
+    EXPECT_EQ(part<QLabel>(view, "descriptionLabel")->text(), u"What for"_s);
+    EXPECT_EQ(part<StatusDot>(view, "statusIndicator")->accessibleName(), u"Available"_s);
 }
 
 TEST(PermissionStatusView, CallsWhoeverAskedToBeCalled) {
     PermissionStatusView view(u"Title"_s, u"What for"_s, false);
-    QTest::mouseClick(view.grantButton, Qt::LeftButton); // nobody asked
+    QTest::mouseClick(part<QPushButton>(view, "grantButton"), Qt::LeftButton); // nobody asked
     int calls = 0;
     view.onGrantButtonClicked = [&calls] { ++calls; };
-    QTest::mouseClick(view.grantButton, Qt::LeftButton);
+    QTest::mouseClick(part<QPushButton>(view, "grantButton"), Qt::LeftButton);
     EXPECT_EQ(calls, 1);
     view.updateStatus(true);
-    QTest::mouseClick(view.grantButton, Qt::LeftButton);
+    QTest::mouseClick(part<QPushButton>(view, "grantButton"), Qt::LeftButton);
     EXPECT_EQ(calls, 1);
 }
 
