@@ -1,10 +1,52 @@
 #pragma once
 
-#include "cli/CommandOption.h"
-#include "cli/ControlAction.h"
-#include "cli/HelpSection.h"
+#include "cli/ControlCommand.h"
+
+#include <QStringView>
+
+#include <cstdint>
+#include <span>
 
 namespace tessaline {
+
+/// What an option or an action takes, as the parser, the help and the completions know it.
+struct CommandValue {
+    enum class Kind : std::uint8_t { text, file };
+
+    QStringView name;                     ///< how the help calls it; empty: nothing is taken
+    std::span<const QStringView> choices; ///< all there are; empty: anything
+    Kind kind = Kind::text;
+
+    bool isTaken() const { return !name.isEmpty(); }
+};
+
+/// An option as the parser and the help both know it.
+struct CommandOption {
+    QStringView name; ///< without its dashes
+    CommandValue value;
+    QStringView help;    ///< one or more lines
+    char16_t letter = 0; ///< the short form; 0: there is none
+};
+
+/// A command to the running prompter as the parser, the help and the completions know it.
+struct ControlAction {
+    ControlCommand command;
+    QStringView name;
+    CommandValue value; ///< never optional
+    QStringView help;   ///< one line
+};
+
+/// A term of a list with its explanation.
+struct HelpEntry {
+    QStringView term;
+    QStringView text; ///< one or more lines; may be empty
+};
+
+/// A list behind the options of a help.
+struct HelpSection {
+    QStringView heading;
+    std::span<const HelpEntry> entries;
+};
 
 /// A command as the parser, the help, the manual and the completions know it.
 struct CommandSpec {

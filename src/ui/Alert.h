@@ -1,15 +1,27 @@
 #pragma once
 
-#include "ui/AlertContent.h"
-
 #include <QDialog>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
+#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <vector>
 
 namespace tessaline {
+
+/// What an alert says and asks.
+struct AlertContent {
+    enum class Style { informational, warning };
+
+    QString messageText;     ///< the title line
+    QString informativeText; ///< what there is to say about it
+    Style style = Style::informational;
+    QIcon icon;                                ///< null: the style's own
+    QStringList buttons{QStringLiteral("OK")}; ///< the first one is what Return presses
+};
 
 /// A question or message over one window, which takes no input until it is answered; the rest of
 /// the program goes on. Escape answers with the last button. Main thread only.

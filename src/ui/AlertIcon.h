@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/AlertContent.h"
+#include "ui/Alert.h"
 
 namespace tessaline {
 

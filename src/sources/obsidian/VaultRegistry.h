@@ -1,7 +1,5 @@
 #pragma once
 
-#include "sources/obsidian/VaultInfo.h"
-
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -10,6 +8,15 @@
 #include <vector>
 
 namespace tessaline {
+
+/// What Obsidian remembers about one of the user's vaults.
+struct VaultInfo {
+    QString path;         ///< the vault's folder
+    double timestamp = 0; ///< when it was used last, in milliseconds; 0 if that is unknown
+    bool isOpen = false;
+
+    bool operator==(const VaultInfo&) const = default;
+};
 
 /// The vaults that Obsidian's own file names, in the file's order; none when the bytes are anything
 /// but a JSON object with a "vaults" object. Vaults without a path are left out. Any thread.

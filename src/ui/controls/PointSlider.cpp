@@ -2,8 +2,8 @@
 
 #include "appearance/SystemPalette.h"
 #include "controls/KeyboardFocus.h"
-#include "ui/controls/PointSliderAccessible.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -26,11 +26,66 @@ int toSteps(double points) {
     return int(std::lround(points * stepsPerPoint));
 }
 
+/// What a screen reader sees of a point slider: a value in points, not in the steps underneath.
+class PointSliderAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit PointSliderAccessible(PointSlider& slider);
+
+    void* interface_cast(QAccessible::InterfaceType type) override;
+
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant& value) override;
+    QVariant maximumValue() const override;
+    QVariant minimumValue() const override;
+    QVariant minimumStepSize() const override;
+
+private:
+    PointSlider& slider() const;
+};
+
+PointSliderAccessible::PointSliderAccessible(PointSlider& pointSlider)
+    : QAccessibleWidget(&pointSlider, QAccessible::Slider) {}
+
+PointSlider& PointSliderAccessible::slider() const {
+    return *static_cast<PointSlider*>(widget());
+}
+
+void* PointSliderAccessible::interface_cast(QAccessible::InterfaceType type) {
+    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QVariant PointSliderAccessible::currentValue() const {
+    return slider().points();
+}
+
+// A screen reader acts for the user, so this is announced like a move of the knob.
+void PointSliderAccessible::setCurrentValue(const QVariant& value) {
+    slider().moveTo(value.toDouble());
+}
+
+QVariant PointSliderAccessible::maximumValue() const {
+    return slider().maximumPoints();
+}
+
+QVariant PointSliderAccessible::minimumValue() const {
+    return slider().minimumPoints();
+}
+
+QVariant PointSliderAccessible::minimumStepSize() const {
+    return 1.0;
+}
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* slider = qobject_cast<PointSlider*>(object);
+    return slider ? new PointSliderAccessible(*slider) : nullptr;
+}
+
 } // namespace
 
 PointSlider::PointSlider(const QString& accessibleName, int width, QWidget* parent)
     : QSlider(Qt::Horizontal, parent) {
-    installPointSliderAccessibility();
+    QAccessible::installFactory(makeInterface);
     setAccessibleName(accessibleName);
     setFixedWidth(width);
     setFocusPolicy(Qt::StrongFocus);

@@ -2,8 +2,8 @@
 
 #include "appearance/SystemPalette.h"
 #include "controls/KeyboardFocus.h"
-#include "ui/controls/SwitchAccessible.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -24,11 +24,58 @@ QColor blend(const QColor& from, const QColor& to, double share) {
                             mix(from.blueF(), to.blueF()), mix(from.alphaF(), to.alphaF()));
 }
 
+/// What a screen reader sees of a switch: a check box. Its action counts as the user's.
+class SwitchAccessible : public QAccessibleWidget {
+public:
+    explicit SwitchAccessible(Switch& control);
+
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString& action) override;
+
+private:
+    Switch& control() const;
+};
+
+SwitchAccessible::SwitchAccessible(Switch& control)
+    : QAccessibleWidget(&control, QAccessible::CheckBox) {}
+
+Switch& SwitchAccessible::control() const {
+    return *static_cast<Switch*>(widget());
+}
+
+QAccessible::State SwitchAccessible::state() const {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = true;
+    state.checked = control().isChecked();
+    return state;
+}
+
+QStringList SwitchAccessible::actionNames() const {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (control().isEnabled()) names.prepend(toggleAction());
+    return names;
+}
+
+// Qt's own interface for buttons sets the state without a click, so that nobody would hear of it.
+void SwitchAccessible::doAction(const QString& action) {
+    if (action == toggleAction()) {
+        control().click();
+    } else {
+        QAccessibleWidget::doAction(action);
+    }
+}
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* control = qobject_cast<Switch*>(object);
+    return control ? new SwitchAccessible(*control) : nullptr;
+}
+
 } // namespace
 
 Switch::Switch(const QString& accessibleName, QWidget* parent)
     : QAbstractButton(parent), slide(new QVariantAnimation(this)) {
-    installSwitchAccessibility();
+    QAccessible::installFactory(makeInterface);
     setCheckable(true);
     setAccessibleName(accessibleName);
     setFocusPolicy(Qt::StrongFocus);

@@ -1,4 +1,4 @@
-#include "cli/RenderFormat.h"
+#include "cli/RenderRequest.h"
 
 namespace tessaline {
 
