@@ -14,6 +14,8 @@
 #include "ui/controls/PointSlider.h"
 #include "ui/controls/PopupButton.h"
 
+#include <QAbstractButton>
+#include <QLabel>
 #include <QWindow>
 
 namespace tessaline {

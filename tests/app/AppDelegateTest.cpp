@@ -13,6 +13,7 @@
 
 #include "support/RecordedLog.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFile>
 #include <QGuiApplication>

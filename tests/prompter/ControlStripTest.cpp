@@ -7,6 +7,9 @@
 #include "support/Part.h"
 #include "support/WidgetPicture.h"
 
+#include <QAbstractButton>
+#include <QLabel>
+
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -17,6 +17,7 @@
 #include "support/TestPlatform.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>

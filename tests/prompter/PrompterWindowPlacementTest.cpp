@@ -5,6 +5,8 @@
 
 #include "support/Part.h"
 
+#include <QAbstractButton>
+
 #include <optional>
 
 namespace tessaline {

@@ -11,8 +11,10 @@
 #include "prompter/controls/TrafficLightCloseButton.h"
 #include "prompter/view/ScriptView.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 
 #include <gtest/gtest.h>
 
