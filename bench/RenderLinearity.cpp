@@ -2,8 +2,8 @@
 #include "Verdicts.h"
 
 #include "render/markdown/MarkdownRenderer.h"
-#include "render/markdown/PathologicalTexts.h"
 #include "sources/notes/HtmlToMarkdown.h"
+#include "support/texts/PathologicalTexts.h"
 
 #include <algorithm>
 #include <cstdio>

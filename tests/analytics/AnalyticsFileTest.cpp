@@ -1,6 +1,7 @@
 #include "analytics/Analytics.h"
 
 #include "analytics/AnalyticsStage.h"
+#include "support/CaseName.h"
 #include "support/NotAFile.h"
 #include "support/PrintQt.h"
 #include "support/RecordedLog.h"
@@ -249,7 +250,7 @@ INSTANTIATE_TEST_SUITE_P(
                         R"([{"name": "a", "timestamp": "2026-11-19T00:00:00Z", "properties": {}},
                     {"name": "b", "timestamp": "yesterday", "properties": {}}])",
                         u"Invalid value for \"timestamp\" of event 2"_s}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&Foreign::name>);
 
 TEST_F(AnalyticsFile, AHundredMegabytesOfGarbageArePutAside) {
     putHistory(QByteArray(100'000'000, '['));

@@ -2,6 +2,7 @@
 
 #include "analytics/AnalyticsStage.h"
 #include "settings/AppSettings.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "support/RecordedLog.h"
 
@@ -158,7 +159,8 @@ INSTANTIATE_TEST_SUITE_P(Durations, AnalyticsDuration,
                          testing::Values(Duration{0, u"0"_s}, Duration{499, u"0"_s},
                                          Duration{500, u"0"_s}, Duration{1500, u"2"_s},
                                          Duration{2500, u"2"_s}, Duration{86'400'000, u"86400"_s},
-                                         Duration{-200, u"0"_s}, Duration{-3'600'000, u"0"_s}));
+                                         Duration{-200, u"0"_s}, Duration{-3'600'000, u"0"_s}),
+                         byMember<&Duration::text>);
 
 struct Tracked {
     const char* name;
@@ -248,7 +250,7 @@ INSTANTIATE_TEST_SUITE_P(
                 u"permission_status"_s,
                 {{u"permission_type"_s, u"accessibility"_s}, {u"granted"_s, u"false"_s}},
                 u""_s}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&Tracked::name>);
 
 TEST_F(AnalyticsTest, DescribesABareEnvironment) {
     AppSettings settings(stage.folder.filePath(u"config.json"_s));
@@ -337,7 +339,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Answer{&Probe::pluginActive, u"obsidian_plugin_active"_s,
                            u"obsidian_app=not_installed plugin=not_installed active=active"_s},
                     Answer{&Probe::accessibilityGranted, u"accessibility_granted"_s,
-                           u"obsidian_app=not_installed plugin=not_installed active=inactive"_s}));
+                           u"obsidian_app=not_installed plugin=not_installed active=inactive"_s}),
+    byMember<&Answer::property>);
 
 } // namespace
 } // namespace tessaline

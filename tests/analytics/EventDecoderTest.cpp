@@ -1,6 +1,7 @@
 #include "analytics/EventDecoder.h"
 
 #include "analytics/DecodedEvents.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -108,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
                     u"Invalid value for \"properties\" of event 1"_s},
         Undecodable{"DeeplyNested", "[{\"x\": " + QByteArray(2'000'000, '['),
                     u"The JSON is nested too deeply"_s}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&Undecodable::name>);
 
 } // namespace
 } // namespace tessaline

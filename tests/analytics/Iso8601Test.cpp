@@ -1,5 +1,6 @@
 #include "analytics/Iso8601.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
         Readable{"FractionAndOffset", u"2026-11-21T06:44:30.5+09:00", moment.addMSecs(500)},
         Readable{"NoOffset", u"2026-11-20T21:44:30-00:00", moment},
         Readable{"LeapDay", u"2024-02-29T00:00:00Z", utc(2024, 2, 29, 0, 0, 0)}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&Readable::name>);
 
 class Iso8601Unreadable : public testing::TestWithParam<const char16_t*> {};
 
@@ -76,7 +77,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, Iso8601Unreadable,
                                          u"2026-11-20T21:44:30z", u"2026-11-20T21:44:30+1:00",
                                          u"2026-11-20T21:44:30+24:00", u"2026-11-20T21:44:30+01:60",
                                          u"2026-11-20T21:44:30Zx", u"2026-11-20T21:44:30+aa:bb",
-                                         u"796945470.5", u"\u0662026-11-20T21:44:30Z"));
+                                         u"796945470.5", u"\u0662026-11-20T21:44:30Z"),
+                         byValue);
 
 } // namespace
 } // namespace tessaline

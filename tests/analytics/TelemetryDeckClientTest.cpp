@@ -1,6 +1,7 @@
 #include "analytics/TelemetryDeckClient.h"
 
 #include "analytics/TelemetryStage.h"
+#include "support/CaseName.h"
 #include "support/FakeHttpPoster.h"
 #include "support/PrintQt.h"
 #include "support/RecordedLog.h"
@@ -212,7 +213,7 @@ TEST_P(TelemetryDeckClientRefused, DropsTheBatchAndGoesOn) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Statuses, TelemetryDeckClientRefused,
-                         testing::Values(199, 300, 302, 307, 400, 404, 429, 500, 503));
+                         testing::Values(199, 300, 302, 307, 400, 404, 429, 500, 503), byValue);
 
 TEST_F(TelemetryDeckClientTest, SendsAFailedBatchAgainAheadOfNewerSignals) {
     const RecordedLog log;

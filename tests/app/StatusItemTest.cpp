@@ -1,6 +1,7 @@
 #include "app/StatusItem.h"
 
 #include "app/StatusIcon.h"
+#include "support/CaseName.h"
 #include "support/FakeStatusArea.h"
 #include "support/FakeTimerMaker.h"
 #include "support/RecordedLog.h"
@@ -111,7 +112,7 @@ TEST(StatusIcon, IsDrawnWhereTheSystemHasNoSymbol) {
 
 class StatusIconDrawing : public testing::TestWithParam<int> {};
 
-INSTANTIATE_TEST_SUITE_P(Sizes, StatusIconDrawing, testing::Values(18, 36, 54));
+INSTANTIATE_TEST_SUITE_P(Sizes, StatusIconDrawing, testing::Values(18, 36, 54), byValue);
 
 TEST_P(StatusIconDrawing, IsARoundedBodyWithAnInsetAtItsTop) {
     const QImage image = drawStatusIcon(GetParam());

@@ -1,6 +1,7 @@
 #include "appearance/DarkPalette.h"
 
 #include "appearance/SystemPalette.h"
+#include "support/CaseName.h"
 #include "support/Contrast.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +39,8 @@ INSTANTIATE_TEST_SUITE_P(DarkPalette, DarkPaletteText,
                                          TextOnGround{QPalette::Text, QPalette::AlternateBase},
                                          TextOnGround{QPalette::ButtonText, QPalette::Button},
                                          TextOnGround{QPalette::ToolTipText,
-                                                      QPalette::ToolTipBase}));
+                                                      QPalette::ToolTipBase}),
+                         byMember<&TextOnGround::text>);
 
 TEST(DarkPalette, TellsSelectionsAndLinksFromOrdinaryText) {
     const QPalette palette = darkPalette();

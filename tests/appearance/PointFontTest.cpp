@@ -1,4 +1,5 @@
 #include "appearance/PointFont.h"
+#include "support/CaseName.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -34,7 +35,7 @@ TEST_P(PointFontSize, IsMeasuredAsItIsDrawn) {
 }
 
 INSTANTIATE_TEST_SUITE_P(WholeAndFractional, PointFontSize,
-                         ::testing::Values(9.0, 11.0, 12.0, 13.6, 16.0, 18.9, 28.0));
+                         ::testing::Values(9.0, 11.0, 12.0, 13.6, 16.0, 18.9, 28.0), byValue);
 
 TEST(PointFont, ReadsTheSizeOfAFontThatWasSetInPixels) {
     QFont font;

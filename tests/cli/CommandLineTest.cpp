@@ -2,6 +2,7 @@
 
 #include "cli/CommandTable.h"
 #include "cli/HelpText.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gmock/gmock.h>
@@ -47,7 +48,8 @@ INSTANTIATE_TEST_SUITE_P(Arguments, CommandLineShow,
                                          Shown{{u"--"_s, u"-"_s}, u"-"_s},
                                          Shown{{u"--"_s, u"render"_s}, u"render"_s},
                                          Shown{{u"./render"_s}, u"./render"_s},
-                                         Shown{{u"Render"_s}, u"Render"_s}, Shown{{u""_s}, u""_s}));
+                                         Shown{{u"Render"_s}, u"Render"_s}, Shown{{u""_s}, u""_s}),
+                         byMember<&Shown::arguments>);
 
 class CommandLineFollow : public testing::TestWithParam<QStringList> {};
 
@@ -59,7 +61,8 @@ TEST_P(CommandLineFollow, ShowsTheFileAndItsChanges) {
 INSTANTIATE_TEST_SUITE_P(Arguments, CommandLineFollow,
                          testing::Values(QStringList{u"--follow"_s, u"talk.md"_s},
                                          QStringList{u"talk.md"_s, u"--follow"_s},
-                                         QStringList{u"--follow"_s, u"--"_s, u"talk.md"_s}));
+                                         QStringList{u"--follow"_s, u"--"_s, u"talk.md"_s}),
+                         byValue);
 
 TEST(CommandLine, TellsTheRunningPrompterWhatToDo) {
     EXPECT_EQ(CommandLine::parse({u"ctl"_s, u"next-heading"_s}),
@@ -123,7 +126,8 @@ INSTANTIATE_TEST_SUITE_P(
         Rendered{{u"a.md"_s, u"--font-size"_s, u"1000"_s}, {.input = u"a.md"_s, .fontSize = 1000}},
         Rendered{{u"a.md"_s, u"--font-size=0.5"_s}, {.input = u"a.md"_s, .fontSize = 0.5}},
         Rendered{{u"a.md"_s, u"--width"_s, u"50"_s}, {.input = u"a.md"_s, .width = 50}},
-        Rendered{{u"a.md"_s, u"--width=10000"_s}, {.input = u"a.md"_s, .width = 10000}}));
+        Rendered{{u"a.md"_s, u"--width=10000"_s}, {.input = u"a.md"_s, .width = 10000}}),
+    byMember<&Rendered::arguments>);
 
 struct Mistaken {
     QStringList arguments;
@@ -182,7 +186,8 @@ INSTANTIATE_TEST_SUITE_P(
         Mistaken{{u"render"_s, u"a.md"_s, u"--format=JSON"_s},
                  u"unknown format 'JSON'; there are json, html and png"_s},
         Mistaken{{u"render"_s, u"a.md"_s, u"--format="_s},
-                 u"unknown format ''; there are json, html and png"_s}));
+                 u"unknown format ''; there are json, html and png"_s}),
+    byMember<&Mistaken::message>);
 
 class CommandLineFontSize : public testing::TestWithParam<const char*> {};
 
@@ -195,7 +200,8 @@ TEST_P(CommandLineFontSize, IsRefused) {
 
 INSTANTIATE_TEST_SUITE_P(Values, CommandLineFontSize,
                          testing::Values("nan", "NaN", "inf", "-inf", "0", "-0", "-5", "1000.001",
-                                         "1e999", "", "abc", "16pt", "0x10", "16,5", "%1", "%2"));
+                                         "1e999", "", "abc", "16pt", "0x10", "16,5", "%1", "%2"),
+                         byValue);
 
 class CommandLineWidth : public testing::TestWithParam<const char*> {};
 
@@ -208,7 +214,8 @@ TEST_P(CommandLineWidth, IsRefused) {
 
 INSTANTIATE_TEST_SUITE_P(Values, CommandLineWidth,
                          testing::Values("49", "10001", "0", "-450", "nan", "450.5", "1e3", "",
-                                         "99999999999", "%2%3"));
+                                         "99999999999", "%2%3"),
+                         byValue);
 
 } // namespace
 } // namespace tessaline

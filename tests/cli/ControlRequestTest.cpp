@@ -4,6 +4,7 @@
 #include "settings/PersistedSettings.h"
 #include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gmock/gmock.h>
@@ -36,7 +37,7 @@ TEST_P(ControlRequestWords, AreReadAndWrittenAlike) {
     EXPECT_EQ(controlActionNamed(GetParam().first())->command, request->command);
 }
 
-INSTANTIATE_TEST_SUITE_P(Actions, ControlRequestWords, testing::ValuesIn(allRequests()));
+INSTANTIATE_TEST_SUITE_P(Actions, ControlRequestWords, testing::ValuesIn(allRequests()), byValue);
 
 TEST(ControlRequest, HasAnActionForEveryCommandOnce) {
     std::vector<int> commands;
@@ -68,7 +69,8 @@ INSTANTIATE_TEST_SUITE_P(Values, ControlRequestSpeed,
                                          Speed{u"5"_s, u"5"_s, 5}, Speed{u"5.00"_s, u"5"_s, 5},
                                          Speed{u".5"_s, u"0.5"_s, 0.5},
                                          Speed{u"25e-1"_s, u"2.5"_s, 2.5},
-                                         Speed{u"0.001"_s, u"0.001"_s, 0.001}));
+                                         Speed{u"0.001"_s, u"0.001"_s, 0.001}),
+                         byMember<&Speed::given>);
 
 class ControlRequestMistake : public testing::TestWithParam<const char*> {};
 
@@ -82,7 +84,8 @@ TEST_P(ControlRequestMistake, InASpeedIsNamed) {
 
 INSTANTIATE_TEST_SUITE_P(Values, ControlRequestMistake,
                          testing::Values("-0.01", "5.01", "nan", "inf", "-inf", "", "fast", "2,5",
-                                         "0x2", "2x", "1e9", "%1"));
+                                         "0x2", "2x", "1e9", "%1"),
+                         byValue);
 
 TEST(ControlRequest, RefusesWhatIsNoChoice) {
     QString error;

@@ -2,6 +2,7 @@
 
 #include "cli/CommandTable.h"
 #include "cli/RenderRequest.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gmock/gmock.h>
@@ -52,7 +53,8 @@ TEST_P(HelpOfACommand, FitsATerminal) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Specs, HelpOfACommand, testing::ValuesIn(allSpecs()));
+INSTANTIATE_TEST_SUITE_P(Specs, HelpOfACommand, testing::ValuesIn(allSpecs()),
+                         byMember<&CommandSpec::name>);
 
 TEST(HelpText, OfTheProgramNamesEveryCommand) {
     const QString help = helpText(programSpec());

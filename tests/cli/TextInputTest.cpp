@@ -1,5 +1,6 @@
 #include "cli/TextInput.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "support/TestFiles.h"
 
@@ -86,7 +87,8 @@ TEST_P(TextInputInvalid, IsRefusedWhole) {
 
 INSTANTIATE_TEST_SUITE_P(Bytes, TextInputInvalid,
                          testing::Values("caf\xE9", "\xFF\xFEh", "cut \xE2\x82", "\xC0\xAF",
-                                         "\xED\xA0\x80", "\xF4\x90\x80\x80"));
+                                         "\xED\xA0\x80", "\xF4\x90\x80\x80"),
+                         byValue);
 
 /// Gives the process another standard input while it lives.
 class ReplacedStandardInput {

@@ -2,6 +2,7 @@
 
 #include "export/MemorySink.h"
 #include "render/markdown/MarkdownRenderer.h"
+#include "support/CaseName.h"
 
 #include <QRegularExpression>
 #include <QString>
@@ -104,7 +105,8 @@ INSTANTIATE_TEST_SUITE_P(
         ParagraphCase{u"```\na\n```",
                       u"padding-block: 8px 8px; padding-inline: 8px 8px; text-indent: 0px"_s},
         ParagraphCase{u"---", u"padding-block: 8px 8px; padding-inline: 0px 0px; text-indent: 0px; "
-                              u"text-align: center"_s}));
+                              u"text-align: center"_s}),
+    byMember<&ParagraphCase::markdown>);
 
 TEST(HtmlRendering, ColoursTheBoxOfADoneTaskGreen) {
     EXPECT_TRUE(paragraphsOf(u"- [x] a").first().contains(u"color: rgb(48 209 88 / 1)}>☑ "_s));

@@ -1,5 +1,6 @@
 #include "export/ScriptTitle.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +28,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Titled{u"#NoHeading\n# Yes\r\n"_s, u"Yes"_s},
                     Titled{u"```\n# comment\n```\n# After"_s, u"After"_s},
                     Titled{u"```\n# never closed"_s, u"Tessaline"_s},
-                    Titled{u"#   spaced\tout  "_s, u"spaced out"_s}));
+                    Titled{u"#   spaced\tout  "_s, u"spaced out"_s}),
+    byMember<&Titled::content>);
 
 } // namespace
 } // namespace tessaline

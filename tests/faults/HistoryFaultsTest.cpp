@@ -1,4 +1,5 @@
 #include "faults/InputOutputFaults.h"
+#include "support/CaseName.h"
 
 namespace tessaline {
 namespace {
@@ -58,7 +59,7 @@ TEST_P(HistoryFlushFaults, LoseNothingThatCouldNotBeUnderstood) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(, HistoryFlushFaults, testing::ValuesIn(allFaults), faultName);
+INSTANTIATE_TEST_SUITE_P(, HistoryFlushFaults, testing::ValuesIn(allFaults), byValue);
 
 using HistoryReadFaults = InputOutputFaults;
 
@@ -72,7 +73,7 @@ TEST_P(HistoryReadFaults, LoseNoEvent) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(, HistoryReadFaults, testing::ValuesIn(faultsOf({"read"})), faultName);
+INSTANTIATE_TEST_SUITE_P(, HistoryReadFaults, testing::ValuesIn(faultsOf({"read"})), byValue);
 
 using HistoryFolderFaults = HistoryFlushFaults;
 
@@ -81,7 +82,7 @@ TEST_P(HistoryFolderFaults, AreReported) {
                  [this](const Outcome& outcome) { expectOldOrNewHistory(outcome); });
 }
 
-INSTANTIATE_TEST_SUITE_P(, HistoryFolderFaults, testing::ValuesIn(folderFaults), faultName);
+INSTANTIATE_TEST_SUITE_P(, HistoryFolderFaults, testing::ValuesIn(folderFaults), byValue);
 
 } // namespace
 } // namespace tessaline

@@ -68,10 +68,6 @@ std::vector<Fault> faultsOf(const std::set<std::string>& calls) {
     return faults;
 }
 
-std::string faultName(const testing::TestParamInfo<Fault>& info) {
-    return nameOf(info.param);
-}
-
 void InputOutputFaults::put(const QString& name, const QByteArray& bytes) const {
     const QString path = pathOf(name);
     QDir().mkpath(QFileInfo(path).path());

@@ -28,8 +28,6 @@ void PrintTo(const Fault& fault, std::ostream* out);
 /// The ways in which these calls fail.
 std::vector<Fault> faultsOf(const std::set<std::string>& calls);
 
-std::string faultName(const testing::TestParamInfo<Fault>& info);
-
 /// Has fault_driver change the files of a folder while its calls fail one by one.
 class InputOutputFaults : public testing::TestWithParam<Fault> {
 protected:

@@ -1,4 +1,5 @@
 #include "faults/InputOutputFaults.h"
+#include "support/CaseName.h"
 
 namespace tessaline {
 namespace {
@@ -71,7 +72,7 @@ TEST_P(InstallationFaults, LeaveEachFileOfTheOldOrTheNewPluginWhole) {
 INSTANTIATE_TEST_SUITE_P(, InstallationFaults,
                          testing::ValuesIn(faultsOf({"open", "read", "write", "fsync", "rename",
                                                      "close", "mkdir", "unlink"})),
-                         faultName);
+                         byValue);
 
 using FirstInstallationFaults = InstallationFaults;
 
@@ -84,7 +85,7 @@ TEST_P(FirstInstallationFaults, LeaveNoHalfPluginFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, FirstInstallationFaults,
-                         testing::ValuesIn(faultsOf({"write", "rename", "mkdir"})), faultName);
+                         testing::ValuesIn(faultsOf({"write", "rename", "mkdir"})), byValue);
 
 using PermittedInstallationFaults = InstallationFaults;
 
@@ -101,7 +102,7 @@ TEST_P(PermittedInstallationFaults, AreMadeUpForOnceTheUserGrantsAccess) {
 
 INSTANTIATE_TEST_SUITE_P(, PermittedInstallationFaults,
                          testing::ValuesIn(faultsOf({"open", "write", "rename", "mkdir"})),
-                         faultName);
+                         byValue);
 
 } // namespace
 } // namespace tessaline

@@ -1,4 +1,5 @@
 #include "faults/InputOutputFaults.h"
+#include "support/CaseName.h"
 
 namespace tessaline {
 namespace {
@@ -35,7 +36,7 @@ TEST_P(PasteFaults, LeaveTheOldOrTheNewTextWholeAndShowTheNewOne) {
 
 INSTANTIATE_TEST_SUITE_P(, PasteFaults,
                          testing::ValuesIn(faultsOf({"open", "write", "fsync", "rename", "close"})),
-                         faultName);
+                         byValue);
 
 using PasteFolderFaults = PasteFaults;
 
@@ -43,7 +44,7 @@ TEST_P(PasteFolderFaults, ShowTheText) {
     pasteWithFaults("PLA");
 }
 
-INSTANTIATE_TEST_SUITE_P(, PasteFolderFaults, testing::ValuesIn(faultsOf({"mkdir"})), faultName);
+INSTANTIATE_TEST_SUITE_P(, PasteFolderFaults, testing::ValuesIn(faultsOf({"mkdir"})), byValue);
 
 } // namespace
 } // namespace tessaline

@@ -1,5 +1,6 @@
 #include "faults/InputOutputFaults.h"
 #include "settings/SettingsCodec.h"
+#include "support/CaseName.h"
 
 namespace tessaline {
 namespace {
@@ -28,7 +29,7 @@ TEST_P(SettingsSaveFaults, LeaveTheOldOrTheNewSettingsWhole) {
 
 INSTANTIATE_TEST_SUITE_P(, SettingsSaveFaults,
                          testing::ValuesIn(faultsOf({"open", "write", "fsync", "rename", "close"})),
-                         faultName);
+                         byValue);
 
 using SettingsLoadFaults = InputOutputFaults;
 
@@ -51,7 +52,7 @@ TEST_P(SettingsLoadFaults, LeaveTheFileAsItIs) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, SettingsLoadFaults,
-                         testing::ValuesIn(faultsOf({"open", "read", "close"})), faultName);
+                         testing::ValuesIn(faultsOf({"open", "read", "close"})), byValue);
 
 } // namespace
 } // namespace tessaline

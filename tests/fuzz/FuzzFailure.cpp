@@ -1,6 +1,6 @@
 #include "FuzzFailure.h"
 
-#include "render/markdown/EscapedText.h"
+#include "support/texts/EscapedText.h"
 
 #include <cstdio>
 #include <cstdlib>

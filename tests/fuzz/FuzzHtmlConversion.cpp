@@ -1,8 +1,8 @@
 #include "FuzzFailure.h"
 #include "FuzzText.h"
 
-#include "sources/notes/HtmlConversionOracle.h"
 #include "sources/notes/HtmlToMarkdown.h"
+#include "support/texts/HtmlConversionOracle.h"
 
 using namespace tessaline;
 

@@ -2,8 +2,8 @@
 #include "FuzzText.h"
 
 #include "render/markdown/MarkdownRenderer.h"
-#include "render/markdown/RendererOracle.h"
-#include "render/markdown/StyledPiece.h"
+#include "support/texts/RendererOracle.h"
+#include "support/texts/StyledPiece.h"
 
 using namespace tessaline;
 

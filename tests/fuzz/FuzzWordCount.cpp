@@ -2,7 +2,7 @@
 #include "FuzzText.h"
 
 #include "render/markdown/MarkdownRenderer.h"
-#include "render/markdown/RendererOracle.h"
+#include "support/texts/RendererOracle.h"
 
 using namespace tessaline;
 

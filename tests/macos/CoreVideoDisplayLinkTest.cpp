@@ -1,6 +1,7 @@
 #include "macos/FakeCoreVideo.h"
 #include "platform/DisplayLink.h"
 #include "platform/macos/MacAdapters.h"
+#include "support/CaseName.h"
 
 #include <gmock/gmock.h>
 
@@ -150,7 +151,8 @@ TEST_P(CoreVideoDisplayLinkStopTest, LetsNoMoreCallbacksThrough) {
 
 INSTANTIATE_TEST_SUITE_P(WhateverCoreVideoDoes, CoreVideoDisplayLinkStopTest,
                          ::testing::Values(FakeCoreVideo::Stopping::returnsAtOnce,
-                                           FakeCoreVideo::Stopping::waitsForRefresh));
+                                           FakeCoreVideo::Stopping::waitsForRefresh),
+                         byValue);
 
 } // namespace
 

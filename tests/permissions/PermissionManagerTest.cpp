@@ -2,6 +2,7 @@
 
 #include "platform/NotificationCenter.h"
 #include "settings/PermissionType.h"
+#include "support/CaseName.h"
 #include "support/FakeAccessibilityTrust.h"
 #include "support/FakeBundleInformation.h"
 #include "support/FakeMainQueue.h"
@@ -153,7 +154,7 @@ TEST_P(StaleEntry, IsClearedByTheSystemsToolWhoseFailureDoesNotMatter) {
 }
 
 // -1: there is no such tool.
-INSTANTIATE_TEST_SUITE_P(ExitCodes, StaleEntry, testing::Values(0, 1, -1));
+INSTANTIATE_TEST_SUITE_P(ExitCodes, StaleEntry, testing::Values(0, 1, -1), byValue);
 
 TEST_F(PermissionManagerTest, LeavesTheEntryAloneWhileItIsTrusted) {
     trust.trusted = true;

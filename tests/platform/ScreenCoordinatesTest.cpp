@@ -1,5 +1,6 @@
 #include "platform/ScreenCoordinates.h"
 
+#include "support/CaseName.h"
 #include "support/PrintRect.h"
 
 #include <gmock/gmock.h>
@@ -19,10 +20,6 @@ struct FlipCase {
 
 void PrintTo(const FlipCase& flip, std::ostream* out) {
     *out << flip.name;
-}
-
-std::string nameOf(const ::testing::TestParamInfo<FlipCase>& info) {
-    return info.param.name;
 }
 
 class ScreenCoordinates : public ::testing::TestWithParam<FlipCase> {};
@@ -55,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {1920, 100, 1512, 982},
                  {1920, 100, 1512, 982},
                  {0, 0, 1512, 982}}),
-    nameOf);
+    byMember<&FlipCase::name>);
 
 TEST(ToQtCoordinates, RoundsTheEdgesSoThatTheTopStaysAtTheTop) {
     EXPECT_EQ(toQtCoordinates({530.5, 726, 451, 256}, notebook), QRect(531, 0, 451, 256));

@@ -1,4 +1,5 @@
 #include "platform/qt/StopSignals.h"
+#include "support/CaseName.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -13,8 +14,9 @@ namespace {
 class StopSignalsTest : public testing::TestWithParam<int> {};
 using StopSignalsDeathTest = StopSignalsTest;
 
-INSTANTIATE_TEST_SUITE_P(Kinds, StopSignalsTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
-INSTANTIATE_TEST_SUITE_P(Kinds, StopSignalsDeathTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
+INSTANTIATE_TEST_SUITE_P(Kinds, StopSignalsTest, testing::Values(SIGTERM, SIGINT, SIGHUP), byValue);
+INSTANTIATE_TEST_SUITE_P(Kinds, StopSignalsDeathTest, testing::Values(SIGTERM, SIGINT, SIGHUP),
+                         byValue);
 
 TEST_P(StopSignalsTest, CallFromTheEventLoop) {
     int stops = 0;

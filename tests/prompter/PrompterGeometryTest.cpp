@@ -1,6 +1,7 @@
 #include "prompter/PrompterGeometry.h"
 
 #include "platform/Screen.h"
+#include "support/CaseName.h"
 #include "support/PrintRect.h"
 
 #include <gmock/gmock.h>
@@ -22,10 +23,6 @@ struct PlacementCase {
 
 void PrintTo(const PlacementCase& placement, std::ostream* out) {
     *out << placement.name;
-}
-
-std::string nameOf(const ::testing::TestParamInfo<PlacementCase>& info) {
-    return info.param.name;
 }
 
 class PrompterFrame : public ::testing::TestWithParam<PlacementCase> {};
@@ -61,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                       {100, 224, 800, 256}},
         PlacementCase{
             "TallerThanTheScreen", {400, 600, 0}, {0, 0, 640, 480}, {120, -120, 400, 600}}),
-    nameOf);
+    byMember<&PlacementCase::name>);
 
 class PrompterFrameOnMainScreen : public ::testing::TestWithParam<PlacementCase> {};
 
@@ -82,7 +79,7 @@ INSTANTIATE_TEST_SUITE_P(
         PlacementCase{
             "WithoutTheOrigin", {450, 256, 0}, {-1920, 300, 1920, 1080}, {735, 824, 450, 256}},
         PlacementCase{"WiderThanTheScreen", {800, 256, 0}, {0, 0, 640, 480}, {-80, 224, 800, 256}}),
-    nameOf);
+    byMember<&PlacementCase::name>);
 
 Screen screenWithBar(const Rect& frame, double barHeight) {
     Screen screen;

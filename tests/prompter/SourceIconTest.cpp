@@ -1,5 +1,6 @@
 #include "prompter/SourceIcon.h"
 
+#include "support/CaseName.h"
 #include "support/WidgetPicture.h"
 
 #include <QPixmap>
@@ -40,7 +41,8 @@ TEST_P(SourceIcon, IsDrawnInTheColourOfItsSource) {
 
 INSTANTIATE_TEST_SUITE_P(EverySource, SourceIcon,
                          testing::Values(SourceType::obsidian, SourceType::appleNotes,
-                                         SourceType::clipboard));
+                                         SourceType::clipboard),
+                         byValue);
 
 TEST(SourceIcons, OfSheetsHaveTheirEdgesBetweenPixels) {
     for (const SourceType source : {SourceType::appleNotes, SourceType::clipboard}) {

@@ -1,4 +1,5 @@
 #include "reading/Pace.h"
+#include "support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,8 @@ INSTANTIATE_TEST_SUITE_P(Examples, ReadingTime,
                                          Estimate{1843, ScrollRate::medium, 180, u"3m"_s},
                                          Estimate{460, ScrollRate::medium, 45, u"45s"_s},
                                          Estimate{614.4, ScrollRate::medium, 60, u"1m"_s},
-                                         Estimate{40000, ScrollRate::medium, 3905, u"65m5s"_s}));
+                                         Estimate{40000, ScrollRate::medium, 3905, u"65m5s"_s}),
+                         byMember<&Estimate::text>);
 
 TEST(ReadingTimeText, IsNeverBelowFiveSeconds) {
     EXPECT_EQ(timeText(0), u"5s"_s);

@@ -1,6 +1,7 @@
 #include "reading/ScriptChange.h"
 
 #include "render/markdown/MarkdownRenderer.h"
+#include "support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +42,8 @@ INSTANTIATE_TEST_SUITE_P(Edits, ScriptChangeOf,
                                          Case{u"a\na"_s, u"a\na\na"_s, 2, 0, 1},
                                          Case{u"a\nb"_s, u"a\n**b**"_s, 1, 1, 1},
                                          Case{u"a **b** c\nd"_s, u"a **b** c\nX"_s, 1, 1, 1},
-                                         Case{u"a\nb\nc\nd"_s, u"a\nX\nc\nY\nd"_s, 1, 2, 3}));
+                                         Case{u"a\nb\nc\nd"_s, u"a\nX\nc\nY\nd"_s, 1, 2, 3}),
+                         byMember<&Case::before>);
 
 TEST(ScriptChange, MovesOffsetsWithTheTextAroundTheChange) {
     const Script before = scriptOf(u"first\nsecond\nthird"_s);

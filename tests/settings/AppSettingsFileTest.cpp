@@ -2,6 +2,7 @@
 
 #include "settings/JsonReader.h"
 #include "settings/TemporaryHome.h"
+#include "support/CaseName.h"
 #include "support/OrdinaryUser.h"
 #include "support/RecordedLog.h"
 #include "support/SmallDisk.h"
@@ -90,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
         UnusableFile{"DeeplyNested", QByteArray(2'000'000, '['), "The JSON is nested too deeply"},
         UnusableFile{"Huge", QByteArray(16'777'217, ' '),
                      "The file is larger than 16777216 bytes"}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&UnusableFile::name>);
 
 /// A file that somebody wrote by hand, with a mistake.
 class AppSettingsCopy : public AppSettingsFile {

@@ -1,6 +1,7 @@
 #include "settings/AppSettings.h"
 
 #include "settings/TemporaryHome.h"
+#include "support/CaseName.h"
 #include "support/TestFiles.h"
 
 #include <QDir>
@@ -141,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(
                               0.0, 2.0},
                     SpeedCase{"NegativeSpeedStays",
                               R"({"scrollSpeed": -3, "lastNonZeroScrollSpeed": -1})", -3.0, 2.0}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&SpeedCase::name>);
 
 TEST_F(AppSettingsTest, CreatesItsFolderAgainForEverySave) {
     AppSettings settings;

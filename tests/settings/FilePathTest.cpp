@@ -1,5 +1,6 @@
 #include "settings/FilePath.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <QDir>
@@ -18,7 +19,8 @@ class FilePathBytes : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(Names, FilePathBytes,
                          testing::Values("", "/home/ann/talk.md", "żółć 👋.md", "caf\xE9.md",
                                          "\xFF\xFE", "cut \xE2\x82", "cut \xF0\x9F\x91", "\xC0\xAF",
-                                         "\xED\xB3\xA9", "\xF4\x90\x80\x80", "👋\xE9👋\xE9\xA9"));
+                                         "\xED\xB3\xA9", "\xF4\x90\x80\x80", "👋\xE9👋\xE9\xA9"),
+                         byValue);
 
 TEST_P(FilePathBytes, ComeBackAsTheyWere) {
     EXPECT_EQ(nativePath(pathText(GetParam())), QByteArray(GetParam()));

@@ -1,4 +1,5 @@
 #include "settings/ScrollRate.h"
+#include "support/CaseName.h"
 
 #include <gmock/gmock.h>
 
@@ -38,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(RateCase{ScrollRate::slow, u"slow"_s, u"Slow"_s, 4.8, 7.68},
                     RateCase{ScrollRate::medium, u"medium"_s, u"Medium"_s, 6.4, 10.240000000000002},
                     RateCase{ScrollRate::fast, u"fast"_s, u"Fast"_s, 9.6, 15.36}),
-    [](const auto& test) { return test.param.title.toStdString(); });
+    byMember<&RateCase::title>);
 
 TEST(ScrollRate, ListsAllCasesInDeclarationOrder) {
     EXPECT_THAT(allScrollRates,

@@ -1,4 +1,5 @@
 #include "settings/SettingsCodec.h"
+#include "support/CaseName.h"
 
 #include <gmock/gmock.h>
 
@@ -108,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(Such, UnusableValueDecoding,
                                          UnusableValue{"SwappedPair", R"("\udfa4\ud83c")"},
                                          UnusableValue{"HighSurrogateBeforeAPair",
                                                        R"("\ud83c\ud83c\udfa4")"}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         byMember<&UnusableValue::name>);
 
 TEST(SettingsDecoding, IgnoresAnUnknownKeyWithHalfOfASurrogatePair) {
     EXPECT_EQ(decoded(R"({"\ud83c" : "\udfa4", "fontSize": 20})").fontSize, 20.0);
@@ -235,7 +236,7 @@ INSTANTIATE_TEST_SUITE_P(
                     R"({"enabledSourceTypes": ["obsidian", "obsidian", "clipboard"]})",
                     {clipboard, obsidian},
                     clipboard}),
-    [](const auto& test) { return test.param.name.toStdString(); });
+    byMember<&SourcesCase::name>);
 
 struct WrongValue {
     const char* key;
@@ -264,7 +265,8 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongValue{"activeSourceType", R"("Clipboard")"},
                     WrongValue{"activeSourceType", R"("none")"},
                     WrongValue{"activeSourceType", "0"},
-                    WrongValue{"activeSourceType", R"(["clipboard"])"}));
+                    WrongValue{"activeSourceType", R"(["clipboard"])"}),
+    byValue);
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, WrongValueDecoding,
@@ -276,14 +278,16 @@ INSTANTIATE_TEST_SUITE_P(
         WrongValue{"preferredDisplayID", "4294967296"},
         WrongValue{"preferredDisplayID", "18446744073709551616"},
         WrongValue{"preferredDisplayID", "1.5"}, WrongValue{"preferredDisplayID", "1e300"},
-        WrongValue{"preferredDisplayID", R"("1")"}, WrongValue{"preferredDisplayID", "true"}));
+        WrongValue{"preferredDisplayID", R"("1")"}, WrongValue{"preferredDisplayID", "true"}),
+    byValue);
 
 INSTANTIATE_TEST_SUITE_P(Booleans, WrongValueDecoding,
                          testing::Values(WrongValue{"autoScrollEnabled", "0"},
                                          WrongValue{"autoScrollEnabled", "1"},
                                          WrongValue{"autoScrollEnabled", R"("true")"},
                                          WrongValue{"hasCompletedOnboarding", "1.0"},
-                                         WrongValue{"hasCompletedOnboarding", "[]"}));
+                                         WrongValue{"hasCompletedOnboarding", "[]"}),
+                         byValue);
 
 INSTANTIATE_TEST_SUITE_P(
     Structures, WrongValueDecoding,
@@ -298,7 +302,8 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongValue{"appleNotesConfig", R"({"noteId": "7"})"},
                     WrongValue{"appleNotesConfig", R"({"noteName": "Talk"})"},
                     WrongValue{"appleNotesConfig", R"({"noteId": "7", "noteName": null})"},
-                    WrongValue{"appleNotesConfig", R"({"noteId": 7, "noteName": "Talk"})"}));
+                    WrongValue{"appleNotesConfig", R"({"noteId": 7, "noteName": "Talk"})"}),
+    byValue);
 
 INSTANTIATE_TEST_SUITE_P(Base64, WrongValueDecoding,
                          testing::Values(WrongValue{"obsidianBookmarkData", R"("AAH-_w==")"},
@@ -308,7 +313,8 @@ INSTANTIATE_TEST_SUITE_P(Base64, WrongValueDecoding,
                                          WrongValue{"obsidianBookmarkData", R"("====")"},
                                          WrongValue{"obsidianBookmarkData", R"("AA=A")"},
                                          WrongValue{"obsidianBookmarkData", R"("äöüß")"},
-                                         WrongValue{"obsidianBookmarkData", "[0, 1]"}));
+                                         WrongValue{"obsidianBookmarkData", "[0, 1]"}),
+                         byValue);
 
 TEST(SettingsDecoding, NamesTheFirstOfSeveralWrongKeys) {
     EXPECT_EQ(decodingError(R"({"width": "x", "fontSize": "x"})"),
@@ -358,7 +364,7 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenFile{"Array", "[]", u"The JSON is not an object"_s},
         BrokenFile{"Null", "null", u"The JSON is not an object"_s},
         BrokenFile{"Text", R"("config")", u"The JSON is not an object"_s}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&BrokenFile::name>);
 
 TEST(SettingsDecoding, RefusesMillionsOfNestedBracketsWithoutBuildingThem) {
     for (const char* opening : {"[", "{\"x\":"}) {

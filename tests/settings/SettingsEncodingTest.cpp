@@ -1,6 +1,7 @@
 #include "settings/SettingsCodec.h"
 
 #include "settings/TemporaryHome.h"
+#include "support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -134,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
         FieldCase{"PreferredDisplayID", [](auto& s) { s.preferredDisplayID = 0; }},
         FieldCase{"GreatestPreferredDisplayID",
                   [](auto& s) { s.preferredDisplayID = 4294967295U; }}),
-    [](const auto& test) { return std::string(test.param.name); });
+    byMember<&FieldCase::name>);
 
 struct DoubleField {
     const char* key;
@@ -167,7 +168,7 @@ INSTANTIATE_TEST_SUITE_P(Fields, NonFiniteEncoding,
                                                      &PersistedSettings::scrollSpeed},
                                          DoubleField{"lastNonZeroScrollSpeed",
                                                      &PersistedSettings::lastNonZeroScrollSpeed}),
-                         [](const auto& test) { return std::string(test.param.key); });
+                         byMember<&DoubleField::key>);
 
 TEST(SettingsEncoding, ReplacesALoneSurrogateSoThatTheFileStaysReadable) {
     PersistedSettings settings;

@@ -1,6 +1,7 @@
 #include "sources/ClipboardSource.h"
 
 #include "settings/SupportFolder.h"
+#include "support/CaseName.h"
 #include "support/FakePasteboard.h"
 #include "support/NotAFile.h"
 #include "support/OrdinaryUser.h"
@@ -118,7 +119,7 @@ TEST_P(ClipboardSourceNothingToPaste, ChangesNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Pasteboards, ClipboardSourceNothingToPaste,
-                         ::testing::Values(std::nullopt, u""_s));
+                         ::testing::Values(std::nullopt, u""_s), byValue);
 
 TEST_F(ClipboardSourceTest, DropsThePreviousCallbackAtANewStart) {
     watch(source);
@@ -206,7 +207,8 @@ TEST_P(ClipboardSourceReplacedFile, IsNoText) {
     EXPECT_THAT(delivered, ElementsAre(u"PLACEHOLDER"_s, u"def"_s));
 }
 
-INSTANTIATE_TEST_SUITE_P(By, ClipboardSourceReplacedFile, ::testing::ValuesIn(allNotAFile));
+INSTANTIATE_TEST_SUITE_P(By, ClipboardSourceReplacedFile, ::testing::ValuesIn(allNotAFile),
+                         byValue);
 
 } // namespace
 } // namespace tessaline

@@ -1,5 +1,6 @@
 #include "sources/ContentFile.h"
 
+#include "support/CaseName.h"
 #include "support/NotAFile.h"
 #include "support/OrdinaryUser.h"
 #include "support/PrintQt.h"
@@ -57,7 +58,8 @@ INSTANTIATE_TEST_SUITE_P(
                       ValidText{"ReplacementCharacter", "\xEF\xBF\xBD", u"\uFFFD"_s},
                       ValidText{"Noncharacter", "\xEF\xBF\xBF", QString(QChar(0xFFFF))},
                       ValidText{"LastCodePoint", "\xF4\x8F\xBF\xBF", u"\U0010FFFF"_s},
-                      ValidText{"MarkInTheMiddle", "a\xEF\xBB\xBF", u"a\uFEFF"_s}));
+                      ValidText{"MarkInTheMiddle", "a\xEF\xBB\xBF", u"a\uFEFF"_s}),
+    byValue);
 
 struct InvalidText {
     const char* name;
@@ -88,7 +90,8 @@ INSTANTIATE_TEST_SUITE_P(
         InvalidText{"CutOffInThree", "cut off \xE2\x82"},
         InvalidText{"CutOffInFour", "cut off \xF0\x9F\x91"},
         InvalidText{"AfterARunOfAscii",
-                    "a long enough run of ASCII before the bad byte \xFE and after it as well"}));
+                    "a long enough run of ASCII before the bad byte \xFE and after it as well"}),
+    byValue);
 
 class ContentFileReplaced : public ContentFileTestWith<NotAFile> {};
 
@@ -100,7 +103,7 @@ TEST_P(ContentFileReplaced, HasNoText) {
     EXPECT_EQ(std::get<ContentSourceError>(read()), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(By, ContentFileReplaced, ::testing::ValuesIn(allNotAFile));
+INSTANTIATE_TEST_SUITE_P(By, ContentFileReplaced, ::testing::ValuesIn(allNotAFile), byValue);
 
 TEST_F(ContentFileTest, HasNoContentWhenThereIsNone) {
     EXPECT_EQ(std::get<ContentSourceError>(read()), ContentSourceError::noContent());

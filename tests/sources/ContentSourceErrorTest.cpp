@@ -1,5 +1,6 @@
 #include "sources/ContentSourceError.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gmock/gmock.h>
@@ -43,7 +44,8 @@ INSTANTIATE_TEST_SUITE_P(
                       Description{"permissionDenied", ContentSourceError::permissionDenied(),
                                   Kind::permissionDenied, u"Permission denied"_s},
                       Description{"notConfigured", ContentSourceError::notConfigured(),
-                                  Kind::notConfigured, u"Source not configured"_s}));
+                                  Kind::notConfigured, u"Source not configured"_s}),
+    byMember<&Description::name>);
 
 TEST(ContentSourceError, ComparesKindAndSubject) {
     const auto error = ContentSourceError::fileNotFound(u"/a"_s);

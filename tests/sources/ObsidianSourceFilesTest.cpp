@@ -2,6 +2,7 @@
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtTimerMaker.h"
 #include "sources/ObsidianSource.h"
+#include "support/CaseName.h"
 #include "support/FakeTimerMaker.h"
 #include "support/NotAFile.h"
 #include "support/PrintQt.h"
@@ -121,7 +122,8 @@ TEST_P(ObsidianSourceFilesReplaced, LeavesTheLastTextInPlaceAndBlocksNothing) {
     EXPECT_THAT(delivered, ElementsAre(u"A"_s));
 }
 
-INSTANTIATE_TEST_SUITE_P(By, ObsidianSourceFilesReplaced, ::testing::ValuesIn(allNotAFile));
+INSTANTIATE_TEST_SUITE_P(By, ObsidianSourceFilesReplaced, ::testing::ValuesIn(allNotAFile),
+                         byValue);
 
 TEST_F(ObsidianSourceFilesTest, DeliversWholeTextsOnlyWhileTheFileIsReplacedByRenames) {
     constexpr int versions = 500;

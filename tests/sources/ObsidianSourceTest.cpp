@@ -1,6 +1,7 @@
 #include "sources/ObsidianSource.h"
 
 #include "settings/SupportFolder.h"
+#include "support/CaseName.h"
 #include "support/FakeMainQueue.h"
 #include "support/FakeTaskRunner.h"
 #include "support/FakeTimerMaker.h"
@@ -179,7 +180,7 @@ TEST_P(ObsidianSourceReplacedFile, LeavesTheLastTextInPlace) {
     EXPECT_THAT(delivered, ElementsAre(u"B"_s));
 }
 
-INSTANTIATE_TEST_SUITE_P(By, ObsidianSourceReplacedFile, ::testing::ValuesIn(allNotAFile));
+INSTANTIATE_TEST_SUITE_P(By, ObsidianSourceReplacedFile, ::testing::ValuesIn(allNotAFile), byValue);
 
 TEST_F(ObsidianSourceTest, StopsCheckingWhenStopped) {
     putFile(path, "A");

@@ -1,5 +1,6 @@
 #include "appearance/SystemPalette.h"
 #include "support/Part.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "ui/OnboardingWindowFixture.h"
 #include "ui/SpokenControls.h"
@@ -247,7 +248,8 @@ TEST_P(FinishingKey, PressesGetStartedWhereverTheFocusIs) {
     EXPECT_FALSE(obsidianEnabled());
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, FinishingKey, testing::Values(Qt::Key_Return, Qt::Key_Enter));
+INSTANTIATE_TEST_SUITE_P(Keys, FinishingKey, testing::Values(Qt::Key_Return, Qt::Key_Enter),
+                         byValue);
 
 TEST_F(OnboardingWindowTest, TheTabKeyGoesFromTopToBottom) {
     stage.installObsidian();
@@ -331,7 +333,7 @@ TEST_P(WholeTexts, AreSeen) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(WithAndWithoutShortcuts, WholeTexts, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(WithAndWithoutShortcuts, WholeTexts, testing::Bool(), byValue);
 
 } // namespace
 } // namespace tessaline

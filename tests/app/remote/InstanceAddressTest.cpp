@@ -2,6 +2,7 @@
 
 #include "app/remote/InstanceLock.h"
 #include "settings/FilePath.h"
+#include "support/CaseName.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -159,7 +160,8 @@ INSTANTIATE_TEST_SUITE_P(
                     DisplayCase{"host.example:10.0", "", u"host.example:10"_s},
                     DisplayCase{"", "wayland-1", u"wayland-1"_s},
                     DisplayCase{"", "/run/user/1/wayland-0", u"%2Frun%2Fuser%2F1%2Fwayland-0"_s},
-                    DisplayCase{"", "", u"main"_s}));
+                    DisplayCase{"", "", u"main"_s}),
+    byMember<&DisplayCase::name>);
 
 TEST_P(InstanceDisplay, IsPartOfTheAddress) {
     QTemporaryDir folder;

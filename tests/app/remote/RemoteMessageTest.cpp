@@ -1,4 +1,5 @@
 #include "app/remote/RemoteMessage.h"
+#include "support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -109,7 +110,8 @@ class NoRemoteMessage : public testing::TestWithParam<const char*> {};
 
 INSTANTIATE_TEST_SUITE_P(Lines, NoRemoteMessage,
                          testing::Values("", " ", "null", "7", "[]", "\"text\"", "{", "{} {}",
-                                         "{\"a\":}", "\xff\xfe", "GET / HTTP/1.1"));
+                                         "{\"a\":}", "\xff\xfe", "GET / HTTP/1.1"),
+                         byValue);
 
 TEST_P(NoRemoteMessage, IsToldFromOne) {
     EXPECT_EQ(refusalOf(GetParam()), u"this is no message"_s);

@@ -1,4 +1,5 @@
 #include "ShortcutsFixture.h"
+#include "support/CaseName.h"
 
 namespace tessaline {
 
@@ -79,7 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         TapEvent{.type = Type::otherMouseDown, .modifiers = Modifier::control, .buttonNumber = 2},
         TapEvent{.type = Type::otherMouseDown, .modifiers = Modifier::control, .buttonNumber = 3},
-        TapEvent{.type = Type::rightMouseDown, .modifiers = Modifier::control, .buttonNumber = 1}));
+        TapEvent{.type = Type::rightMouseDown, .modifiers = Modifier::control, .buttonNumber = 1}),
+    byMember<&TapEvent::buttonNumber>);
 
 INSTANTIATE_TEST_SUITE_P(
     ControlAndOthers, SwallowedButtons,
@@ -87,7 +89,8 @@ INSTANTIATE_TEST_SUITE_P(
         TapEvent{.type = Type::otherMouseDown, .modifiers = controlAndAllOthers, .buttonNumber = 2},
         TapEvent{.type = Type::otherMouseDown, .modifiers = controlAndAllOthers, .buttonNumber = 3},
         TapEvent{
-            .type = Type::rightMouseDown, .modifiers = controlAndAllOthers, .buttonNumber = 1}));
+            .type = Type::rightMouseDown, .modifiers = controlAndAllOthers, .buttonNumber = 1}),
+    byMember<&TapEvent::buttonNumber>);
 
 class PassedEvents : public ShortcutsEventTap, public ::testing::WithParamInterface<TapEvent> {};
 
@@ -105,21 +108,24 @@ INSTANTIATE_TEST_SUITE_P(
         TapEvent{.type = Type::otherMouseDown, .modifiers = allButControl, .buttonNumber = 2},
         TapEvent{.type = Type::otherMouseDown, .buttonNumber = 3},
         TapEvent{.type = Type::rightMouseDown, .buttonNumber = 1},
-        TapEvent{.type = Type::rightMouseDown, .modifiers = allButControl, .buttonNumber = 1}));
+        TapEvent{.type = Type::rightMouseDown, .modifiers = allButControl, .buttonNumber = 1}),
+    byMember<&TapEvent::buttonNumber>);
 
 INSTANTIATE_TEST_SUITE_P(
     OtherButtons, PassedEvents,
     ::testing::Values(
         TapEvent{.type = Type::otherMouseDown, .modifiers = Modifier::control, .buttonNumber = 1},
         TapEvent{.type = Type::otherMouseDown, .modifiers = Modifier::control, .buttonNumber = 4},
-        TapEvent{.type = Type::otherMouseDown, .modifiers = Modifier::control, .buttonNumber = 5}));
+        TapEvent{.type = Type::otherMouseDown, .modifiers = Modifier::control, .buttonNumber = 5}),
+    byMember<&TapEvent::buttonNumber>);
 
 INSTANTIATE_TEST_SUITE_P(OtherEvents, PassedEvents,
                          ::testing::Values(TapEvent{.type = Type::other,
                                                     .modifiers = Modifier::control},
                                            TapEvent{.type = Type::scrollWheel,
                                                     .modifiers = Modifier::control,
-                                                    .isReadable = false}));
+                                                    .isReadable = false}),
+                         byMember<&TapEvent::buttonNumber>);
 
 TEST_F(ShortcutsEventTap, SwitchesItselfOnAgainAfterTheSystemSwitchedItOff) {
     EXPECT_EQ(eventTaps.send({.type = Type::tapDisabled}), Verdict::passOn);

@@ -1,4 +1,5 @@
 #include "ShortcutsFixture.h"
+#include "support/CaseName.h"
 
 namespace tessaline {
 
@@ -88,7 +89,8 @@ INSTANTIATE_TEST_SUITE_P(
         KeyEvent{.characters = u"v"_s, .modifiers = Modifier::control},
         KeyEvent{.characters = u"vv"_s, .modifiers = Modifier::command},
         KeyEvent{.characters = u"c"_s, .modifiers = Modifier::command},
-        KeyEvent{.modifiers = Modifier::command}));
+        KeyEvent{.modifiers = Modifier::command}),
+    byMember<&KeyEvent::characters>);
 
 INSTANTIATE_TEST_SUITE_P(
     Arrows, UnusedKeys,
@@ -98,7 +100,8 @@ INSTANTIATE_TEST_SUITE_P(
                       KeyEvent{.keyCode = KeyEvent::downArrow,
                                .modifiers = Modifier::shift | Modifier::option},
                       KeyEvent{.keyCode = 123, .modifiers = Modifier::control},
-                      KeyEvent{.keyCode = 124, .modifiers = Modifier::control}));
+                      KeyEvent{.keyCode = 124, .modifiers = Modifier::control}),
+    byMember<&KeyEvent::keyCode>);
 
 INSTANTIATE_TEST_SUITE_P(
     T, UnusedKeys,
@@ -111,7 +114,8 @@ INSTANTIATE_TEST_SUITE_P(
                  .modifiers = Modifier::control | Modifier::shift | Modifier::command |
                               Modifier::option},
         KeyEvent{.characters = u"y"_s,
-                 .modifiers = Modifier::control | Modifier::shift | Modifier::command}));
+                 .modifiers = Modifier::control | Modifier::shift | Modifier::command}),
+    byMember<&KeyEvent::characters>);
 
 TEST_F(ShortcutsKeys, InOurWindowsAreConsumedOnlyWhenTheyAreUsed) {
     shortcuts->setupShortcuts();

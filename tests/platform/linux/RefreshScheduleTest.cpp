@@ -1,4 +1,5 @@
 #include "platform/linux/RefreshSchedule.h"
+#include "support/CaseName.h"
 
 #include <gmock/gmock.h>
 
@@ -22,12 +23,14 @@ TEST_P(UsableRefreshRate, IsWithinReasonAndSixtyForNonsense) {
     EXPECT_EQ(usableRefreshRate(GetParam().claimed), GetParam().usable);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Claims, UsableRefreshRate,
-    ::testing::Values(RateCase{60.0, 60.0}, RateCase{59.94, 59.94}, RateCase{24.0, 24.0},
-                      RateCase{360.0, 360.0}, RateCase{1.0, 24.0}, RateCase{1000.0, 360.0},
-                      RateCase{0.0, 60.0}, RateCase{-60.0, 60.0}, RateCase{std::nan(""), 60.0},
-                      RateCase{std::numeric_limits<double>::infinity(), 60.0}));
+INSTANTIATE_TEST_SUITE_P(Claims, UsableRefreshRate,
+                         ::testing::Values(RateCase{60.0, 60.0}, RateCase{59.94, 59.94},
+                                           RateCase{24.0, 24.0}, RateCase{360.0, 360.0},
+                                           RateCase{1.0, 24.0}, RateCase{1000.0, 360.0},
+                                           RateCase{0.0, 60.0}, RateCase{-60.0, 60.0},
+                                           RateCase{std::nan(""), 60.0},
+                                           RateCase{std::numeric_limits<double>::infinity(), 60.0}),
+                         byMember<&RateCase::claimed>);
 
 TEST(RefreshSchedule, IsDueOnePeriodAfterItsStart) {
     const RefreshSchedule schedule(5 * second, 50.0);
@@ -81,7 +84,7 @@ TEST_P(RefreshScheduleWake, TakesEveryRefreshOnceWhenWokenOnTheDot) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rates, RefreshScheduleWake,
-                         ::testing::Values(24.0, 59.94, 60.0, 74.78, 143.88, 360.0));
+                         ::testing::Values(24.0, 59.94, 60.0, 74.78, 143.88, 360.0), byValue);
 
 } // namespace
 

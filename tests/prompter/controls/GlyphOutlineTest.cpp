@@ -1,4 +1,5 @@
 #include "prompter/controls/GlyphOutline.h"
+#include "support/CaseName.h"
 
 #include <QLineF>
 
@@ -42,7 +43,8 @@ TEST_P(GlyphOutlineOf, GrowsWithTheSizeAndStaysWithinIt) {
 
 INSTANTIATE_TEST_SUITE_P(EveryGlyph, GlyphOutlineOf,
                          ::testing::Values(u"\u2014"_s, u"\u25A1"_s, u"\u2699"_s, u"\u23EF"_s,
-                                           u"\U0001F4CB"_s, u"\U0001F4C4"_s));
+                                           u"\U0001F4CB"_s, u"\U0001F4C4"_s),
+                         byValue);
 
 /// How often the path of these points enters the outline.
 int entries(const QPainterPath& outline, const std::vector<QPointF>& points) {
@@ -80,7 +82,7 @@ TEST_P(GlyphOutlineOfASheet, HasTwoLinesOfTextBetweenItsEdges) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, GlyphOutlineOfASheet,
-                         ::testing::Values(u"\U0001F4CB"_s, u"\U0001F4C4"_s));
+                         ::testing::Values(u"\U0001F4CB"_s, u"\U0001F4C4"_s), byValue);
 
 TEST(GlyphOutline, ABolderDashIsThicker) {
     const auto medium = glyphOutline(u"\u2014"_s, 14, QFont::Medium, 4);

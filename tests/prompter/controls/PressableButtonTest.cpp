@@ -1,5 +1,6 @@
 #include "prompter/controls/PressableButton.h"
 
+#include "support/CaseName.h"
 #include "support/PaintCounter.h"
 #include "support/PointerEvents.h"
 #include "support/WidgetPicture.h"
@@ -248,7 +249,8 @@ INSTANTIATE_TEST_SUITE_P(
                                          GlyphCase{u"\u23EF"_s, 16}, GlyphCase{u"\U0001F4CB"_s, 14},
                                          GlyphCase{u"\U0001F4C4"_s, 14},
                                          GlyphCase{u"Ag"_s, 14, QFont::Bold}),
-                       ::testing::Values(1, 2)));
+                       ::testing::Values(1, 2)),
+    byValue);
 
 TEST(PressableButtonGlyphs, OfStraightStrokesAreSharp) {
     PressableButton button;

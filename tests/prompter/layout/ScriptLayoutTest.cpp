@@ -1,6 +1,7 @@
 #include "prompter/layout/ScriptLayout.h"
 
 #include "render/markdown/MarkdownRenderer.h"
+#include "support/CaseName.h"
 #include "support/Contrast.h"
 
 #include <QImage>
@@ -150,7 +151,8 @@ INSTANTIATE_TEST_SUITE_P(Lines, ScriptLayoutIndents,
                          testing::Values(Indents{u""_s, 0, 0}, Indents{u"# "_s, 0, 0},
                                          Indents{u"- "_s, 0, 16}, Indents{u"\t- "_s, 16, 32},
                                          Indents{u"  - [ ] "_s, 8, 28}, Indents{u"1. "_s, 0, 20},
-                                         Indents{u"> "_s, 16, 16}, Indents{u"```\n"_s, 8, 8}));
+                                         Indents{u"> "_s, 16, 16}, Indents{u"```\n"_s, 8, 8}),
+                         byMember<&Indents::prefix>);
 
 TEST(ScriptLayout, KeepsCodeAwayFromTheRightEdge) {
     ScriptLayout layout = layoutOf(u"```\n"_s + u"x"_s.repeated(200));

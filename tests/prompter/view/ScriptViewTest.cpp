@@ -1,5 +1,6 @@
 #include "prompter/view/ScriptView.h"
 #include "prompter/controls/ThemedScroller.h"
+#include "support/CaseName.h"
 #include "support/PaintCounter.h"
 
 #include "ScriptViewFixture.h"
@@ -329,7 +330,7 @@ INSTANTIATE_TEST_SUITE_P(
                                       QCoreApplication::processEvents();
                               }},
                     Measuring{"Request", [](ScriptView& view) { view.completeLayout(); }}),
-    [](const auto& tested) { return tested.param.name; });
+    byMember<&Measuring::name>);
 
 TEST_F(ScriptViewTest, IsChangedByNoQuestion) {
     setScript(

@@ -1,5 +1,6 @@
 #include "render/engines/DisplayLinkScroller.h"
 
+#include "support/CaseName.h"
 #include "support/FakeDisplayLinkMaker.h"
 #include "support/FakeMainQueue.h"
 #include "support/RecordingScrollDelegate.h"
@@ -146,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(
                       SpeedCase{"TwoThousandPoints", 120'000.0, 2, {-2000.0, -2000.0}},
                       SpeedCase{"Nothing", 0.0, 100, {}}, SpeedCase{"Backwards", -4.8, 100, {}},
                       SpeedCase{"NotANumber", std::nan(""), 100, {}}),
-    [](const auto& speed) { return speed.param.name; });
+    byMember<&SpeedCase::name>);
 
 TEST_F(DisplayLinkScrollerTest, CountsTheWholeStretchAtSpeedZeroOnceTheSpeedRises) {
     startAt(19.2);
@@ -327,7 +328,7 @@ TEST_P(DisplayLinkScrollerDrift, StaysBelowAThousandthInTenMinutesOfUnevenFrames
 }
 
 INSTANTIATE_TEST_SUITE_P(Rates, DisplayLinkScrollerDrift,
-                         ::testing::Values(24.0, 59.94, 60.0, 144.0, 360.0));
+                         ::testing::Values(24.0, 59.94, 60.0, 144.0, 360.0), byValue);
 
 } // namespace
 

@@ -2,7 +2,7 @@
 
 #include "render/ParagraphStyle.h"
 #include "render/TextAttributes.h"
-#include "render/markdown/StyledPiece.h"
+#include "support/texts/StyledPiece.h"
 
 #include <QStringView>
 

@@ -1,4 +1,5 @@
 #include "render/markdown/ExpectedPieces.h"
+#include "support/CaseName.h"
 
 #include <QString>
 
@@ -90,6 +91,6 @@ TEST_P(InlineMarkup, IsStyledAndItsMarkersDisappear) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MarkdownRenderer, InlineMarkup, testing::ValuesIn(cases),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&InlineCase::name>);
 
 } // namespace tessaline

@@ -1,6 +1,7 @@
 #include "render/markdown/MarkdownRenderer.h"
 
 #include "render/markdown/ExpectedPieces.h"
+#include "support/CaseName.h"
 
 #include <QString>
 
@@ -281,6 +282,6 @@ TEST_P(Lines, AreRenderedByTheFirstRuleThatHolds) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MarkdownRenderer, Lines, testing::ValuesIn(lineCases),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&LineCase::name>);
 
 } // namespace tessaline

@@ -1,7 +1,8 @@
-#include "render/markdown/PathologicalTexts.h"
+#include "support/texts/PathologicalTexts.h"
 
 #include "render/markdown/MarkdownRenderer.h"
-#include "render/markdown/StyledPiece.h"
+#include "support/CaseName.h"
+#include "support/texts/StyledPiece.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,6 @@ TEST_P(PathologicalTexts, AreCounted) {
 
 INSTANTIATE_TEST_SUITE_P(MarkdownRenderer, PathologicalTexts,
                          testing::ValuesIn(pathologicalTexts().begin(), pathologicalTexts().end()),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&PathologicalText::name>);
 
 } // namespace tessaline

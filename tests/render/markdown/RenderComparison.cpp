@@ -1,9 +1,9 @@
 #include "render/markdown/RenderComparison.h"
 
-#include "render/markdown/EscapedText.h"
 #include "render/markdown/MarkdownRenderer.h"
-#include "render/markdown/RendererOracle.h"
-#include "render/markdown/StyledPiece.h"
+#include "support/texts/EscapedText.h"
+#include "support/texts/RendererOracle.h"
+#include "support/texts/StyledPiece.h"
 
 #include <QString>
 

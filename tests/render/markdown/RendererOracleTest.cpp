@@ -1,7 +1,8 @@
 #include "render/markdown/AwkwardLines.h"
-#include "render/markdown/PathologicalTexts.h"
 #include "render/markdown/RandomMarkdown.h"
 #include "render/markdown/RenderComparison.h"
+#include "support/CaseName.h"
+#include "support/texts/PathologicalTexts.h"
 
 #include <QChar>
 #include <QString>
@@ -119,7 +120,7 @@ TEST_P(RandomTexts, AgreeAsDocuments) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(RendererOracle, RandomTexts, testing::Range(1, 11));
+INSTANTIATE_TEST_SUITE_P(RendererOracle, RandomTexts, testing::Range(1, 11), byValue);
 
 TEST_P(PathologicalTextsInSmall, Agree) {
     for (const int length : {1, 2, 3, 5, 8, 63, 64, 65, 300}) {
@@ -129,6 +130,6 @@ TEST_P(PathologicalTextsInSmall, Agree) {
 
 INSTANTIATE_TEST_SUITE_P(RendererOracle, PathologicalTextsInSmall,
                          testing::ValuesIn(pathologicalTexts().begin(), pathologicalTexts().end()),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&PathologicalText::name>);
 
 } // namespace tessaline

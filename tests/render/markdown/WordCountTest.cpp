@@ -1,4 +1,5 @@
 #include "render/markdown/MarkdownRenderer.h"
+#include "support/CaseName.h"
 
 #include <QString>
 
@@ -83,6 +84,6 @@ TEST_P(WordCount, CountsWordsWithoutSyntax) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MarkdownRenderer, WordCount, testing::ValuesIn(cases),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&CountCase::name>);
 
 } // namespace tessaline

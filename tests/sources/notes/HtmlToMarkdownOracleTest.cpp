@@ -1,7 +1,7 @@
 #include "sources/notes/HtmlToMarkdown.h"
 
-#include "render/markdown/EscapedText.h"
-#include "sources/notes/HtmlConversionOracle.h"
+#include "support/texts/EscapedText.h"
+#include "support/texts/HtmlConversionOracle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 #include "sources/notes/HtmlToMarkdown.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -56,7 +57,7 @@ constexpr Conversion conversions[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Such, HtmlToMarkdown, ::testing::ValuesIn(conversions),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&Conversion::name>);
 
 /// Repeats `unit`, puts `tail` at the end: what makes a careless scanner quadratic.
 struct LongHtml {
@@ -104,7 +105,7 @@ constexpr LongHtml longHtml[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Such, LongHtmlToMarkdown, ::testing::ValuesIn(longHtml),
-                         [](const auto& suite) { return std::string(suite.param.name); });
+                         byMember<&LongHtml::name>);
 
 } // namespace
 } // namespace tessaline

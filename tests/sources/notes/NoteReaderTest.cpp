@@ -1,5 +1,6 @@
 #include "sources/notes/NoteReader.h"
 
+#include "support/CaseName.h"
 #include "support/FakeProcessRunner.h"
 #include "support/PrintQt.h"
 
@@ -114,7 +115,8 @@ INSTANTIATE_TEST_SUITE_P(
                       ContentSourceError::scriptError(u"Can’t get note (-1728)"_s)},
         ScriptFailure{u""_s, 1, ContentSourceError::scriptError(u"Script failed"_s)},
         ScriptFailure{u"No such file or directory"_s, -1,
-                      ContentSourceError::scriptError(u"No such file or directory"_s)}));
+                      ContentSourceError::scriptError(u"No such file or directory"_s)}),
+    byMember<&ScriptFailure::error>);
 
 TEST_F(NoteReaderTest, IgnoresWarningsOfAScriptThatSucceeds) {
     runner.result = {u"text"_s, u"not allowed (-1743)"_s, 0};

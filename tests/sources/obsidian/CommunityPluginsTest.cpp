@@ -1,6 +1,7 @@
 #include "sources/obsidian/CommunityPlugins.h"
 
 #include "sources/obsidian/ObsidianHome.h"
+#include "support/CaseName.h"
 #include "support/NotAFile.h"
 #include "support/PrintQt.h"
 #include "support/SmallDisk.h"
@@ -102,7 +103,8 @@ INSTANTIATE_TEST_SUITE_P(Such, OtherCommunityList,
                                            R"(["obsidian-tessaline",["a"]])",
                                            R"(["obsidian-tessaline",1e400])",
                                            R"(["obsidian-tessaline","\ud83c"])",
-                                           R"("obsidian-tessaline")", "[\"\xFF\"]"));
+                                           R"("obsidian-tessaline")", "[\"\xFF\"]"),
+                         byValue);
 
 TEST_F(CommunityPluginsTest, MayBeAListThatNestsDeeply) {
     const QByteArray bytes = QByteArray(100'000, '[') + QByteArray(100'000, ']');

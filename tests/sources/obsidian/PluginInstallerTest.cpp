@@ -2,6 +2,7 @@
 
 #include "sources/obsidian/ObsidianHome.h"
 #include "sources/obsidian/VaultRegistry.h"
+#include "support/CaseName.h"
 #include "support/FakeFolderChooser.h"
 #include "support/OrdinaryUser.h"
 #include "support/PrintQt.h"
@@ -217,7 +218,8 @@ TEST_P(PluginInstallerVaultNames, AreTakenAsTheyAre) {
 
 INSTANTIATE_TEST_SUITE_P(Such, PluginInstallerVaultNames,
                          ::testing::Values("two words", "it's \"mine\"", "Übung メモ 📝",
-                                           "back\\slash", "100% %1", ".hidden", "a.b", "$HOME;*"));
+                                           "back\\slash", "100% %1", ".hidden", "a.b", "$HOME;*"),
+                         byValue);
 
 TEST_F(PluginInstallerTest, ReportsAFullDiskAndLeavesNoHalfFile) {
     const SmallDisk disk(home.vault);

@@ -1,5 +1,6 @@
 #include "sources/obsidian/VaultRegistry.h"
 
+#include "support/CaseName.h"
 #include "support/NotAFile.h"
 #include "support/PrintQt.h"
 #include "support/TestFiles.h"
@@ -71,7 +72,8 @@ INSTANTIATE_TEST_SUITE_P(Such, OtherRegistryFile,
                                            R"({"vaults":[{"path":"/a"}]})", R"({"vaults":"/a"})",
                                            R"({"vaults":{"a":{"path":"/a"}})",
                                            R"({"vaults":{"a":{"path":"/a"}}}x)",
-                                           "{\"vaults\":{\"a\":{\"path\":\"/\xFF\"}}}"));
+                                           "{\"vaults\":{\"a\":{\"path\":\"/\xFF\"}}}"),
+                         byValue);
 
 TEST(VaultRegistryFile, EndsWhereItsObjectEnds) {
     const QByteArray registry = R"({"vaults":{"a":{"path":"/a"}}})";
@@ -199,7 +201,7 @@ TEST_P(VaultRegistryNotAFile, YieldsNothing) {
     EXPECT_EQ(registry.findVault(), std::nullopt);
 }
 
-INSTANTIATE_TEST_SUITE_P(By, VaultRegistryNotAFile, ::testing::ValuesIn(allNotAFile));
+INSTANTIATE_TEST_SUITE_P(By, VaultRegistryNotAFile, ::testing::ValuesIn(allNotAFile), byValue);
 
 } // namespace
 } // namespace tessaline

@@ -1,3 +1,4 @@
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/controls/PointSlider.h"
@@ -121,7 +122,8 @@ TEST_P(OffsetChange, TakesTheMiddleNearTheMiddle) {
 INSTANTIATE_TEST_SUITE_P(Offsets, OffsetChange,
                          testing::Values(Offset{15, 0, u"Center"_s}, Offset{-20, 0, u"Center"_s},
                                          Offset{-21, -21, u"-21px left"_s},
-                                         Offset{35.9, 35.9, u"+35px right"_s}));
+                                         Offset{35.9, 35.9, u"+35px right"_s}),
+                         byMember<&Offset::label>);
 
 TEST_F(DisplaySettings, AWiderPrompterBringsTheOffsetInAtTheNextChange) {
     stage.settings.setWidth(600);
@@ -192,7 +194,8 @@ TEST_P(ScrollRateChoice, IsShownAndTakenByTitle) {
 INSTANTIATE_TEST_SUITE_P(Rates, ScrollRateChoice,
                          testing::Values(Rate{ScrollRate::slow, u"Slow"_s, u"slow"_s},
                                          Rate{ScrollRate::medium, u"Medium"_s, u"medium"_s},
-                                         Rate{ScrollRate::fast, u"Fast"_s, u"fast"_s}));
+                                         Rate{ScrollRate::fast, u"Fast"_s, u"fast"_s}),
+                         byMember<&Rate::title>);
 
 TEST_F(DisplaySettings, WithoutASelectedRateTheRateStays) {
     stage.settings.setScrollRate(ScrollRate::slow);

@@ -1,5 +1,6 @@
 #include "ui/config/HorizontalPosition.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +37,8 @@ TEST_P(PositionSnapping, TakesTheMiddleForSmallOffsetsOnly) {
 
 INSTANTIATE_TEST_SUITE_P(Offsets, PositionSnapping,
                          testing::Values(Snap{0, 0}, Snap{15, 0}, Snap{20, 0}, Snap{-20, 0},
-                                         Snap{20.25, 20.25}, Snap{-21, -21}, Snap{300, 300}));
+                                         Snap{20.25, 20.25}, Snap{-21, -21}, Snap{300, 300}),
+                         byMember<&Snap::offset>);
 
 struct Words {
     double offset;
@@ -53,7 +55,8 @@ INSTANTIATE_TEST_SUITE_P(Offsets, PositionText,
                          testing::Values(Words{0, u"Center"_s}, Words{0.9, u"Center"_s},
                                          Words{-0.9, u"Center"_s}, Words{35, u"+35px right"_s},
                                          Words{35.9, u"+35px right"_s}, Words{-35, u"-35px left"_s},
-                                         Words{-35.9, u"-35px left"_s}));
+                                         Words{-35.9, u"-35px left"_s}),
+                         byMember<&Words::text>);
 
 TEST(HorizontalPosition, CutsTheFractionOffAValue) {
     EXPECT_EQ(lengthText(600, u"px"_s), u"600px"_s);

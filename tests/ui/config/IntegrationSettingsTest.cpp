@@ -1,5 +1,6 @@
 #include "appearance/SystemPalette.h"
 #include "controls/IconImage.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/controls/StatusDot.h"
@@ -97,7 +98,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(PluginState{false, false, SystemPalette::orange, u"Plugin not found"_s},
                     PluginState{false, true, SystemPalette::orange, u"Plugin not found"_s},
                     PluginState{true, true, SystemPalette::green, u"Plugin active"_s},
-                    PluginState{true, false, SystemPalette::orange, u"Disabled in Obsidian"_s}));
+                    PluginState{true, false, SystemPalette::orange, u"Disabled in Obsidian"_s}),
+    byMember<&PluginState::text>);
 
 TEST_F(IntegrationSettings, SwitchingOnEnablesTheSourceAndRecordsIt) {
     useSourceManager();

@@ -1,5 +1,6 @@
 #include "appearance/SystemPalette.h"
 #include "controls/ElidingLabel.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/TextType.h"
@@ -87,7 +88,8 @@ INSTANTIATE_TEST_SUITE_P(
         Text{u"Works from any app:"_s, {10, QFont::Normal}, SystemPalette::tertiaryLabel},
         Text{u"Ctrl + Scroll"_s, key, SystemPalette::label},
         Text{u"Scroll up or down"_s, small, SystemPalette::secondaryLabel},
-        Text{u"Shortcuts in Any Application"_s, name, SystemPalette::label}));
+        Text{u"Shortcuts in Any Application"_s, name, SystemPalette::label}),
+    byMember<&Text::text>);
 
 TEST_F(SettingsLook, TheSmallButtonsHaveSmallTitles) {
     EXPECT_EQ(typeOf(control<QPushButton>("obsidianConfigButton")), small);

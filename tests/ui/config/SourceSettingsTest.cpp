@@ -1,5 +1,6 @@
 #include "controls/ElidingLabel.h"
 #include "sources/notes/AppleNotesSource.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/SpokenControls.h"
@@ -96,7 +97,7 @@ TEST_P(SourceRows, ShowTheNoteForAppleNotesOnlyAndNeverTheFile) {
     EXPECT_FALSE(control<QWidget>("fileConfig").isVisible());
 }
 
-INSTANTIATE_TEST_SUITE_P(Sources, SourceRows, testing::ValuesIn(allSourceTypes));
+INSTANTIATE_TEST_SUITE_P(Sources, SourceRows, testing::ValuesIn(allSourceTypes), byValue);
 
 TEST_F(SourceSettings, HideTheNoteOnceAnotherSourceIsChosen) {
     useNotes();

@@ -1,4 +1,5 @@
 #include "appearance/SystemPalette.h"
+#include "support/CaseName.h"
 #include "support/WidgetPicture.h"
 #include "ui/controls/BezelButton.h"
 #include "ui/controls/PointSlider.h"
@@ -51,7 +52,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values([]() -> QWidget* { return new BezelButton(u"Choose"_s, 13); },
                     []() -> QWidget* { return new PointSlider(u"Width"_s, 100); },
                     []() -> QWidget* { return new PopupButton(u"Screen"_s, 100); },
-                    []() -> QWidget* { return new Switch(u"Obsidian"_s); }));
+                    []() -> QWidget* { return new Switch(u"Obsidian"_s); }),
+    byValue);
 
 TEST(FocusRingOfASlider, IsWholeAtBothEnds) {
     QWidget window;

@@ -2,6 +2,7 @@
 
 #include "controls/IconImage.h"
 #include "support/Part.h"
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "ui/controls/Switch.h"
 
@@ -42,7 +43,8 @@ TEST_P(IntegrationFace, ShowsTheSourceByEmojiAndNameWithoutAnImage) {
 INSTANTIATE_TEST_SUITE_P(Sources, IntegrationFace,
                          testing::Values(Face{SourceType::obsidian, u"📄"_s, u"Obsidian"_s},
                                          Face{SourceType::appleNotes, u"📝"_s, u"Apple Notes"_s},
-                                         Face{SourceType::clipboard, u"📋"_s, u"Clipboard"_s}));
+                                         Face{SourceType::clipboard, u"📋"_s, u"Clipboard"_s}),
+                         byMember<&Face::name>);
 
 TEST(IntegrationToggleView, ShowsTheImageInPlaceOfTheEmoji) {
     QPixmap picture(8, 8);

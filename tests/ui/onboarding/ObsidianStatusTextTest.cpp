@@ -1,5 +1,6 @@
 #include "ui/onboarding/ObsidianStatusText.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +38,8 @@ INSTANTIATE_TEST_SUITE_P(
             u"Plugin not found"_s},
         Row{{.appFound = true, .vaultFound = true, .sourceEnabled = true, .pluginInstalled = true},
             u"Plugin installed but disabled in Obsidian"_s},
-        Row{{true, true, true, true, true}, u"Plugin active ✓"_s}));
+        Row{{true, true, true, true, true}, u"Plugin active ✓"_s}),
+    byMember<&Row::text>);
 
 TEST(ObsidianStatusText, NeedsNoApplicationOnceTheVaultIsKnown) {
     EXPECT_EQ(ObsidianStatusText{.sourceEnabled = true}.textWithVault(), u"Plugin not found"_s);

@@ -1,4 +1,5 @@
 #include "platform/linux/desktop/ConnectorIdentity.h"
+#include "support/CaseName.h"
 
 #include <gmock/gmock.h>
 
@@ -63,7 +64,8 @@ INSTANTIATE_TEST_SUITE_P(
                       ConnectorCase{"DP-1", false}, ConnectorCase{"HDMI-A-1", false},
                       ConnectorCase{"VGA-1", false}, ConnectorCase{"DVI-D-1", false},
                       ConnectorCase{"DSIGN-1", false}, ConnectorCase{"screen", false},
-                      ConnectorCase{"", false}));
+                      ConnectorCase{"", false}),
+    byMember<&ConnectorCase::connector>);
 
 } // namespace
 } // namespace tessaline

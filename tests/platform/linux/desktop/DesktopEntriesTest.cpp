@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/DesktopEntries.h"
 #include "platform/linux/desktop/DesktopApplicationLookup.h"
 
+#include "support/CaseName.h"
 #include "support/PrintQt.h"
 #include "support/TestFiles.h"
 
@@ -60,7 +61,8 @@ INSTANTIATE_TEST_SUITE_P(Such, ObsidianEntryNames,
                          ::testing::Values("obsidian.desktop", "Obsidian.desktop",
                                            "md.obsidian.Obsidian.desktop", "md.obsidian.desktop",
                                            "obsidian_obsidian.desktop",
-                                           "appimagekit_0123456789abcdef-Obsidian.desktop"));
+                                           "appimagekit_0123456789abcdef-Obsidian.desktop"),
+                         byValue);
 
 TEST_F(DesktopEntriesTest, DoNotTakeOneApplicationForAnother) {
     for (const char* name :

@@ -1,4 +1,4 @@
-#include "render/markdown/PathologicalTexts.h"
+#include "support/texts/PathologicalTexts.h"
 
 namespace tessaline {
 

@@ -1,4 +1,4 @@
-#include "render/markdown/EscapedText.h"
+#include "support/texts/EscapedText.h"
 
 #include <array>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "render/markdown/IcuExpression.h"
+#include "support/texts/IcuExpression.h"
 
 #include <QtGlobal>
 

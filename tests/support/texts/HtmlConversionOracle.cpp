@@ -1,6 +1,6 @@
-#include "sources/notes/HtmlConversionOracle.h"
+#include "support/texts/HtmlConversionOracle.h"
 
-#include "render/markdown/IcuExpression.h"
+#include "support/texts/IcuExpression.h"
 
 #include <utility>
 #include <vector>

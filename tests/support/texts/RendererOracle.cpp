@@ -1,7 +1,7 @@
-#include "render/markdown/RendererOracle.h"
+#include "support/texts/RendererOracle.h"
 
-#include "render/markdown/IcuExpression.h"
-#include "render/markdown/UnitStyledText.h"
+#include "support/texts/IcuExpression.h"
+#include "support/texts/UnitStyledText.h"
 
 #include <QList>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "render/markdown/UnitStyledText.h"
+#include "support/texts/UnitStyledText.h"
 
 #include "render/markdown/StyledTextBuilder.h"
 

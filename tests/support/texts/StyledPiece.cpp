@@ -1,6 +1,6 @@
-#include "render/markdown/StyledPiece.h"
+#include "support/texts/StyledPiece.h"
 
-#include "render/markdown/EscapedText.h"
+#include "support/texts/EscapedText.h"
 
 #include <QStringView>
 
