@@ -25,9 +25,9 @@ inline QStringList typesIn(const QByteArray& batch) {
 
 /// A client in surroundings that the test commands.
 struct TelemetryStage : TestPlatform {
-    std::unique_ptr<TelemetryDeckClient> makeClient(HttpPoster& http,
+    std::unique_ptr<TelemetryDeckClient> makeClient(HttpPoster& poster,
                                                     const TelemetryOptions& options = {}) {
-        platform.http = std::make_unique<BorrowedPoster>(http);
+        platform.http = std::make_unique<BorrowedPoster>(poster);
         return std::make_unique<TelemetryDeckClient>(
             TelemetryDeckClient::Setup{.platform = platform,
                                        .now = [this] { return now; },
