@@ -65,7 +65,7 @@ protected:
         const double textMargin = 10;
         EXPECT_EQ(margin, (view.height() - 60) / 2.0 + textMargin);
 
-        const auto session = std::make_shared<ReadingSession>(settings);
+        const auto session = std::make_shared<ReadingSession>(settings.values());
         ScriptView fresh(session);
         fresh.resize(view.size());
         session->setContent({Script(placeholderText(view.height()))});
