@@ -2,8 +2,7 @@
 
 namespace tessaline {
 
-/// What the environment snapshot wants to know of its surroundings. The application answers. Main
-/// thread only.
+/// What the environment snapshot wants to know of its surroundings. The application answers.
 class EnvironmentProbe {
 public:
     virtual ~EnvironmentProbe() = default;

@@ -30,8 +30,7 @@ class StatusItem;
 struct Services;
 
 /// The root of the running program: owns the settings, the managers and the windows, and wires them
-/// to one another. An action before the launch is a programming error and ends the program. Main
-/// thread only.
+/// to one another. An action before the launch is a programming error and ends the program.
 class AppDelegate {
 public:
     /// Loads the settings; shows nothing yet.

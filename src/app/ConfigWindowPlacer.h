@@ -7,7 +7,7 @@ class ConfigWindow;
 class PrompterWindow;
 class ScreenManager;
 
-/// Keeps the settings window where it can be used. Main thread only.
+/// Keeps the settings window where it can be used.
 class ConfigWindowPlacer {
 public:
     /// Everything is borrowed.

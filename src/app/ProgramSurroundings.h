@@ -7,7 +7,7 @@ namespace tessaline {
 class ObsidianIntegration;
 struct Platform;
 
-/// Answers what the environment snapshot asks, from what is found at that moment. Main thread only.
+/// Answers what the environment snapshot asks, from what is found at that moment.
 class ProgramSurroundings final : public EnvironmentProbe {
 public:
     /// Borrows both.

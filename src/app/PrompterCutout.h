@@ -10,8 +10,7 @@ class PrompterWindow;
 
 /// Lets our other windows be seen and clicked where they lie over the prompter. Desktops keep the
 /// prompter above all ordinary windows, so it is cut out there instead, while the user works with
-/// one of those windows: with another program's window, that one may lie over ours. Main thread
-/// only.
+/// one of those windows: with another program's window, that one may lie over ours.
 class PrompterCutout : public QObject {
 public:
     /// Borrows the prompter, which must outlive this.

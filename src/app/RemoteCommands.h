@@ -13,7 +13,7 @@ class AppDelegate;
 class MainQueue;
 class TaskRunner;
 
-/// Carries out what a later command line asks the running program for. Main thread only.
+/// Carries out what a later command line asks the running program for.
 class RemoteCommands {
 public:
     using Reply = std::function<void(const RemoteAnswer& answer)>;

@@ -11,7 +11,7 @@ namespace tessaline {
 class AppDelegate;
 
 /// Drives the running program by commands from outside, on the paths that its buttons, menus and
-/// shortcuts take. Main thread only.
+/// shortcuts take.
 class RemoteControl {
 public:
     /// What a step of `faster` or `slower` changes.

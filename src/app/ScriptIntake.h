@@ -17,7 +17,7 @@ class UsageRecorder;
 struct Platform;
 
 /// Takes the scripts that the user hands over: pasted, opened and followed ones. Each makes the
-/// clipboard the active source, which keeps and shows it. Main thread only.
+/// clipboard the active source, which keeps and shows it.
 class ScriptIntake {
 public:
     /// Borrows everything.

@@ -16,7 +16,7 @@ class StatusArea;
 class TimerMaker;
 
 /// The program's icon in the menu bar or tray, with its menu. On a desktop without a tray it says
-/// so in the log, once, and appears as soon as there is one. Main thread only.
+/// so in the log, once, and appears as soon as there is one.
 class StatusItem {
 public:
     struct Actions {

@@ -6,14 +6,14 @@ namespace tessaline {
 
 /// The desktop's interface font. Sizes here are in points of one logical pixel each, whatever the
 /// screen's dots per inch. The font keeps the fraction of its size, but Qt draws and measures it at
-/// a whole one: see `drawnPointsOf`. Main thread, after the QGuiApplication is made.
+/// a whole one: see `drawnPointsOf`. Needs a QGuiApplication.
 QFont systemFont(double points, QFont::Weight weight = QFont::Normal);
 
-/// The desktop's fixed-width font, sized in the same way. Main thread.
+/// The desktop's fixed-width font, sized in the same way.
 QFont monospacedFont(double points, QFont::Weight weight = QFont::Normal);
 
 /// The interface font with digits of one width, so that a number that counts does not wobble; where
-/// Qt is older than 6.7, with the digits as the font has them. Main thread.
+/// Qt is older than 6.7, with the digits as the font has them.
 QFont monospacedDigitFont(double points, QFont::Weight weight = QFont::Normal);
 
 /// The same font at another size in points of one logical pixel each; points must be positive.

@@ -6,7 +6,7 @@
 
 namespace tessaline {
 
-/// A label that shows its text as it is, never as markup. Main thread.
+/// A label that shows its text as it is, never as markup.
 QLabel* makeLabel(const QString& text, const QFont& font, const QColor& color);
 
 /// The same, breaking its text into lines where needed.

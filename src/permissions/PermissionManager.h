@@ -12,7 +12,7 @@ namespace tessaline {
 
 struct Platform;
 
-/// Watches the Accessibility permission, tells when it changes, and repairs it. Main thread only.
+/// Watches the Accessibility permission, tells when it changes, and repairs it.
 class PermissionManager {
 public:
     /// Posted with the manager as sender; user info "permission" holds the `PermissionType`,

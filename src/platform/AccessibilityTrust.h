@@ -2,8 +2,7 @@
 
 namespace tessaline {
 
-/// Whether the system lets the program see and swallow input meant for other applications. Main
-/// thread only.
+/// Whether the system lets the program see and swallow input meant for other applications.
 class AccessibilityTrust {
 public:
     virtual ~AccessibilityTrust() = default;

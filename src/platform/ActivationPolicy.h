@@ -2,7 +2,7 @@
 
 namespace tessaline {
 
-/// How the program presents itself to the desktop. Main thread only.
+/// How the program presents itself to the desktop.
 class ActivationPolicy {
 public:
     enum class Kind {

@@ -7,7 +7,7 @@
 
 namespace tessaline {
 
-/// Finds installed applications. Main thread only.
+/// Finds installed applications.
 class ApplicationLookup {
 public:
     virtual ~ApplicationLookup() = default;

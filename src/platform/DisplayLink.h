@@ -28,7 +28,7 @@ public:
     virtual double clockFrequency() const = 0;
 };
 
-/// Makes display links. Main thread only.
+/// Makes display links.
 class DisplayLinkMaker {
 public:
     virtual ~DisplayLinkMaker() = default;

@@ -10,7 +10,7 @@ namespace tessaline {
 // What each system has to say of the session before there is a `Platform`.
 
 /// Chooses how to reach the display, before the QApplication is made. Returns what is wrong where
-/// there is none, in one line. Main thread.
+/// there is none, in one line.
 std::optional<QString> prepareDisplay();
 
 /// The text of an environment variable; empty where it is not set.

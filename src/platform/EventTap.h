@@ -8,7 +8,7 @@
 namespace tessaline {
 
 /// Sees scroll, right-button and other-button events of the whole session before other applications
-/// do, for as long as it lives. Main thread only.
+/// do, for as long as it lives.
 class EventTap {
 public:
     enum class Verdict { passOn, swallow };
@@ -20,7 +20,7 @@ public:
     virtual void enable() = 0;
 };
 
-/// Makes event taps. Main thread only.
+/// Makes event taps.
 class EventTapMaker {
 public:
     virtual ~EventTapMaker() = default;

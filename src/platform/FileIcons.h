@@ -6,7 +6,7 @@ class QString;
 
 namespace tessaline {
 
-/// The icons that the desktop shows for files and applications. Main thread only.
+/// The icons that the desktop shows for files and applications.
 class FileIcons {
 public:
     virtual ~FileIcons() = default;

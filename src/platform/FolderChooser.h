@@ -6,7 +6,7 @@
 
 namespace tessaline {
 
-/// Lets the user pick a folder. Main thread only.
+/// Lets the user pick a folder.
 class FolderChooser {
 public:
     struct Question {

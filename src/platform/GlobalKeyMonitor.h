@@ -7,7 +7,7 @@
 
 namespace tessaline {
 
-/// Hears keys that are pressed while other applications have the keyboard. Main thread only.
+/// Hears keys that are pressed while other applications have the keyboard.
 class GlobalKeyMonitor {
 public:
     using Handler = std::function<void(const KeyEvent&)>;

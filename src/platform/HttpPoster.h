@@ -9,7 +9,7 @@
 
 namespace tessaline {
 
-/// Posts JSON to a web server. Main thread only.
+/// Posts JSON to a web server.
 class HttpPoster {
 public:
     /// What came of it.

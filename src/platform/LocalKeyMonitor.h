@@ -7,7 +7,7 @@
 
 namespace tessaline {
 
-/// Hears keys that are pressed in windows of this program, before those do. Main thread only.
+/// Hears keys that are pressed in windows of this program, before those do.
 class LocalKeyMonitor {
 public:
     /// True: the key was used, and the window does not get it.

@@ -2,7 +2,7 @@
 
 namespace tessaline {
 
-/// How the system draws what is its own in our windows. Main thread only.
+/// How the system draws what is its own in our windows.
 class NativeLook {
 public:
     virtual ~NativeLook() = default;

@@ -8,8 +8,7 @@
 
 namespace tessaline {
 
-/// Tells observers that something happened, without poster and observers knowing each other. Main
-/// thread only.
+/// Tells observers that something happened, without poster and observers knowing each other.
 class NotificationCenter {
 public:
     using Handler = std::function<void(const Notification&)>;

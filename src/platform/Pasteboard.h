@@ -7,7 +7,7 @@
 
 namespace tessaline {
 
-/// The system's clipboard. Main thread only.
+/// The system's clipboard.
 class Pasteboard {
 public:
     /// What to say in one line where there is no text.

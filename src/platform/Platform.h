@@ -72,7 +72,7 @@ struct Platform {
 };
 
 /// The system at hand, with the session that the program runs in. Needs the QApplication, which
-/// must outlive it. Main thread.
+/// must outlive it.
 std::unique_ptr<Platform> makePlatform();
 
 } // namespace tessaline

@@ -8,8 +8,7 @@ class QScreen;
 
 namespace tessaline {
 
-/// What panels and docks keep of each screen for themselves, where the toolkit cannot tell. Main
-/// thread only.
+/// What panels and docks keep of each screen for themselves, where the toolkit cannot tell.
 class ReservedEdges {
 public:
     virtual ~ReservedEdges() = default;

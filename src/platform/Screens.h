@@ -7,7 +7,7 @@
 
 namespace tessaline {
 
-/// The displays that are attached now. Main thread only.
+/// The displays that are attached now.
 class Screens {
 public:
     /// What an adapter posts after displays came, went, moved or changed, once the answers here are

@@ -5,7 +5,7 @@
 
 namespace tessaline {
 
-/// The desktop's place for status items, such as a menu bar or a tray. Main thread only.
+/// The desktop's place for status items, such as a menu bar or a tray.
 class StatusArea {
 public:
     virtual ~StatusArea() = default;

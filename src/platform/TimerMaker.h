@@ -12,7 +12,7 @@ public:
     virtual ~RepeatingTimer() = default;
 };
 
-/// Makes repeating timers. Main thread only.
+/// Makes repeating timers.
 class TimerMaker {
 public:
     using Interval = std::chrono::duration<double>;

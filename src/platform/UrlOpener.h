@@ -4,7 +4,7 @@ class QUrl;
 
 namespace tessaline {
 
-/// Opens addresses with the application that the desktop chose for them. Main thread only.
+/// Opens addresses with the application that the desktop chose for them.
 class UrlOpener {
 public:
     virtual ~UrlOpener() = default;

@@ -14,7 +14,7 @@ namespace tessaline {
 struct Screen;
 
 /// What the prompter's window needs beyond what Qt offers. A native window is named by its
-/// identifier, QWidget::winId; when Qt creates it anew, apply the traits again. Main thread only.
+/// identifier, QWidget::winId; when Qt creates it anew, apply the traits again.
 class WindowTraits {
 public:
     using NativeWindow = std::uintptr_t;

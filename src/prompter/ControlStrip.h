@@ -15,7 +15,7 @@ class PressableButton;
 class TrafficLightCloseButton;
 
 /// The row of controls along the prompter's top edge. It draws nothing of its own and knows no
-/// actions: it tells which button was pressed. Main thread only.
+/// actions: it tells which button was pressed.
 class ControlStrip : public QWidget {
     Q_OBJECT
 

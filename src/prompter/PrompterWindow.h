@@ -23,7 +23,7 @@ class ScriptView;
 struct Platform;
 
 /// The teleprompter: a borderless black window that hangs from the top edge of a screen, with a
-/// strip of controls above the text. Main thread only, unless a function says otherwise.
+/// strip of controls above the text.
 class PrompterWindow : public QWidget {
     Q_OBJECT
 

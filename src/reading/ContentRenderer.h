@@ -20,7 +20,7 @@ struct RenderedContent {
 };
 
 /// Renders texts for the prompter: short ones at once, long ones in the background, so that the
-/// window answers meanwhile. Main thread only.
+/// window answers meanwhile.
 class ContentRenderer {
 public:
     using Handler = std::function<void(RenderedContent)>;

@@ -7,7 +7,7 @@
 
 namespace tessaline {
 
-/// Counts the frames of the last second. Main thread only.
+/// Counts the frames of the last second.
 class FrameRate {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;

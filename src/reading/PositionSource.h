@@ -5,7 +5,7 @@ namespace tessaline {
 struct Pace;
 
 /// What moves the reader of a session along without a hand. It moves from wherever the reader is,
-/// so that hands always win. Main thread only.
+/// so that hands always win.
 class PositionSource {
 public:
     virtual ~PositionSource() = default;

@@ -18,7 +18,7 @@ struct PersistedSettings;
 
 /// A text being read: what is read, where the reader is, and how fast they go on. Views show it;
 /// hands and the position source move it, by `moveTo` and `moveBy` and in no other way. Distances
-/// are points of the view that was added first; any others follow. Main thread only.
+/// are points of the view that was added first; any others follow.
 class ReadingSession final : public DisplayLinkScrollerDelegate {
 public:
     /// Speed, rate and whether the source may move the text are asked of the settings, which are

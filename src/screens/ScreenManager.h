@@ -13,8 +13,7 @@ namespace tessaline {
 
 class Screens;
 
-/// Answers on which display the prompter hangs, and tells when displays came, went or moved. Main
-/// thread only.
+/// Answers on which display the prompter hangs, and tells when displays came, went or moved.
 class ScreenManager {
 public:
     /// Posted after every change of the displays, with the manager as sender.

@@ -17,8 +17,7 @@ template <typename Values>
 class SettingsFile;
 
 /// The user's choices. One instance is shared by reference with every part of the program. A change
-/// is one call: it is brought within its limits, saved at once, and told to the observers. Main
-/// thread only.
+/// is one call: it is brought within its limits, saved at once, and told to the observers.
 class AppSettings {
 public:
     /// Starts from the defaults and loads the configuration file over them: the one at

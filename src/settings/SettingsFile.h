@@ -34,8 +34,7 @@ JsonValue::Object unknownMembers(const QString& path,
 bool replaceSettingsFile(const QString& path, const QByteArray& bytes, QString* error);
 
 /// A file of settings, which are a plain `Values` described by a table. A file that cannot be used
-/// is never lost by a save: a copy is kept, or the file itself until a value changes. Main thread
-/// only.
+/// is never lost by a save: a copy is kept, or the file itself until a value changes.
 template <typename Values>
 class SettingsFile {
 public:

@@ -11,7 +11,7 @@ namespace tessaline {
 class Pasteboard;
 
 /// The text that the user pasted last. It is kept in a file, byte for byte, and shown again after a
-/// restart. The clipboard itself is not watched. Main thread only.
+/// restart. The clipboard itself is not watched.
 class ClipboardSource final : public ContentSource {
 public:
     /// Delivered when there is nothing to show; the prompter then shows a hint in its place.

@@ -7,7 +7,7 @@
 namespace tessaline {
 
 /// Where the prompter's text comes from. A source never reports an error while it is watched: what
-/// goes wrong becomes a text that is delivered like any other. Main thread only.
+/// goes wrong becomes a text that is delivered like any other.
 class ContentSource {
 public:
     /// Receives a whole text, on the main thread.

@@ -19,7 +19,6 @@ class TimerMaker;
 /// A file of the user's whose text is told anew whenever it is another one, however the file was
 /// saved: written over, or replaced by another file of the name. While it cannot be read, or is not
 /// UTF-8, nothing is told. Looks twice a second, in the background, and reads only what changed.
-/// Main thread only.
 class FollowedFile {
 public:
     using Handler = std::function<void(const QString& text)>;

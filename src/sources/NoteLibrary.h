@@ -10,7 +10,7 @@
 
 namespace tessaline {
 
-/// The notes that the user may pick from. Main thread only.
+/// The notes that the user may pick from.
 class NoteLibrary {
 public:
     struct Note {

@@ -8,7 +8,7 @@
 namespace tessaline {
 
 /// What the program can tell about the user's Obsidian and the companion plug-in, and the plug-in's
-/// installation. Everything is looked up anew at each call. Main thread only.
+/// installation. Everything is looked up anew at each call.
 class ObsidianIntegration {
 public:
     /// What came of an installation, with a text for the user.

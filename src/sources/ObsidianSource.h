@@ -18,8 +18,8 @@ class TaskRunner;
 class TimerMaker;
 
 /// The note that the companion plug-in sends: one file, read once a second and delivered whenever
-/// its text is another one. A file that cannot be read leaves the last text in place. Main thread
-/// only; the file is read and compared in the background.
+/// its text is another one. A file that cannot be read leaves the last text in place. The file is
+/// read and compared in the background.
 class ObsidianSource final : public ContentSource {
 public:
     /// Delivered when there is nothing to read at the start.

@@ -20,7 +20,7 @@ class NotificationCenter;
 class UsageRecorder;
 
 /// Owns the content sources, knows which one is active, and hands on what that one delivers. Posts
-/// its notifications with itself as the sender. Main thread only.
+/// its notifications with itself as the sender.
 class SourceManager {
 public:
     /// Another source is active; user info "sourceType" holds its `SourceType`.

@@ -24,7 +24,7 @@ struct AlertContent {
 };
 
 /// A question or message over one window, which takes no input until it is answered; the rest of
-/// the program goes on. Escape answers with the last button. Main thread only.
+/// the program goes on. Escape answers with the last button.
 class Alert : public QDialog {
     Q_OBJECT
 

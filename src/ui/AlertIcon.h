@@ -4,7 +4,7 @@
 
 namespace tessaline {
 
-/// The picture that an alert of this style shows when it has none of its own. Main thread.
+/// The picture that an alert of this style shows when it has none of its own.
 QIcon alertIcon(AlertContent::Style style);
 
 } // namespace tessaline

@@ -20,7 +20,7 @@ class SourceManager;
 class SourceSection;
 
 /// The settings window. Edits the shared settings live: every change is saved and announced at
-/// once. Shows what others change. Closing hides it; it can be shown again. Main thread only.
+/// once. Shows what others change. Closing hides it; it can be shown again.
 class ConfigWindow : public QWidget {
     Q_OBJECT
 

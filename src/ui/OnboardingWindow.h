@@ -24,7 +24,7 @@ struct Platform;
 struct ObsidianStatusText;
 
 /// The first-run window: greets the user, offers the one optional permission and the Obsidian
-/// integration, and ends with "Get Started". Main thread only.
+/// integration, and ends with "Get Started".
 class OnboardingWindow : public QWidget {
     Q_OBJECT
 

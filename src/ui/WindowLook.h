@@ -5,7 +5,7 @@
 
 namespace tessaline {
 
-/// Makes a window and all controls in it dark on this ground, on every desktop theme. Main thread.
+/// Makes a window and all controls in it dark on this ground, on every desktop theme.
 void setDarkLook(QWidget& window, const QColor& background);
 
 /// Gives a window its content, which has a layout, and the content's size: this width, and at least

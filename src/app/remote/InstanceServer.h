@@ -18,7 +18,7 @@ class TimerMaker;
 
 /// Hears later command lines of the same user: reads one request from each connection, answers it,
 /// and closes. Who says nothing, too much or nothing that can be understood costs no more than a
-/// moment of a connection. Main thread only.
+/// moment of a connection.
 class InstanceServer {
 public:
     /// Takes the answer to a request, once, at any later time; nobody may be waiting any more.

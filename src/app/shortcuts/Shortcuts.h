@@ -16,7 +16,7 @@ struct Platform;
 
 /// Keyboard shortcuts and pointer gestures that drive the prompter, in windows of ours and, while
 /// the system allows it, in those of other applications. Nothing that was set up is removed before
-/// this object goes away. Main thread only.
+/// this object goes away.
 class Shortcuts {
 public:
     static constexpr double shortcutScrollStep = 40.0;       ///< points per Control + arrow key

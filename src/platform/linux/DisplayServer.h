@@ -7,7 +7,7 @@ namespace tessaline {
 struct Platform;
 
 /// What shows the program's windows, and may keep it from other applications' input. Chosen once,
-/// when the platform is made: nothing else asks which one it is. Main thread only.
+/// when the platform is made: nothing else asks which one it is.
 class DisplayServer {
 public:
     /// The one that Qt is connected to. Needs the QGuiApplication.

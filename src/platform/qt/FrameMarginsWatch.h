@@ -10,7 +10,7 @@ class QWindow;
 namespace tessaline {
 
 /// Tells when a window gets its frame from the window manager, or another one: some time after it
-/// is shown, each time. Lives as long as the window. Main thread only.
+/// is shown, each time. Lives as long as the window.
 class FrameMarginsWatch : public QObject {
 public:
     FrameMarginsWatch(QWindow& window, std::function<void()> onChange);

@@ -8,7 +8,7 @@ namespace tessaline {
 
 /// Turns the signals that ask a program to stop (SIGTERM, SIGINT, SIGHUP) into a call on the main
 /// thread. The second one of a kind ends the program at once. A signal that whoever started the
-/// program had switched off, as nohup does, stays switched off. One at a time; main thread only.
+/// program had switched off, as nohup does, stays switched off. One at a time.
 class StopSignals {
 public:
     /// Calls `stop` for every signal from now on.

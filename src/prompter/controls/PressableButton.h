@@ -11,7 +11,7 @@ namespace tessaline {
 
 /// A borderless button that shows a glyph in white, or an icon, dimmed at rest, bright under the
 /// pointer and dark while pressed. The glyph is drawn in the widget's font and centred by its ink;
-/// it stays the button's text, also where it is drawn as a shape of our own. Main thread.
+/// it stays the button's text, also where it is drawn as a shape of our own.
 class PressableButton final : public TrackedButton {
     Q_OBJECT
 

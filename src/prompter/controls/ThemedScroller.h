@@ -11,7 +11,7 @@ namespace tessaline {
 /// A thin vertical scroller that lies over the content: a translucent track with a pill. It is seen
 /// while the reader scrolls or points at it and fades out a second later. Setting the value moves
 /// the pill but does not show it, and repaints nothing while it is hidden or the pill stays on the
-/// same pixels. The wheel goes to the content underneath. Main thread.
+/// same pixels. The wheel goes to the content underneath.
 class ThemedScroller final : public QScrollBar {
     Q_OBJECT
 

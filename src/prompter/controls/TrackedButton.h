@@ -9,7 +9,7 @@ namespace tessaline {
 
 /// A button that knows whether the pointer is inside it and whether it is being pressed, and
 /// redraws itself when either changes. It takes the keyboard focus by Tab only, so that a click
-/// leaves the focus where it was. Main thread.
+/// leaves the focus where it was.
 class TrackedButton : public QAbstractButton {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 namespace tessaline {
 
 /// A window's red close light: a circle as large as the bounds allow, centred in them, with a cross
-/// under the pointer. Main thread.
+/// under the pointer.
 class TrafficLightCloseButton final : public TrackedButton {
     Q_OBJECT
 

@@ -16,7 +16,7 @@ namespace tessaline {
 class ScriptView;
 
 /// What mouse and keys do in a script view: scrolling, selecting and copying, as in any read-only
-/// text. Main thread only.
+/// text.
 class ScriptInteraction : public QObject {
 public:
     /// Borrows the view that owns it.

@@ -20,7 +20,7 @@ class ThemedScroller;
 /// Shows a session's script in a column that scrolls to fractions of a pixel, and moves the
 /// session. Read-only; text can be selected with the mouse and the keyboard and copied. Frames are
 /// put together from strips of text drawn ahead, so that scrolling lays nothing out, and nothing is
-/// painted while nothing moves. Positions are points from the document's top. Main thread only.
+/// painted while nothing moves. Positions are points from the document's top.
 class ScriptView : public QWidget, private ReadingView {
     Q_OBJECT
 

@@ -14,7 +14,7 @@ class DisplayLinkScrollerDelegate;
 class MainQueue;
 
 /// Turns the refreshes of a display into scroll distances and hands them to a delegate through the
-/// main queue. Main thread only; the display link's thread does the counting in between.
+/// main queue. The display link's thread does the counting in between.
 class DisplayLinkScroller {
 public:
     /// Makes its display link at once. Where there is none, says so on standard output; the engine

@@ -9,7 +9,7 @@ class DisplayLinkScrollerDelegate {
 public:
     virtual ~DisplayLinkScrollerDelegate() = default;
 
-    /// Moves the text by `deltaY` points, negative for forward reading. Main thread.
+    /// Moves the text by `deltaY` points, negative for forward reading.
     virtual void scrollerDidProduceScroll(DisplayLinkScroller& scroller, double deltaY) = 0;
 };
 

@@ -12,8 +12,7 @@ class MainQueue;
 class RepeatingTimer;
 class TimerMaker;
 
-/// Produces scroll distances from a 60 Hz timer, for where no display link can be had. Main thread
-/// only.
+/// Produces scroll distances from a 60 Hz timer, for where no display link can be had.
 class TimerScroller {
 public:
     /// All three must outlive the engine. Distances come with a display-link engine made for that

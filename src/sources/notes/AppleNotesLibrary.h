@@ -10,7 +10,7 @@ class ProcessRunner;
 class TaskRunner;
 class UrlOpener;
 
-/// The notes in Apple Notes. Main thread only; the script runs in the background.
+/// The notes in Apple Notes. The script runs in the background.
 class AppleNotesLibrary final : public NoteLibrary {
 public:
     /// What is borrowed must outlive this. A script may wait for the user: give the task runner no

@@ -18,8 +18,8 @@ class TaskRunner;
 class TimerMaker;
 
 /// A note of Apple Notes as Markdown, read every three seconds and delivered whenever its text is
-/// another one. Why a note cannot be read is delivered like a text, and so shown once. Main thread
-/// only; the scripts run in the background.
+/// another one. Why a note cannot be read is delivered like a text, and so shown once. The scripts
+/// run in the background.
 class AppleNotesSource final : public ContentSource {
 public:
     /// Tasks that are still in the runner or in the queue when the source goes do nothing more. A

@@ -10,7 +10,7 @@ namespace tessaline {
 
 struct Platform;
 
-/// The Obsidian on this machine, as its files tell. Main thread only.
+/// The Obsidian on this machine, as its files tell.
 class InstalledObsidian final : public ObsidianIntegration {
 public:
     /// Borrows the platform. The plug-in's files are in the bundle's resources.

@@ -13,7 +13,7 @@ class FolderChooser;
 class VaultRegistry;
 
 /// Copies the companion plug-in from the program's resources into the user's vault and switches it
-/// on there. Main thread only.
+/// on there.
 class PluginInstaller {
 public:
     using Result = ObsidianIntegration::InstallResult;

@@ -10,7 +10,7 @@ namespace tessaline {
 class StatusDot;
 
 /// Tells whether the Accessibility permission is granted. While it is not, a button asks for it, or
-/// a text says what to do where nobody can grant it. Main thread only.
+/// a text says what to do where nobody can grant it.
 class AccessibilityRow : public QWidget {
     Q_OBJECT
 

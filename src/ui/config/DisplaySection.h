@@ -18,7 +18,7 @@ class UsageRecorder;
 struct PersistedSettings;
 
 /// The controls for where and how large the prompter is and how fast it scrolls. Every change goes
-/// into the settings and is saved and announced at once. Main thread only.
+/// into the settings and is saved and announced at once.
 class DisplaySection : public QWidget {
     Q_OBJECT
 

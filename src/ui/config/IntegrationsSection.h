@@ -15,7 +15,7 @@ class StatusDot;
 class Switch;
 struct Services;
 
-/// The sources that can be switched on, and what Obsidian's plug-in is up to. Main thread only.
+/// The sources that can be switched on, and what Obsidian's plug-in is up to.
 class IntegrationsSection : public QWidget {
     Q_OBJECT
 

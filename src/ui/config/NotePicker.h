@@ -10,7 +10,7 @@ class QWidget;
 
 namespace tessaline {
 
-/// Lets the user pick a note. Main thread only.
+/// Lets the user pick a note.
 class NotePicker {
 public:
     /// Gets the picked note; never called when the user picks none.

@@ -6,7 +6,7 @@ class QGridLayout;
 
 namespace tessaline {
 
-/// Lists the keyboard and mouse shortcuts in the width of the settings' column. Main thread only.
+/// Lists the keyboard and mouse shortcuts in the width of the settings' column.
 class ShortcutsGrid : public QWidget {
     Q_OBJECT
 

@@ -18,8 +18,7 @@ class NoteLibrary;
 class PopupButton;
 class SourceManager;
 
-/// The choice of the active source, with its title, and for Apple Notes of the note. Main thread
-/// only.
+/// The choice of the active source, with its title, and for Apple Notes of the note.
 class SourceSection : public QWidget {
     Q_OBJECT
 

@@ -5,7 +5,6 @@
 namespace tessaline {
 
 /// A push button on a rounded ground; the default button of its window stands out by its colour.
-/// Main thread only.
 class BezelButton : public QPushButton {
     Q_OBJECT
 

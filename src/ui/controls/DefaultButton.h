@@ -4,7 +4,7 @@
 
 namespace tessaline {
 
-/// The button that Return presses, whichever control of its window has the focus. Main thread only.
+/// The button that Return presses, whichever control of its window has the focus.
 class DefaultButton : public BezelButton {
     Q_OBJECT
 

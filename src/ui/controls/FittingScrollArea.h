@@ -11,7 +11,6 @@ inline constexpr int titleBarAllowance = 40;
 
 /// As large as its content, so that nothing scrolls, except where there is less room than that.
 /// What has the keyboard stays in sight; while that is no control of the content, the keys scroll.
-/// Main thread only.
 class FittingScrollArea : public QScrollArea {
     Q_OBJECT
 

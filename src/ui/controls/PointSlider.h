@@ -5,8 +5,7 @@
 namespace tessaline {
 
 /// A horizontal slider over points with fractions. A press on its groove moves the knob there; an
-/// arrow key moves it by one point, Page Up and Page Down by a tenth of the range. Main thread
-/// only.
+/// arrow key moves it by one point, Page Up and Page Down by a tenth of the range.
 class PointSlider : public QSlider {
     Q_OBJECT
 

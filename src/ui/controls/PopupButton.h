@@ -5,7 +5,7 @@
 namespace tessaline {
 
 /// A button that shows the chosen one of its items and pops all of them up. `activated` tells of
-/// choices by the user. Main thread only.
+/// choices by the user.
 class PopupButton : public QComboBox {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 namespace tessaline {
 
-/// The heading of a group of controls. Main thread only.
+/// The heading of a group of controls.
 class SectionTitle : public QLabel {
 public:
     explicit SectionTitle(const QString& text, QWidget* parent = nullptr);

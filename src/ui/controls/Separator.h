@@ -4,7 +4,7 @@
 
 namespace tessaline {
 
-/// A thin horizontal line between groups of controls. Main thread only.
+/// A thin horizontal line between groups of controls.
 class Separator : public QWidget {
 public:
     /// A line of so many points.

@@ -5,7 +5,7 @@
 
 namespace tessaline {
 
-/// A name at the left and, in quieter colour, the present value at the right. Main thread only.
+/// A name at the left and, in quieter colour, the present value at the right.
 class SliderRow : public QWidget {
 public:
     /// A row of the settings window's width, with an empty value.

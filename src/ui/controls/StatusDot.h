@@ -5,8 +5,7 @@
 
 namespace tessaline {
 
-/// A round spot whose colour tells a state; screen readers get the state in words. Main thread
-/// only.
+/// A round spot whose colour tells a state; screen readers get the state in words.
 class StatusDot : public QWidget {
     Q_OBJECT
 

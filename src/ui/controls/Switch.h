@@ -7,7 +7,7 @@ class QVariantAnimation;
 namespace tessaline {
 
 /// A switch that is on or off. `clicked` tells of changes by the user alone, `toggled` of all.
-/// Screen readers see a check box. Main thread only.
+/// Screen readers see a check box.
 class Switch : public QAbstractButton {
     Q_OBJECT
 

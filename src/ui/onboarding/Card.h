@@ -4,7 +4,7 @@
 
 namespace tessaline {
 
-/// A rounded ground, set off from the window's, that holds what belongs together. Main thread only.
+/// A rounded ground, set off from the window's, that holds what belongs together.
 class Card : public QWidget {
     Q_OBJECT
 

@@ -13,7 +13,7 @@ namespace tessaline {
 
 class Switch;
 
-/// One content source: what it is, a line on its state, and a switch for it. Main thread only.
+/// One content source: what it is, a line on its state, and a switch for it.
 class IntegrationToggleView : public Card {
     Q_OBJECT
 

@@ -13,8 +13,7 @@ namespace tessaline {
 
 class StatusDot;
 
-/// One permission: what it is for, whether it is granted, and a button that asks for it. Main
-/// thread only.
+/// One permission: what it is for, whether it is granted, and a button that asks for it.
 class PermissionStatusView : public Card {
     Q_OBJECT
 

@@ -6,7 +6,7 @@
 namespace tessaline {
 
 /// Finds applications by their desktop entries. An application that is started through a launcher,
-/// as those from Flatpak and Snap are, is where its entry is. Main thread only.
+/// as those from Flatpak and Snap are, is where its entry is.
 class DesktopApplicationLookup final : public ApplicationLookup {
 public:
     explicit DesktopApplicationLookup(DesktopEntries entries);

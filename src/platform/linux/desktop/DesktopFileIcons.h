@@ -6,7 +6,7 @@
 namespace tessaline {
 
 /// Icons of applications as their desktop entries name them, and of other files by their kind.
-/// Needs a QGuiApplication. Main thread only.
+/// Needs a QGuiApplication.
 class DesktopFileIcons final : public FileIcons {
 public:
     explicit DesktopFileIcons(DesktopEntries entries);

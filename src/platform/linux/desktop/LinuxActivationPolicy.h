@@ -5,7 +5,7 @@
 namespace tessaline {
 
 /// Linux desktops list windows, not programs: a window of ours is in the taskbar while it is shown,
-/// whatever the kind. Main thread only.
+/// whatever the kind.
 class LinuxActivationPolicy final : public ActivationPolicy {
 public:
     void set(Kind kind) override;
