@@ -1,5 +1,6 @@
 #include "appearance/SystemPalette.h"
 #include "prompter/Placeholder.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindowFixture.h"
 #include "ui/OnboardingWindowFixture.h"
@@ -25,21 +26,22 @@ TEST_F(OnboardingOnAMac, SpeaksOfTheNotchAndItsPermission) {
     EXPECT_EQ(
         shown().findChild<QLabel*>(u"onboarding_subtitle"_s)->text(),
         u"Turn your Mac's notch into a teleprompter. Read scripts, notes, or any text right from the top of your screen."_s);
-    EXPECT_EQ(permission().titleLabel->text(), u"Accessibility Access"_s);
-    EXPECT_EQ(obsidian().statusLabel->text(), u"Obsidian not detected on this Mac"_s);
+    EXPECT_EQ(part<QLabel>(permission(), "titleLabel")->text(), u"Accessibility Access"_s);
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
+              u"Obsidian not detected on this Mac"_s);
 }
 
 TEST_F(OnboardingOnAMac, AsksForThePermissionOnRequest) {
     shown();
     EXPECT_EQ(
-        permission().descriptionLabel->text(),
+        part<QLabel>(permission(), "descriptionLabel")->text(),
         u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s);
-    EXPECT_EQ(permission().grantButton->text(), u"Grant Access"_s);
-    EXPECT_TRUE(permission().grantButton->isEnabled());
-    EXPECT_EQ(permission().statusIndicator->accessibleName(), u"Not granted"_s);
+    EXPECT_EQ(part<QPushButton>(permission(), "grantButton")->text(), u"Grant Access"_s);
+    EXPECT_TRUE(part<QPushButton>(permission(), "grantButton")->isEnabled());
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->accessibleName(), u"Not granted"_s);
     EXPECT_THAT(spokenControls(window()), Contains(Pair(QAccessible::Button, u"Grant Access"_s)));
     stage.processes.calls.clear();
-    QTest::mouseClick(permission().grantButton, Qt::LeftButton);
+    QTest::mouseClick(part<QPushButton>(permission(), "grantButton"), Qt::LeftButton);
     EXPECT_EQ(stage.processes.calls.size(), 1u);
     EXPECT_EQ(stage.trust.prompts, 1);
 }
@@ -48,16 +50,16 @@ TEST_F(OnboardingOnAMac, SaysThatThePermissionIsGranted) {
     shown();
     stage.trust.trusted = true;
     stage.pass(1.0);
-    EXPECT_EQ(permission().grantButton->text(), u"Permission Granted ✓"_s);
-    EXPECT_FALSE(permission().grantButton->isEnabled());
-    EXPECT_EQ(permission().statusIndicator->accessibleName(), u"Granted"_s);
+    EXPECT_EQ(part<QPushButton>(permission(), "grantButton")->text(), u"Permission Granted ✓"_s);
+    EXPECT_FALSE(part<QPushButton>(permission(), "grantButton")->isEnabled());
+    EXPECT_EQ(part<StatusDot>(permission(), "statusIndicator")->accessibleName(), u"Granted"_s);
 }
 
 TEST_F(OnboardingOnAMac, ReturnFinishesItAlsoOnTheButtonThatAsks) {
     shown().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    permission().grantButton->setFocus();
-    QTest::keyClick(permission().grantButton, Qt::Key_Return);
+    part<QPushButton>(permission(), "grantButton")->setFocus();
+    QTest::keyClick(part<QPushButton>(permission(), "grantButton"), Qt::Key_Return);
     EXPECT_EQ(completions, 1);
     EXPECT_EQ(stage.trust.prompts, 0);
 }
@@ -65,7 +67,7 @@ TEST_F(OnboardingOnAMac, ReturnFinishesItAlsoOnTheButtonThatAsks) {
 TEST_F(OnboardingOnAMac, SaysHowToSendANote) {
     stage.installObsidian();
     shown();
-    EXPECT_EQ(obsidian().statusLabel->text(),
+    EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(),
               u"Send notes from Obsidian straight into the notch"_s);
     switchObsidian();
     ASSERT_TRUE(sheet());
