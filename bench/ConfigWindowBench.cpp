@@ -47,6 +47,11 @@ public:
         prompter.show();
         prompter.updateText(SampleTalk().write(words));
         settle();
+        window.onSettingsChanged = [this] {
+            prompter.updateFrame();
+            prompter.rerender();
+            prompter.updateScrollParameters();
+        };
         window.show();
         QCoreApplication::processEvents();
     }

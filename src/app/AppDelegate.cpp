@@ -146,7 +146,7 @@ void AppDelegate::createConfigWindow() {
     configWindow =
         std::make_unique<ConfigWindow>(settings, sourceManager.get(), platform, services());
     configWindow->setScreenManager(&screenManager);
-    configWindow->onSettingsChanged = weakly(&AppDelegate::repositionConfigWindow);
+    configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
     configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
     configWindow->winId(); // makes the native window
     configPlacer = std::make_unique<ConfigWindowPlacer>(*configWindow, *prompterWindow,
@@ -306,7 +306,7 @@ void AppDelegate::setScrollSpeed(double speed) {
 
 void AppDelegate::chooseScrollRate(ScrollRate rate) {
     settings.setScrollRate(rate);
-    repositionConfigWindow();
+    settingsChanged();
     environment.recorder.trackDisplaySettings(settings.values());
 }
 
@@ -344,6 +344,13 @@ void AppDelegate::activeSourceChanged(const Notification& change) {
     if (!source) return;
     prompter().updateSourceIndicator(*source);
     if (*source != SourceType::clipboard) scripts().stopFollowing();
+}
+
+void AppDelegate::settingsChanged() {
+    prompter().updateFrame();
+    prompter().rerender();
+    prompter().updateScrollParameters();
+    repositionConfigWindow();
 }
 
 void AppDelegate::repositionConfigWindow() {

@@ -99,6 +99,7 @@ private:
     void screensChanged();
     void handleSourceChange(SourceType source);
     void activeSourceChanged(const Notification& change);
+    void settingsChanged();
     void repositionConfigWindow();
     void bringToFront(QWidget& window);
 

@@ -280,18 +280,11 @@ void PrompterWindow::toggleAutoScroll() {
     settings.setAutoScrollEnabled(!settings.autoScrollEnabled());
 }
 
-// Other fields than these are not to be seen here.
+// How it looks changes when the settings window, or a command in its place, says so: a prompter that
+// was folded meanwhile takes its new height then, though the settings have it already.
 void PrompterWindow::settingsChanged(const PersistedSettings& before) {
     const PersistedSettings& now = settings.values();
-    const bool looksOtherwise = now.width != before.width || now.height != before.height ||
-                                now.xOffset != before.xOffset || now.fontSize != before.fontSize ||
-                                now.scrollRate != before.scrollRate ||
-                                now.preferredDisplayID != before.preferredDisplayID;
-    if (looksOtherwise) {
-        updateFrame();
-        rerender();
-    }
-    if (looksOtherwise || now.scrollSpeed != before.scrollSpeed) updateScrollParameters();
+    if (now.scrollSpeed != before.scrollSpeed) updateScrollParameters();
     if (now.autoScrollEnabled == before.autoScrollEnabled) return;
     now.autoScrollEnabled ? session->start() : session->stop();
 }

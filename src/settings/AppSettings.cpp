@@ -39,8 +39,11 @@ void AppSettings::loadSettings() {
         return;
     }
     QString error;
-    auto loaded = file->load(current, &error);
-    if (!loaded) return printLine(u"⚠️ Failed to load config: "_s + error);
+    auto loaded = file->load(&error);
+    if (!loaded) {
+        printLine(u"⚠️ Failed to load config: "_s + error);
+        return file->keepUnusable(current);
+    }
     if (loaded->scrollSpeed > 0) {
         loaded->lastNonZeroScrollSpeed = loaded->scrollSpeed;
     } else if (loaded->lastNonZeroScrollSpeed <= 0) {

@@ -45,15 +45,17 @@ public:
 
     bool exists() const { return QFileInfo::exists(place()); }
 
-    /// The values that the file holds. None when it cannot be used, in which case `present` stays
-    /// in force; `error` receives a one-line description.
-    std::optional<Values> load(const Values& present, QString* error) {
-        const QString path = place();
-        const auto bytes = readSettingsFile(path, error);
-        auto values = bytes ? table.decode(*bytes, error) : std::nullopt;
+    /// The values that the file holds. None when it cannot be used, which is to be followed by
+    /// `keepUnusable`; `error` receives a one-line description.
+    std::optional<Values> load(QString* error) {
         unwritten.reset();
-        if (!values && !keepUnusableSettings(path)) unwritten = present;
-        return values;
+        const auto bytes = readSettingsFile(place(), error);
+        return bytes ? table.decode(*bytes, error) : std::nullopt;
+    }
+
+    /// Sees to it that no save loses a file that cannot be used, while these values are in force.
+    void keepUnusable(const Values& present) {
+        if (!keepUnusableSettings(place())) unwritten = present;
     }
 
     /// Writes everything, whole or not at all. False on failure; `error` receives a one-line

@@ -4,6 +4,7 @@ import unittest
 
 from harness import wait_until
 from harness.session import PANEL_HEIGHT
+from harness.waiting import holds_for
 from settings_case import SettingsTestCase
 
 PROMPTER = "Tessaline"
@@ -42,6 +43,8 @@ class Strip(SettingsTestCase):
         window = self.desktop.wait_for_window(pid=probe.pid)
         self.desktop.activate(window)
         wait_until(lambda: self.desktop.focused_window() == window, "it has the keyboard")
+        # Tool tips go with the keyboard, and toolkits take their time to believe that it is gone.
+        wait_until(lambda: "active" not in self.open_window(PROMPTER).states, "it has let go")
         return window
 
     def tool_tips(self):
@@ -80,10 +83,19 @@ class Strip(SettingsTestCase):
         start = left + room - x
         return self.desktop.region(x + start, y, width - start - ROUNDING, PANEL_HEIGHT)
 
+    def still_row_behind_the_minimize_button(self):
+        """Once what the mouse lit up there is dark again."""
+
+        def still():
+            row = self.row_behind_the_minimize_button()
+            return holds_for(lambda: self.row_behind_the_minimize_button() == row, 0.3) and row
+
+        return wait_until(still, "nothing changes any more")
+
     def assert_folding_moves_nothing(self):
         self.minimize_button = self.control(PROMPTER, "push button", "Minimize")
         self.desktop.move_mouse(*ELSEWHERE)
-        before = self.row_behind_the_minimize_button()
+        before = self.still_row_behind_the_minimize_button()
         for folded in (True, False):
             self.click_on(self.minimize_button)
             self.desktop.move_mouse(*ELSEWHERE)

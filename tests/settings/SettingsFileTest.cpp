@@ -35,7 +35,7 @@ protected:
         return {[this] { return path; }, table, unknown};
     }
 
-    std::optional<Options> loaded() { return file().load({}, &error); }
+    std::optional<Options> loaded() { return file().load(&error); }
 
     QTemporaryDir folder;
     QString path = folder.filePath(u"reading.json"_s);
@@ -60,7 +60,7 @@ TEST_F(SettingsFileTest, HasTheDefaultsWhereKeysAreMissingAndKeepsNumbersInTheir
 TEST_F(SettingsFileTest, KeepsTheKeysOfANewerVersion) {
     putFile(path, R"({"guide": {"line": 2, "shown": [true, null]}, "pace": 160})");
     auto newer = file();
-    auto options = newer.load({}, &error).value_or(Options());
+    auto options = newer.load(&error).value_or(Options());
     options.mirrored = true;
     ASSERT_TRUE(newer.save(options, &error)) << error.toStdString();
     EXPECT_EQ(fileBytes(path).simplified(), R"({ "mirrored": true, "pace": 160.0, )"
@@ -87,9 +87,10 @@ TEST_F(SettingsFileTest, KeepsACopyOfAFileThatCannotBeUsed) {
     putFile(path, typo);
     const RecordedLog log;
     auto ours = file();
-    EXPECT_EQ(ours.load({}, &error), std::nullopt);
+    EXPECT_EQ(ours.load(&error), std::nullopt);
     EXPECT_EQ(error, u"Invalid value for \"pace\""_s);
     EXPECT_EQ(fileBytes(path), typo);
+    ours.keepUnusable({});
     EXPECT_EQ(fileBytes(path + u".unreadable"_s), typo);
     EXPECT_EQ(log.entries().size(), 1);
     ASSERT_TRUE(ours.save({}, &error));

@@ -29,12 +29,14 @@ TEST_F(OverlayFadeTest, IsSeenAtOnceAndForASecond) {
 }
 
 TEST_F(OverlayFadeTest, FadesOutInSmallStepsWithinAThirdOfASecond) {
+    constexpr double secondsPerStep = 0.267 / 8;
     fade.reveal();
-    time.advance(1.0);
+    // Looks in the middle of each step.
+    time.advance(1.0 + secondsPerStep / 2);
 
     double previous = fade.opacity();
     for (int step = 0; step < 8; ++step) {
-        time.advance(0.034);
+        time.advance(secondsPerStep);
         EXPECT_NEAR(previous - fade.opacity(), 0.125, 1e-9);
         previous = fade.opacity();
     }
