@@ -2,9 +2,11 @@
 
 #include "analytics/UsageRecorder.h"
 #include "app/ConfigWindowPlacer.h"
+#include "app/FirstRun.h"
 #include "app/PrompterCutout.h"
 #include "app/ScriptIntake.h"
 #include "app/StatusItem.h"
+#include "app/WindowOrder.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "cli/CommandLine.h"
 #include "platform/AccessibilityTrust.h"
@@ -15,13 +17,10 @@
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
-#include "prompter/view/ScriptView.h"
-#include "reading/ReadingSession.h"
 #include "sources/ClipboardSource.h"
 #include "sources/ObsidianSource.h"
 #include "sources/SourceManager.h"
 #include "ui/ConfigWindow.h"
-#include "ui/OnboardingWindow.h"
 #include "ui/Services.h"
 
 #include <QWindow>
@@ -40,13 +39,6 @@ template <typename Object>
 Object& required(const std::unique_ptr<Object>& object, const char* name) {
     if (!object) qFatal("The application delegate has no %s: it was not launched", name);
     return *object;
-}
-
-void makeKeyAndOrderFront(QWidget& window) {
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
 }
 
 } // namespace
@@ -68,20 +60,9 @@ PrompterWindow& AppDelegate::prompter() const {
 }
 
 PrompterStatus AppDelegate::status() const {
-    const ScriptView& view = prompter().textView();
-    const ReadingSession& session = prompter().reading();
-    return {.version = CommandLine::version(),
-            .visible = prompter().isVisible(),
-            .collapsed = prompter().isCollapsed(),
-            .source = settings.activeSourceType(),
-            .words = session.words(),
-            .time = timeText(session.readingSeconds()),
-            .scrollPosition = view.scrollPosition(),
-            .maximumScrollPosition = view.maximumScrollPosition(),
-            .speed = settings.scrollSpeed(),
-            .rate = settings.scrollRate(),
-            .autoScroll = settings.autoScrollEnabled(),
-            .frameRate = session.framesPerSecond()};
+    PrompterStatus status = prompter().status();
+    status.version = CommandLine::version();
+    return status;
 }
 
 ConfigWindow& AppDelegate::config() const {
@@ -117,7 +98,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     if (settings.hasCompletedOnboarding()) {
         startApp();
     } else {
-        showOnboarding();
+        firstRun = std::make_unique<FirstRun>(permissionManager, settings, *sourceManager, platform,
+                                              services(), weakly(&AppDelegate::startApp));
     }
 }
 
@@ -201,33 +183,6 @@ void AppDelegate::setupShortcuts() {
     shortcuts->setupShortcuts();
 }
 
-void AppDelegate::showOnboarding() {
-    platform.activationPolicy->set(ActivationPolicy::Kind::regular);
-    environment.recorder.trackOnboardingStarted();
-    onboardingWindow = std::make_unique<OnboardingWindow>(
-        permissionManager, settings, sourceManager.get(), platform, services());
-    onboardingWindow->onComplete = weakly(&AppDelegate::finishOnboarding);
-    onboardingWindow->onSkip = weakly(&AppDelegate::finishOnboarding);
-    // Closing the window unfinished is skipping; it comes back at the next start.
-    QObject::connect(onboardingWindow.get(), &OnboardingWindow::closedUnfinished,
-                     onboardingWindow->onSkip);
-    bringToFront(*onboardingWindow);
-}
-
-void AppDelegate::finishOnboarding() {
-    if (!onboardingWindow) return;
-    // The window is calling: it goes once that call is over.
-    finishedOnboardingWindow = std::move(onboardingWindow);
-    finishedOnboardingWindow->hide();
-    platform.mainQueue->post(weakly(&AppDelegate::dropFinishedOnboarding));
-    platform.activationPolicy->set(ActivationPolicy::Kind::accessory);
-    startApp();
-}
-
-void AppDelegate::dropFinishedOnboarding() {
-    finishedOnboardingWindow.reset();
-}
-
 void AppDelegate::showPrompterWindow() {
     prompter().makeKeyAndOrderFront();
     prompter().updateFrame();
@@ -270,32 +225,15 @@ void AppDelegate::quitApp() {
 }
 
 void AppDelegate::reveal() {
-    if (onboardingWindow) {
-        bringToFront(*onboardingWindow);
+    if (firstRun && firstRun->isUp()) {
+        firstRun->reveal();
     } else {
         showPrompterWindow();
     }
 }
 
-void AppDelegate::bringToFront(QWidget& window) {
-    makeKeyAndOrderFront(window);
-    platform.activationPolicy->activateIgnoringOtherApps();
-}
-
-void AppDelegate::openText(const QString& text) {
-    scripts().open(text);
-}
-
-void AppDelegate::followFile(const QString& path, const QString& text) {
-    scripts().follow(path, text);
-}
-
 void AppDelegate::pasteFromClipboard() {
-    pasteFromClipboard([](const QString& /*problem*/) {});
-}
-
-void AppDelegate::pasteFromClipboard(std::function<void(const QString& problem)> done) {
-    scripts().paste(std::move(done));
+    scripts().paste([](const QString& /*problem*/) {});
 }
 
 void AppDelegate::setScrollSpeed(double speed) {

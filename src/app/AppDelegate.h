@@ -14,13 +14,11 @@
 #include <functional>
 #include <memory>
 
-class QWidget;
-
 namespace tessaline {
 
 class ConfigWindow;
 class ConfigWindowPlacer;
-class OnboardingWindow;
+class FirstRun;
 class PrompterCutout;
 class PrompterWindow;
 class ScriptIntake;
@@ -58,9 +56,9 @@ public:
     // What the shortcuts and remote control do besides.
     void performScroll(double deltaY);
     void pasteFromClipboard();
-    /// As above; `done` is told why nothing was pasted, in one line, or an empty text. Not called
-    /// once the delegate is gone.
-    void pasteFromClipboard(std::function<void(const QString& problem)> done);
+    /// Where scripts are handed in. Before the normal start and while the first-run window is up,
+    /// it keeps the last one until then.
+    ScriptIntake& scripts() const;
 
     // Each changes one setting and no other, saves once and announces it.
     void setScrollSpeed(double speed); ///< within its limits
@@ -73,12 +71,6 @@ public:
     PrompterWindow& prompter() const;
     PrompterStatus status() const;
 
-    /// Shows a text as if it had been pasted. Before the normal start and while the first-run
-    /// window is up, keeps the last one until then. An empty text changes nothing.
-    void openText(const QString& text);
-    /// The same with the text of a file, which is shown again whenever it changes on disk, until
-    /// something else is shown. An empty one changes nothing, then and later.
-    void followFile(const QString& path, const QString& text);
     /// Brings to the front what the user works with: the prompter or the first-run window.
     void reveal();
 
@@ -91,9 +83,6 @@ private:
     void configureTelemetry();
     void startApp();
     void setupShortcuts();
-    void showOnboarding();
-    void finishOnboarding();
-    void dropFinishedOnboarding();
 
     void showContent(const QString& content);
     void screensChanged();
@@ -101,12 +90,10 @@ private:
     void activeSourceChanged(const Notification& change);
     void settingsChanged();
     void repositionConfigWindow();
-    void bringToFront(QWidget& window);
 
     Services services() const;
     ConfigWindow& config() const;
     SourceManager& sources() const;
-    ScriptIntake& scripts() const;
 
     /// A call of the member function that does nothing once the delegate is gone.
     template <typename... Arguments>
@@ -125,8 +112,7 @@ private:
     std::unique_ptr<PrompterCutout> prompterCutout;
     std::unique_ptr<ConfigWindow> configWindow;
     std::unique_ptr<ConfigWindowPlacer> configPlacer;
-    std::unique_ptr<OnboardingWindow> onboardingWindow;
-    std::unique_ptr<OnboardingWindow> finishedOnboardingWindow; ///< until its call has returned
+    std::unique_ptr<FirstRun> firstRun; ///< where there is one
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Shortcuts> shortcuts;
     NotificationCenter::Observation sourceChangeObserver;

@@ -7,6 +7,7 @@
 #include "app/DarkAppearance.h"
 #include "app/ProgramSurroundings.h"
 #include "app/RemoteCommands.h"
+#include "app/ScriptIntake.h"
 #include "app/remote/InstanceServer.h"
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
@@ -161,9 +162,9 @@ int runPrompter(const PrompterStart& start) {
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, recordTheEnd);
     delegate.applicationDidFinishLaunching();
     if (!start.followed.isEmpty()) {
-        delegate.followFile(start.followed, *start.text);
+        delegate.scripts().follow(start.followed, *start.text);
     } else if (start.text) {
-        delegate.openText(*start.text);
+        delegate.scripts().open(*start.text);
     }
 
     // The toolkit exits where it is when the display server goes away.

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/RemoteControl.h"
+#include "app/ScriptIntake.h"
 #include "platform/MainQueue.h"
 #include "platform/TaskRunner.h"
 #include "settings/TextFile.h"
@@ -53,9 +54,9 @@ void RemoteCommands::openFile(const OpenRequest& request, const Reply& reply) {
 
 void RemoteCommands::showFile(const OpenRequest& request, const QString& text) {
     if (request.follow) {
-        delegate.followFile(request.path, text);
+        delegate.scripts().follow(request.path, text);
     } else {
-        delegate.openText(text);
+        delegate.scripts().open(text);
     }
     delegate.reveal();
 }

@@ -1,6 +1,7 @@
 #include "app/RemoteControl.h"
 
 #include "app/AppDelegate.h"
+#include "app/ScriptIntake.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
@@ -99,7 +100,7 @@ void RemoteControl::setCollapsed(bool collapsed) {
 }
 
 void RemoteControl::paste(const Reply& reply) {
-    delegate.pasteFromClipboard([reply, &delegate = delegate](const QString& problem) {
+    delegate.scripts().paste([reply, &delegate = delegate](const QString& problem) {
         reply(problem.isEmpty() ? RemoteAnswer(delegate.status()) : Refusal{problem});
     });
 }

@@ -272,6 +272,21 @@ void PrompterWindow::updateStatsOfWhatIsSeen() {
     if (!collapsed && !lastRawContent.isEmpty()) updateStats();
 }
 
+PrompterStatus PrompterWindow::status() const {
+    return {.version = {},
+            .visible = isVisible(),
+            .collapsed = collapsed,
+            .source = settings.activeSourceType(),
+            .words = session->words(),
+            .time = timeText(session->readingSeconds()),
+            .scrollPosition = view->scrollPosition(),
+            .maximumScrollPosition = view->maximumScrollPosition(),
+            .speed = settings.scrollSpeed(),
+            .rate = settings.scrollRate(),
+            .autoScroll = settings.autoScrollEnabled(),
+            .frameRate = session->framesPerSecond()};
+}
+
 void PrompterWindow::performScroll(double deltaY) {
     session->moveBy(-deltaY);
 }
@@ -280,8 +295,8 @@ void PrompterWindow::toggleAutoScroll() {
     settings.setAutoScrollEnabled(!settings.autoScrollEnabled());
 }
 
-// How it looks changes when the settings window, or a command in its place, says so: a prompter that
-// was folded meanwhile takes its new height then, though the settings have it already.
+// How it looks changes when the settings window, or a command in its place, says so: a prompter
+// that was folded meanwhile takes its new height then, though the settings have it already.
 void PrompterWindow::settingsChanged(const PersistedSettings& before) {
     const PersistedSettings& now = settings.values();
     if (now.scrollSpeed != before.scrollSpeed) updateScrollParameters();

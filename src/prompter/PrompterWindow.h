@@ -2,6 +2,7 @@
 
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
+#include "prompter/PrompterStatus.h"
 #include "reading/ContentRenderer.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceMode.h"
@@ -89,6 +90,9 @@ public:
 
     /// What is read here, and the view that shows it.
     ReadingSession& reading() const { return *session; }
+
+    /// What it shows and does now; the version is for the program to tell.
+    PrompterStatus status() const;
     ScriptView& textView() const { return *view; }
 
 protected:

@@ -60,7 +60,8 @@ protected:
     /// not belong.
     void prepareChange() {
         launchWatched();
-        delegate->openText(u"A line of the talk that is not a short one\n"_s.repeated(30'000));
+        delegate->scripts().open(
+            u"A line of the talk that is not a short one\n"_s.repeated(30'000));
         mainQueue.runAll();
         renderTasks.runAll();
         mainQueue.runAll();
@@ -106,7 +107,7 @@ TEST_F(ActionOrder, OfTheFirstRunWindowsAppearance) {
 TEST_F(ActionOrder, OfTheFirstRunsEnd) {
     configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     launchWatched();
-    delegate->openText(u"# Opened"_s);
+    delegate->scripts().open(u"# Opened"_s);
     journal.clear();
     onboarding()->onComplete();
     EXPECT_THAT(

@@ -35,7 +35,7 @@ protected:
     }
 
     void launchWith(const QString& script) {
-        launch().openText(script);
+        launch().scripts().open(script);
         mainQueue.runAll();
     }
 

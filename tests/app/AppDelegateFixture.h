@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/Environment.h"
+#include "app/ScriptIntake.h"
 #include "settings/AppSettings.h"
 #include "settings/SupportFolder.h"
 

@@ -285,11 +285,11 @@ TEST_F(AppDelegateTest, PastesOnceTheClipboardsOwnerHasAnswered) {
 }
 
 TEST_F(AppDelegateTest, SaysWhyNothingWasPasted) {
-    launch().openText(u"Shown before"_s);
+    launch().scripts().open(u"Shown before"_s);
     const RecordedLog log;
     pasteboard.problem = u"the owner does not answer"_s;
     QString told;
-    delegate->pasteFromClipboard([&told](const QString& problem) { told = problem; });
+    delegate->scripts().paste([&told](const QString& problem) { told = problem; });
     EXPECT_EQ(told, u"the owner does not answer"_s);
     EXPECT_EQ(log.entries(), QStringList(u"app.tessaline.Tessaline.shell: Nothing was pasted: "
                                          "the owner does not answer"_s));
@@ -300,7 +300,7 @@ TEST_F(AppDelegateTest, DropsAPasteThatComesAfterItsEnd) {
     launch();
     pasteboard.answersAtOnce = false;
     bool told = false;
-    delegate->pasteFromClipboard([&told](const QString& /*problem*/) { told = true; });
+    delegate->scripts().paste([&told](const QString& /*problem*/) { told = true; });
     delegate.reset();
     pasteboard.text = u"Hello"_s;
     pasteboard.answer();
@@ -326,7 +326,7 @@ TEST_F(AppDelegateTest, PastesIntoTheClipboardSourceWhateverIsActive) {
 }
 
 TEST_F(AppDelegateTest, ShowsAnOpenedTextAsIfItHadBeenPasted) {
-    launch().openText(u"# Opened"_s);
+    launch().scripts().open(u"# Opened"_s);
     EXPECT_EQ(keptScript(), u"# Opened"_s);
     EXPECT_TRUE(recorded(u"content_pasted"_s));
 }
@@ -336,7 +336,7 @@ TEST_F(AppDelegateTest, ChangesNothingForAnOpenedTextThatIsEmpty) {
         settings.activeSourceType = SourceType::obsidian;
         settings.enabledSourceTypes = {SourceType::clipboard, SourceType::obsidian};
     });
-    launch().openText({});
+    launch().scripts().open({});
     EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
     EXPECT_FALSE(recorded(u"content_pasted"_s));
 }
@@ -345,8 +345,8 @@ TEST_F(AppDelegateTest, GoesOnFollowingAFileAfterAnEmptyText) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"talk.md"_s);
     putFile(path, "new");
-    launch().followFile(path, u"old"_s);
-    delegate->openText({});
+    launch().scripts().follow(path, u"old"_s);
+    delegate->scripts().open({});
     timers.advance(0.5);
     fileTasks.runAll();
     mainQueue.runAll();
@@ -357,7 +357,7 @@ TEST_F(AppDelegateTest, KeepsTheTextOfAFollowedFileThatIsEmptied) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"talk.md"_s);
     putFile(path, "");
-    launch().followFile(path, u"old"_s);
+    launch().scripts().follow(path, u"old"_s);
     const auto events = recorder.events.size();
     timers.advance(0.5);
     fileTasks.runAll();

@@ -95,16 +95,16 @@ TEST_F(FirstRun, StartsWithTheClipboardWhateverWasActiveBefore) {
 }
 
 TEST_F(FirstRun, KeepsAnOpenedTextUntilItIsDone) {
-    launch().openText(u"# Opened"_s);
+    launch().scripts().open(u"# Opened"_s);
     EXPECT_EQ(keptScript(), QString());
     onboarding()->onComplete();
     EXPECT_EQ(keptScript(), u"# Opened"_s);
 }
 
 TEST_F(FirstRun, KeepsAnOpenedTextWhenAnEmptyOneFollows) {
-    launch().openText(u"# Opened"_s);
-    delegate->openText({});
-    delegate->followFile(u"/nowhere/empty.md"_s, {});
+    launch().scripts().open(u"# Opened"_s);
+    delegate->scripts().open({});
+    delegate->scripts().follow(u"/nowhere/empty.md"_s, {});
     onboarding()->onComplete();
     EXPECT_EQ(keptScript(), u"# Opened"_s);
 }

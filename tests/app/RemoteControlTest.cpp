@@ -56,7 +56,7 @@ protected:
 
     /// Shows a script of a hundred headings with a line below each.
     void showLongScript() {
-        delegate->openText(u"# heading\nline\n"_s.repeated(100));
+        delegate->scripts().open(u"# heading\nline\n"_s.repeated(100));
         mainQueue.runAll();
         prompter()->textView().completeLayout();
     }
@@ -232,7 +232,7 @@ TEST_F(RemoteControlTest, RefusesASourceThatIsNotEnabled) {
 
 TEST_F(RemoteControlTest, TellsWhatThePrompterShowsAndDoes) {
     launch();
-    delegate->openText(u"one two three"_s);
+    delegate->scripts().open(u"one two three"_s);
     mainQueue.runAll();
     const PrompterStatus shown = statusAfter(u"status"_s);
     EXPECT_TRUE(shown.visible);
