@@ -1,4 +1,4 @@
-#include "settings/SettingsCodec.h"
+#include "settings/DecodedSettings.h"
 #include "support/CaseName.h"
 
 #include <gmock/gmock.h>
@@ -11,20 +11,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 using testing::UnorderedElementsAre;
-
-/// The settings that `json` holds; fails the test and gives the defaults when it holds none.
-PersistedSettings decoded(const QByteArray& json) {
-    QString error;
-    const auto settings = decodeSettings(json, &error);
-    EXPECT_TRUE(settings.has_value()) << json.toStdString() << ": " << error.toStdString();
-    return settings.value_or(PersistedSettings());
-}
-
-QString decodingError(const QByteArray& json) {
-    QString error;
-    EXPECT_EQ(decodeSettings(json, &error), std::nullopt) << json.left(200).toStdString();
-    return error;
-}
 
 TEST(SettingsDecoding, AnEmptyObjectGivesTheDefaults) {
     const PersistedSettings settings = decoded("{}");
@@ -319,84 +305,6 @@ INSTANTIATE_TEST_SUITE_P(Base64, WrongValueDecoding,
 TEST(SettingsDecoding, NamesTheFirstOfSeveralWrongKeys) {
     EXPECT_EQ(decodingError(R"({"width": "x", "fontSize": "x"})"),
               u"Invalid value for \"fontSize\""_s);
-}
-
-struct BrokenFile {
-    const char* name;
-    QByteArray bytes;
-    QString error;
-};
-
-std::ostream& operator<<(std::ostream& out, const BrokenFile& test) {
-    return out << test.name;
-}
-
-class BrokenFileDecoding : public testing::TestWithParam<BrokenFile> {};
-
-TEST_P(BrokenFileDecoding, FailsWithOneLine) {
-    EXPECT_EQ(decodingError(GetParam().bytes), GetParam().error);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, BrokenFileDecoding,
-    testing::Values(
-        BrokenFile{"Empty", "", u"Invalid JSON at byte 1"_s},
-        BrokenFile{"OnlyAByteOrderMark", "\xEF\xBB\xBF", u"Invalid JSON at byte 4"_s},
-        BrokenFile{"Binary", QByteArray("\x00\xff\x7f\x00", 4), u"Invalid JSON at byte 1"_s},
-        BrokenFile{"Truncated", R"({"fontSize": 20, "wid)", u"Invalid JSON at byte 22"_s},
-        BrokenFile{"TruncatedNumber", R"({"fontSize": 20)", u"Invalid JSON at byte 16"_s},
-        BrokenFile{"TrailingText", R"({"fontSize": 20} x)", u"Invalid JSON at byte 18"_s},
-        BrokenFile{"TrailingComma", R"({"fontSize": 20,})", u"Invalid JSON at byte 17"_s},
-        BrokenFile{"Comment", "{} // defaults", u"Invalid JSON at byte 4"_s},
-        BrokenFile{"NotANumber", R"({"fontSize": NaN})", u"Invalid JSON at byte 14"_s},
-        BrokenFile{"InvalidUtf8", "{\"notePath\": \"\xC3(\"}", u"Invalid JSON at byte 16"_s},
-        BrokenFile{"InvalidUtf8InUnknownKey", "{\"x\": \"\xFF\"}", u"Invalid JSON at byte 8"_s},
-        BrokenFile{"AfterANul", QByteArray("{\"fontSize\": 20}\0{\"width\": 500}", 31),
-                   u"Invalid JSON at byte 17"_s},
-        BrokenFile{"NulAtTheEnd", QByteArray("{}\n\0", 4), u"Invalid JSON at byte 4"_s},
-        BrokenFile{"NulInAText", QByteArray("{\"notePath\": \"a\0b\"}", 19),
-                   u"Invalid JSON at byte 16"_s},
-        BrokenFile{"HalfOfAPairInABrokenText", R"({"x": "\ud83c \q"})",
-                   u"Invalid JSON at byte 16"_s},
-        BrokenFile{"TwoLargeExponents", R"({"x": 1e400e400})", u"Invalid JSON at byte 11"_s},
-        BrokenFile{"ErrorAfterALargeNumber", R"({"x": 1e400, "y": tru})",
-                   u"Invalid JSON at byte 22"_s},
-        BrokenFile{"Array", "[]", u"The JSON is not an object"_s},
-        BrokenFile{"Null", "null", u"The JSON is not an object"_s},
-        BrokenFile{"Text", R"("config")", u"The JSON is not an object"_s}),
-    byMember<&BrokenFile::name>);
-
-TEST(SettingsDecoding, RefusesMillionsOfNestedBracketsWithoutBuildingThem) {
-    for (const char* opening : {"[", "{\"x\":"}) {
-        EXPECT_EQ(decodingError("{\"x\": " + QByteArray(opening).repeated(2'000'000)),
-                  u"The JSON is nested too deeply"_s);
-    }
-}
-
-TEST(SettingsDecoding, RefusesMillionsOfValuesWithoutBuildingThem) {
-    EXPECT_EQ(decodingError("{\"x\": [" + QByteArray("0,").repeated(5'000'000) + "0]}"),
-              u"The JSON holds too many values"_s);
-}
-
-TEST(SettingsDecoding, CountsNestingOutsideOfStringsOnly) {
-    const QByteArray brackets(1000, '[');
-    EXPECT_EQ(decoded("{\"notePath\": \"\\\"" + brackets + "\\\\\"}").notePath,
-              u"\"%1\\"_s.arg(QString::fromLatin1(brackets)));
-}
-
-TEST(SettingsDecoding, AcceptsNestingAsDeepAsFiveHundredAndTwelveLevels) {
-    const QByteArray open(511, '[');
-    const QByteArray close(511, ']');
-    EXPECT_EQ(decoded("{\"x\": " + open + close + "}"), PersistedSettings());
-    EXPECT_EQ(decodingError("{\"x\": [" + open + close + "]}"), u"The JSON is nested too deeply"_s);
-}
-
-TEST(SettingsDecoding, TakesALargeTextAndManyUnknownKeys) {
-    QByteArray json = "{";
-    for (int key = 0; key < 200'000; ++key)
-        json += "\"k" + QByteArray::number(key) + "\": [" + QByteArray::number(key) + "],";
-    json += "\"notePath\": \"" + QByteArray(5'000'000, 'p') + "\"}";
-    EXPECT_EQ(decoded(json).notePath.size(), 5'000'000);
 }
 
 } // namespace
