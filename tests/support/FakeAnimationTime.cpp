@@ -21,13 +21,13 @@ FakeAnimationTime::~FakeAnimationTime() {
     uninstall();
 }
 
-void FakeAnimationTime::advance(double seconds) {
+void FakeAnimationTime::pass(double seconds) {
     const double end = now + seconds * 1000;
     while (now < end) {
         // Animations begin with the next turn of the event loop.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
         now = std::min(now + frameMilliseconds, end);
-        if (isRunning()) QAnimationDriver::advance();
+        if (isRunning()) advance();
     }
 }
 

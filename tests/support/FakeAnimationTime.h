@@ -11,7 +11,7 @@ public:
     ~FakeAnimationTime() override;
 
     /// Lets so many seconds pass, frame by frame.
-    void advance(double seconds);
+    void pass(double seconds);
 
     qint64 elapsed() const override;
 

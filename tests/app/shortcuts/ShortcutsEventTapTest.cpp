@@ -144,6 +144,7 @@ public:
 };
 
 TEST_F(ShortcutsEventTap, SwitchesNothingOnWhileThereIsNoTap) {
+    shortcuts.reset(); // their tap goes before its maker
     auto hasty = std::make_unique<HastyTapMaker>();
     const HastyTapMaker& maker = *hasty;
     platform.eventTaps = std::move(hasty);

@@ -23,7 +23,7 @@ TEST_F(OverlayFadeTest, IsSeenAtOnceAndForASecond) {
     fade.reveal();
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
 
-    time.advance(0.99);
+    time.pass(0.99);
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
     EXPECT_EQ(changes, 1);
 }
@@ -32,11 +32,11 @@ TEST_F(OverlayFadeTest, FadesOutInSmallStepsWithinAThirdOfASecond) {
     constexpr double secondsPerStep = 0.267 / 8;
     fade.reveal();
     // Looks in the middle of each step.
-    time.advance(1.0 + secondsPerStep / 2);
+    time.pass(1.0 + secondsPerStep / 2);
 
     double previous = fade.opacity();
     for (int step = 0; step < 8; ++step) {
-        time.advance(secondsPerStep);
+        time.pass(secondsPerStep);
         EXPECT_NEAR(previous - fade.opacity(), 0.125, 1e-9);
         previous = fade.opacity();
     }
@@ -45,20 +45,20 @@ TEST_F(OverlayFadeTest, FadesOutInSmallStepsWithinAThirdOfASecond) {
 
 TEST_F(OverlayFadeTest, RunsNothingOnceHidden) {
     fade.reveal();
-    time.advance(2.0);
+    time.pass(2.0);
     EXPECT_FALSE(fade.isRunning());
 
     const int changesWhenHidden = changes;
-    time.advance(60.0);
+    time.pass(60.0);
     EXPECT_EQ(changes, changesWhenHidden);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
 TEST_F(OverlayFadeTest, EveryRevealStartsTheSecondAnew) {
     fade.reveal();
-    time.advance(0.9);
+    time.pass(0.9);
     fade.reveal();
-    time.advance(0.9);
+    time.pass(0.9);
 
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
     EXPECT_TRUE(fade.isRunning());
@@ -66,19 +66,19 @@ TEST_F(OverlayFadeTest, EveryRevealStartsTheSecondAnew) {
 
 TEST_F(OverlayFadeTest, ARevealInMidFadeBringsItBackWhole) {
     fade.reveal();
-    time.advance(1.1);
+    time.pass(1.1);
     ASSERT_LT(fade.opacity(), 1.0);
 
     fade.reveal();
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
-    time.advance(0.9);
+    time.pass(0.9);
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
 }
 
 TEST_F(OverlayFadeTest, StaysWhileHeldWithoutAnAnimation) {
     fade.hold();
     fade.reveal();
-    time.advance(60.0);
+    time.pass(60.0);
 
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
     EXPECT_FALSE(fade.isRunning());
@@ -86,12 +86,12 @@ TEST_F(OverlayFadeTest, StaysWhileHeldWithoutAnAnimation) {
 
 TEST_F(OverlayFadeTest, FadesASecondAfterItIsLetGo) {
     fade.hold();
-    time.advance(5.0);
+    time.pass(5.0);
     fade.letGo();
-    time.advance(0.9);
+    time.pass(0.9);
     EXPECT_DOUBLE_EQ(fade.opacity(), 1.0);
 
-    time.advance(0.5);
+    time.pass(0.5);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
@@ -101,7 +101,7 @@ TEST_F(OverlayFadeTest, ConcealingEndsAlsoAHold) {
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 
     fade.reveal();
-    time.advance(2.0);
+    time.pass(2.0);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 
@@ -109,7 +109,7 @@ TEST_F(OverlayFadeTest, StaysConcealedWhenItWasAboutToFade) {
     fade.reveal();
     fade.conceal();
     EXPECT_FALSE(fade.isRunning());
-    time.advance(2.0);
+    time.pass(2.0);
     EXPECT_DOUBLE_EQ(fade.opacity(), 0.0);
 }
 

@@ -113,20 +113,20 @@ TEST_F(ThemedScrollerTest, IsSeenWhenItIsAskedToAndFadesAfterwards) {
     scroller.reveal();
     EXPECT_DOUBLE_EQ(scroller.opacity(), 1.0);
 
-    time.advance(1.15);
+    time.pass(1.15);
     EXPECT_GT(scroller.opacity(), 0.0);
     EXPECT_LT(scroller.opacity(), 1.0);
-    time.advance(0.3);
+    time.pass(0.3);
     EXPECT_DOUBLE_EQ(scroller.opacity(), 0.0);
 }
 
 TEST_F(ThemedScrollerTest, IsSeenAsLongAsThePointerIsOnIt) {
     pointerEnters(scroller);
-    time.advance(30.0);
+    time.pass(30.0);
     EXPECT_DOUBLE_EQ(scroller.opacity(), 1.0);
 
     pointerLeaves(scroller);
-    time.advance(2.0);
+    time.pass(2.0);
     EXPECT_DOUBLE_EQ(scroller.opacity(), 0.0);
 }
 
@@ -167,10 +167,10 @@ TEST_F(ThemedScrollerTest, PaintsNothingOnceItHasFaded) {
     PaintCounter paints(scroller);
     scroller.reveal();
     EXPECT_GT(paints.take(), 0);
-    time.advance(2.0);
+    time.pass(2.0);
     paints.take();
 
-    time.advance(60.0);
+    time.pass(60.0);
     EXPECT_EQ(paints.take(), 0);
 }
 
