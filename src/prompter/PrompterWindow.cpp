@@ -295,8 +295,8 @@ void PrompterWindow::toggleAutoScroll() {
     settings.setAutoScrollEnabled(!settings.autoScrollEnabled());
 }
 
-// How it looks changes when the settings window, or a command in its place, says so: a prompter
-// that was folded meanwhile takes its new height then, though the settings have it already.
+// The frame, the font and the rate are taken over on request: also when they are not new, as one
+// that was unfolded after its height had changed has another height than they say.
 void PrompterWindow::settingsChanged(const PersistedSettings& before) {
     const PersistedSettings& now = settings.values();
     if (now.scrollSpeed != before.scrollSpeed) updateScrollParameters();

@@ -4,8 +4,8 @@ namespace tessaline {
 
 struct Pace;
 
-/// What moves the reader of a session along without a hand. It moves from wherever the reader is,
-/// so that hands always win.
+/// What moves the reader of a session along without a hand, by telling the session how far
+/// (`ReadingSession::moveBy`): from wherever the reader is, so that hands always win.
 class PositionSource {
 public:
     virtual ~PositionSource() = default;

@@ -4,6 +4,7 @@
 #include "reading/ScriptChange.h"
 #include "settings/PersistedSettings.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -21,6 +22,7 @@ void ReadingSession::setContent(RenderedContent content) {
     const ScriptChange change = ScriptChange::between(*before, *currentScript);
     const auto kept = placeAfter(change, before->paragraphs.size());
     if (kept) readersPlace = *kept;
+    readersPlace.paragraph = std::min(readersPlace.paragraph, currentScript->paragraphs.size() - 1);
     // The first one last: the others follow what it tells.
     for (auto view = views.rbegin(); view != views.rend(); ++view)
         (*view)->scriptChanged(*before, change, kept.has_value());
@@ -28,12 +30,12 @@ void ReadingSession::setContent(RenderedContent content) {
 
 /// Where the reader is in the changed script, if what they had before the eyes is still there.
 std::optional<ReadingPlace> ReadingSession::placeAfter(const ScriptChange& change,
-                                                       std::size_t oldCount) const {
+                                                       std::size_t countBefore) const {
     const std::size_t newCount = currentScript->paragraphs.size();
     const auto& [paragraph, fraction] = readersPlace;
-    if (paragraph < change.first || newCount == oldCount) return readersPlace;
+    if (paragraph < change.first || newCount == countBefore) return readersPlace;
     if (paragraph < change.first + change.oldCount) return std::nullopt;
-    return ReadingPlace{paragraph + newCount - oldCount, fraction};
+    return ReadingPlace{paragraph + newCount - countBefore, fraction};
 }
 
 void ReadingSession::moveTo(qsizetype offset) {
@@ -45,7 +47,7 @@ void ReadingSession::moveBy(double points) {
 }
 
 void ReadingSession::reached(const ReadingView& view, const ReadingPlace& place) {
-    if (&view != views.front()) return;
+    if (views.empty() || &view != views.front()) return;
     readersPlace = place;
     for (std::size_t i = 1; i < views.size(); ++i)
         views[i]->follow(place);

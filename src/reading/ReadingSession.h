@@ -68,7 +68,8 @@ public:
     void reached(const ReadingView& view, const ReadingPlace& place);
 
 private:
-    std::optional<ReadingPlace> placeAfter(const ScriptChange& change, std::size_t oldCount) const;
+    std::optional<ReadingPlace> placeAfter(const ScriptChange& change,
+                                           std::size_t countBefore) const;
 
     const PersistedSettings& settings;
     std::shared_ptr<const Script> currentScript;

@@ -95,6 +95,16 @@ TEST_F(ReadingSessionTest, ShowsANewViewTheReadersPlace) {
     EXPECT_EQ(second.followed[0].fraction, 0.25);
 }
 
+TEST_F(ReadingSessionTest, HasAPlaceInItsTextAlsoWhileNobodyShowsIt) {
+    show(u"one\ntwo\nthree"_s);
+    session.reached(first, {2, 0.25});
+    session.removeView(first);
+    show(u"another"_s);
+    expectPlace(0, 0.25);
+    session.reached(first, {7, 0.0});
+    expectPlace(0, 0.25);
+}
+
 TEST_F(ReadingSessionTest, GoesOnWithTheSecondViewOnceTheFirstIsGone) {
     session.addView(second);
     session.removeView(first);
