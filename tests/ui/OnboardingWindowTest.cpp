@@ -1,6 +1,6 @@
 #include "appearance/SystemPalette.h"
-#include "support/Part.h"
 #include "support/CaseName.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/OnboardingWindowFixture.h"
 #include "ui/SpokenControls.h"

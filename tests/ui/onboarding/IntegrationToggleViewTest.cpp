@@ -1,8 +1,8 @@
 #include "ui/onboarding/IntegrationToggleView.h"
 
 #include "controls/IconImage.h"
-#include "support/Part.h"
 #include "support/CaseName.h"
+#include "support/Part.h"
 #include "support/PrintQt.h"
 #include "ui/controls/Switch.h"
 
