@@ -14,14 +14,14 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 
 /// Starts for the first time.
-class FirstRun : public AppDelegateFixture {
+class FirstRunTest : public AppDelegateFixture {
 protected:
-    FirstRun() {
+    FirstRunTest() {
         configure([](PersistedSettings& settings) { settings.hasCompletedOnboarding = false; });
     }
 };
 
-TEST_F(FirstRun, ShowsTheFirstRunWindowAndNothingElse) {
+TEST_F(FirstRunTest, ShowsTheFirstRunWindowAndNothingElse) {
     trust.trusted = true;
     launch();
     ASSERT_TRUE(onboarding());
@@ -36,7 +36,7 @@ TEST_F(FirstRun, ShowsTheFirstRunWindowAndNothingElse) {
     EXPECT_FALSE(recorded(u"content_loaded"_s));
 }
 
-TEST_F(FirstRun, StartsNormallyOnceItIsCompleted) {
+TEST_F(FirstRunTest, StartsNormallyOnceItIsCompleted) {
     launch();
     onboarding()->onComplete();
     EXPECT_THAT(activationPolicy.kinds,
@@ -46,14 +46,14 @@ TEST_F(FirstRun, StartsNormallyOnceItIsCompleted) {
     EXPECT_TRUE(recorded(u"content_loaded"_s));
 }
 
-TEST_F(FirstRun, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
+TEST_F(FirstRunTest, StartsNormallyWhenItIsSkippedAndComesBackNextTime) {
     launch();
     onboarding()->onSkip();
     EXPECT_TRUE(prompter()->isVisible());
     EXPECT_FALSE(savedSettings().hasCompletedOnboarding());
 }
 
-TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
+TEST_F(FirstRunTest, TakesAClosedWindowForASkippedOne) {
     launch();
     onboarding()->close();
     EXPECT_TRUE(prompter()->isVisible());
@@ -63,7 +63,7 @@ TEST_F(FirstRun, TakesAClosedWindowForASkippedOne) {
     EXPECT_FALSE(onboarding());
 }
 
-TEST_F(FirstRun, DropsItsWindowOnlyAfterThatHasCalled) {
+TEST_F(FirstRunTest, DropsItsWindowOnlyAfterThatHasCalled) {
     launch();
     onboarding()->onComplete();
     ASSERT_TRUE(onboarding());
@@ -72,7 +72,7 @@ TEST_F(FirstRun, DropsItsWindowOnlyAfterThatHasCalled) {
     EXPECT_FALSE(onboarding());
 }
 
-TEST_F(FirstRun, StartsOnceHoweverOftenItsWindowCalls) {
+TEST_F(FirstRunTest, StartsOnceHoweverOftenItsWindowCalls) {
     launch();
     onboarding()->onComplete();
     onboarding()->onSkip();
@@ -80,7 +80,7 @@ TEST_F(FirstRun, StartsOnceHoweverOftenItsWindowCalls) {
     EXPECT_EQ(activationPolicy.kinds.size(), 2u);
 }
 
-TEST_F(FirstRun, StartsWithTheClipboardWhateverWasActiveBefore) {
+TEST_F(FirstRunTest, StartsWithTheClipboardWhateverWasActiveBefore) {
     configure([](PersistedSettings& settings) {
         settings.hasCompletedOnboarding = false;
         settings.activeSourceType = SourceType::obsidian;
@@ -94,14 +94,14 @@ TEST_F(FirstRun, StartsWithTheClipboardWhateverWasActiveBefore) {
     EXPECT_THAT(timers.liveIntervals(), Not(Contains(1.0))); // nobody reads Obsidian's file
 }
 
-TEST_F(FirstRun, KeepsAnOpenedTextUntilItIsDone) {
+TEST_F(FirstRunTest, KeepsAnOpenedTextUntilItIsDone) {
     launch().scripts().open(u"# Opened"_s);
     EXPECT_EQ(keptScript(), QString());
     onboarding()->onComplete();
     EXPECT_EQ(keptScript(), u"# Opened"_s);
 }
 
-TEST_F(FirstRun, KeepsAnOpenedTextWhenAnEmptyOneFollows) {
+TEST_F(FirstRunTest, KeepsAnOpenedTextWhenAnEmptyOneFollows) {
     launch().scripts().open(u"# Opened"_s);
     delegate->scripts().open({});
     delegate->scripts().follow(u"/nowhere/empty.md"_s, {});
@@ -109,7 +109,7 @@ TEST_F(FirstRun, KeepsAnOpenedTextWhenAnEmptyOneFollows) {
     EXPECT_EQ(keptScript(), u"# Opened"_s);
 }
 
-TEST_F(FirstRun, RevealsTheFirstRunWindow) {
+TEST_F(FirstRunTest, RevealsTheFirstRunWindow) {
     launch();
     onboarding()->showMinimized();
     delegate->reveal();

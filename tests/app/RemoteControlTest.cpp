@@ -6,7 +6,10 @@
 #include "prompter/view/ScriptView.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindow.h"
+#include "ui/controls/PointSlider.h"
 #include "ui/controls/PopupButton.h"
+
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -64,10 +67,11 @@ protected:
     /// The names and values of the settings whose change was recorded.
     std::vector<std::pair<QString, QString>> changedSettings() const {
         std::vector<std::pair<QString, QString>> changes;
-        for (const AnalyticsEvent& event : recorder.events)
-            if (event.name == u"setting_changed")
-                changes.emplace_back(event.properties.value(u"setting_name"_s),
-                                     event.properties.value(u"setting_value"_s));
+        for (const AnalyticsEvent& event : recorder.events) {
+            if (event.name != u"setting_changed") continue;
+            changes.emplace_back(event.properties.value(u"setting_name"_s),
+                                 event.properties.value(u"setting_value"_s));
+        }
         return changes;
     }
 
@@ -126,6 +130,19 @@ TEST_F(RemoteControlTest, ChangesNothingButTheRate) {
                 ElementsAre(std::pair(u"width"_s, u"1234"_s), std::pair(u"height"_s, u"77"_s),
                             std::pair(u"fontSize"_s, u"42"_s),
                             std::pair(u"scrollRate"_s, u"slow"_s)));
+}
+
+TEST_F(RemoteControlTest, TheSameRateAgainGivesAnUnfoldedPrompterItsNewHeight) {
+    launch();
+    const int before = prompter()->height();
+    textOf(u"minimize"_s);
+    auto* slider = config()->findChild<PointSlider*>(u"heightSlider"_s);
+    ASSERT_TRUE(slider);
+    QTest::keyClick(slider, Qt::Key_Home);
+    textOf(u"expand"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return prompter()->height() == before; }));
+    textOf(u"rate medium"_s);
+    EXPECT_EQ(prompter()->height(), savedSettings().height());
 }
 
 TEST_F(RemoteControlTest, ChangesNothingButTheSource) {
