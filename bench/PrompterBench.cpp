@@ -4,6 +4,7 @@
 #include "Verdicts.h"
 
 #include "prompter/view/ScriptView.h"
+#include "reading/MarkdownScript.h"
 #include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
 #include "settings/PersistedSettings.h"
@@ -47,7 +48,8 @@ public:
     /// Everything from a text's arrival to pixels that are ready to be seen.
     void show(const QString& markdown) {
         benchmark::DoNotOptimize(MarkdownRenderer::wordCount(markdown));
-        session->setContent({Script(MarkdownRenderer(fontSize).render(markdown))});
+        session->setContent({std::make_shared<const tessaline::Script>(
+            tessaline::markdownScript(markdown, fontSize))});
         view.repaint();
     }
 

@@ -5,7 +5,7 @@
 #include "export/HtmlText.h"
 #include "reading/Script.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace tessaline {
@@ -45,40 +45,27 @@ public:
     PageBody(const Script& scriptToWrite, const HtmlStyles& classes)
         : script(scriptToWrite), styles(classes) {}
 
-    void append(QByteArray& out, const Script::Paragraph& paragraph) const {
+    void append(QByteArray& out, std::size_t index) const {
+        const Script::Paragraph& paragraph = script.paragraphs[index];
         if (!paragraph.continuesPrevious)
             out += "<p dir=\"auto\"" + classAttribute(paragraphClass(paragraph)) + '>';
         if (paragraph.length > 0) {
-            appendRuns(out, paragraph);
+            appendRuns(out, script.content(index));
         } else {
-            appendRun(out, styleAtStart(paragraph), "<br>");
+            appendRun(out, paragraph.style, "<br>");
         }
         if (!paragraph.continuesInNext) out += "</p>\n";
     }
 
 private:
-    /// The attributes that a paragraph begins with; an empty one has those of its newline. -1:
-    /// none.
-    int styleAtStart(const Script::Paragraph& paragraph) const {
-        if (paragraph.start >= script.styled.text.size()) return -1;
-        return script.styled.runs[std::size_t(paragraph.firstRun)].style;
-    }
-
     QByteArray paragraphClass(const Script::Paragraph& paragraph) const {
-        const int style = styleAtStart(paragraph);
-        return style < 0 ? QByteArray() : styles.paragraphClass(style);
+        return paragraph.style < 0 ? QByteArray() : styles.paragraphClass(paragraph.style);
     }
 
-    void appendRuns(QByteArray& out, const Script::Paragraph& paragraph) const {
-        const QStringView text(script.styled.text);
-        const auto& runs = script.styled.runs;
-        const int end = paragraph.start + paragraph.length;
-        int from = paragraph.start;
-        for (auto run = runs.begin() + paragraph.firstRun; from < end; ++run) {
-            const int to = std::min(run->start + run->length, end);
-            appendRun(out, run->style, htmlText(text.sliced(from, to - from)));
-            from = to;
-        }
+    void appendRuns(QByteArray& out, const StyledFragment& content) const {
+        const QStringView text(content.text);
+        for (const auto& run : content.runs)
+            appendRun(out, run.style, htmlText(text.sliced(run.start, run.length)));
     }
 
     void appendRun(QByteArray& out, int style, const QByteArray& content) const {
@@ -98,11 +85,11 @@ private:
 
 bool writeHtml(StyledText styled, const QString& title, int width, ByteSink& sink) {
     const Script script(std::move(styled));
-    const HtmlStyles styles(script.styled.styles);
+    const HtmlStyles styles(script.styles);
     const PageBody body(script, styles);
     QByteArray out = pageStart(title, width, styles);
-    for (const Script::Paragraph& paragraph : script.paragraphs) {
-        body.append(out, paragraph);
+    for (std::size_t index = 0; index < script.paragraphs.size(); ++index) {
+        body.append(out, index);
         if (out.size() < pieceSize) continue;
         if (!sink.write(out)) return false;
         out.resize(0); // unlike clear(), keeps the memory

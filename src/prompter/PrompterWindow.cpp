@@ -252,8 +252,8 @@ void PrompterWindow::renderMarkdown(const QString& content) {
 
 void PrompterWindow::renderPlaceholder() {
     renderer.cancel();
-    showContent(
-        {Script(placeholderText(view->height())), MarkdownRenderer::wordCount(placeholderContent)});
+    showContent({std::make_shared<const Script>(placeholderText(view->height())),
+                 MarkdownRenderer::wordCount(placeholderContent)});
 }
 
 void PrompterWindow::showContent(RenderedContent content) {

@@ -2,6 +2,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/TaskRunner.h"
+#include "reading/MarkdownScript.h"
 #include "render/markdown/MarkdownRenderer.h"
 
 #include <memory>
@@ -13,10 +14,9 @@ namespace {
 
 constexpr double fontSize = 16.0;
 
-RenderedContent rendered(const QString& markdown) {
-    // Counting takes a copy of the text, which is gone before rendering takes as much.
-    const qsizetype wordCount = MarkdownRenderer::wordCount(markdown);
-    return {Script(MarkdownRenderer(fontSize).render(markdown)), wordCount};
+RenderedContent rendered(const QString& markdown, const Script* before) {
+    return {std::make_shared<const Script>(markdownScript(markdown, fontSize, before)),
+            MarkdownRenderer::wordCount(markdown)};
 }
 
 } // namespace
@@ -26,15 +26,21 @@ ContentRenderer::ContentRenderer(TaskRunner& taskRunner, MainQueue& mainQueue)
 
 void ContentRenderer::cancel() {
     request.reset();
+    last.reset();
 }
 
 void ContentRenderer::render(const QString& markdown, Handler done) {
     request.emplace();
-    if (markdown.size() <= mostRenderedAtOnce) return done(rendered(markdown));
+    const auto deliver = request->guard([this, done = std::move(done)](RenderedContent content) {
+        last = content.script;
+        done(std::move(content));
+    });
+    if (markdown.size() <= mostRenderedAtOnce) return deliver(rendered(markdown, last.get()));
 
-    tasks.run([markdown, deliver = request->guard(std::move(done)), &mainQueue = queue] {
+    tasks.run([markdown, deliver, before = last, &mainQueue = queue]() mutable {
         if (!deliver.isAlive()) return;
-        auto content = std::make_shared<RenderedContent>(rendered(markdown));
+        auto content = std::make_shared<RenderedContent>(rendered(markdown, before.get()));
+        before.reset();
         mainQueue.post([content, deliver] { deliver(std::move(*content)); });
     });
 }

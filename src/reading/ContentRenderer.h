@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace tessaline {
@@ -15,7 +16,7 @@ class TaskRunner;
 
 /// A text made ready for the prompter.
 struct RenderedContent {
-    Script script;
+    std::shared_ptr<const Script> script = std::make_shared<const Script>();
     qsizetype wordCount = 0;
 };
 
@@ -42,7 +43,8 @@ public:
 private:
     TaskRunner& tasks;
     MainQueue& queue;
-    std::optional<Lifetime> request; ///< until another text is asked for
+    std::optional<Lifetime> request;    ///< until another text is asked for
+    std::shared_ptr<const Script> last; ///< which the next one is likely to be a version of
 };
 
 } // namespace tessaline

@@ -17,8 +17,7 @@ ReadingSession::~ReadingSession() = default;
 
 void ReadingSession::setContent(RenderedContent content) {
     wordCount = content.wordCount;
-    const auto before =
-        std::exchange(currentScript, std::make_shared<const Script>(std::move(content.script)));
+    const auto before = std::exchange(currentScript, std::move(content.script));
     const ScriptChange change = ScriptChange::between(*before, *currentScript);
     const auto kept = placeAfter(change, before->paragraphs.size());
     if (kept) readersPlace = *kept;

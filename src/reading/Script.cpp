@@ -1,6 +1,6 @@
 #include "reading/Script.h"
 
-#include "render/markdown/CharacterClasses.h"
+#include "reading/ParagraphCutter.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,95 +9,118 @@ namespace tessaline {
 
 namespace {
 
-/// The same text with the same attributes, without carriage returns.
-StyledText withoutCarriageReturns(StyledText styled) {
-    if (!styled.text.contains(u'\r')) return styled;
-    QString text;
-    text.reserve(styled.text.size());
-    std::vector<StyledText::Run> runs;
-    runs.reserve(styled.runs.size());
-    for (const auto& run : styled.runs) {
-        const qsizetype start = text.size();
-        for (const QChar c : QStringView(styled.text).sliced(run.start, run.length)) {
-            if (c != u'\r') text += c;
-        }
-        if (text.size() > start) runs.push_back({int(start), int(text.size() - start), run.style});
+/// A text that was styled as a whole.
+class WholeText final : public ScriptSource {
+public:
+    explicit WholeText(StyledText styledText) : styled(std::move(styledText)) {}
+
+    StyledFragment paragraph(const ScriptParagraph& paragraph) const override {
+        return fragmentOf(styled.text, styled.runs, paragraph.start, paragraph.length);
     }
-    return {std::move(text), std::move(runs), std::move(styled.styles), styled.fontSize};
+
+private:
+    StyledText styled;
+};
+
+/// The style of the newline at an offset; -1 at the text's end.
+int newlineStyle(const StyledText& styled, qsizetype offset) {
+    if (offset >= styled.text.size()) return -1;
+    return fragmentOf(styled.text, styled.runs, offset, 1).runs.front().style;
 }
 
 } // namespace
 
-Script::Script() : paragraphs(1) {}
+Script::Script() : Script(StyledText{}) {}
 
-Script::Script(StyledText styledText) : styled(withoutCarriageReturns(std::move(styledText))) {
+Script::Script(StyledText styled) : styles(styled.styles), fontSize(styled.fontSize) {
+    removeCarriageReturns(styled.text, styled.runs);
     const QStringView text(styled.text);
-    paragraphs.reserve(std::size_t(text.count(u'\n')) + 1);
-    qsizetype run = 0;
-    qsizetype start = 0;
-    for (qsizetype newline = text.indexOf(u'\n'); newline >= 0;
-         newline = text.indexOf(u'\n', start)) {
-        appendLine(start, newline, run);
-        start = newline + 1;
+    ParagraphCutter cutter;
+    cutter.paragraphs.reserve(std::size_t(text.count(u'\n')) + 1);
+    for (qsizetype start = 0; start <= text.size();) {
+        const qsizetype newline = text.indexOf(u'\n', start);
+        const qsizetype end = newline < 0 ? text.size() : newline;
+        cutter.append(fragmentOf(text, styled.runs, start, end - start),
+                      {.style = start == end ? newlineStyle(styled, end) : -1});
+        start = end + 1;
     }
-    appendLine(start, text.size(), run);
+    paragraphs = std::move(cutter.paragraphs);
+    source = std::make_shared<const WholeText>(std::move(styled));
 }
 
-void Script::appendLine(qsizetype start, qsizetype end, qsizetype& run) {
-    const auto runCount = qsizetype(styled.runs.size());
-    bool continues = false;
-    do {
-        const qsizetype piece = pieceEnd(start, end);
-        while (run + 1 < runCount && styled.runs[std::size_t(run) + 1].start <= start)
-            ++run;
-        paragraphs.push_back({int(start), int(piece - start), int(run), continues, piece < end});
-        continues = true;
-        start = piece;
-    } while (start < end);
+qsizetype Script::length() const {
+    return qsizetype(paragraphs.back().start) + paragraphs.back().length;
 }
 
-qsizetype Script::pieceEnd(qsizetype start, qsizetype lineEnd) const {
-    const QStringView text(styled.text);
-    if (lineEnd - start <= longestPiece) return lineEnd;
-    const qsizetype latest = start + longestPiece;
-    for (qsizetype end = latest; end > start + longestPiece / 2; --end) {
-        if (isWhitespace(text[end - 1].unicode())) return end;
+QString Script::text(qsizetype begin, qsizetype end) const {
+    begin = std::clamp<qsizetype>(begin, 0, length());
+    end = std::clamp<qsizetype>(end, begin, length());
+    const std::size_t first = paragraphOf(begin);
+    QString result;
+    result.reserve(end - begin);
+    for (std::size_t i = first; i < paragraphs.size() && paragraphs[i].start < end; ++i) {
+        result += content(i).text;
+        if (!paragraphs[i].continuesInNext) result += u'\n';
     }
-    return text[latest].isLowSurrogate() ? latest - 1 : latest;
+    return result.mid(begin - paragraphs[first].start, end - begin);
+}
+
+StyledFragment Script::content(std::size_t index) const {
+    const Paragraph& paragraph = paragraphs[index];
+    return paragraph.length == 0 ? StyledFragment{} : source->paragraph(paragraph);
+}
+
+const TextAttributes* Script::attributes(std::size_t index) const {
+    const int style = paragraphs[index].style;
+    return style < 0 ? nullptr : &styles[std::size_t(style)];
+}
+
+std::size_t Script::paragraphOf(qsizetype offset) const {
+    const auto next = std::upper_bound(
+        paragraphs.begin() + 1, paragraphs.end(), offset,
+        [](qsizetype value, const Paragraph& paragraph) { return value < paragraph.start; });
+    return std::size_t(next - paragraphs.begin()) - 1;
 }
 
 int Script::headingLevel(std::size_t index) const {
     const Paragraph& paragraph = paragraphs[index];
     if (paragraph.length == 0 || paragraph.continuesPrevious) return 0;
-    const auto& attributes = styled.attributes(styled.runs[std::size_t(paragraph.firstRun)]);
-    return attributes.paragraph ? attributes.paragraph->headingLevel : 0;
+    const auto& style = attributes(index)->paragraph;
+    return style ? style->headingLevel : 0;
 }
 
 bool Script::hasSameParagraph(std::size_t index, const Script& other,
                               std::size_t otherIndex) const {
     const Paragraph& mine = paragraphs[index];
     const Paragraph& its = other.paragraphs[otherIndex];
-    if (mine.continuesPrevious != its.continuesPrevious ||
-        mine.continuesInNext != its.continuesInNext || textOf(mine) != other.textOf(its))
+    if (mine.length != its.length || mine.continuesPrevious != its.continuesPrevious ||
+        mine.continuesInNext != its.continuesInNext ||
+        !hasSameAttributes(mine.style, other, its.style))
         return false;
+    if (mine.length == 0 || hasSameOrigin(mine, other, its)) return true;
 
-    const bool isLast = mine.start == styled.text.size();
-    const bool itsIsLast = its.start == other.styled.text.size();
-    if (isLast || itsIsLast) return isLast && itsIsLast;
+    const StyledFragment myContent = content(index);
+    const StyledFragment itsContent = other.content(otherIndex);
+    return myContent.text == itsContent.text &&
+           std::ranges::equal(
+               myContent.runs, itsContent.runs, [&](const auto& myRun, const auto& itsRun) {
+                   return myRun.start == itsRun.start && myRun.length == itsRun.length &&
+                          hasSameAttributes(myRun.style, other, itsRun.style);
+               });
+}
 
-    const auto endOf = [](const StyledText::Run& run, const Paragraph& paragraph) {
-        return std::min(run.start + run.length - paragraph.start, paragraph.length);
-    };
-    auto myRun = styled.runs.begin() + mine.firstRun;
-    auto itsRun = other.styled.runs.begin() + its.firstRun;
-    while (styled.attributes(*myRun) == other.styled.attributes(*itsRun)) {
-        const qsizetype end = endOf(*myRun, mine);
-        if (end != endOf(*itsRun, its)) return false;
-        if (end == mine.length) return true;
-        ++myRun;
-        ++itsRun;
-    }
-    return false;
+bool Script::hasSameOrigin(const Paragraph& mine, const Script& other, const Paragraph& its) const {
+    using Fence = Paragraph::Fence;
+    if (!mine.isWholeLine() || fontSize != other.fontSize ||
+        (mine.fence == Fence::outside) != (its.fence == Fence::outside))
+        return false;
+    const auto myOrigin = source->originOf(mine);
+    return myOrigin && myOrigin == other.source->originOf(its);
+}
+
+bool Script::hasSameAttributes(int style, const Script& other, int otherStyle) const {
+    if (style < 0 || otherStyle < 0) return style == otherStyle;
+    return styles[std::size_t(style)] == other.styles[std::size_t(otherStyle)];
 }
 
 } // namespace tessaline

@@ -1,37 +1,39 @@
 #pragma once
 
-#include "render/StyledText.h"
+#include "reading/ScriptSource.h"
 
-#include <QStringView>
-
+#include <memory>
 #include <vector>
 
 namespace tessaline {
 
-/// A styled text cut into the paragraphs that it is laid out by. A plain value; any thread.
+/// What is read, as the paragraphs that it is laid out by. Their text is made when it is asked for,
+/// so that a long script takes little more memory than what it is made from. A plain value; any
+/// thread.
 struct Script {
-    /// A line of the text without its newline, or a piece of a very long line. Offsets in UTF-16
-    /// units.
-    struct Paragraph {
-        int start = 0;
-        int length = 0;
-        int firstRun = 0;               ///< the run that `start` lies in, if that is not the end
-        bool continuesPrevious = false; ///< belongs to the same line as the paragraph before
-        bool continuesInNext = false;   ///< belongs to the same line as the paragraph behind
-    };
-
-    /// Lines longer than this, in UTF-16 units, are laid out in pieces, so that no single layout
-    /// holds up a frame. No spoken paragraph comes near it.
-    static constexpr qsizetype longestPiece = 8192;
+    using Paragraph = ScriptParagraph;
 
     Script();
 
-    /// Takes a text apart. Carriage returns are left out: they neither show nor cost a line.
+    /// A text that is there already, apart from its carriage returns.
     explicit Script(StyledText styledText);
 
-    QStringView textOf(const Paragraph& paragraph) const {
-        return QStringView(styled.text).sliced(paragraph.start, paragraph.length);
-    }
+    /// How many UTF-16 units the text has, newlines included.
+    qsizetype length() const;
+
+    /// What lies between two offsets, or everything.
+    QString text(qsizetype begin, qsizetype end) const;
+    QString text() const { return text(0, length()); }
+
+    /// A paragraph with its attributes.
+    StyledFragment content(std::size_t index) const;
+
+    /// The attributes that a paragraph begins with; an empty one has those of its newline. Null at
+    /// the text's end.
+    const TextAttributes* attributes(std::size_t index) const;
+
+    /// The paragraph that an offset lies in. A newline belongs to the one before it.
+    std::size_t paragraphOf(qsizetype offset) const;
 
     /// Whether a paragraph of this script and one of another have the same text and attributes.
     bool hasSameParagraph(std::size_t index, const Script& other, std::size_t otherIndex) const;
@@ -39,12 +41,14 @@ struct Script {
     /// The level of the heading whose line a paragraph begins, from 1 on; 0 where there is none.
     int headingLevel(std::size_t index) const;
 
-    StyledText styled;
-    std::vector<Paragraph> paragraphs; ///< at least one
+    std::vector<Paragraph> paragraphs;  ///< at least one
+    std::vector<TextAttributes> styles; ///< what the runs of paragraphs refer to
+    double fontSize = 0.0; ///< of body text, which a view may replace; 0: every font is as it is
+    std::shared_ptr<const ScriptSource> source;
 
 private:
-    void appendLine(qsizetype start, qsizetype end, qsizetype& run);
-    qsizetype pieceEnd(qsizetype start, qsizetype lineEnd) const;
+    bool hasSameOrigin(const Paragraph& mine, const Script& other, const Paragraph& its) const;
+    bool hasSameAttributes(int style, const Script& other, int otherStyle) const;
 };
 
 } // namespace tessaline

@@ -8,8 +8,7 @@ namespace {
 
 /// Where the text of the paragraphs before `index` ends, newlines included.
 qsizetype startOf(const Script& script, std::size_t index) {
-    return index < script.paragraphs.size() ? script.paragraphs[index].start
-                                            : script.styled.text.size();
+    return index < script.paragraphs.size() ? script.paragraphs[index].start : script.length();
 }
 
 } // namespace
@@ -28,13 +27,21 @@ ScriptChange ScriptChange::between(const Script& before, const Script& after) {
     return {first, oldSize - first - last, newSize - first - last};
 }
 
+TextChange ScriptChange::textChange(const Script& before, const Script& after) const {
+    const qsizetype oldEnd = startOf(before, first + oldCount);
+    const qsizetype newEnd = startOf(after, first + newCount);
+    const qsizetype begin =
+        std::min({startOf(before, first), startOf(after, first), oldEnd, newEnd});
+    return {begin, before.text(begin, oldEnd), after.text(begin, newEnd)};
+}
+
 qsizetype ScriptChange::movedOffset(qsizetype offset, const Script& before, const Script& after,
                                     const ScriptChange& change) {
     const qsizetype changeBegin = startOf(before, change.first);
     const qsizetype oldEnd = startOf(before, change.first + change.oldCount);
     const qsizetype newEnd = startOf(after, change.first + change.newCount);
-    if (offset <= changeBegin) return std::min(offset, after.styled.text.size());
-    if (offset >= oldEnd) return std::min(offset + newEnd - oldEnd, after.styled.text.size());
+    if (offset <= changeBegin) return std::min(offset, after.length());
+    if (offset >= oldEnd) return std::min(offset + newEnd - oldEnd, after.length());
     return offset - changeBegin <= oldEnd - offset ? std::min(changeBegin, newEnd) : newEnd;
 }
 

@@ -33,4 +33,11 @@ struct StyledText {
     const TextAttributes& attributes(const Run& run) const { return styles[run.style]; }
 };
 
+/// A piece of a styled text, such as a line. Its runs begin at 0, cover it without gaps and have
+/// the whole text's styles.
+struct StyledFragment {
+    QString text;
+    std::vector<StyledText::Run> runs;
+};
+
 } // namespace tessaline

@@ -43,16 +43,13 @@ protected:
         return *config()->findChild<PointSlider*>(QString::fromLatin1(name));
     }
 
-    const StyledText& shownText() { return prompter()->textView().script().styled; }
+    const Script& shownScript() { return prompter()->textView().script(); }
 
     /// So that it is seen whether it is rendered again.
     void forgetShownText() { prompter()->reading().setContent({}); }
 
     /// The size in points of the text's beginning.
-    double shownSize() {
-        return prompter()->textView().sizeOf(
-            *shownText().attributes(shownText().runs.front()).font);
-    }
+    double shownSize() { return prompter()->textView().sizeOf(*shownScript().attributes(0)->font); }
 
     int settingsTop() { return config()->windowHandle()->frameGeometry().top(); }
 
@@ -64,7 +61,7 @@ protected:
 
 TEST_F(AppDelegateConnections, ShowTheTextOfTheSourceInThePrompter) {
     launchWith(u"# Hello"_s);
-    EXPECT_EQ(shownText().text, u"Hello"_s);
+    EXPECT_EQ(shownScript().text(), u"Hello"_s);
 }
 
 TEST_F(AppDelegateConnections, PlaceAndRenderThePrompterAnewWhenASettingChanges) {
@@ -137,7 +134,7 @@ TEST_F(AppDelegateConnections, PlaceAndRenderThePrompterAnewWhenTheScreensChange
     forgetShownText();
     notifications.post({Screens::parametersDidChangeNotification(), nullptr, {}});
     EXPECT_EQ(prompter()->y(), 0);
-    EXPECT_EQ(shownText().text, u"Hello"_s);
+    EXPECT_EQ(shownScript().text(), u"Hello"_s);
 }
 
 TEST_F(AppDelegateConnections, WatchTheSourceThatIsChosenInTheSettings) {

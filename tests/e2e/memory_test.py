@@ -18,9 +18,19 @@ class Memory(TessalineTestCase):
     def peak(self):
         return resident(self.prompter.pid, "VmHWM")
 
+    def write(self, *lines):
+        content = self.support_folder() / "tessaline-content.md"
+        new = content.with_suffix(".new")
+        new.write_text("".join(lines))
+        new.rename(content)
+
+    def expect_little(self):
+        """Looks a little longer: the file is read again every second."""
+        self.assertTrue(holds_for(lambda: self.peak() < MOST_KIB, 3), f"{self.peak()} KiB")
+
     def test_a_content_file_of_fifty_megabytes_takes_four_hundred_at_most(self):
         lines = CONTENT_SIZE // len(LINE)
-        (self.support_folder() / "tessaline-content.md").write_text(LINE * lines)
+        self.write(LINE * lines)
         self.write_settings(
             activeSourceType="obsidian", enabledSourceTypes=["obsidian", "clipboard"]
         )
@@ -28,8 +38,12 @@ class Memory(TessalineTestCase):
         wait_until(
             lambda: self.status()["maximumScrollPosition"] > lines, "the script is there", 60
         )
-        # The file is read again every second.
-        self.assertTrue(holds_for(lambda: self.peak() < MOST_KIB, 3), f"{self.peak()} KiB")
+        self.expect_little()
+
+        words = self.status()["words"]
+        self.write(LINE * (lines // 2), "Two more\n", LINE * (lines - lines // 2))
+        wait_until(lambda: self.status()["words"] == words + 2, "the changed one is there", 60)
+        self.expect_little()
 
 
 if __name__ == "__main__":

@@ -68,7 +68,7 @@ protected:
         const auto session = std::make_shared<ReadingSession>(settings.values());
         ScriptView fresh(session);
         fresh.resize(view.size());
-        session->setContent({Script(placeholderText(view.height()))});
+        session->setContent({std::make_shared<const Script>(placeholderText(view.height()))});
         EXPECT_EQ(view.grab().toImage(), fresh.grab().toImage());
     }
 

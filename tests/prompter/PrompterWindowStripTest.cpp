@@ -46,7 +46,7 @@ TEST_F(PrompterWindowTest, CorrectsTheTimeOnceTheRestOfTheTextHasBeenMeasured) {
     ASSERT_FALSE(view.isLayoutComplete());
     const QString estimate = statistics();
     view.reveal(0);
-    view.reveal(view.script().styled.text.size());
+    view.reveal(view.script().length());
     ASSERT_TRUE(view.isLayoutComplete());
     const QString told = statistics();
     window().updateStats();

@@ -181,9 +181,9 @@ TEST_F(PrompterWindowTest, CorrectsTheStatisticsOfAChangeWhileCollapsedOnceItIsE
 
 TEST_F(PrompterWindowTest, ShowsTextsOnlyOnceTheMainQueueComesToThem) {
     window().updateText(u"# Hello"_s);
-    EXPECT_TRUE(window().textView().script().styled.text.isEmpty());
+    EXPECT_TRUE(window().textView().script().text().isEmpty());
     queue.runAll();
-    EXPECT_EQ(window().textView().script().styled.text, u"Hello"_s);
+    EXPECT_EQ(window().textView().script().text(), u"Hello"_s);
 }
 
 TEST_F(PrompterWindowTest, IgnoresATextThatArrivesAfterItsEnd) {
@@ -194,7 +194,7 @@ TEST_F(PrompterWindowTest, IgnoresATextThatArrivesAfterItsEnd) {
 
 TEST_F(PrompterWindowTest, ShowsAHintInPlaceOfThePlaceholder) {
     show(u"PLACEHOLDER"_s);
-    EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
+    EXPECT_EQ(window().textView().script().text(), u"Ctrl+V\nto paste"_s);
     EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
     expectHintInTheMiddle();
 }
@@ -225,20 +225,20 @@ TEST_F(PrompterWindowTest, KeepsTheHintWhenALongTextBeforeItIsRenderedTooLate) {
     queue.runAll();
     tasks.runAll();
     queue.runAll();
-    EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
+    EXPECT_EQ(window().textView().script().text(), u"Ctrl+V\nto paste"_s);
 }
 
 TEST_F(PrompterWindowTest, RerendersWithTheFontSizeOfTheSettings) {
     show(u"# Hello\nyou"_s);
     settings.setFontSize(30);
     window().rerender();
-    const auto& styled = window().textView().script().styled;
-    EXPECT_EQ(window().textView().sizeOf(*styled.attributes(styled.runs.front()).font), 40);
+    const auto& view = window().textView();
+    EXPECT_EQ(view.sizeOf(*view.script().attributes(0)->font), 40);
 }
 
 TEST_F(PrompterWindowTest, RerendersNothingBeforeTheFirstText) {
     window().rerender();
-    EXPECT_TRUE(window().textView().script().styled.text.isEmpty());
+    EXPECT_TRUE(window().textView().script().text().isEmpty());
     EXPECT_TRUE(statistics().isEmpty());
 }
 
@@ -246,7 +246,7 @@ TEST_F(PrompterWindowTest, RerendersThePlaceholderAsItsHint) {
     show(u"PLACEHOLDER"_s);
     settings.setFontSize(30);
     window().rerender();
-    EXPECT_EQ(window().textView().script().styled.text, u"Ctrl+V\nto paste"_s);
+    EXPECT_EQ(window().textView().script().text(), u"Ctrl+V\nto paste"_s);
     EXPECT_EQ(statistics(), u"1 words • ~5s"_s);
 }
 

@@ -17,7 +17,7 @@ class ContentRendererTest : public testing::Test {
 protected:
     void render(const QString& markdown) {
         renderer.render(markdown, [this](const RenderedContent& content) {
-            shown.push_back(content.script.styled.text.left(5));
+            shown.push_back(content.script->text(0, 5));
             words = content.wordCount;
         });
     }

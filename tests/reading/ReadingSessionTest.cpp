@@ -2,8 +2,8 @@
 
 #include "RecordingView.h"
 
+#include "reading/MarkdownScript.h"
 #include "reading/PositionSource.h"
-#include "render/markdown/MarkdownRenderer.h"
 #include "settings/PersistedSettings.h"
 
 #include <QStringList>
@@ -36,7 +36,7 @@ protected:
     ReadingSessionTest() { session.addView(first); }
 
     void show(const QString& markdown, qsizetype words = 0) {
-        session.setContent({Script(MarkdownRenderer(16).render(markdown)), words});
+        session.setContent({std::make_shared<const Script>(markdownScript(markdown, 16)), words});
     }
 
     void expectPlace(std::size_t paragraph, double fraction) {
@@ -53,7 +53,7 @@ protected:
 
 TEST_F(ReadingSessionTest, HoldsTheTextAndItsWords) {
     show(u"# One\ntwo"_s, 2);
-    EXPECT_EQ(session.script()->styled.text, u"One\ntwo"_s);
+    EXPECT_EQ(session.script()->text(), u"One\ntwo"_s);
     EXPECT_EQ(session.words(), 2);
 }
 
@@ -61,7 +61,7 @@ TEST_F(ReadingSessionTest, LeavesATextThatSomebodyStillReadsAsItIs) {
     show(u"old"_s);
     const auto old = session.script();
     show(u"new"_s);
-    EXPECT_EQ(old->styled.text, u"old"_s);
+    EXPECT_EQ(old->text(), u"old"_s);
 }
 
 TEST_F(ReadingSessionTest, MovesByThePointsAndToTheLinesOfItsFirstView) {

@@ -1,6 +1,6 @@
 #include "reading/ScriptChange.h"
 
-#include "render/markdown/MarkdownRenderer.h"
+#include "reading/MarkdownScript.h"
 #include "support/CaseName.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 Script scriptOf(const QString& markdown) {
-    return Script(MarkdownRenderer(16).render(markdown));
+    return markdownScript(markdown, 16);
 }
 
 struct Case {
@@ -45,6 +45,30 @@ INSTANTIATE_TEST_SUITE_P(Edits, ScriptChangeOf,
                                          Case{u"a\nb\nc\nd"_s, u"a\nX\nc\nY\nd"_s, 1, 2, 3}),
                          byMember<&Case::before>);
 
+TEST(ScriptChange, TellsWhatBecomesOfTheText) {
+    const QString versions[] = {u""_s,          u"a"_s,  u"a\nb"_s,      u"b\na"_s,
+                                u"a\n\nb\nc"_s, u"\n"_s, u"a\n# B\nc"_s, u"a\nb\n"_s};
+    for (const QString& first : versions) {
+        for (const QString& second : versions) {
+            const Script before = scriptOf(first);
+            const Script after = scriptOf(second);
+            const auto [begin, removed, inserted] =
+                ScriptChange::between(before, after).textChange(before, after);
+            QString text = before.text();
+            EXPECT_EQ(text.mid(begin, removed.size()), removed);
+            text.replace(begin, removed.size(), inserted);
+            EXPECT_EQ(text, after.text()) << qPrintable(first) << " to " << qPrintable(second);
+        }
+    }
+    const Script before = scriptOf(u"one\ntwo\nthree"_s);
+    const Script after = scriptOf(u"one\nother\nthree"_s);
+    const auto [begin, removed, inserted] =
+        ScriptChange::between(before, after).textChange(before, after);
+    EXPECT_EQ(begin, 4);
+    EXPECT_EQ(removed, u"two\n"_s);
+    EXPECT_EQ(inserted, u"other\n"_s);
+}
+
 TEST(ScriptChange, MovesOffsetsWithTheTextAroundTheChange) {
     const Script before = scriptOf(u"first\nsecond\nthird"_s);
     const Script after = scriptOf(u"first\nsecond, longer\nthird"_s);
@@ -55,11 +79,10 @@ TEST(ScriptChange, MovesOffsetsWithTheTextAroundTheChange) {
     EXPECT_EQ(moved(0), 0);
     EXPECT_EQ(moved(5), 5);
     EXPECT_EQ(moved(6), 6);
-    EXPECT_EQ(moved(before.styled.text.size()), after.styled.text.size());
-    EXPECT_EQ(moved(before.styled.text.indexOf(u"third"_s)), after.styled.text.indexOf(u"third"_s));
-    EXPECT_EQ(moved(before.styled.text.indexOf(u"ond"_s)), 6);
-    EXPECT_EQ(moved(before.styled.text.indexOf(u"d\nthird"_s)),
-              after.styled.text.indexOf(u"third"_s));
+    EXPECT_EQ(moved(before.length()), after.length());
+    EXPECT_EQ(moved(before.text().indexOf(u"third"_s)), after.text().indexOf(u"third"_s));
+    EXPECT_EQ(moved(before.text().indexOf(u"ond"_s)), 6);
+    EXPECT_EQ(moved(before.text().indexOf(u"d\nthird"_s)), after.text().indexOf(u"third"_s));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "reading/Script.h"
 
+#include "reading/MarkdownScript.h"
+#include "reading/ParagraphCutter.h"
 #include "render/markdown/MarkdownRenderer.h"
 #include "render/markdown/StyledTextBuilder.h"
 
@@ -14,13 +16,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 Script scriptOf(const QString& markdown) {
-    return Script(MarkdownRenderer(16).render(markdown));
+    return markdownScript(markdown, 16);
 }
 
 QStringList linesOf(const Script& script) {
     QStringList lines;
-    for (const auto& paragraph : script.paragraphs)
-        lines += script.textOf(paragraph).toString();
+    for (std::size_t i = 0; i < script.paragraphs.size(); ++i)
+        lines += script.content(i).text;
     return lines;
 }
 
@@ -37,22 +39,19 @@ TEST(Script, CutsTheTextAtNewlines) {
 TEST(Script, LeavesCarriageReturnsOut) {
     const Script script = scriptOf(u"one\r\n**two**\r\n\r\nth\rree"_s);
     EXPECT_EQ(linesOf(script), (QStringList{u"one"_s, u"two"_s, u""_s, u"three"_s}));
-    qsizetype covered = 0;
-    for (const auto& run : script.styled.runs) {
-        EXPECT_EQ(run.start, covered);
-        covered += run.length;
-    }
-    EXPECT_EQ(covered, script.styled.text.size());
+    const auto runs = script.content(1).runs;
+    ASSERT_EQ(runs.size(), 1U);
+    EXPECT_EQ(runs[0].length, 3);
 }
 
-TEST(Script, KnowsTheRunThatEachParagraphBeginsIn) {
+TEST(Script, KnowsTheStyleThatEachParagraphBeginsWith) {
     const Script script = scriptOf(u"plain **bold** plain\n# Header\n\n- item"_s);
-    for (const auto& paragraph : script.paragraphs) {
-        if (paragraph.length == 0) continue;
-        const auto& run = script.styled.runs[std::size_t(paragraph.firstRun)];
-        EXPECT_LE(run.start, paragraph.start);
-        EXPECT_GT(run.start + run.length, paragraph.start);
+    for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
+        const StyledFragment content = script.content(i);
+        if (content.runs.empty()) continue;
+        EXPECT_EQ(script.paragraphs[i].style, content.runs.front().style);
     }
+    EXPECT_FALSE(script.attributes(2)->font); // that of the newline
 }
 
 TEST(Script, CutsVeryLongLinesIntoPiecesAtWhiteSpace) {
@@ -61,21 +60,21 @@ TEST(Script, CutsVeryLongLinesIntoPiecesAtWhiteSpace) {
     QString joined;
     for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
         const auto& piece = script.paragraphs[i];
-        EXPECT_LE(piece.length, Script::longestPiece);
+        EXPECT_LE(piece.length, ParagraphCutter::longestPiece);
         EXPECT_EQ(piece.continuesPrevious, i > 0);
         EXPECT_EQ(piece.continuesInNext, i + 1 < script.paragraphs.size());
-        EXPECT_TRUE(script.textOf(piece).endsWith(u' '));
-        joined += script.textOf(piece);
+        EXPECT_TRUE(script.content(i).text.endsWith(u' '));
+        joined += script.content(i).text;
     }
-    EXPECT_EQ(joined, script.styled.text);
+    EXPECT_EQ(joined, script.text());
 }
 
 TEST(Script, NeverCutsThroughASurrogatePair) {
     const Script script = scriptOf(u"x"_s + u"😀"_s.repeated(20'000));
     ASSERT_GT(script.paragraphs.size(), 2u);
-    for (const auto& piece : script.paragraphs) {
-        EXPECT_FALSE(script.textOf(piece).front().isLowSurrogate());
-        EXPECT_FALSE(script.textOf(piece).back().isHighSurrogate());
+    for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
+        EXPECT_FALSE(script.content(i).text.front().isLowSurrogate());
+        EXPECT_FALSE(script.content(i).text.back().isHighSurrogate());
     }
 }
 
@@ -85,7 +84,7 @@ TEST(Script, KnowsHeadingsAndTheirLevels) {
     QStringList headings;
     for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
         if (const int level = script.headingLevel(i))
-            headings += u"%1 %2"_s.arg(level).arg(script.textOf(script.paragraphs[i]));
+            headings += u"%1 %2"_s.arg(level).arg(script.content(i).text);
     }
     EXPECT_EQ(headings, (QStringList{u"1 One"_s, u"6 Six"_s}));
 }
@@ -110,6 +109,26 @@ TEST(Script, TellsParagraphsApartByTextAndAttributes) {
 TEST(Script, TellsParagraphsOfAnotherFontSizeApart) {
     const Script large(MarkdownRenderer(20).render(u"same"));
     EXPECT_FALSE(large.hasSameParagraph(0, scriptOf(u"same"_s), 0));
+}
+
+TEST(Script, GivesWhatLiesBetweenTwoOffsets) {
+    const Script script = scriptOf(u"one\n**two**\n\n"_s + u"word "_s.repeated(3000));
+    const QString whole = u"one\ntwo\n\n"_s + u"word "_s.repeated(3000);
+    EXPECT_EQ(script.length(), whole.size());
+    EXPECT_EQ(script.text(), whole);
+    EXPECT_EQ(script.text(2, 6), u"e\ntw"_s);
+    EXPECT_EQ(script.text(7, 8), u"\n"_s);
+    EXPECT_EQ(script.text(9000, 9100), whole.sliced(9000, 100));
+    EXPECT_EQ(script.text(5, 5), QString());
+    EXPECT_EQ(script.text(whole.size() - 2, whole.size() + 9), u"d "_s);
+}
+
+TEST(Script, FindsTheParagraphOfAnOffset) {
+    const Script script = scriptOf(u"one\n\ntwo"_s);
+    EXPECT_EQ(script.paragraphOf(0), 0U);
+    EXPECT_EQ(script.paragraphOf(3), 0U); // its newline
+    EXPECT_EQ(script.paragraphOf(4), 1U);
+    EXPECT_EQ(script.paragraphOf(8), 2U);
 }
 
 } // namespace

@@ -18,37 +18,22 @@ constexpr double tabStopDistance = 28.0;
 /// However deep the indent, this share of the column is left for the text.
 constexpr double leastTextShare = 0.25;
 
-/// The run that a paragraph begins in; for an empty one that of its newline. Null at the text's
-/// end.
-const StyledText::Run* runOf(const Script& script, const Script::Paragraph& paragraph) {
-    if (paragraph.start == script.styled.text.size()) return nullptr;
-    return &script.styled.runs[std::size_t(paragraph.firstRun)];
-}
-
-const FormatTable::Entry& entryOf(const Script& script, const Script::Paragraph& paragraph,
-                                  const FormatTable& formats) {
-    const StyledText::Run* run = runOf(script, paragraph);
-    return run ? formats[run->style] : formats.plain();
+const FormatTable::Entry& entryOf(const Script::Paragraph& paragraph, const FormatTable& formats) {
+    return paragraph.style < 0 ? formats.plain() : formats[paragraph.style];
 }
 
 /// A paragraph's style as it holds for one of its pieces.
-ParagraphStyle styleOf(const Script& script, const Script::Paragraph& paragraph) {
-    const StyledText::Run* run = runOf(script, paragraph);
-    if (!run) return {};
-    ParagraphStyle style = script.styled.attributes(*run).paragraph.value_or(ParagraphStyle{});
+ParagraphStyle styleOf(const Script& script, std::size_t index) {
+    const TextAttributes* attributes = script.attributes(index);
+    if (!attributes) return {};
+    const Script::Paragraph& paragraph = script.paragraphs[index];
+    ParagraphStyle style = attributes->paragraph.value_or(ParagraphStyle{});
     if (paragraph.continuesPrevious) {
         style.firstLineHeadIndent = style.headIndent;
         style.spacingBefore = 0;
     }
     if (paragraph.continuesInNext) style.spacingAfter = 0;
     return style;
-}
-
-/// Whether the whole paragraph looks alike. Text that is not split into formats is laid out in half
-/// the time.
-bool looksAlike(const Script& script, const Script::Paragraph& paragraph) {
-    const StyledText::Run* run = runOf(script, paragraph);
-    return !run || run->start + run->length >= paragraph.start + paragraph.length;
 }
 
 double fittingIndent(double indent, double tail, double textWidth) {
@@ -95,35 +80,30 @@ std::vector<std::pair<double, double>> stretches(const QTextLayout& text, const 
 
 ParagraphLayout::ParagraphLayout(const Script& script, std::size_t index,
                                  const FormatTable& formats, double textWidth) {
-    const Script::Paragraph& paragraph = script.paragraphs[index];
-    const ParagraphStyle style = styleOf(script, paragraph);
-    const FormatTable::Entry& first = entryOf(script, paragraph, formats);
-    const QString content = script.textOf(paragraph).toString();
-    const bool rightToLeft = content.isRightToLeft();
+    const ParagraphStyle style = styleOf(script, index);
+    const FormatTable::Entry& first = entryOf(script.paragraphs[index], formats);
+    const StyledFragment content = script.content(index);
+    const bool rightToLeft = content.text.isRightToLeft();
 
     pen = first.format.foreground().color();
     scale = first.scale; // fonts of other sizes in the paragraph have the same fraction
-    text = std::make_unique<QTextLayout>(content, first.font);
+    text = std::make_unique<QTextLayout>(content.text, first.font);
     text->setCacheEnabled(true);
     text->setTextOption(textOption(style, rightToLeft, scale));
-    setFormats(script, paragraph, formats);
+    setFormats(content.runs, formats);
     breakLines(style, rightToLeft, textWidth);
 }
 
-void ParagraphLayout::setFormats(const Script& script, const Script::Paragraph& paragraph,
+void ParagraphLayout::setFormats(const std::vector<StyledText::Run>& runs,
                                  const FormatTable& formats) {
-    const bool alike = looksAlike(script, paragraph);
-    const qsizetype end = paragraph.start + paragraph.length;
-    const auto& runs = script.styled.runs;
+    // Text that is not split into formats is laid out in half the time.
+    const bool alike = runs.size() <= 1;
     QList<QTextLayout::FormatRange> ranges;
-    for (auto run = std::size_t(paragraph.firstRun); run < runs.size() && runs[run].start < end;
-         ++run) {
-        const FormatTable::Entry& entry = formats[runs[run].style];
-        const TextRange range = TextRange{runs[run].start - paragraph.start,
-                                          runs[run].start + runs[run].length - paragraph.start}
-                                    .intersected({0, paragraph.length});
-        if (entry.background.isValid()) grounds.push_back({range, entry.background});
-        if (!alike) ranges.push_back({int(range.begin), int(range.length()), entry.format});
+    for (const auto& run : runs) {
+        const FormatTable::Entry& entry = formats[run.style];
+        if (entry.background.isValid())
+            grounds.push_back({{run.start, run.start + run.length}, entry.background});
+        if (!alike) ranges.push_back({run.start, run.length, entry.format});
     }
     if (!alike) text->setFormats(ranges);
 }
@@ -226,8 +206,8 @@ QRectF ParagraphLayout::caretRect(qsizetype position) const {
 double estimatedHeight(const Script& script, std::size_t index, const FormatTable& formats,
                        double textWidth) {
     const Script::Paragraph& paragraph = script.paragraphs[index];
-    const ParagraphStyle style = styleOf(script, paragraph);
-    const FormatTable::Entry& entry = entryOf(script, paragraph, formats);
+    const ParagraphStyle style = styleOf(script, index);
+    const FormatTable::Entry& entry = entryOf(paragraph, formats);
     const double width = std::max(textWidth - style.headIndent, textWidth * leastTextShare);
     const double lines = std::ceil(double(paragraph.length) * entry.averageAdvance / width);
     return style.spacingBefore + std::max(lines, 1.0) * entry.lineHeight + style.spacingAfter;

@@ -57,8 +57,7 @@ private:
         QColor color;
     };
 
-    void setFormats(const Script& script, const Script::Paragraph& paragraph,
-                    const FormatTable& formats);
+    void setFormats(const std::vector<StyledText::Run>& runs, const FormatTable& formats);
     void breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth);
     std::pair<std::size_t, std::size_t> linesBetween(double top, double bottom) const;
     std::vector<QRectF> placesOf(int line, const TextRange& range) const;

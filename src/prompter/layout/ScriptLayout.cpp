@@ -30,7 +30,7 @@ void ScriptLayout::setScript(std::shared_ptr<const Script> script, const ScriptC
     const std::size_t oldCount = currentScript->paragraphs.size();
     const double oldGrowth = fontGrowth();
     currentScript = std::move(script);
-    formats.assign(currentScript->styled.styles, fontGrowth());
+    formats.assign(currentScript->styles, fontGrowth());
     if (fontGrowth() != oldGrowth) return estimateAll();
     keepMeasured(change, oldCount);
 }
@@ -73,12 +73,12 @@ void ScriptLayout::setTextWidth(double points) {
 void ScriptLayout::setFontSize(double points) {
     if (points == bodySize) return;
     bodySize = points;
-    formats.assign(currentScript->styled.styles, fontGrowth());
+    formats.assign(currentScript->styles, fontGrowth());
     estimateAll();
 }
 
 double ScriptLayout::fontGrowth() const {
-    const double written = currentScript->styled.fontSize;
+    const double written = currentScript->fontSize;
     return bodySize > 0.0 && written > 0.0 ? bodySize - written : 0.0;
 }
 
@@ -126,7 +126,7 @@ void ScriptLayout::measureBetween(double top, double bottom) {
 }
 
 void ScriptLayout::measureAt(qsizetype offset) {
-    measuredLayout(paragraphOf(offset));
+    measuredLayout(currentScript->paragraphOf(offset));
 }
 
 const ParagraphLayout& ScriptLayout::laidOut(std::size_t index) const {
@@ -175,17 +175,8 @@ qsizetype ScriptLayout::offsetAt(const QPointF& point) const {
            layout.positionAt({point.x(), point.y() - topOf(index)});
 }
 
-std::size_t ScriptLayout::paragraphOf(qsizetype offset) const {
-    const auto& paragraphs = currentScript->paragraphs;
-    const auto next = std::upper_bound(paragraphs.begin() + 1, paragraphs.end(), offset,
-                                       [](qsizetype value, const Script::Paragraph& paragraph) {
-                                           return value < paragraph.start;
-                                       });
-    return std::size_t(next - paragraphs.begin()) - 1;
-}
-
 QRectF ScriptLayout::caretRect(qsizetype offset) const {
-    const std::size_t index = paragraphOf(offset);
+    const std::size_t index = currentScript->paragraphOf(offset);
     const ParagraphLayout& layout = laidOut(index);
     return layout.caretRect(offset - currentScript->paragraphs[index].start)
         .translated(0, topOf(index));

@@ -73,9 +73,6 @@ public:
     /// The offset nearest to a point.
     qsizetype offsetAt(const QPointF& point) const;
 
-    /// The paragraph that an offset lies in.
-    std::size_t paragraphOf(qsizetype offset) const;
-
     /// The place of the caret before an offset, without width.
     QRectF caretRect(qsizetype offset) const;
 

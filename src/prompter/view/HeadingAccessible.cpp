@@ -13,7 +13,7 @@ bool HeadingAccessible::isValid() const {
 }
 
 QString HeadingAccessible::text(QAccessible::Text kind) const {
-    if (kind == QAccessible::Name) return script->textOf(script->paragraphs[index]).toString();
+    if (kind == QAccessible::Name) return script->content(index).text;
     // The interface to the assistive technologies has no other place for it.
     if (kind == QAccessible::Description)
         return ScriptView::tr("Level %1").arg(script->headingLevel(index));

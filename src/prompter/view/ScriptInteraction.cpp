@@ -31,7 +31,7 @@ bool ScriptInteraction::keyPress(const QKeyEvent& event) {
     }
     if (event.matches(QKeySequence::SelectAll)) {
         TextSelection all;
-        all.selectAll(view.script().styled.text);
+        all.selectAll(view.script());
         view.setSelection(all);
         return true;
     }
@@ -69,9 +69,8 @@ bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
 
 bool ScriptInteraction::selectByKey(const QKeyEvent& event) {
     using Unit = TextSelection::Unit;
-    const QString& text = view.script().styled.text;
     const auto neighbour = [&](Unit unit, bool forward) {
-        extendSelectionTo(view.selection().neighbour(text, unit, forward));
+        extendSelectionTo(view.selection().neighbour(view.script(), unit, forward));
         return true;
     };
     const auto line = [&](double points) {
@@ -89,13 +88,13 @@ bool ScriptInteraction::selectByKey(const QKeyEvent& event) {
     if (event.matches(QKeySequence::SelectPreviousPage)) return line(-view.height());
 
     const qsizetype caret = view.selection().caret();
-    const TextRange paragraph = unitAround(text, caret, Unit::paragraph);
+    const TextRange paragraph = unitAround(view.script(), caret, Unit::paragraph);
     if (event.matches(QKeySequence::SelectStartOfLine))
         return extendSelectionTo(paragraph.begin), true;
     if (event.matches(QKeySequence::SelectEndOfLine)) return extendSelectionTo(paragraph.end), true;
     if (event.matches(QKeySequence::SelectStartOfDocument)) return extendSelectionTo(0), true;
     if (event.matches(QKeySequence::SelectEndOfDocument))
-        return extendSelectionTo(text.size()), true;
+        return extendSelectionTo(view.script().length()), true;
     return false;
 }
 
@@ -113,7 +112,7 @@ qsizetype ScriptInteraction::offsetFromCaret(double points) const {
 
 void ScriptInteraction::selectUnitAt(const QPointF& point, TextSelection::Unit unit) {
     TextSelection selection;
-    selection.selectUnit(view.script().styled.text, view.offsetAt(point), unit);
+    selection.selectUnit(view.script(), view.offsetAt(point), unit);
     view.setSelection(selection);
     dragUnit = unit;
 }
@@ -151,7 +150,7 @@ void ScriptInteraction::dragTo(const QPointF& point) {
     if (isOutside && !dragTimer.isActive()) dragTimer.start(dragIntervalMs, this);
     if (!isOutside) dragTimer.stop();
     TextSelection selection = view.selection();
-    selection.extendByUnit(view.script().styled.text, view.offsetAt(point), dragUnit);
+    selection.extendByUnit(view.script(), view.offsetAt(point), dragUnit);
     view.setSelection(selection);
 }
 
@@ -177,7 +176,7 @@ void ScriptInteraction::showMenu(const QContextMenuEvent& event) {
     copy->setEnabled(!view.selection().range().isEmpty());
     QAction* all = menu.addAction(ScriptView::tr("Select All"), &view, [this] {
         TextSelection selection;
-        selection.selectAll(view.script().styled.text);
+        selection.selectAll(view.script());
         view.setSelection(selection);
     });
     all->setShortcut(QKeySequence::SelectAll);

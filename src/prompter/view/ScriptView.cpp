@@ -118,7 +118,7 @@ double ScriptView::positionOf(const ReadingPlace& place) const {
 
 /// The scroll position that shows the line of an offset at the view's top.
 double ScriptView::positionOf(qsizetype offset) {
-    const std::size_t paragraph = layout.paragraphOf(offset);
+    const std::size_t paragraph = script().paragraphOf(offset);
     if (offset == script().paragraphs[paragraph].start) return positionOfParagraph(paragraph);
     return scrollTop + caretRect(offset).top();
 }
@@ -155,8 +155,10 @@ void ScriptView::scriptChanged(const Script& before, const ScriptChange& change,
     if (change.oldCount == 0 && change.newCount == 0) return;
     moveSelectionAcross(change, before);
     setAnew(placeIsKept);
-    if (!QAccessible::isActive() || before.styled.text == layout.script().styled.text) return;
-    QAccessibleTextUpdateEvent event(this, 0, before.styled.text, layout.script().styled.text);
+    if (!QAccessible::isActive()) return;
+    const TextChange text = change.textChange(before, script());
+    if (text.removed == text.inserted) return;
+    QAccessibleTextUpdateEvent event(this, int(text.begin), text.removed, text.inserted);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -184,8 +186,7 @@ void ScriptView::setFontSize(double points) {
 }
 
 void ScriptView::setAnew(bool atReadersPlace) {
-    if (script().styled.text.size() <= unitsLaidOutAtOnce)
-        layout.measureMore(unitsLaidOutAtOnce + 1, 0);
+    if (script().length() <= unitsLaidOutAtOnce) layout.measureMore(unitsLaidOutAtOnce + 1, 0);
     if (atReadersPlace) scrollTop = positionOf(session->place());
     layoutChanged();
 }
@@ -337,7 +338,7 @@ void ScriptView::invalidateBetween(qsizetype offset, qsizetype other) {
 
 QString ScriptView::selectedText() const {
     const TextRange range = currentSelection.range();
-    return layout.script().styled.text.mid(range.begin, range.length());
+    return script().text(range.begin, range.end);
 }
 
 void ScriptView::copySelection() const {

@@ -112,8 +112,8 @@ ScriptView& ScriptViewAccessible::view() const {
     return *static_cast<ScriptView*>(widget());
 }
 
-const QString& ScriptViewAccessible::content() const {
-    return view().script().styled.text;
+const Script& ScriptViewAccessible::script() const {
+    return view().script();
 }
 
 void* ScriptViewAccessible::interface_cast(QAccessible::InterfaceType type) {
@@ -173,11 +173,11 @@ QString ScriptViewAccessible::text(int startOffset, int endOffset) const {
     const int begin = std::clamp(startOffset, 0, characterCount());
     const int end =
         endOffset < 0 ? characterCount() : std::clamp(endOffset, begin, characterCount());
-    return content().mid(begin, end - begin);
+    return script().text(begin, end);
 }
 
 int ScriptViewAccessible::characterCount() const {
-    return int(content().size());
+    return int(script().length());
 }
 
 QRect ScriptViewAccessible::characterRect(int offset) const {
@@ -200,16 +200,17 @@ void ScriptViewAccessible::scrollToSubstring(int startIndex, int endIndex) {
 }
 
 QString ScriptViewAccessible::attributes(int offset, int* startOffset, int* endOffset) const {
-    const auto& styled = view().script().styled;
-    *startOffset = *endOffset = offset;
-    const auto behind = std::upper_bound(
-        styled.runs.begin(), styled.runs.end(), qsizetype(offset),
-        [](qsizetype value, const StyledText::Run& run) { return value < run.start; });
-    if (behind == styled.runs.begin()) return {};
-    const StyledText::Run& run = *(behind - 1);
-    *startOffset = run.start;
-    *endOffset = run.start + run.length;
-    return describe(styled.attributes(run), view());
+    *startOffset = *endOffset = std::clamp(offset, 0, characterCount());
+    const std::size_t index = script().paragraphOf(*startOffset);
+    const Script::Paragraph& paragraph = script().paragraphs[index];
+    for (const StyledText::Run& run : script().content(index).runs) {
+        if (offset >= paragraph.start + run.start + run.length) continue;
+        *startOffset = paragraph.start + run.start;
+        *endOffset = *startOffset + run.length;
+        return describe(script().styles[std::size_t(run.style)], view());
+    }
+    *endOffset = std::min(*startOffset + 1, characterCount()); // a newline
+    return {};
 }
 
 } // namespace tessaline

@@ -45,7 +45,7 @@ public:
 
 private:
     ScriptView& view() const;
-    const QString& content() const;
+    const Script& script() const;
     void select(int anchor, int caret);
     void findHeadings() const;
     void forgetHeadings() const;

@@ -2,9 +2,9 @@
 
 #include "prompter/layout/TextRange.h"
 
-#include <QString>
-
 namespace tessaline {
+
+struct Script;
 
 /// The caret of a read-only text and what is selected between it and its anchor. Offsets in UTF-16
 /// units. Movements never leave the text or split a character as the user sees it.
@@ -16,15 +16,15 @@ public:
     void moveTo(qsizetype offset, bool extend);
 
     /// Selects the whole unit around an offset.
-    void selectUnit(const QString& text, qsizetype offset, Unit unit);
+    void selectUnit(const Script& script, qsizetype offset, Unit unit);
 
     /// Extends what `selectUnit` selected by whole units up to an offset.
-    void extendByUnit(const QString& text, qsizetype offset, Unit unit);
+    void extendByUnit(const Script& script, qsizetype offset, Unit unit);
 
     /// The offset one unit before or behind the caret.
-    qsizetype neighbour(const QString& text, Unit unit, bool forward) const;
+    qsizetype neighbour(const Script& script, Unit unit, bool forward) const;
 
-    void selectAll(const QString& text);
+    void selectAll(const Script& script);
     void clear() { anchorOffset = caretOffset; }
 
     qsizetype caret() const { return caretOffset; }
@@ -39,7 +39,7 @@ private:
     TextRange origin; ///< the unit that the selection began with
 };
 
-/// The unit of a text that an offset lies in.
-TextRange unitAround(const QString& text, qsizetype offset, TextSelection::Unit unit);
+/// The unit of a script that an offset lies in.
+TextRange unitAround(const Script& script, qsizetype offset, TextSelection::Unit unit);
 
 } // namespace tessaline

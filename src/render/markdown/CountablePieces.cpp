@@ -6,8 +6,11 @@ namespace tessaline {
 
 namespace {
 
-bool isLetter(char16_t c) {
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+/// What a line begins with whose prefix, if it has one, is the same whatever is before that line.
+/// White space is not among it, nor are markers that are gone when prefixes are looked for.
+bool mayBeginPiece(char16_t c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') ||
+           c == u'-' || c == u'+' || c == u'#' || c == u'>';
 }
 
 } // namespace
@@ -31,8 +34,7 @@ QStringView CountablePieces::next() {
 void CountablePieces::pass(char16_t character) {
     switch (character) {
     case u'[':
-        ++openBrackets;
-        closedBracket = false;
+        ++openBrackets; // and if it goes, a parenthesis behind it comes next to the one before it
         break;
     case u']':
         if (!openTarget) openBrackets = std::max<qsizetype>(openBrackets - 1, 0);
@@ -55,10 +57,9 @@ void CountablePieces::pass(char16_t character) {
     }
 }
 
-/// A line that begins with a letter has no prefix, and ends those of blank lines before it.
 bool CountablePieces::mayCutBefore(qsizetype position) const {
     return position < text.size() && openBrackets == 0 && !openTarget && !closedBracket &&
-           text[position - 1] == u'\n' && isLetter(text[position].unicode());
+           text[position - 1] == u'\n' && mayBeginPiece(text[position].unicode());
 }
 
 } // namespace tessaline

@@ -76,18 +76,21 @@ void DocumentRenderer::appendRule() {
                                              .paragraph = paragraph}));
 }
 
-void DocumentRenderer::appendCodeBlock(QStringView code) {
+void DocumentRenderer::appendCode(QStringView code) {
+    builder.append(code, codeStyle());
+}
+
+int DocumentRenderer::codeStyle() {
     const ParagraphStyle paragraph{.firstLineHeadIndent = 8,
                                    .headIndent = 8,
                                    .tailIndent = -8,
                                    .spacingBefore = 8,
                                    .spacingAfter = 8,
                                    .kind = ParagraphKind::code};
-    builder.append(code, builder.styleIndex({.font = monospacedFont(renderer.fontSize - 1),
-                                             .foreground = renderer.textColor.withAlpha(0.9),
-                                             .background = TextColor{TextColor::Base::white, 0.05},
-                                             .paragraph = paragraph}));
-    appendNewline();
+    return builder.styleIndex({.font = monospacedFont(renderer.fontSize - 1),
+                               .foreground = renderer.textColor.withAlpha(0.9),
+                               .background = TextColor{TextColor::Base::white, 0.05},
+                               .paragraph = paragraph});
 }
 
 DocumentRenderer::LineStyle& DocumentRenderer::styleOf(const MarkdownLine& line) {

@@ -14,8 +14,8 @@ namespace tessaline {
 /// One rendering in progress: takes the lines of a document and puts the styled text together.
 class DocumentRenderer {
 public:
-    /// Borrows the renderer for its own life; `expectedLength` in UTF-16 units.
-    DocumentRenderer(const MarkdownRenderer& renderer, qsizetype expectedLength);
+    /// `expectedLength` in UTF-16 units.
+    explicit DocumentRenderer(const MarkdownRenderer& renderer, qsizetype expectedLength = 0);
 
     /// Appends a line that is not code, as a paragraph without a newline at its end.
     void appendLine(QStringView line);
@@ -23,10 +23,20 @@ public:
     /// Appends a plain newline.
     void appendNewline();
 
-    /// Appends the joined lines of a fenced block and a plain newline.
-    void appendCodeBlock(QStringView code);
+    /// Appends lines of a fenced block.
+    void appendCode(QStringView code);
 
     StyledText take();
+
+    /// What was appended since the last time. A line has the same styles each time it is rendered.
+    StyledFragment takeFragment() { return builder.takeFragment(); }
+
+    /// The styles met so far, and those of a plain newline and of code among them.
+    const std::vector<TextAttributes>& styles() const { return builder.styles(); }
+    int plainStyle() const { return plainIndex; }
+    int codeStyle();
+
+    double fontSize() const { return renderer.fontSize; }
 
 private:
     /// How one kind of line looks, and the style indices of what has been met of it.
@@ -48,7 +58,7 @@ private:
     int inlineIndex(LineStyle& style, std::uint8_t inlineStyle);
     void appendRule();
 
-    const MarkdownRenderer& renderer;
+    MarkdownRenderer renderer;
     StyledTextBuilder builder;
     InlineFormatter formatter;
     std::map<std::pair<MarkdownLine::Kind, qsizetype>, LineStyle> lineStyles;

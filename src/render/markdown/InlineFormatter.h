@@ -24,6 +24,12 @@ public:
         std::uint8_t style;
     };
 
+    InlineFormatter() = default;
+
+    /// A copy has buffers of its own: after a very long line they are large.
+    InlineFormatter(const InlineFormatter&) {}
+    InlineFormatter& operator=(const InlineFormatter&) = delete;
+
     /// The line without its markers, as spans whose neighbours differ in style; none for an empty
     /// line. The spans are valid until the next call and as long as `line`.
     const std::vector<Span>& format(QStringView line);

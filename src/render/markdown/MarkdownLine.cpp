@@ -87,4 +87,8 @@ MarkdownLine MarkdownLine::parse(QStringView line) {
     return {Kind::paragraph, line};
 }
 
+bool isCodeFence(QStringView line) {
+    return trimmedInline(line).startsWith(u"```");
+}
+
 } // namespace tessaline

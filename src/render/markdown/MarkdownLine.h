@@ -27,4 +27,7 @@ struct MarkdownLine {
     int headerLevel = 0;       ///< of headers: 1 to 6
 };
 
+/// Whether a line begins or ends a block of code.
+bool isCodeFence(QStringView line);
+
 } // namespace tessaline

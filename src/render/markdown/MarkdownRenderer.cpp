@@ -1,7 +1,7 @@
 #include "render/markdown/MarkdownRenderer.h"
 
-#include "render/markdown/CharacterClasses.h"
 #include "render/markdown/DocumentRenderer.h"
+#include "render/markdown/MarkdownLine.h"
 #include "render/markdown/WordCount.h"
 
 namespace tessaline {
@@ -15,12 +15,16 @@ StyledText MarkdownRenderer::render(QStringView content) const {
     DocumentRenderer document(*this, content.size());
     bool inCodeBlock = false;
     QString code;
+    const auto appendCodeBlock = [&] {
+        document.appendCode(code);
+        document.appendNewline();
+    };
     for (qsizetype begin = 0; begin <= content.size();) {
         const qsizetype newline = content.indexOf(u'\n', begin);
         const bool isLast = newline < 0;
         const QStringView line = content.sliced(begin, (isLast ? content.size() : newline) - begin);
-        if (trimmedInline(line).startsWith(u"```")) {
-            if (inCodeBlock) document.appendCodeBlock(code);
+        if (isCodeFence(line)) {
+            if (inCodeBlock) appendCodeBlock();
             code.clear();
             inCodeBlock = !inCodeBlock;
         } else if (inCodeBlock) {
@@ -33,7 +37,7 @@ StyledText MarkdownRenderer::render(QStringView content) const {
         if (isLast) break;
         begin = newline + 1;
     }
-    if (inCodeBlock && !code.isEmpty()) document.appendCodeBlock(code);
+    if (inCodeBlock && !code.isEmpty()) appendCodeBlock();
     return document.take();
 }
 

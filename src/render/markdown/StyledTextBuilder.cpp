@@ -56,4 +56,8 @@ StyledText StyledTextBuilder::take() {
     return std::exchange(result, {});
 }
 
+StyledFragment StyledTextBuilder::takeFragment() {
+    return {std::exchange(result.text, {}), std::exchange(result.runs, {})};
+}
+
 } // namespace tessaline

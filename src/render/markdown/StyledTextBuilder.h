@@ -25,6 +25,11 @@ public:
     /// Hands the text over; the builder is spent afterwards.
     StyledText take();
 
+    /// Hands over what was appended since the last time, and keeps the attributes.
+    StyledFragment takeFragment();
+
+    const std::vector<TextAttributes>& styles() const { return result.styles; }
+
 private:
     struct Hash {
         std::size_t operator()(const TextAttributes& attributes) const;

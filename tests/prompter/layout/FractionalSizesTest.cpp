@@ -62,7 +62,7 @@ TEST_P(FractionalSizes, AreDrawnEachALittleLarger) {
             const double size = tenths / 10.0;
             ScriptLayout layout = layoutOf(text, size);
             const double newLight = lightOf(pictureOf(layout, GetParam()));
-            const double newWidth = layout.caretRect(layout.script().styled.text.size()).x();
+            const double newWidth = layout.caretRect(layout.script().length()).x();
             EXPECT_GT(newLight, light) << size << text.toStdString();
             EXPECT_GT(newWidth, width) << size << text.toStdString();
             EXPECT_GE(layout.height(), height) << size << text.toStdString();
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(EveryPixelRatio, FractionalSizes, testing::Values(1.0, 
 TEST(FractionalSize, IsFoundWhereItIsDrawn) {
     ScriptLayout layout =
         layoutOf(u"Some **bold** words in a line. "_s + u"And more. "_s.repeated(30), 16.4);
-    const qsizetype length = layout.script().styled.text.size();
+    const qsizetype length = layout.script().length();
     for (qsizetype offset = 0; offset < length; offset += 7) {
         const QRectF caret = layout.caretRect(offset);
         EXPECT_NEAR(double(layout.offsetAt(caret.center())), double(offset), 1) << offset;

@@ -1,6 +1,6 @@
 #include "prompter/layout/ScriptLayout.h"
 
-#include "render/markdown/MarkdownRenderer.h"
+#include "reading/MarkdownScript.h"
 #include "support/CaseName.h"
 #include "support/Contrast.h"
 
@@ -24,7 +24,7 @@ namespace {
 constexpr auto everything = std::numeric_limits<qsizetype>::max();
 
 Script scriptOf(const QString& markdown) {
-    return Script(MarkdownRenderer(16).render(markdown));
+    return markdownScript(markdown, 16);
 }
 
 ScriptLayout layoutOf(const QString& markdown) {
@@ -118,7 +118,7 @@ TEST(ScriptLayout, IndentsListItemsAndTheirFurtherLines) {
 std::vector<double> lineBeginnings(ScriptLayout layout) {
     std::vector<double> beginnings;
     double y = -1;
-    for (qsizetype offset = 0; offset < layout.script().styled.text.size(); ++offset) {
+    for (qsizetype offset = 0; offset < layout.script().length(); ++offset) {
         const QRectF caret = layout.caretRect(offset);
         if (caret.top() > y) beginnings.push_back(caret.left());
         y = caret.top();
@@ -259,7 +259,7 @@ TEST(ScriptLayout, EstimatesHeightsWithinAReasonableFactor) {
 TEST(ScriptLayout, FindsTheOffsetWhereItDrawsTheCaret) {
     ScriptLayout layout =
         layoutOf(u"# Title\n\nSome words in a line. "_s + u"And more. "_s.repeated(30));
-    const qsizetype length = layout.script().styled.text.size();
+    const qsizetype length = layout.script().length();
     for (qsizetype offset = 0; offset < length; offset += 7) {
         const QRectF caret = layout.caretRect(offset);
         EXPECT_NEAR(double(layout.offsetAt(caret.center())), double(offset), 1) << offset;
@@ -271,8 +271,8 @@ TEST(ScriptLayout, AnswersForPlacesOutsideOfTheText) {
     EXPECT_EQ(layout.offsetAt({-100, -100}), 0);
     EXPECT_EQ(layout.offsetAt({10000, 10000}), 7);
     EXPECT_FALSE(layout.caretRect(7).isNull());
-    EXPECT_EQ(layout.paragraphOf(3), 0u);
-    EXPECT_EQ(layout.paragraphOf(4), 1u);
+    EXPECT_EQ(layout.script().paragraphOf(3), 0u);
+    EXPECT_EQ(layout.script().paragraphOf(4), 1u);
 }
 
 TEST(ScriptLayout, HighlightsTheSelection) {
@@ -293,7 +293,7 @@ TEST(ScriptLayout, SelectedTextIsLegibleInEveryStyle) {
          {u"█ █"_s, u"# █ █"_s, u"~~█ █~~"_s, u"`█ █`"_s, u"> █ █"_s, u"- █ █"_s, u"- [x] █ █"_s,
           u"**█ █**"_s, u"```\n█ █\n```"_s, u"[█ █](https://example.org)"_s}) {
         ScriptLayout layout = layoutOf(markdown);
-        const qsizetype start = layout.script().styled.text.indexOf(u'█');
+        const qsizetype start = layout.script().text().indexOf(u'█');
         ASSERT_GE(start, 0) << markdown.toStdString();
         const QImage picture = pictureOf(layout, {0, everything});
         const auto colorBetween = [&](qsizetype offset) {

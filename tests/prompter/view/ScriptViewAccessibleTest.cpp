@@ -120,7 +120,7 @@ TEST_F(ScriptViewAccessibleTest, TellsWhatAParagraphIs) {
     const auto styleOf = [this](const QString& words) {
         int begin = 0;
         int end = 0;
-        const auto offset = int(view.script().styled.text.indexOf(words));
+        const auto offset = int(view.script().text().indexOf(words));
         const QString attributes = text().attributes(offset, &begin, &end);
         const qsizetype style = attributes.indexOf(u"paragraph-style:"_s);
         return style < 0 ? QString() : attributes.sliced(style);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "prompter/view/ScriptView.h"
+#include "reading/MarkdownScript.h"
 #include "reading/ReadingSession.h"
-#include "render/markdown/MarkdownRenderer.h"
 #include "settings/PersistedSettings.h"
 
 #include <QCoreApplication>
@@ -23,11 +23,13 @@ protected:
         view.show();
     }
 
-    void setScript(Script script) { session->setContent({std::move(script)}); }
+    void setScript(Script script) {
+        session->setContent({std::make_shared<const Script>(std::move(script))});
+    }
 
     /// Shows Markdown and lays it out completely.
     void show(const QString& markdown) {
-        setScript(Script(MarkdownRenderer(16).render(markdown)));
+        setScript(markdownScript(markdown, 16));
         view.completeLayout();
     }
 
@@ -42,9 +44,8 @@ protected:
     /// The text of the line at the view's top edge.
     QString topLine() {
         const qsizetype offset = view.offsetAt({20, 1});
-        const QString& text = view.script().styled.text;
-        const TextRange range = unitAround(text, offset, TextSelection::Unit::paragraph);
-        return text.mid(range.begin, range.length());
+        const TextRange range = unitAround(view.script(), offset, TextSelection::Unit::paragraph);
+        return view.script().text(range.begin, range.end);
     }
 
     PersistedSettings settings;

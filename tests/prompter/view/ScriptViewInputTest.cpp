@@ -14,7 +14,7 @@ namespace {
 class ScriptViewInputTest : public ScriptViewFixture {
 protected:
     QPoint placeOf(const QString& word) {
-        return view.caretRect(view.script().styled.text.indexOf(word)).center().toPoint();
+        return view.caretRect(view.script().text().indexOf(word)).center().toPoint();
     }
 
     bool wheel(int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -143,7 +143,7 @@ TEST_F(ScriptViewInputTest, LeavesTheClipboardAloneWithoutASelection) {
 TEST_F(ScriptViewInputTest, KeepsTheSelectionOnItsTextWhenTheTextAboveChanges) {
     show(u"first\nsecond\nthird"_s);
     TextSelection selection;
-    selection.selectUnit(view.script().styled.text, 14, TextSelection::Unit::word);
+    selection.selectUnit(view.script(), 14, TextSelection::Unit::word);
     view.setSelection(selection);
     ASSERT_EQ(view.selectedText(), u"third"_s);
     show(u"first, longer than before\nsecond\nthird"_s);

@@ -3,6 +3,7 @@
 #include "support/CaseName.h"
 
 #include "ScriptViewFixture.h"
+#include "reading/MarkdownScript.h"
 
 #include <QImage>
 
@@ -29,7 +30,7 @@ double brightness(const QImage& picture) {
 }
 
 TEST_F(ScriptViewMeasuringTest, LaysLongTextsOutWhileTheProgramGoesOn) {
-    setScript(Script(MarkdownRenderer(16).render(lines(20000))));
+    setScript(markdownScript(lines(20000), 16));
     EXPECT_FALSE(view.isLayoutComplete());
     bool completed = false;
     QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { completed = true; });
@@ -50,8 +51,8 @@ class ScriptViewMeasuring : public ScriptViewFixture,
 
 TEST_P(ScriptViewMeasuring, IsToldOnceWhenItIsComplete) {
     // Of two paragraphs that are laid out later, the first one at once.
-    setScript(Script(MarkdownRenderer(16).render(u"words "_s.repeated(1300) + u"\n"_s +
-                                                 u"wider words "_s.repeated(650))));
+    setScript(
+        markdownScript(u"words "_s.repeated(1300) + u"\n"_s + u"wider words "_s.repeated(650), 16));
     view.reveal(0);
     int completions = 0;
     QObject::connect(&view, &ScriptView::layoutCompleted, &view, [&] { ++completions; });
@@ -73,9 +74,7 @@ TEST_P(ScriptViewMeasuring, IsToldOnceWhenItIsComplete) {
 INSTANTIATE_TEST_SUITE_P(
     EveryWay, ScriptViewMeasuring,
     testing::Values(Measuring{"Reveal",
-                              [](ScriptView& view) {
-                                  view.reveal(view.script().styled.text.size());
-                              }},
+                              [](ScriptView& view) { view.reveal(view.script().length()); }},
                     Measuring{"Paint",
                               [](ScriptView& view) {
                                   view.scrollTo(view.maximumScrollPosition());
@@ -90,12 +89,11 @@ INSTANTIATE_TEST_SUITE_P(
     byMember<&Measuring::name>);
 
 TEST_F(ScriptViewMeasuringTest, IsChangedByNoQuestion) {
-    setScript(
-        Script(MarkdownRenderer(16).render((u"words "_s.repeated(1300) + u"\n"_s).repeated(9))));
+    setScript(markdownScript((u"words "_s.repeated(1300) + u"\n"_s).repeated(9), 16));
     view.scrollTo(view.maximumScrollPosition());
     const double height = view.documentHeight();
     const double position = view.scrollPosition();
-    const qsizetype end = view.script().styled.text.size();
+    const qsizetype end = view.script().length();
     EXPECT_GT(view.caretRect(end).top(), view.caretRect(end / 2).top());
     EXPECT_GT(view.offsetAt({20, 1}), view.offsetAt({20, -height / 2}));
     EXPECT_FALSE(view.isLayoutComplete());
@@ -105,7 +103,7 @@ TEST_F(ScriptViewMeasuringTest, IsChangedByNoQuestion) {
 
 TEST_F(ScriptViewMeasuringTest, DoesNotMoveTheReaderWhileALongTextIsLaidOut) {
     const QString text = (u"words "_s.repeated(70) + u"\n"_s).repeated(2000);
-    setScript(Script(MarkdownRenderer(16).render(text)));
+    setScript(markdownScript(text, 16));
     view.scrollTo(view.maximumScrollPosition() / 2);
     view.grab();
     const qsizetype before = view.offsetAt({20, 100});
@@ -118,7 +116,7 @@ TEST_F(ScriptViewMeasuringTest, DrawsTheSamePageWhetherOrNotTheTextAboveHasBeenL
     QString text;
     for (int i = 0; i < 3000; ++i)
         text += u"Paragraph %1 "_s.arg(i) + u"words "_s.repeated(i % 90) + u"\n"_s;
-    setScript(Script(MarkdownRenderer(16).render(text)));
+    setScript(markdownScript(text, 16));
     view.scrollTo(1e9);
     view.grab();
     for (int page = 0; page < 5; ++page) {
@@ -137,8 +135,7 @@ TEST_F(ScriptViewMeasuringTest, DrawsTheSamePageWhetherOrNotTheTextAboveHasBeenL
 }
 
 TEST_F(ScriptViewMeasuringTest, StaysAtTheEndWhileHeightsAreMeasured) {
-    setScript(
-        Script(MarkdownRenderer(16).render((u"words "_s.repeated(70) + u"\n"_s).repeated(2000))));
+    setScript(markdownScript((u"words "_s.repeated(70) + u"\n"_s).repeated(2000), 16));
     view.scrollTo(1e9);
     while (!view.isLayoutComplete())
         QCoreApplication::processEvents();
@@ -146,7 +143,7 @@ TEST_F(ScriptViewMeasuringTest, StaysAtTheEndWhileHeightsAreMeasured) {
 }
 
 TEST_F(ScriptViewMeasuringTest, DrawsTheEndOfAVeryTallDocument) {
-    setScript(Script(MarkdownRenderer(16).render(u"line\n"_s.repeated(2'500'000))));
+    setScript(markdownScript(u"line\n"_s.repeated(2'500'000), 16));
     ASSERT_GT(view.documentHeight(), 4e7);
     view.scrollTo(view.documentHeight() - 300);
     EXPECT_GT(brightness(view.grab().toImage()), 1.0);

@@ -3,6 +3,8 @@
 #include "support/PaintCounter.h"
 
 #include "ScriptViewFixture.h"
+#include "reading/MarkdownScript.h"
+#include "render/markdown/MarkdownRenderer.h"
 
 #include <QImage>
 
@@ -44,7 +46,7 @@ TEST_F(ScriptViewTest, StartsAtTheTop) {
 TEST_F(ScriptViewTest, LeavesAMarginAroundTheText) {
     show(u"word "_s.repeated(200));
     EXPECT_EQ(view.caretRect(0).topLeft(), QPointF(15, 10));
-    const qsizetype last = view.script().styled.text.size();
+    const qsizetype last = view.script().length();
     EXPECT_DOUBLE_EQ(view.caretRect(last).bottom() + 10, view.documentHeight());
     double rightmost = 0;
     for (qsizetype offset = 0; offset < last; ++offset)
@@ -93,9 +95,10 @@ TEST_F(ScriptViewTest, ReturnsToTheHeaderOfTheTextBeingRead) {
 }
 
 TEST_F(ScriptViewTest, FindsHeadersInTextThatIsNotLaidOutYet) {
-    setScript(Script(MarkdownRenderer(16).render(
-        lines(20000) + u"# Far away\n"_s + u"a much longer line than any other "_s.repeated(200) +
-        u"\n"_s + lines(100))));
+    setScript(markdownScript(lines(20000) + u"# Far away\n"_s +
+                                 u"a much longer line than any other "_s.repeated(200) + u"\n"_s +
+                                 lines(100),
+                             16));
     ASSERT_FALSE(view.isLayoutComplete());
     EXPECT_TRUE(view.scrollToNextHeader());
     EXPECT_EQ(topLine(), u"Far away"_s);
@@ -168,7 +171,7 @@ TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheFontGrows) {
     show(lines(100));
     view.scrollTo(700);
     const QString before = topLine();
-    setScript(Script(MarkdownRenderer(28).render(lines(100))));
+    setScript(markdownScript(lines(100), 28));
     view.completeLayout();
     EXPECT_EQ(topLine(), before);
 }
@@ -178,7 +181,7 @@ TEST_F(ScriptViewTest, LooksTheSameInAnotherFontSizeAsATextThatWasMadeForIt) {
     show(text);
     view.setFontSize(24.5);
     const QImage resized = view.grab().toImage();
-    setScript(Script(MarkdownRenderer(24.5).render(text)));
+    setScript(markdownScript(text, 24.5));
     view.completeLayout();
     EXPECT_EQ(view.grab().toImage(), resized);
 }
@@ -217,7 +220,7 @@ TEST_F(ScriptViewTest, KeepsTheReadersLineWhenTheWidthChanges) {
 
 TEST_F(ScriptViewTest, MovesTheLineOfAnOffsetToTheTop) {
     show(lines(30) + u"words "_s.repeated(400) + u"\n"_s + lines(60));
-    const qsizetype start = view.script().styled.text.indexOf(u"words"_s);
+    const qsizetype start = view.script().text().indexOf(u"words"_s);
     for (const qsizetype offset : {start, start + 1000}) {
         session->moveTo(offset);
         EXPECT_NEAR(view.caretRect(offset).top(), 0, 1e-6);
@@ -233,7 +236,7 @@ TEST_F(ScriptViewTest, ShowsThePlaceOfAnotherViewOfItsSession) {
     other.show();
     const auto expectSameLine = [&] {
         const auto line = [](ScriptView& shown) {
-            return unitAround(shown.script().styled.text, shown.offsetAt({20, 1}),
+            return unitAround(shown.script(), shown.offsetAt({20, 1}),
                               TextSelection::Unit::paragraph)
                 .begin;
         };
@@ -248,7 +251,7 @@ TEST_F(ScriptViewTest, ShowsThePlaceOfAnotherViewOfItsSession) {
     other.scrollByHand(other.scrollPosition() + 200);
     EXPECT_NEAR(view.scrollPosition(), before + 200, 1e-6);
     expectSameLine();
-    show(u"# New\n"_s + view.script().styled.text);
+    show(u"# New\n"_s + view.script().text());
     other.completeLayout();
     expectSameLine();
 }

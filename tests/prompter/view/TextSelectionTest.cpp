@@ -1,5 +1,7 @@
 #include "prompter/view/TextSelection.h"
 
+#include "reading/Script.h"
+
 #include <gtest/gtest.h>
 
 namespace tessaline {
@@ -8,6 +10,10 @@ using namespace Qt::Literals::StringLiterals;
 using Unit = TextSelection::Unit;
 
 namespace {
+
+Script plainScript(const QString& text) {
+    return Script({.text = text, .runs = {{0, int(text.size()), 0}}, .styles = {{}}});
+}
 
 TEST(TextSelection, IsEmptyWhereTheCaretIs) {
     TextSelection selection;
@@ -27,7 +33,7 @@ TEST(TextSelection, ReachesFromTheAnchorToTheCaretEitherWay) {
 }
 
 TEST(TextSelection, SelectsTheWordAroundAnOffset) {
-    const QString text = u"say hello, world\nnext"_s;
+    const Script text = plainScript(u"say hello, world\nnext"_s);
     TextSelection selection;
     selection.selectUnit(text, 6, Unit::word);
     EXPECT_EQ(selection.range(), (TextRange{4, 9}));
@@ -38,18 +44,18 @@ TEST(TextSelection, SelectsTheWordAroundAnOffset) {
 }
 
 TEST(TextSelection, SelectsTheParagraphAroundAnOffset) {
-    const QString text = u"one\ntwo words\n\nlast"_s;
+    const Script text = plainScript(u"one\ntwo words\n\nlast"_s);
     TextSelection selection;
     selection.selectUnit(text, 6, Unit::paragraph);
     EXPECT_EQ(selection.range(), (TextRange{4, 13}));
     selection.selectUnit(text, 14, Unit::paragraph);
     EXPECT_TRUE(selection.range().isEmpty());
-    selection.selectUnit(text, text.size(), Unit::paragraph);
+    selection.selectUnit(text, text.length(), Unit::paragraph);
     EXPECT_EQ(selection.range(), (TextRange{15, 19}));
 }
 
 TEST(TextSelection, GrowsByWholeWordsInBothDirections) {
-    const QString text = u"alpha beta gamma"_s;
+    const Script text = plainScript(u"alpha beta gamma"_s);
     TextSelection selection;
     selection.selectUnit(text, 7, Unit::word);
     selection.extendByUnit(text, 13, Unit::word);
@@ -60,7 +66,7 @@ TEST(TextSelection, GrowsByWholeWordsInBothDirections) {
 
 TEST(TextSelection, NeverSplitsWhatTheUserSeesAsOneCharacter) {
     const QString family = u"👩‍👩‍👧"_s;
-    const QString text = u"a"_s + family + u"e\u0301b"_s;
+    const Script text = plainScript(u"a"_s + family + u"e\u0301b"_s);
     TextSelection selection;
     selection.moveTo(1, false);
     EXPECT_EQ(selection.neighbour(text, Unit::character, true), 1 + family.size());
@@ -70,7 +76,7 @@ TEST(TextSelection, NeverSplitsWhatTheUserSeesAsOneCharacter) {
 }
 
 TEST(TextSelection, MovesAcrossLinesAndStopsAtTheEnds) {
-    const QString text = u"ab\ncd"_s;
+    const Script text = plainScript(u"ab\ncd"_s);
     TextSelection selection;
     selection.moveTo(2, false);
     EXPECT_EQ(selection.neighbour(text, Unit::character, true), 3);
@@ -83,7 +89,7 @@ TEST(TextSelection, MovesAcrossLinesAndStopsAtTheEnds) {
 }
 
 TEST(TextSelection, MovesByWords) {
-    const QString text = u"alpha beta, gamma"_s;
+    const Script text = plainScript(u"alpha beta, gamma"_s);
     TextSelection selection;
     EXPECT_EQ(selection.neighbour(text, Unit::word, true), 6);
     selection.moveTo(6, false);
@@ -95,7 +101,7 @@ TEST(TextSelection, MovesByWords) {
 
 TEST(TextSelection, SelectsEverything) {
     TextSelection selection;
-    selection.selectAll(u"12345"_s);
+    selection.selectAll(plainScript(u"12345"_s));
     EXPECT_EQ(selection.range(), (TextRange{0, 5}));
     selection.clear();
     EXPECT_TRUE(selection.range().isEmpty());

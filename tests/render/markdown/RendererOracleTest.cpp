@@ -1,8 +1,8 @@
 #include "render/markdown/AwkwardLines.h"
-#include "render/markdown/RandomMarkdown.h"
 #include "render/markdown/RenderComparison.h"
 #include "support/CaseName.h"
 #include "support/texts/PathologicalTexts.h"
+#include "support/texts/RandomMarkdown.h"
 
 #include <QChar>
 #include <QString>

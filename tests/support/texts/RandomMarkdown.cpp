@@ -1,4 +1,4 @@
-#include "render/markdown/RandomMarkdown.h"
+#include "support/texts/RandomMarkdown.h"
 
 #include <QStringView>
 
