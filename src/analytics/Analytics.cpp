@@ -1,7 +1,6 @@
 #include "analytics/Analytics.h"
 
 #include "analytics/AnalyticsLog.h"
-#include "analytics/BooleanText.h"
 #include "analytics/EnvironmentProbe.h"
 #include "analytics/EventHistory.h"
 #include "analytics/SharedInstance.h"

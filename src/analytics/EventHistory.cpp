@@ -1,7 +1,6 @@
 #include "analytics/EventHistory.h"
 
 #include "analytics/AnalyticsLog.h"
-#include "analytics/EventDecoder.h"
 #include "settings/FolderLock.h"
 #include "settings/WholeFile.h"
 
@@ -12,7 +11,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <iterator>
 #include <utility>
 
 namespace tessaline {
@@ -31,7 +29,7 @@ EventHistory::EventHistory(QString historyPath, const QDateTime& oldestMoment)
 
 void EventHistory::add(const AnalyticsEvent& event) {
     const std::scoped_lock guard(bufferLock);
-    newEvents.push_back(event);
+    unwritten.push_back(event);
     ++added;
 }
 
@@ -48,16 +46,23 @@ void EventHistory::load() {
 void EventHistory::flush() {
     const std::scoped_lock guard(fileLock);
     loadFile();
-    takeNewEvents();
-    if (text.isEmpty() && unwritten.empty()) return;
-    if (isUpToDate && unwritten.empty() && QFileInfo::exists(path)) return;
+    std::vector<AnalyticsEvent> events;
+    {
+        const std::scoped_lock bufferGuard(bufferLock);
+        events.swap(unwritten);
+    }
+    if (text.isEmpty() && events.empty()) return;
+    if (isUpToDate && events.empty() && QFileInfo::exists(path)) return;
     QElapsedTimer time;
     time.start();
     qCDebug(intervalLog, "flush: begin");
     QString error;
-    isUpToDate = write(&error);
-    if (!isUpToDate)
+    isUpToDate = write(events, error);
+    if (!isUpToDate) {
         qCCritical(analyticsLog, "Failed to flush analytics: %s", qUtf8Printable(error));
+        const std::scoped_lock bufferGuard(bufferLock);
+        unwritten.insert(unwritten.begin(), events.begin(), events.end());
+    }
     qCDebug(intervalLog, "flush: end");
     qCDebug(perfLog, "Flush of %lld bytes took %lld ms", static_cast<long long>(text.size()),
             static_cast<long long>(time.elapsed()));
@@ -77,58 +82,40 @@ void EventHistory::readFile() {
     stamp = currentStamp();
     if (stamp == Stamp()) return;
     QString error;
-    HistoryText loaded;
     bool leftOut = false;
-    const auto keepRecent = [&](const AnalyticsEvent& event) {
-        if (event.timestamp > oldest) {
-            loaded.append(event);
-        } else {
-            leftOut = true;
-        }
-    };
     const auto bytes = readWholeFile(path, &error, historyFileLimit);
-    isForeign = !bytes || !decodeEvents(*bytes, keepRecent, &error);
+    auto loaded = bytes ? HistoryText::read(*bytes, oldest, leftOut, error) : std::nullopt;
+    isForeign = !loaded;
     if (isForeign) {
         qCCritical(analyticsLog, "Failed to load analytics history: %s", qUtf8Printable(error));
         return;
     }
-    text = std::move(loaded);
-    appended = 0;
+    text = std::move(*loaded);
     isUpToDate = !leftOut;
 }
 
-void EventHistory::takeNewEvents() {
-    std::vector<AnalyticsEvent> events;
-    {
-        const std::scoped_lock guard(bufferLock);
-        events.swap(newEvents);
-    }
-    unwritten.insert(unwritten.end(), std::make_move_iterator(events.begin()),
-                     std::make_move_iterator(events.end()));
-}
-
-bool EventHistory::write(QString* error) {
+bool EventHistory::write(const std::vector<AnalyticsEvent>& events, QString& error) {
     // Where this fails, writing the file fails next and says so.
     const QString folder = QFileInfo(path).path();
     QDir().mkpath(folder);
     const FolderLock otherInstances(folder);
     if (const Stamp now = currentStamp(); now != Stamp() && now != stamp) readFile();
-    for (; appended < unwritten.size(); ++appended)
-        text.append(unwritten[appended]);
+    HistoryText complete = text;
+    for (const AnalyticsEvent& event : events)
+        complete.append(event);
     if (isForeign && !putAside(error)) return false;
-    if (!writeWholeFile(path, text.pieces(), error)) return false;
+    if (!writeWholeFile(path, complete.pieces(), &error)) return false;
     stamp = currentStamp();
-    unwritten.clear();
-    appended = 0;
+    text = std::move(complete);
     return true;
 }
 
-bool EventHistory::putAside(QString* error) {
+bool EventHistory::putAside(QString& error) {
     // Renaming needs no room on the disk, and replaces what was put aside before. What is no file
     // stays in its place: the write refuses it.
     const QByteArray from = QFile::encodeName(path);
     if (QFileInfo(path).isFile() && std::rename(from, from + ".unreadable") != 0) {
-        *error = qt_error_string(errno);
+        error = qt_error_string(errno);
         return false;
     }
     isForeign = false;

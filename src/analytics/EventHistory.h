@@ -1,7 +1,7 @@
 #pragma once
 
-#include "analytics/AnalyticsEvent.h"
 #include "analytics/HistoryText.h"
+#include "analytics/UsageRecorder.h"
 
 #include <QString>
 
@@ -47,22 +47,19 @@ private:
     Stamp currentStamp() const;
     void loadFile();
     void readFile();
-    void takeNewEvents();
-    bool write(QString* error);
-    bool putAside(QString* error);
+    bool write(const std::vector<AnalyticsEvent>& events, QString& error);
+    bool putAside(QString& error);
 
     const QString path;
     const QDateTime oldest; ///< in UTC, in which comparing is cheap
 
-    mutable std::mutex bufferLock; ///< guards the next two; never held for longer than an append
-    std::vector<AnalyticsEvent> newEvents;
+    mutable std::mutex bufferLock; ///< guards the next two; never held for long
+    std::vector<AnalyticsEvent> unwritten;
     qint64 added = 0;
 
     std::mutex fileLock; ///< guards the file and what follows; taken before `bufferLock`
-    HistoryText text;    ///< of the file as it was at `stamp`, and of `appended` events more
+    HistoryText text;    ///< of the file as it was at `stamp`
     Stamp stamp;
-    std::vector<AnalyticsEvent> unwritten; ///< in no file yet
-    std::size_t appended = 0;
     bool isLoaded = false;
     bool isForeign = false; ///< the file holds what we do not understand
     bool isUpToDate = false;

@@ -16,7 +16,7 @@ std::optional<QByteArray> encode(const TDSignal& signal) {
         json.string(text);
     };
     json.beginObject();
-    member("receivedAt", toIso8601(signal.receivedAt));
+    member("receivedAt", QString::fromLatin1(toIso8601(signal.receivedAt)));
     member("appID", signal.appID);
     member("clientUser", signal.clientUser);
     member("sessionID", signal.sessionID);

@@ -1,9 +1,9 @@
 #include "analytics/TelemetryDeckClient.h"
 
 #include "analytics/AnalyticsLog.h"
-#include "analytics/BooleanText.h"
 #include "analytics/SharedInstance.h"
 #include "analytics/TDSignal.h"
+#include "analytics/UsageRecorder.h"
 #include "platform/BundleInformation.h"
 #include "platform/Platform.h"
 #include "platform/TimerMaker.h"

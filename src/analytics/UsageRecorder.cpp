@@ -1,6 +1,5 @@
 #include "analytics/UsageRecorder.h"
 
-#include "analytics/BooleanText.h"
 #include "settings/PersistedSettings.h"
 
 namespace tessaline {
@@ -14,6 +13,10 @@ QString text(PermissionType type) {
 }
 
 } // namespace
+
+QString booleanText(bool value) {
+    return value ? u"true"_s : u"false"_s;
+}
 
 void UsageRecorder::trackOnboardingStarted() {
     record({.name = u"onboarding_started"_s});

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "analytics/AnalyticsEvent.h"
 #include "settings/PermissionType.h"
 #include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
 
+#include <QDateTime>
+#include <QMap>
 #include <QString>
 #include <QtGlobal>
 
@@ -12,6 +13,18 @@ namespace tessaline {
 
 class AppSettings;
 struct PersistedSettings;
+
+/// Something that the user did or that happened to the program.
+struct AnalyticsEvent {
+    QString name;        ///< such as "content_loaded"
+    QDateTime timestamp; ///< left out by those who record: the recorder fills in its own time
+    QMap<QString, QString> properties;
+
+    bool operator==(const AnalyticsEvent&) const = default;
+};
+
+/// The form that yes and no take in events and signals.
+QString booleanText(bool value);
 
 /// Receives usage events. Any thread, unless a function says otherwise.
 class UsageRecorder {

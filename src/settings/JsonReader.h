@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <optional>
-#include <string>
 
 namespace tessaline {
 
@@ -23,27 +22,6 @@ std::optional<JsonValue> parseJson(const QByteArray& bytes, QString* error = nul
 
 /// As above, and none when the value is no object.
 std::optional<JsonValue> parseJsonObject(const QByteArray& bytes, QString* error = nullptr);
-
-/// Goes through a JSON text as it is read. Each function tells whether to go on.
-class JsonVisitor {
-public:
-    virtual ~JsonVisitor() = default;
-
-    virtual bool null() = 0;
-    virtual bool boolean(bool value) = 0;
-    virtual bool number(double value) = 0;
-    virtual bool string(const std::string& value) = 0;
-    virtual bool key(const std::string& name) = 0;
-    virtual bool beginObject() = 0;
-    virtual bool endObject() = 0;
-    virtual bool beginArray() = 0;
-    virtual bool endArray() = 0;
-};
-
-/// Shows a JSON text in valid UTF-8 to `visitor`, value by value, in memory that does not grow with
-/// its length. False when the visitor does not go on, and when the text is anything but one whole
-/// value: then `error` says where.
-bool visitJson(const QByteArray& bytes, JsonVisitor& visitor, QString& error);
 
 /// Reads the JSON file at `path`. As above, and none when it cannot be read or is larger than
 /// `jsonFileLimit`.

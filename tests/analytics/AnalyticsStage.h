@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analytics/Analytics.h"
-#include "analytics/EventDecoder.h"
+#include "analytics/DecodedEvents.h"
 #include "support/FakeBundleInformation.h"
 #include "support/FakeEnvironmentProbe.h"
 #include "support/FakeTaskRunner.h"
@@ -19,13 +19,7 @@ namespace tessaline {
 
 /// The events in a history file; fails the test when it cannot be decoded.
 inline std::vector<AnalyticsEvent> eventsIn(const QString& path) {
-    std::vector<AnalyticsEvent> events;
-    QString error;
-    EXPECT_TRUE(decodeEvents(
-        fileBytes(path), [&events](const AnalyticsEvent& event) { events.push_back(event); },
-        &error))
-        << error.toStdString();
-    return events;
+    return decoded(fileBytes(path));
 }
 
 /// The names of the events in a history file, in order.

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "analytics/EventDecoder.h"
+#include "analytics/UsageRecorder.h"
+#include "settings/JsonReader.h"
 
 #include <gtest/gtest.h>
 
@@ -8,13 +9,32 @@
 
 namespace tessaline {
 
-/// The events of a history; one that is no history is a failure.
+/// The events of a history as we write them; one that is no history is a failure.
 inline std::vector<AnalyticsEvent> decoded(const QByteArray& bytes) {
     std::vector<AnalyticsEvent> events;
     QString error;
-    EXPECT_TRUE(decodeEvents(
-        bytes, [&events](const AnalyticsEvent& event) { events.push_back(event); }, &error))
-        << error.toStdString();
+    const auto json = parseJson(bytes, &error);
+    const auto* array = json ? json->as<JsonValue::Array>() : nullptr;
+    if (!array) {
+        ADD_FAILURE() << "no history: " << error.toStdString() << "\n" << bytes.toStdString();
+        return events;
+    }
+    for (const JsonValue& event : *array) {
+        const auto text = [&event](QStringView key) {
+            const JsonValue* value = event.find(key);
+            EXPECT_TRUE(value && value->as<QString>());
+            return value && value->as<QString>() ? *value->as<QString>() : QString();
+        };
+        QMap<QString, QString> properties;
+        const JsonValue* members = event.find(u"properties");
+        EXPECT_TRUE(members && members->as<JsonValue::Object>());
+        for (const auto& [name, value] : *members->as<JsonValue::Object>())
+            properties[name] = *value.as<QString>();
+        // Seconds of UTC, in the one form that is written.
+        const auto moment = QDateTime::fromString(text(u"timestamp"), Qt::ISODate);
+        EXPECT_TRUE(moment.isValid());
+        events.push_back({text(u"name"), moment, properties});
+    }
     return events;
 }
 
