@@ -11,6 +11,7 @@ import subprocess
 from .waiting import wait_until
 from .x_connection import XConnection
 
+FONTS = pathlib.Path(__file__).resolve().parents[2] / "support/fonts.conf"
 PANEL_HEIGHT = 30
 PANEL_COLOR = (0, 255, 0)
 
@@ -56,6 +57,7 @@ def clean_environment(folder):
         XDG_RUNTIME_DIR=str(runtime),
         LC_ALL="C.UTF-8",
         DO_NOT_TRACK="1",
+        FONTCONFIG_FILE=str(FONTS),
         QT_QPA_PLATFORM="xcb",
         NO_AT_BRIDGE="1",
     )
