@@ -31,6 +31,7 @@ def get(interface, name):
 CHILDREN = method(ACCESSIBLE, "GetChildren")
 NAME = get(ACCESSIBLE, "Name")
 DETAILS = (
+    method(ACCESSIBLE, "GetState"),
     method(ACCESSIBLE, "GetRole"),
     NAME,
     get(ACCESSIBLE, "Description"),
@@ -39,7 +40,6 @@ DETAILS = (
     method(ACCESSIBLE, "GetInterfaces"),
     CHILDREN,
 )
-STATE = method(ACCESSIBLE, "GetState")
 VALUES = ("CurrentValue", "MinimumValue", "MaximumValue")
 
 
@@ -79,11 +79,6 @@ class Reader:
                 raise answer
         return [answers[index] for index in range(len(questions))]
 
-    def ask_each(self, things, *questions):
-        """For each thing the answers to all questions."""
-        answers = iter(self.ask([(thing, question) for thing in things for question in questions]))
-        return [[next(answers) for _ in questions] for _ in things]
-
     def process_of(self, bus_name):
         """None for one that has just ended."""
         question = method(BUS[0], "GetConnectionUnixProcessID", "(s)", bus_name)
@@ -100,37 +95,39 @@ class Reader:
         if title is not None:
             names = self.ask([(window, NAME) for window in found])
             found = [window for window, name in zip(found, names) if name == title]
-        windows = []
+        windows, more = [], []
         level = [(window, windows) for window in found]
-        while level:
-            level = self.describe(level)
+        while level or more:
+            level, more = self.describe(level, more)
         return windows
 
-    def describe(self, level):
-        """Adds each thing, if it is on show, to the list that comes with it. Returns what is below,
-        each with its list."""
-        states = self.ask([(thing, STATE) for thing, _ in level])
-        shown = [(*place, names_of_states(words)) for place, words in zip(level, states)]
-        shown = [place for place in shown if "showing" in place[-1]]
-        things = [thing for thing, _, _ in shown]
+    def describe(self, level, more):
+        """Adds each thing, if it is on show, to the list that comes with it, and the answers to `more`
+        to their nodes. Returns what is below, each with its list, and what else there is to ask."""
+        things = [thing for thing, _ in level]
+        questions = [(thing, question) for thing in things for question in DETAILS]
+        answers = iter(self.ask(questions + [(thing, question) for _, _, thing, question in more]))
         below, further = [], []
-        for (thing, siblings, names), answers in zip(shown, self.ask_each(things, *DETAILS)):
-            role, name, description, area, relations, interfaces, children = answers
+        for thing, siblings in level:
+            details = [next(answers) for _ in DETAILS]
+            states, role, name, description, area, relations, interfaces, children = details
+            states = names_of_states(states)
+            if "showing" not in states:
+                continue
             node = {
                 "role": Atspi.role_get_name(role),
                 "name": name,
                 "description": description,
-                "states": names,
+                "states": states,
                 "area": area,
                 "children": [],
             }
             further += [(node, *question) for question in self.further(thing, relations, interfaces)]
             siblings.append(node)
             below += [(child, node["children"]) for child in children]
-        answers = self.ask([(thing, question) for _, _, thing, question in further])
-        for (node, key, _, _), answer in zip(further, answers):
-            node.setdefault(key, []).append(answer)
-        return below
+        for node, key, _, _ in more:
+            node.setdefault(key, []).append(next(answers))
+        return below, further
 
     def further(self, thing, relations, interfaces):
         """What else there is to ask, each as (key, thing, question)."""
