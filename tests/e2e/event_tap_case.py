@@ -1,19 +1,19 @@
 """What the scenarios of the prompter's wheel, buttons and shortcut have in common: applications that
 tell what they receive, and a keyboard."""
 
+import contextlib
 import ctypes
 import json
 import os
 import re
 
 from harness import DesktopTestCase, wait_until
-from harness.waiting import holds_for
 
 XEV_AREA = "400x300+100+100"
 OVER_XEV = (300, 250)
 WHEEL_UP, WHEEL_DOWN = 4, 5
 TOGGLE = "ctrl+shift+super+t"
-A_MOMENT = 0.5
+CONTROL, SHIFT, SUPER = 37, 50, 133  # keys by their numbers
 CORE_KEYBOARD = 0x100
 
 
@@ -34,9 +34,21 @@ class Keyboard:
 
     def press(self, *keys):
         """All of them together."""
-        for key, down in [(key, 1) for key in keys] + [(key, 0) for key in reversed(keys)]:
-            self.xtest.XTestFakeKeyEvent(self.display, key, down, 0)
-            self.x11.XSync(self.display, 0)
+        with contextlib.ExitStack() as held:
+            for key in keys:
+                held.enter_context(self.hold(key))
+
+    @contextlib.contextmanager
+    def hold(self, key):
+        self._send(key, True)
+        try:
+            yield
+        finally:
+            self._send(key, False)
+
+    def _send(self, key, down):
+        self.xtest.XTestFakeKeyEvent(self.display, key, down, 0)
+        self.x11.XSync(self.display, 0)
 
 
 class CoreGrab:
@@ -123,21 +135,20 @@ def click(*buttons):
 class EventTapCase(DesktopTestCase):
     desktop_options = {"panel": False}
 
+    def setUp(self):
+        super().setUp()
+        self.keyboard = Keyboard(self.desktop.env["DISPLAY"])
+        self.addCleanup(self.keyboard.close)
+
     def start_tap(self, *arguments):
         return Application(self.desktop, "tap", *arguments)
 
     def click(self, *buttons, keys=("ctrl",)):
-        for key in keys:
-            self.desktop.run("xdotool", "keydown", key)
-        for button in buttons:
-            self.desktop.run("xdotool", "click", button)
-        for key in reversed(keys):
-            self.desktop.run("xdotool", "keyup", key)
+        down = [word for key in keys for word in ("keydown", key)]
+        clicks = [word for button in buttons for word in ("click", button)]
+        up = [word for key in reversed(keys) for word in ("keyup", key)]
+        self.desktop.hands(*down, *clicks, *up)
 
-    def open_keyboard(self):
-        keyboard = Keyboard(self.desktop.env["DISPLAY"])
-        self.addCleanup(keyboard.close)
-        return keyboard
 
     def wait_for_scrolls(self, tap, deltas):
         wait_until(lambda: tap.scrolled() == deltas, f"the prompter scrolls by {deltas}")
@@ -148,6 +159,16 @@ class EventTapCase(DesktopTestCase):
     def wait_for_buttons(self, xev, buttons):
         wait_until(lambda: xev.buttons() == buttons, f"xev gets {buttons}")
 
-    def assert_nothing_more(self, *counts):
-        before = [count() for count in counts]
-        self.assertTrue(holds_for(lambda: [count() for count in counts] == before, A_MOMENT))
+    def assert_toggles_no_more(self, tap):
+        """A turn of the wheel that comes after all else is the next that the prompter hears of."""
+        toggles, scrolls = tap.toggles(), tap.scrolled()
+        with self.keyboard.hold(CONTROL):
+            self.desktop.hands("click", WHEEL_UP)
+        self.wait_for_scrolls(tap, scrolls + [80])
+        self.assertEqual(tap.toggles(), toggles)
+
+    def assert_gets_no_more(self, xev):
+        """A click that comes after all else is the next that xev gets."""
+        buttons = xev.buttons()
+        self.click(1, keys=())
+        self.wait_for_buttons(xev, buttons + click(1))

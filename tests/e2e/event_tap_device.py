@@ -74,7 +74,7 @@ def what_is_missing():
 
 
 def start_server(start, env, size):
-    """Like session.start_x_server, with a device of which Device is the handle."""
+    """Like session.start_x_server, with a device: see device_of."""
     folder = env["XDG_RUNTIME_DIR"]
     configuration = os.path.join(folder, "xorg.conf")
     with open(configuration, "w", encoding="utf-8") as file:
@@ -94,9 +94,17 @@ def start_server(start, env, size):
     env["DISPLAY"] = ":" + number
 
 
-class Device:
-    """The pointing device. There can be one handle in a server's life."""
+devices = {}
 
+
+def device_of(desktop):
+    """The pointing device of a desktop's server, which answers the first that talks to it."""
+    if desktop not in devices:
+        devices[desktop] = Device(desktop.session_env)
+    return devices[desktop]
+
+
+class Device:
     def __init__(self, env):
         path = os.path.join(env["XDG_RUNTIME_DIR"], "touchpad")
         wait_until(lambda: os.path.exists(path), "the device is there")
@@ -107,9 +115,6 @@ class Device:
         self._send(0, protocol)
         if not self.socket.recv(64):
             raise RuntimeError("the device does not answer")
-
-    def close(self):
-        self.socket.close()
 
     def move(self, x=0.0, y=0.0):
         self._motion({0: x, 1: y})

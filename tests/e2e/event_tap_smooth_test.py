@@ -8,11 +8,12 @@ import time
 import unittest
 from unittest import mock
 
-from event_tap_case import A_MOMENT, Application
-from event_tap_device import Device, start_server, what_is_missing
+from event_tap_case import Application
+from event_tap_device import device_of, start_server, what_is_missing
 from harness import DesktopTestCase, session, wait_until
 from harness.waiting import holds_for
 
+A_MOMENT = 0.3  # in which what the application must not get would have come
 A_REST = 0.4  # more than the pointer has to stand still
 LONGEST_HOLD = 2.0  # seconds without the program's own progress
 
@@ -41,8 +42,7 @@ class SmoothScrolling(DesktopTestCase):
     def setUp(self):
         with mock.patch.object(session, "start_x_server", start_server):
             super().setUp()
-        self.device = Device(self.desktop.env)
-        self.addCleanup(self.device.close)
+        self.device = device_of(self.desktop)
         self.other = Application(self.desktop, "watch", "--window", "0,0,1200,700")
         self.tap = Application(self.desktop, "tap")
         self.desktop.move_mouse(600, 400)
@@ -58,11 +58,12 @@ class SmoothScrolling(DesktopTestCase):
         wait_until(scrolls, "scrolling has its effect")
 
     def hold_control(self):
-        self.desktop.run("xdotool", "keydown", "ctrl")
-        time.sleep(A_MOMENT / 5)
+        self.desktop.hands("keydown", "ctrl")
+        self.addCleanup(self.release_control)
+        time.sleep(0.1)
 
     def release_control(self):
-        self.desktop.run("xdotool", "keyup", "ctrl")
+        self.desktop.hands("keyup", "ctrl")
 
     def scroll(self, *lines):
         for line in lines:
@@ -133,7 +134,7 @@ class SmoothScrolling(DesktopTestCase):
 
     def test_is_ours_again_after_a_click_for_the_application(self):
         self.hold_control()
-        self.desktop.run("xdotool", "click", 1)
+        self.desktop.hands("click", 1)
         wait_until(lambda: self.other.events("release"), "the click is over")
         time.sleep(A_REST)
         self.assert_other_gets(lambda: self.scroll(1), [])
@@ -141,19 +142,19 @@ class SmoothScrolling(DesktopTestCase):
 
     def test_leaves_a_drag_with_control_to_the_application(self):
         self.hold_control()
-        self.desktop.run("xdotool", "mousedown", 1)
+        self.desktop.hands("mousedown", 1)
         wait_until(lambda: self.other.events("press"), "the drag begins")
         time.sleep(A_REST)
         self.device.move(x=30)
         wait_until(lambda: any(move["buttons"] == 1 for move in self.other.events("move")),
                    "the application sees the drag")
-        self.desktop.run("xdotool", "mouseup", 1)
+        self.desktop.hands("mouseup", 1)
         wait_until(lambda: self.other.events("release"), "the drag ends")
 
     def test_is_the_applications_while_control_is_part_of_a_chord(self):
         self.hold_control()
-        self.desktop.run("xdotool", "key", "c")
-        time.sleep(A_MOMENT / 5)
+        self.desktop.hands("key", "c")
+        time.sleep(0.1)
         before = len(self.other.events("move"))
         self.device.move(x=2)
         wait_until(lambda: len(self.other.events("move")) > before, "nothing holds the pointer")

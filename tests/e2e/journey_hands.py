@@ -30,9 +30,6 @@ class Hands:
         self.case.assertEqual((status, error), (0, ""), words)
         return f"{' '.join(map(str, words))}: {output.strip()}"
 
-    def _xdotool(self, *words):
-        self.desktop.run("xdotool", *words)
-
     def _prompter_area(self):
         """None while there is nothing of the text to be seen."""
         status = self._status()
@@ -44,7 +41,7 @@ class Hands:
         area = self._prompter_area()
         if not area:
             return "nothing to be seen"
-        self._xdotool("mousemove", area[0] + area[2] // 2, area[1] + 70, *then)
+        self.desktop.hands("mousemove", area[0] + area[2] // 2, area[1] + 70, *then)
         return None
 
     def _keys(self, *keys):
@@ -54,7 +51,7 @@ class Hands:
         wait_until(
             lambda: self.desktop.focused_window() == self.case.window, "the prompter has the keys"
         )
-        self._xdotool("key", *keys)
+        self.desktop.hands("key", *keys)
         return " ".join(keys)
 
     def _script(self):

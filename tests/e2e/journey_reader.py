@@ -104,7 +104,7 @@ class Reader(SettingsHands):
         if not area or not button:
             return "nothing to be seen"
         before = self._status()["source"]
-        self._xdotool("mousemove", *button.center, "click", 1)
+        self.desktop.hands("mousemove", *button.center, "click", 1)
         if not self.obsidian_is_enabled:
             return "there is one only"
         wait_until(lambda: self._status()["source"] != before, "another source is active")
@@ -144,7 +144,7 @@ class Reader(SettingsHands):
         return self._over_text(*clicks) or f"{button} {count} times"
 
     def turns_the_wheel_with_control(self):
-        self._xdotool("mousemove", *ELSEWHERE)
+        self.desktop.hands("mousemove", *ELSEWHERE)
         return self._control_and_wheel("elsewhere")
 
     def turns_the_wheel_with_control_over_the_text(self):
@@ -154,20 +154,20 @@ class Reader(SettingsHands):
         button, delta = self.random.choice(((WHEEL_UP, -80), (WHEEL_DOWN, 80)))
 
         def turn():
-            self._xdotool("keydown", "ctrl", "click", button, "keyup", "ctrl")
+            self.desktop.hands("keydown", "ctrl", "click", button, "keyup", "ctrl")
             return f"{button} {where}"
 
         return self._moves(delta, turn)
 
     def clicks_with_control(self):
         before = self._status()["autoScroll"]
-        self._xdotool("mousemove", *ELSEWHERE, "keydown", "ctrl", "click", 2, "keyup", "ctrl")
+        self.desktop.hands("mousemove", *ELSEWHERE, "keydown", "ctrl", "click", 2, "keyup", "ctrl")
         wait_until(lambda: self._status()["autoScroll"] != before, "it toggled", 3)
         return f"from {before}"
 
     def presses_the_chord(self):
         before = self._status()["autoScroll"]
-        self._xdotool("key", TOGGLE)
+        self.desktop.hands("key", TOGGLE)
         wait_until(lambda: self._status()["autoScroll"] != before, "it toggled", 3)
         return f"from {before}"
 
@@ -198,7 +198,7 @@ class Reader(SettingsHands):
         name, offset = self.random.choice(
             (("close", CLOSE), ("minimize", MINIMIZE), ("gear", GEAR), ("auto-scroll", AUTO_SCROLL))
         )
-        self._xdotool("mousemove", x + offset, y + STRIP_MIDDLE, "click", 1)
+        self.desktop.hands("mousemove", x + offset, y + STRIP_MIDDLE, "click", 1)
         key = {"close": "visible", "minimize": "collapsed", "auto-scroll": "autoScroll"}.get(name)
         if key:
             wait_until(lambda: self._status()[key] != status[key], f"{name} does its work", 3)
@@ -229,7 +229,7 @@ class Reader(SettingsHands):
             return missing
         pid = self.case.prompter.pid
         before = len(self.desktop.windows(pid=pid))
-        self._xdotool("key", "Escape")
+        self.desktop.hands("key", "Escape")
         wait_until(lambda: len(self.desktop.windows(pid=pid)) <= before, "the menu is closed")
         return None
 

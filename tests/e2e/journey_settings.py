@@ -22,7 +22,7 @@ class SettingsHands(Hands):
         if not windows:
             return "not open"
         self.desktop.activate(windows[0])
-        self._xdotool("key", "alt+F4")
+        self.desktop.hands("key", "alt+F4")
         wait_until(
             lambda: not self.desktop.windows(SETTINGS, self.case.prompter.pid), "they are closed"
         )
@@ -46,7 +46,7 @@ class SettingsHands(Hands):
     def _turn_the_wheel_beside_the_controls(self, window, up):
         x, y, _, height = window
         button = WHEEL_UP if up else WHEEL_DOWN
-        self._xdotool("mousemove", x + 5, y + height // 2, "click", button)
+        self.desktop.hands("mousemove", x + 5, y + height // 2, "click", button)
 
     def moves_a_slider(self):
         name = self.random.choice(SLIDERS)
@@ -57,11 +57,11 @@ class SettingsHands(Hands):
         target = x + self.random.randint(4, width - 4)
         middle = control.center[1]
         if self.random.random() < 0.5:
-            self._xdotool("mousemove", target, middle, "click", 1)
+            self.desktop.hands("mousemove", target, middle, "click", 1)
             keys = self.random.choices(("Left", "Right", "Next", "Prior", "Home", "End"), k=3)
-            self._xdotool("key", *keys)
+            self.desktop.hands("key", *keys)
             return f"{name} to {target - x} of {width}, then {keys}"
-        self._xdotool(
+        self.desktop.hands(
             "mousemove", target, middle, "mousedown", 1, "mousemove", x + width // 3, middle,
             "mousemove", x + width // 2, middle, "mouseup", 1,
         )
@@ -105,10 +105,10 @@ class SettingsHands(Hands):
         self.desktop.activate(self.desktop.windows(SETTINGS, self.case.prompter.pid)[0])
         pid = self.case.prompter.pid
         before = len(self.desktop.windows(pid=pid))
-        self._xdotool("mousemove", *control.center, "click", 1)
+        self.desktop.hands("mousemove", *control.center, "click", 1)
         wait_until(lambda: len(self.desktop.windows(pid=pid)) > before, "the choices are shown")
         keys = [self.random.choice(("Up", "Down")), "Return"]
-        self._xdotool("key", *keys)
+        self.desktop.hands("key", *keys)
         wait_until(lambda: len(self.desktop.windows(pid=pid)) <= before, "one is chosen")
         return f"{shown}, then {keys}"
 
@@ -116,7 +116,7 @@ class SettingsHands(Hands):
         switch = self._settings_control("check box", "Obsidian")
         if not switch:
             return "out of reach"
-        self._xdotool("mousemove", *switch.center, "click", 1)
+        self.desktop.hands("mousemove", *switch.center, "click", 1)
         self.obsidian_is_enabled = not self.obsidian_is_enabled
         if self.obsidian_is_enabled:
             return "on"

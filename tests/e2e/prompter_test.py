@@ -164,7 +164,7 @@ class ObsidianContent(PrompterTestCase):
         wait_until(lambda: self.text_pixels() != before, "the long text is shown", 30)
         before = self.text_pixels()
         self.desktop.move_mouse(LEFT + 200, 150)
-        self.desktop.run("xdotool", "click", 5)
+        self.desktop.hands("click", 5)
         self.wait_for_other_text(before)
 
 
@@ -177,9 +177,9 @@ class Use(PrompterTestCase):
     def test_scrolls_with_the_wheel(self):
         before = self.text_pixels()
         self.desktop.move_mouse(LEFT + 200, 150)
-        self.desktop.run("xdotool", "click", 5)
+        self.desktop.hands("click", 5)
         wait_until(lambda: self.text_pixels() != before, "the text has moved")
-        self.desktop.run("xdotool", "click", 4)
+        self.desktop.hands("click", 4)
         wait_until(lambda: self.text_pixels() == before, "the text is back")
         self.assert_wheel_moves_the_same_at(LEFT + WIDTH - 14)
 
@@ -191,10 +191,10 @@ class Use(PrompterTestCase):
             for column in (LEFT + 200, x):
                 before = self.ink_rows()
                 self.desktop.move_mouse(column, 150)
-                self.desktop.run("xdotool", *click)
+                self.desktop.hands(*click)
                 wait_until(lambda: self.ink_rows() != before, "the text has moved")
                 moved.append(self.ink_rows())
-                self.desktop.run("xdotool", *back)
+                self.desktop.hands(*back)
                 wait_until(lambda: self.ink_rows() == before, "the text is back")
             self.assertEqual(moved[0], moved[1])
 
@@ -231,8 +231,8 @@ class Use(PrompterTestCase):
         self.desktop.click(LEFT + 200, 150)
         # Copies the first line out of the prompter itself, and pastes it in place of the rest.
         self.desktop.key("ctrl+Home", "Home")
-        self.desktop.run("xdotool", "mousemove", LEFT + 60, 60)
-        self.desktop.run("xdotool", "click", "--repeat", 3, "--delay", 60, 1)
+        self.desktop.hands("mousemove", LEFT + 60, 60)
+        self.desktop.hands("click", "--repeat", 3, "--delay", 60, 1)
         self.desktop.key("ctrl+c", "ctrl+v")
         self.wait_for_other_text(before)
         kept = self.support_folder() / "clipboard-content.md"
@@ -260,6 +260,7 @@ class CornersTestCase(PrompterTestCase):
     def setUp(self):
         super().setUp()
         # The root window is painted, so that what lies below the corners is seen.
+        self.desktop.use_up()
         self.desktop.run("xsetroot", "-solid", "#0000ff")
         self.start(self.write_script("# Hello"))
         self.wait_for_text()

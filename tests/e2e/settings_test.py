@@ -92,9 +92,11 @@ class Sliders(SettingsTestCase):
 
     def test_the_text_grows_while_the_mouse_is_down(self):
         self.start_with_settings(self.write_script(TALK))
-        before = self.desktop.picture(self.window)
+        before = self.desktop.picture(self.window).region(*TEXT)
         self.drag("Font Size", 25)
-        wait_until(lambda: self.desktop.picture(self.window) != before, "the text has changed")
+        wait_until(
+            lambda: self.desktop.picture(self.window).region(*TEXT) != before, "the text has changed"
+        )
         self.assertAlmostEqual(self.settings()["fontSize"], 25, delta=0.2)
         x, y = self.place_of(self.slider("Font Size"), 18)
         for pixel in range(4):
@@ -247,7 +249,7 @@ class LowScreen(SettingsTestCase):
         x, y, _, height = self.open_window(TITLE).area
         self.desktop.move_mouse(x + 5, y + height // 2)
         before = self.settings()
-        self.desktop.run("xdotool", "click", "--repeat", 40, 5)
+        self.desktop.hands("click", "--repeat", 40, 5)
         wait_until(
             lambda: self.is_in_sight(self.last_row()),
             "the last row is in sight",

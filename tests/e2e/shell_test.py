@@ -152,7 +152,7 @@ class Buttons(ShellTestCase):
         self.start()
         self.desktop.click(*CONFIG)
         window = self.wait_for_settings()
-        self.desktop.run("xdotool", "windowclose", window)
+        self.desktop.hands("windowclose", window)
         wait_until(lambda: not self.settings_are_open(), "the settings are closed")
         self.assertTrue(holds_for(lambda: self.prompter.running, 1))
 

@@ -3,11 +3,12 @@
 import signal
 import unittest
 
-from event_tap_case import A_MOMENT, TOGGLE, WHEEL_DOWN, WHEEL_UP, Xev, click
+from event_tap_case import TOGGLE, WHEEL_DOWN, WHEEL_UP, Xev, click
 from harness import wait_until
 from harness.waiting import holds_for
 from prompter_test import LEFT, PrompterTestCase
 
+A_MOMENT = 0.3  # in which what came twice would be seen
 OVER_PROMPTER = (LEFT + 200, 150)
 LINE = 80
 
@@ -25,10 +26,10 @@ class Shortcuts(PrompterTestCase):
         return self.status()["autoScroll"]
 
     def with_control(self, *buttons):
-        self.desktop.run("xdotool", "keydown", "ctrl")
+        self.desktop.hands("keydown", "ctrl")
         for button in buttons:
-            self.desktop.run("xdotool", "click", button)
-        self.desktop.run("xdotool", "keyup", "ctrl")
+            self.desktop.hands("click", button)
+        self.desktop.hands("keyup", "ctrl")
 
     def wait_for_position(self, points):
         wait_until(lambda: self.position() == points, f"the prompter is at {points}")
@@ -48,7 +49,7 @@ class InAnotherApplication(Shortcuts):
         self.assertEqual(self.xev.buttons(), [])
 
     def test_the_wheel_without_control_is_not_ours(self):
-        self.desktop.run("xdotool", "click", WHEEL_DOWN)
+        self.desktop.hands("click", WHEEL_DOWN)
         wait_until(lambda: self.xev.buttons() == click(WHEEL_DOWN), "xev scrolls")
         self.assertEqual(self.position(), 0)
 

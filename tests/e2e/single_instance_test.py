@@ -61,6 +61,7 @@ class SingleInstance(TessalineTestCase):
 
     def test_starts_again_after_it_was_killed(self):
         self.start()
+        wait_until(self.socket_path().exists, "it listens")
         self.prompter.send(signal.SIGKILL)
         self.prompter.wait()
         self.assertTrue(self.socket_path().exists(), "the dead one left its socket")

@@ -50,7 +50,7 @@ class Strip(SettingsTestCase):
     def tool_tips(self):
         return [
             node.name
-            for window in self.accessibility.windows(self.prompter.pid)
+            for window in self.desktop.accessibility.windows(self.prompter.pid)
             for node in window.find_all("tool tip")
         ]
 
@@ -73,7 +73,7 @@ class Strip(SettingsTestCase):
         x, y, _, height = self.control(PROMPTER, "push button", "Toggle content source").area
         self.desktop.move_mouse(x + 2, y + height // 2)
         for source in ("clipboard", "obsidian", "clipboard", "obsidian"):
-            self.desktop.run("xdotool", "click", 1)
+            self.desktop.hands("click", 1)
             wait_until(lambda: self.status()["source"] == source, f"{source} is shown", 5)
             self.wait_for_text(PROMPTER, source.upper())
 

@@ -94,7 +94,7 @@ class Stacking(FloatingWindow):
         self.desktop.process("openbox").send(signal.SIGKILL)
         wait_until(lambda: fullscreen.window in self.top_level_windows(), "the frames are gone")
         wait_until(lambda: self.is_above(fullscreen.window), "it is above the other again")
-        self.desktop.run("xdotool", "windowraise", fullscreen.window)
+        self.desktop.hands("windowraise", fullscreen.window)
         wait_until(lambda: self.is_above(fullscreen.window), "it is above the other again")
         self.desktop.wait_for_pixel(*BELOW_THE_PANEL, RED)
 
@@ -178,6 +178,8 @@ class Keyboard(FloatingWindow):
         self.wait_for_focus(self.other)
         self.desktop.click(*BELOW_THE_PANEL)
         self.wait_for_focus(self.floating)
+        self.desktop.move_mouse(*ELSEWHERE)
+        self.wait_for_focus(self.other)
         self.desktop.click(*ELSEWHERE)
         self.wait_for_focus(fullscreen)
         self.assert_typing_reaches(fullscreen, "xyz")

@@ -65,7 +65,6 @@ class Accessibility:
 
     def __init__(self, desktop):
         self.desktop = desktop
-        self.reader = None
         desktop.env.pop("NO_AT_BRIDGE", None)
         desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         launcher = next((path for path in LAUNCHERS if pathlib.Path(path).exists()), None)
@@ -74,6 +73,7 @@ class Accessibility:
         session.require("dbus-send", PYTHON)
         desktop.start("at-spi", [launcher, "--launch-immediately"])
         wait_until(self._is_on_the_bus, "the accessibility bus is there")
+        self.reader = desktop.start("reader", [PYTHON, READER], answers=True)
 
     def _is_on_the_bus(self):
         reply = self.desktop.run(
@@ -88,6 +88,4 @@ class Accessibility:
         return [Node(window) for window in self._ask(pid=pid, title=title) or []]
 
     def _ask(self, **question):
-        if not self.reader:
-            self.reader = self.desktop.start("reader", [PYTHON, READER], answers=True)
         return json.loads(self.reader.ask(json.dumps(question)))

@@ -1,6 +1,5 @@
 """The base of the scenarios that use the program's windows as a screen reader shows them."""
 
-from .accessibility import Accessibility
 from .tessaline import TessalineTestCase
 from .waiting import wait_until
 
@@ -8,13 +7,11 @@ from .waiting import wait_until
 class AccessibleTestCase(TessalineTestCase):
     """Finds controls by window, role and name, and works them with the real mouse and keys."""
 
-    def setUp(self):
-        super().setUp()
-        self.accessibility = Accessibility(self.desktop)
+    accessible = True
 
     def open_windows(self, title):
         """The accessible windows on show with this title."""
-        return self.accessibility.windows(self.prompter.pid, title)
+        return self.desktop.accessibility.windows(self.prompter.pid, title)
 
     def open_window(self, title):
         """The accessible window with this title, read anew."""

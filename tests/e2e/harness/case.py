@@ -1,11 +1,16 @@
 """The base of every scenario."""
 
+import atexit
 import os
 import pathlib
 import sys
 import unittest
 
 from .desktop import Desktop
+from .desktop_pool import DesktopPool
+
+pool = DesktopPool()
+atexit.register(pool.close)
 
 
 class DesktopTestCase(unittest.TestCase):
@@ -13,15 +18,24 @@ class DesktopTestCase(unittest.TestCase):
     the folder that TESSALINE_ARTIFACTS names, if any."""
 
     desktop_options = {}
+    accessible = False
 
     def setUp(self):
-        self.desktop = self.start_desktop(**self.desktop_options)
+        self.desktop = pool.take(**self.desktop_options, accessible=self.accessible)
+        self.addCleanup(self._give_back, self.desktop)
+        self.addCleanup(self._report_failure, self.desktop)
 
     def start_desktop(self, **options):
+        """One more desktop."""
         desktop = Desktop(**options)
         self.addCleanup(desktop.close)
         self.addCleanup(self._report_failure, desktop)
         return desktop
+
+    def _give_back(self, desktop):
+        if self._failed():
+            desktop.use_up()
+        pool.give_back(desktop)
 
     def start_tessaline(self, *arguments, **env):
         return self.desktop.start("tessaline", [os.environ["TESSALINE_BINARY"], *arguments], **env)

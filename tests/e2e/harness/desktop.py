@@ -8,6 +8,7 @@ import sys
 import tempfile
 
 from . import session
+from .accessibility import Accessibility
 from .picture import Picture
 from .process import Process
 from .waiting import holds_for, wait_until
@@ -19,9 +20,17 @@ TRIES = 5
 A_MOMENT = 2
 
 
+def new_folder():
+    return pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
+
+
 class Desktop:
     """Starts everything on construction; close() ends it. Use it as a context manager. The panel has
-    a tray if this is the colour to paint it with, such as "#202020"."""
+    a tray if this is the colour to paint it with, such as "#202020". Programs on an accessible desktop
+    can be read as screen readers do.
+
+    One user after another can have it: hand_on() ends what the last one started, and welcome() gives
+    the next one a home."""
 
     def __init__(
         self,
@@ -31,15 +40,19 @@ class Desktop:
         monitors=None,
         tray=None,
         window_manager="openbox",
+        accessible=False,
     ):
-        session.require("xdotool", "xprop", "xrandr")
+        session.require("stdbuf", "xdotool", "xprop", "xrandr")
         self.size = size
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
+        self.first_monitors = monitors
+        self.folder = self.session_folder = new_folder()
         self.processes = []
         self.x_connection = None
+        self.is_used_up = False
         try:
             self.env = session.clean_environment(self.folder)
             session.start_x_server(self.start, self.env, size)
+            self._take_hands()
             if monitors:
                 self.set_monitors(monitors)
             session.start_bus(self.start, self.env)
@@ -48,6 +61,11 @@ class Desktop:
                 self.start_compositor()
             if panel:
                 self.start_panel(tray)
+            self.accessibility = Accessibility(self) if accessible else None
+            self.session_env = dict(self.env)
+            self.session = list(self.processes)
+            self.session_owners = self.x.owners(self.x.all_windows())
+            self.welcome()
         except BaseException:
             print(self.logs(), file=sys.stderr)
             self.close()
@@ -64,7 +82,44 @@ class Desktop:
             self.x_connection.close()
         while self.processes:
             self.processes.pop().end()
+        for folder in self.folder, self.session_folder:
+            shutil.rmtree(folder, ignore_errors=True)
+
+    def welcome(self):
+        """Gives a user who has never been here a home."""
+        self.folder = new_folder()
+        self.env = {**self.session_env, **session.home_environment(self.folder)}
+
+    def hand_on(self):
+        """Ends what the user started, and puts back what everybody leaves in disorder. Whether the
+        desktop is as it was when it was new."""
+        for process in reversed(self.processes):
+            if process not in self.session:
+                process.end()
+        self.processes = list(self.session)
+        if self.is_used_up or not all(process.running for process in self.session):
+            return False
+        wait_until(self._is_left, "the windows are gone")
+        if self.x.is_anything_pressed():
+            return False
+        # Openbox goes on to name a window that is gone, whose number the next one may get.
+        self.x.delete_property(self.x.root, "_NET_ACTIVE_WINDOW")
+        if self.x.numbers(self.x.root, "_NET_CURRENT_DESKTOP") not in ([], [0]):
+            self.switch_to_desktop(0)
+        if self.first_monitors and self.monitors() != self.first_monitors:
+            self.set_monitors(self.first_monitors)
+        self.move_mouse(*(length // 2 for length in self.size))
         shutil.rmtree(self.folder, ignore_errors=True)
+        return True
+
+    def use_up(self):
+        """Nobody else gets this desktop: for what is not put back."""
+        self.is_used_up = True
+
+    def _is_left(self):
+        """Whether all windows are the session's own, those included that are about to go."""
+        windows = self.windows() + self.managed_windows()
+        return self.x.owners(windows) <= self.session_owners
 
     def start_panel(self, tray=None, **options):
         session.start_panel(self.start, self.env, self.size[1], tray, **options)
@@ -159,7 +214,7 @@ class Desktop:
         )
 
     def activate(self, window):
-        self.run("xdotool", "windowactivate", "--sync", window)
+        self.hands("windowactivate", "--sync", window)
 
     def close_by_keys(self, window):
         """Closes a window as its user does, who tries again if the window manager was busy."""
@@ -172,7 +227,7 @@ class Desktop:
         raise AssertionError(f"window {window} cannot be closed by keys")
 
     def switch_to_desktop(self, number):
-        self.run("xdotool", "set_desktop", number)
+        self.hands("set_desktop", number)
         wait_until(
             lambda: self.x.numbers(self.x.root, "_NET_CURRENT_DESKTOP") == [number],
             f"desktop {number} is shown",
@@ -234,23 +289,39 @@ class Desktop:
 
     # Mouse and keys
 
+    def _take_hands(self):
+        # One that stays: to start it takes longer than what it does. Of most commands it says nothing;
+        # the number of the desktop, which it asks the server for, tells that it has come so far.
+        command = ["stdbuf", "-oL", "xdotool", "-"]
+        self.xdotool = self.start("xdotool", command, answers=True)
+
+    def hands(self, *words):
+        """Does what xdotool does by these words, and waits until the X server has it."""
+        # Else each click is followed by a rest of 100 ms.
+        line = " ".join(map(str, words)).replace("click ", "click --delay 0 ")
+        self.xdotool.ask(line + "\nget_desktop")
+
     def move_mouse(self, x, y):
         # Not --sync, which waits for a change that never comes where the pointer is there already.
-        self.run("xdotool", "mousemove", x, y)
+        self.hands("mousemove", x, y)
 
     def click(self, x, y, button=1):
-        self.move_mouse(x, y)
-        self.run("xdotool", "click", button)
+        self.hands("mousemove", x, y, "click", button)
 
     def press_button(self, button=1):
-        self.run("xdotool", "mousedown", button)
+        self.hands("mousedown", button)
 
     def release_button(self, button=1):
-        self.run("xdotool", "mouseup", button)
+        self.hands("mouseup", button)
 
     def key(self, *chords):
         """Presses keys such as "a", "Escape" or "ctrl+c", one after another."""
-        self.run("xdotool", "key", *chords)
+        self.hands("key", *chords)
 
     def type(self, text):
         self.run("xdotool", "type", "--", text)
+
+    def set_layout(self, *words):
+        """Gives the keyboard a layout, by words for setxkbmap. Nobody else gets this desktop then."""
+        self.use_up()
+        self.run("setxkbmap", *words)

@@ -45,16 +45,20 @@ def require(*programs):
         raise RuntimeError("not installed: " + ", ".join(missing))
 
 
-def clean_environment(folder):
-    """The environment of a fresh user: nothing of the developer's own session gets in."""
+def home_environment(folder):
+    """Makes the folders that are a user's own; the environment that tells where they are."""
     home, runtime = folder / "home", folder / "runtime"
     home.mkdir()
     runtime.mkdir(mode=0o700)
+    return {"HOME": str(home), "XDG_RUNTIME_DIR": str(runtime)}
+
+
+def clean_environment(folder):
+    """The environment of a fresh user: nothing of the developer's own session gets in."""
     kept = ("PATH", "LANG", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS")
     env = {name: os.environ[name] for name in kept if name in os.environ}
     env.update(
-        HOME=str(home),
-        XDG_RUNTIME_DIR=str(runtime),
+        home_environment(folder),
         LC_ALL="C.UTF-8",
         DO_NOT_TRACK="1",
         FONTCONFIG_FILE=str(FONTS),

@@ -3,7 +3,7 @@
 import time
 
 DEADLINE = 20.0
-PAUSE = 0.02
+PAUSE = 0.01
 
 
 def wait_until(condition, what, seconds=DEADLINE):

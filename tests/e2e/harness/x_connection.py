@@ -1,5 +1,5 @@
 """What an X server says of its windows, over a connection of our own: tools that are started for each
-question take most of a scenario's time. It only asks; what mouse and keys do is xdotool's."""
+question take most of a scenario's time. What mouse and keys do is xdotool's."""
 
 import re
 import socket
@@ -8,7 +8,8 @@ import struct
 ERROR, REPLY = 0, 1
 REPLY_BYTES = 32
 GET_ATTRIBUTES, GET_GEOMETRY, QUERY_TREE, INTERN_ATOM = 3, 14, 15, 16
-GET_PROPERTY, TRANSLATE_COORDINATES, GET_FOCUS, GET_IMAGE = 20, 40, 43, 73
+DELETE_PROPERTY, GET_PROPERTY, QUERY_POINTER, TRANSLATE_COORDINATES = 19, 20, 38, 40
+GET_FOCUS, QUERY_KEYMAP, GET_IMAGE = 43, 44, 73
 VIEWABLE = 2
 Z_PIXMAP = 2
 ALL_PLANES = 0xFFFFFFFF
@@ -31,6 +32,7 @@ class XConnection:
         setup = self._read(4 * words)
         if accepted != 1:
             raise XError(f"no connection: {setup!r}")
+        (self.client_bits,) = struct.unpack_from("<I", setup, 8)
         vendor_bytes, formats = struct.unpack_from("<HxxxB", setup, 16)
         (self.root,) = struct.unpack_from("<I", setup, 32 + padded(vendor_bytes) + 8 * formats)
         self.atoms = {}
@@ -56,9 +58,24 @@ class XConnection:
             found = [window for window, name in zip(found, titles) if re.search(title, name)]
         return found
 
+    def all_windows(self):
+        """Those included that are not on show."""
+        level, found = [self.root], []
+        while level:
+            found += level
+            level = self._children(level)
+        return found
+
+    def owners(self, windows):
+        """The programs that made windows, as the server counts them: itself is 0."""
+        return {window & ~self.client_bits for window in windows}
+
     def numbers(self, window, name):
         """A property of numbers or windows; empty when there is none."""
         return numbers(value(self._ask(self._property(window, name))[0]))
+
+    def delete_property(self, window, name):
+        self.socket.sendall(request(DELETE_PROPERTY, "<II", window, self._atom(name)))
 
     def geometry(self, window):
         """(x, y, width, height) on the screen, without the window manager's frame."""
@@ -71,6 +88,11 @@ class XConnection:
     def focused_window(self):
         """The window that gets the keys; 0 for none, 1 for the one below the pointer."""
         return struct.unpack_from("<I", self._ask(request(GET_FOCUS))[0], 8)[0]
+
+    def is_anything_pressed(self):
+        """Whether a key or a button is down, or a lock on."""
+        pointer, keys = self._ask(request(QUERY_POINTER, "<I", self.root), request(QUERY_KEYMAP))
+        return any(keys[8:40]) or struct.unpack_from("<H", pointer, 24) != (0,)
 
     def image(self, window, x, y, width, height):
         """The pixels on show in a part of a window, four bytes each: blue, green, red and padding."""
