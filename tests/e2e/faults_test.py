@@ -12,10 +12,8 @@ import subprocess
 import threading
 import time
 import unittest
-from pathlib import Path
 
 from harness import TessalineTestCase, wait_until
-from harness.bad_server import BEHAVIOURS, BadServer
 from harness.ordinary_user import as_ordinary_user, can_run
 from harness.small_disk import SmallDisk
 from harness.tessaline import PROMPTER, WELCOME
@@ -132,7 +130,7 @@ class ReadOnly(FaultsTestCase):
         file.touch()
         self.start(XDG_RUNTIME_DIR=str(file), TMPDIR=str(file))
         self.assertIn("later starts will not find this one", self.prompter.stderr())
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1))
+        self.assertTrue(holds_for(lambda: self.prompter.running, 0.3))
         self.assert_quits()
         self.assertIn("app_terminate", self.event_names())
 
@@ -268,49 +266,6 @@ class Killed(FaultsTestCase):
         self.assertGreater(len(self.history()), len(events))
 
 
-class BadTelemetry(FaultsTestCase):
-    """All servers at once, each with a user of its own, since it takes ten seconds until a program
-    sends something."""
-
-    def start_for(self, behaviour, name):
-        server = BadServer(behaviour)
-        self.addCleanup(server.close)
-        folder = self.desktop.folder / name
-        env = {
-            "HOME": str(folder / "home"),
-            "XDG_RUNTIME_DIR": str(folder / "runtime"),
-            "TESSALINE_TELEMETRY_URL": server.url,
-            "DO_NOT_TRACK": "",
-        }
-        shutil.copytree(self.desktop.home, env["HOME"])
-        (folder / "runtime").mkdir(mode=0o700)
-        program = self.desktop.start(name, [self.binary()], **env)
-        self.desktop.wait_for_window(PROMPTER, program.pid)
-        return server, program, env
-
-    def assert_unharmed(self, program, env):
-        for _ in range(10):
-            self.assert_goes_on(**env)
-        self.assert_quits(program)
-        history = Path(env["HOME"]) / "Library/Application Support/Tessaline/analytics.json"
-        names = [event["name"] for event in json.loads(history.read_text())]
-        self.assertEqual((names[0], names[-1]), ("app_launch", "app_terminate"))
-
-    def test_harms_nobody(self):
-        runs = {behaviour.__name__: self.start_for(behaviour, behaviour.__name__)
-                for behaviour in BEHAVIOURS}
-        runs["refuses"] = self.start_for(None, "refuses")
-        for name, (server, program, _) in runs.items():
-            if name == "refuses":
-                program.wait_for_output("[TelemetryDeck] Send failed")
-            else:
-                wait_until(lambda: server.requests > 0, f"signals are sent to one that {name}")
-        for name, (_, program, env) in runs.items():
-            with self.subTest(name):
-                self.assert_unharmed(program, env)
-        self.assertIn("[TelemetryDeck] Server returned 500", runs["answers_500"][1].stderr())
-
-
 class GoneServices(FaultsTestCase):
     def kill(self, name):
         process = self.desktop.process(name)
@@ -333,7 +288,7 @@ class GoneServices(FaultsTestCase):
         self.start()
         self.kill("dbus")
         self.assert_goes_on()
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1))
+        self.assertTrue(holds_for(lambda: self.prompter.running, 0.3))
         self.assert_quits()
         self.assertEqual(self.event_names()[-1], "app_terminate")
 

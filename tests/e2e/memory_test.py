@@ -26,7 +26,7 @@ class Memory(TessalineTestCase):
 
     def expect_little(self):
         """Looks a little longer: the file is read again every second."""
-        self.assertTrue(holds_for(lambda: self.peak() < MOST_KIB, 3), f"{self.peak()} KiB")
+        self.assertTrue(holds_for(lambda: self.peak() < MOST_KIB, 2.2), f"{self.peak()} KiB")
 
     def test_a_content_file_of_fifty_megabytes_takes_four_hundred_at_most(self):
         lines = CONTENT_SIZE // len(LINE)

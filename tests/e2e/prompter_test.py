@@ -17,6 +17,7 @@ CLOSE = (LEFT + 16, STRIP_MIDDLE)
 MINIMIZE = (LEFT + 36, STRIP_MIDDLE)
 ELSEWHERE = (200, 600)
 BLACK = (0, 0, 0)
+A_READ = 1.2  # seconds, in which a file that is read every second is read
 
 
 class PrompterTestCase(TessalineTestCase):
@@ -133,23 +134,23 @@ class ObsidianContent(PrompterTestCase):
         self.wait_for_text()
         before = self.text_pixels()
         self.content.unlink()
-        self.assertTrue(holds_for(lambda: self.text_pixels() == before, 2.5))
+        self.assertTrue(holds_for(lambda: self.text_pixels() == before, A_READ))
 
     def test_survives_anything_in_the_files_place(self):
         self.content.write_text("# First")
         self.start()
         self.wait_for_text()
         self.content.write_bytes(b"\xff\xfe not utf-8 \x80")
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.assertTrue(holds_for(lambda: self.prompter.running, A_READ))
         self.content.unlink()
         self.content.mkdir()
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.assertTrue(holds_for(lambda: self.prompter.running, A_READ))
         self.content.rmdir()
         self.content.symlink_to("nowhere")
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.assertTrue(holds_for(lambda: self.prompter.running, A_READ))
         self.content.unlink()
         os.mkfifo(self.content)
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1.2))
+        self.assertTrue(holds_for(lambda: self.prompter.running, A_READ))
         self.content.unlink()
         before = self.text_pixels()
         self.content.write_text("# Second")
@@ -215,7 +216,7 @@ class Use(PrompterTestCase):
         self.desktop.click(*button)
         wait_until(lambda: not self.settings()["autoScrollEnabled"], "auto-scroll is off")
         before = self.text_pixels()
-        self.assertTrue(holds_for(lambda: self.text_pixels() == before, 1))
+        self.assertTrue(holds_for(lambda: self.text_pixels() == before, 0.5))
 
     def test_collapses_into_the_panels_strip_and_comes_back(self):
         self.desktop.click(*MINIMIZE)

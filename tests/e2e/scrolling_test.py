@@ -8,7 +8,7 @@ from settings_case import HEIGHT, TITLE, WIDTH
 from talk_case import PROMPTER, TalkTestCase, talk
 
 TOP_SPEED = {"slow": 9.6, "medium": 12.8, "fast": 19.2}  # points a second
-MEASURED_POINTS = 20
+MEASURED_POINTS = 12
 
 
 class ScrollingTestCase(TalkTestCase):

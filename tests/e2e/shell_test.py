@@ -5,7 +5,6 @@ import unittest
 
 from harness import TessalineTestCase, wait_until
 from harness.tessaline import PROMPTER, SETTINGS, WELCOME
-from harness.waiting import holds_for
 
 SCREEN = (1280, 1024)
 LEFT = (SCREEN[0] - 450) // 2
@@ -71,7 +70,7 @@ class StatusItem(ShellTestCase):
         self.start()
         self.desktop.click(*CLOSE)
         self.wait_for_prompter(shown=False)
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1))
+        self.assertFalse(self.status()["visible"], "it goes on")
         self.choose("Show Tessaline")
         self.wait_for_prompter()
         window = self.desktop.wait_for_window(PROMPTER, self.prompter.pid)
@@ -154,7 +153,7 @@ class Buttons(ShellTestCase):
         window = self.wait_for_settings()
         self.desktop.hands("windowclose", window)
         wait_until(lambda: not self.settings_are_open(), "the settings are closed")
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1))
+        self.assertTrue(self.status()["visible"], "it goes on")
 
 
 class FirstStart(ShellTestCase):
@@ -165,7 +164,8 @@ class FirstStart(ShellTestCase):
 
     def test_greets_first_and_shows_the_prompter_when_the_window_is_closed(self):
         self.start_first()
-        self.assertTrue(holds_for(lambda: not self.prompter_is_shown(), 1))
+        self.assertFalse(self.status()["visible"])
+        self.assertFalse(self.prompter_is_shown())
         self.close_welcome()
         self.wait_for_prompter()
         self.assertEqual(self.desktop.windows(WELCOME, self.prompter.pid), [])

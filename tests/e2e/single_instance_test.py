@@ -7,7 +7,6 @@ import stat
 import unittest
 
 from harness import TessalineTestCase, wait_until
-from harness.waiting import holds_for
 
 
 class SingleInstance(TessalineTestCase):
@@ -75,7 +74,7 @@ class SingleInstance(TessalineTestCase):
         self.wait_for_prompter()
         ended = [program.wait() for program in programs if program is not self.prompter]
         self.assertEqual(ended, [0] * 7)
-        self.assertTrue(holds_for(lambda: self.prompter.running, 1))
+        self.assertTrue(self.status()["visible"])
 
     def test_nobody_else_can_reach_it(self):
         self.start()

@@ -33,7 +33,7 @@ class StatusNotifier(TessalineTestCase):
         self.assertFalse(item["ItemIsMenu"], "a click is not for the menu")
         self.assertTrue(item["IconPixmap"] or item["IconName"], item)
         self.assertTrue(all(icon["isDrawn"] for icon in item["IconPixmap"]), item["IconPixmap"])
-        self.assertTrue(holds_for(lambda: len(self.area.items()) == 1, 1), self.area.items())
+        self.assertTrue(holds_for(lambda: len(self.area.items()) == 1, 0.3), self.area.items())
         self.assertNotIn("tray", self.prompter.stderr())
 
     def test_has_the_menu(self):

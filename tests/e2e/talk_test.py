@@ -16,7 +16,7 @@ class FirstTalk(TalkTestCase):
     first_run = True
 
     def test_goes_from_the_first_start_to_the_last_line(self):
-        text = talk(8)
+        text = talk(7)
         self.start_first()
         self.press("Welcome to Tessaline", "Get Started")
         self.wait_for_prompter()
@@ -33,7 +33,7 @@ class FirstTalk(TalkTestCase):
         bar = self.bar_rows()
         self.assertGreater(len(bar), 10, "the last line is seen")
         self.assertLess(bar[-1], self.script().area[3] - 1, "wholly")
-        self.assertTrue(holds_for(lambda: self.status()["autoScroll"] and self.is_at_the_end(), 1))
+        self.assertTrue(holds_for(lambda: self.status()["autoScroll"] and self.is_at_the_end(), 0.5))
         self.assertEqual(self.bar_rows(), bar)
 
     def is_at_the_end(self):
