@@ -17,6 +17,12 @@ class CleanStop(TessalineTestCase):
         self.assertIn("app_launch", names)
         self.assertEqual(self.socket_files(), [])
 
+    def end_display(self, number=signal.SIGKILL):
+        # Once the program has answered: the toolkit does not survive to lose a server whose first news
+        # of its screens it is about to handle.
+        self.status()
+        self.desktop.process("xvfb").send(number)
+
     def test_signals_end_it(self):
         for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
             with self.subTest(number):
@@ -69,7 +75,7 @@ class CleanStop(TessalineTestCase):
                 self.write_settings()
                 self.start()
                 before = self.settings()
-                self.desktop.process("xvfb").send(number)
+                self.end_display(number)
                 self.assertEqual(self.prompter.wait(3), 1)
                 names = self.event_names()
                 self.assertEqual(names.count("app_launch"), 1, names)
@@ -79,7 +85,7 @@ class CleanStop(TessalineTestCase):
 
     def test_the_end_of_its_display_is_no_obstacle_to_the_next_start(self):
         self.start()
-        self.desktop.process("xvfb").send(signal.SIGKILL)
+        self.end_display()
         self.prompter.wait(3)
         home = self.desktop.home
         self.desktop = self.start_desktop(**self.desktop_options)
@@ -93,7 +99,7 @@ class CleanStop(TessalineTestCase):
         self.write_settings(hasCompletedOnboarding=False)
         self.prompter = self.start_tessaline()
         self.desktop.wait_for_window("Welcome", self.prompter.pid)
-        self.desktop.process("xvfb").send(signal.SIGKILL)
+        self.end_display()
         self.assertEqual(self.prompter.wait(3), 1)
         self.assertEqual(self.event_names()[-1], "app_terminate")
         self.assertFalse(self.settings()["hasCompletedOnboarding"])
