@@ -3,10 +3,11 @@
 #include "Samples.h"
 #include "Verdicts.h"
 
+#include "platform/MainQueue.h"
+#include "platform/TaskRunner.h"
 #include "prompter/view/ScriptView.h"
-#include "reading/MarkdownScript.h"
+#include "reading/ContentRenderer.h"
 #include "reading/ReadingSession.h"
-#include "render/markdown/MarkdownRenderer.h"
 #include "settings/PersistedSettings.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -18,14 +19,14 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using tessaline::MarkdownRenderer;
-using tessaline::Script;
 using tessaline::ScriptView;
 using tessaline::threadMilliseconds;
 using tessaline::Verdicts;
@@ -47,13 +48,23 @@ public:
 
     /// Everything from a text's arrival to pixels that are ready to be seen.
     void show(const QString& markdown) {
-        benchmark::DoNotOptimize(MarkdownRenderer::wordCount(markdown));
-        session->setContent({std::make_shared<const tessaline::Script>(
-            tessaline::markdownScript(markdown, fontSize))});
+        benchmark::DoNotOptimize(arriving.count(markdown));
+        renderer.render(markdown, [this](tessaline::RenderedContent content) {
+            session->setContent(std::move(content));
+        });
         view.repaint();
     }
 
 private:
+    /// For what is too long to be rendered at once, which no text here is.
+    struct NoTasks : tessaline::TaskRunner, tessaline::MainQueue {
+        void run(std::function<void()>) override {}
+        void post(std::function<void()>) override {}
+    };
+
+    NoTasks none;
+    tessaline::ContentRenderer renderer{none, none};
+    tessaline::WordTally arriving; ///< the source manager's
     tessaline::PersistedSettings settings;
     std::shared_ptr<tessaline::ReadingSession> session =
         std::make_shared<tessaline::ReadingSession>(settings);

@@ -3,7 +3,6 @@
 #include "platform/MainQueue.h"
 #include "platform/TaskRunner.h"
 #include "reading/MarkdownScript.h"
-#include "render/markdown/MarkdownRenderer.h"
 
 #include <memory>
 #include <utility>
@@ -14,10 +13,17 @@ namespace {
 
 constexpr double fontSize = 16.0;
 
-RenderedContent rendered(const QString& markdown, const Script* before) {
+RenderedContent rendered(const QString& markdown, const Script* before, WordTally& words) {
     return {std::make_shared<const Script>(markdownScript(markdown, fontSize, before)),
-            MarkdownRenderer::wordCount(markdown)};
+            words.count(markdown)};
 }
+
+/// What a task in the background takes along and brings back.
+struct Rendering {
+    std::shared_ptr<const Script> before;
+    WordTally words;
+    RenderedContent content;
+};
 
 } // namespace
 
@@ -27,21 +33,27 @@ ContentRenderer::ContentRenderer(TaskRunner& taskRunner, MainQueue& mainQueue)
 void ContentRenderer::cancel() {
     request.reset();
     last.reset();
+    words = {};
 }
 
 void ContentRenderer::render(const QString& markdown, Handler done) {
     request.emplace();
-    const auto deliver = request->guard([this, done = std::move(done)](RenderedContent content) {
-        last = content.script;
-        done(std::move(content));
+    const auto deliver = request->guard([this, done = std::move(done)](Rendering task) {
+        last = task.content.script;
+        words = std::move(task.words);
+        done(std::move(task.content));
     });
-    if (markdown.size() <= mostRenderedAtOnce) return deliver(rendered(markdown, last.get()));
+    if (markdown.size() <= mostRenderedAtOnce) {
+        RenderedContent content = rendered(markdown, last.get(), words);
+        return deliver(Rendering{nullptr, std::move(words), std::move(content)});
+    }
 
-    tasks.run([markdown, deliver, before = last, &mainQueue = queue]() mutable {
+    auto task = std::make_shared<Rendering>(Rendering{last, words, {}});
+    tasks.run([markdown, deliver, task, &mainQueue = queue] {
         if (!deliver.isAlive()) return;
-        auto content = std::make_shared<RenderedContent>(rendered(markdown, before.get()));
-        before.reset();
-        mainQueue.post([content, deliver] { deliver(std::move(*content)); });
+        task->content = rendered(markdown, task->before.get(), task->words);
+        task->before.reset();
+        mainQueue.post([task, deliver] { deliver(std::move(*task)); });
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Lifetime.h"
 #include "reading/Script.h"
+#include "render/markdown/WordTally.h"
 
 #include <QString>
 
@@ -43,8 +44,11 @@ public:
 private:
     TaskRunner& tasks;
     MainQueue& queue;
-    std::optional<Lifetime> request;    ///< until another text is asked for
-    std::shared_ptr<const Script> last; ///< which the next one is likely to be a version of
+    std::optional<Lifetime> request; ///< until another text is asked for
+
+    /// Of the last text, which the next one is likely to be a version of.
+    std::shared_ptr<const Script> last;
+    WordTally words;
 };
 
 } // namespace tessaline

@@ -2,6 +2,7 @@
 
 #include "reading/MarkdownText.h"
 #include "reading/ParagraphCutter.h"
+#include "render/CommonEnds.h"
 #include "render/markdown/MarkdownLine.h"
 #include "render/markdown/MarkdownRenderer.h"
 
@@ -28,8 +29,8 @@ public:
         : content(markdown.left(StyledText::longest))
         , renderer(beforeText.rendererCopy())
         , before(&beforeScript)
-        , beforeSource(&beforeText) {
-        compare();
+        , beforeSource(&beforeText)
+        , common(CommonEnds::of(content, beforeText.markdown())) {
         takeBeginning();
     }
 
@@ -38,7 +39,7 @@ public:
             addNextLine();
         Script script;
         script.paragraphs = std::move(cutter.paragraphs);
-        script.styles = renderer.styles();
+        script.styles = renderer.current().styles;
         script.fontSize = renderer.fontSize();
         auto text = std::make_shared<MarkdownText>(content, renderer);
         text->longLines = std::move(longLines);
@@ -47,14 +48,13 @@ public:
     }
 
 private:
-    void compare();
     void takeBeginning();
     bool takeEnd();
     void copy(std::size_t first, std::size_t last, qsizetype originShift);
     void addNextLine();
     void addFence();
     void addLine(QStringView line);
-    void addParagraph(const StyledFragment& line, qsizetype origin, int newlineStyle);
+    void addParagraph(const StyledText& line, qsizetype origin, int newlineStyle);
     void joinCode();
     void finish(bool endsWithLine);
 
@@ -68,25 +68,13 @@ private:
 
     const Script* before = nullptr;
     const MarkdownText* beforeSource = nullptr;
-    qsizetype commonBeginning = 0;
-    qsizetype commonEnd = 0;
+    CommonEnds common;
 };
-
-void ScriptMaker::compare() {
-    const QStringView mine(content);
-    const QStringView its(beforeSource->markdown());
-    const qsizetype shorter = std::min(mine.size(), its.size());
-    commonBeginning =
-        std::mismatch(mine.begin(), mine.begin() + shorter, its.begin()).first - mine.begin();
-    const qsizetype rest = shorter - commonBeginning;
-    commonEnd =
-        std::mismatch(mine.rbegin(), mine.rbegin() + rest, its.rbegin()).first - mine.rbegin();
-}
 
 /// Takes over the paragraphs whose lines are the same, newlines included.
 void ScriptMaker::takeBeginning() {
     const qsizetype firstOther =
-        commonBeginning == 0 ? 0 : content.lastIndexOf(u'\n', commonBeginning - 1) + 1;
+        common.beginning == 0 ? 0 : content.lastIndexOf(u'\n', common.beginning - 1) + 1;
     const auto end =
         std::ranges::lower_bound(before->paragraphs, firstOther, {}, &ScriptParagraph::origin);
     copy(0, std::size_t(end - before->paragraphs.begin()), 0);
@@ -101,7 +89,7 @@ void ScriptMaker::takeBeginning() {
 
 /// Takes over the remaining paragraphs, if they are the same from this line on.
 bool ScriptMaker::takeEnd() {
-    if (!before || position <= content.size() - commonEnd) return false;
+    if (!before || position <= content.size() - common.end) return false;
     const auto shift = content.size() - beforeSource->markdown().size();
     const auto same = std::ranges::lower_bound(before->paragraphs, position - shift, {},
                                                &ScriptParagraph::origin);
@@ -162,14 +150,14 @@ void ScriptMaker::joinCode() {
         cutter.paragraphs.back().style = renderer.codeStyle();
 }
 
-void ScriptMaker::addParagraph(const StyledFragment& line, qsizetype origin, int newlineStyle) {
+void ScriptMaker::addParagraph(const StyledText& line, qsizetype origin, int newlineStyle) {
     const ScriptParagraph like{.origin = int(origin), .style = newlineStyle, .fence = fence};
     const std::size_t first = cutter.paragraphs.size();
-    if (!cutter.append(line, like)) {
+    if (!cutter.append(line.text, line.runs, like)) {
         isDone = true;
     } else if (cutter.paragraphs.size() > first + 1) {
         longLines[like.origin] = {cutter.paragraphs[first].start,
-                                  std::make_shared<const StyledFragment>(line)};
+                                  std::make_shared<const StyledFragment>(copyOf(line))};
     }
 }
 

@@ -12,29 +12,33 @@ DocumentRenderer MarkdownText::rendererCopy() const {
     return renderer;
 }
 
+StyledFragment copyOf(const StyledText& line) {
+    return {QStringView(line.text).toString(), line.runs};
+}
+
 StyledFragment MarkdownText::paragraph(const ScriptParagraph& paragraph) const {
     if (!paragraph.isWholeLine()) {
         const auto& [start, line] = longLines.at(paragraph.origin);
         return fragmentOf(line->text, line->runs, paragraph.start - start, paragraph.length);
     }
     const std::scoped_lock lock(mutex);
-    return renderLine(renderer, lineAt(content, paragraph.origin),
-                      paragraph.fence != ScriptParagraph::Fence::outside);
+    return copyOf(renderLine(renderer, lineAt(content, paragraph.origin),
+                             paragraph.fence != ScriptParagraph::Fence::outside));
 }
 
 std::optional<QStringView> MarkdownText::originOf(const ScriptParagraph& paragraph) const {
     return lineAt(content, paragraph.origin);
 }
 
-StyledFragment renderLine(DocumentRenderer& renderer, QStringView line, bool isCode) {
+const StyledText& renderLine(DocumentRenderer& renderer, QStringView line, bool isCode) {
+    renderer.clear();
     if (isCode) {
         renderer.appendCode(line);
     } else {
         renderer.appendLine(line);
     }
-    StyledFragment rendered = renderer.takeFragment();
-    removeCarriageReturns(rendered.text, rendered.runs);
-    return rendered;
+    renderer.removeCarriageReturns();
+    return renderer.current();
 }
 
 QStringView lineAt(QStringView text, qsizetype begin) {

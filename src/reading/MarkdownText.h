@@ -37,8 +37,12 @@ private:
     mutable DocumentRenderer renderer;
 };
 
-/// Renders a line as it stands in the script: without carriage returns.
-StyledFragment renderLine(DocumentRenderer& renderer, QStringView line, bool isCode);
+/// Renders a line as it stands in the script: without carriage returns. The result is valid until
+/// the next one.
+const StyledText& renderLine(DocumentRenderer& renderer, QStringView line, bool isCode);
+
+/// A rendered line for keeps.
+StyledFragment copyOf(const StyledText& line);
 
 /// The line of a text that begins at an offset, without its newline.
 QStringView lineAt(QStringView text, qsizetype begin);

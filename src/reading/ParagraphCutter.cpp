@@ -24,23 +24,24 @@ qsizetype ParagraphCutter::nextStart() const {
     return qsizetype(last.start) + last.length + (last.continuesInNext ? 0 : 1);
 }
 
-bool ParagraphCutter::append(const StyledFragment& line, ScriptParagraph like) {
+bool ParagraphCutter::append(QStringView line, const std::vector<StyledText::Run>& runs,
+                             ScriptParagraph like) {
     const qsizetype lineStart = nextStart();
-    if (line.text.size() > StyledText::longest - lineStart) return false;
-    auto run = line.runs.begin();
+    if (line.size() > StyledText::longest - lineStart) return false;
+    auto run = runs.begin();
     qsizetype start = 0;
     do {
-        const qsizetype end = pieceEnd(line.text, start);
-        while (run != line.runs.end() && run->start + run->length <= start)
+        const qsizetype end = pieceEnd(line, start);
+        while (run != runs.end() && run->start + run->length <= start)
             ++run;
         like.start = int(lineStart + start);
         like.length = int(end - start);
-        if (run != line.runs.end()) like.style = run->style;
+        if (run != runs.end()) like.style = run->style;
         like.continuesPrevious = start > 0;
-        like.continuesInNext = end < line.text.size();
+        like.continuesInNext = end < line.size();
         paragraphs.push_back(like);
         start = end;
-    } while (start < line.text.size());
+    } while (start < line.size());
     return true;
 }
 

@@ -15,7 +15,7 @@ public:
 
     /// Adds a line without its newline. `like` says where it comes from, and the style of the
     /// newline. False, and nothing is added, where it would make the text longer than one may be.
-    bool append(const StyledFragment& line, ScriptParagraph like);
+    bool append(QStringView line, const std::vector<StyledText::Run>& runs, ScriptParagraph like);
 
     /// Adds paragraphs of another list, whose lines now begin so much later in their source.
     void copy(const ScriptParagraph* from, const ScriptParagraph* to, int originShift);

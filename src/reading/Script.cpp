@@ -33,14 +33,15 @@ int newlineStyle(const StyledText& styled, qsizetype offset) {
 Script::Script() : Script(StyledText{}) {}
 
 Script::Script(StyledText styled) : styles(styled.styles), fontSize(styled.fontSize) {
-    removeCarriageReturns(styled.text, styled.runs);
+    removeCarriageReturns(styled);
     const QStringView text(styled.text);
     ParagraphCutter cutter;
     cutter.paragraphs.reserve(std::size_t(text.count(u'\n')) + 1);
     for (qsizetype start = 0; start <= text.size();) {
         const qsizetype newline = text.indexOf(u'\n', start);
         const qsizetype end = newline < 0 ? text.size() : newline;
-        cutter.append(fragmentOf(text, styled.runs, start, end - start),
+        const StyledFragment line = fragmentOf(text, styled.runs, start, end - start);
+        cutter.append(line.text, line.runs,
                       {.style = start == end ? newlineStyle(styled, end) : -1});
         start = end + 1;
     }

@@ -1,7 +1,6 @@
 #include "reading/ScriptSource.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tessaline {
 
@@ -21,24 +20,6 @@ StyledFragment fragmentOf(QStringView text, const std::vector<StyledText::Run>& 
         fragment.runs.push_back({int(from - begin), int(to - from), run->style});
     }
     return fragment;
-}
-
-void removeCarriageReturns(QString& text, std::vector<StyledText::Run>& runs) {
-    if (!text.contains(u'\r')) return;
-    QString kept;
-    kept.reserve(text.size());
-    std::vector<StyledText::Run> keptRuns;
-    keptRuns.reserve(runs.size());
-    for (const auto& run : runs) {
-        const qsizetype start = kept.size();
-        for (const QChar c : QStringView(text).sliced(run.start, run.length)) {
-            if (c != u'\r') kept += c;
-        }
-        if (kept.size() > start)
-            keptRuns.push_back({int(start), int(kept.size() - start), run.style});
-    }
-    text = std::move(kept);
-    runs = std::move(keptRuns);
 }
 
 } // namespace tessaline

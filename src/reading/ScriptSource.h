@@ -42,7 +42,4 @@ public:
 StyledFragment fragmentOf(QStringView text, const std::vector<StyledText::Run>& runs,
                           qsizetype begin, qsizetype length);
 
-/// Takes out the carriage returns, which neither show nor cost a line.
-void removeCarriageReturns(QString& text, std::vector<StyledText::Run>& runs);
-
 } // namespace tessaline

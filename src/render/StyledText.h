@@ -33,6 +33,9 @@ struct StyledText {
     const TextAttributes& attributes(const Run& run) const { return styles[run.style]; }
 };
 
+/// Takes out the carriage returns, which neither show nor cost a line.
+void removeCarriageReturns(StyledText& styled);
+
 /// A piece of a styled text, such as a line. Its runs begin at 0, cover it without gaps and have
 /// the whole text's styles.
 struct StyledFragment {

@@ -2,7 +2,6 @@
 
 #include "analytics/UsageRecorder.h"
 #include "platform/NotificationCenter.h"
-#include "render/markdown/MarkdownRenderer.h"
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"
 #include "sources/notes/AppleNotesSource.h"
@@ -91,7 +90,7 @@ void SourceManager::updateAppleNotesConfig(const std::optional<AppleNotesConfigu
 void SourceManager::handleContentUpdate(const QString& text) {
     // A pasted text comes twice, and may be a long one.
     const bool isCounted = text.constData() == content.constData() && text.size() == content.size();
-    if (!isCounted) wordCount = MarkdownRenderer::wordCount(text);
+    if (!isCounted) wordCount = words.count(text);
     content = text;
     recorder.trackContentLoaded(settings.activeSourceType(), wordCount);
     notifications.post({contentDidUpdateNotification(), this, {{u"content"_s, text}}});

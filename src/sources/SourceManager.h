@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Lifetime.h"
+#include "render/markdown/WordTally.h"
 #include "settings/AppleNotesConfiguration.h"
 #include "settings/SourceType.h"
 #include "sources/ContentSource.h"
@@ -92,6 +93,7 @@ private:
     ContentSource* active = nullptr;
     QString content;
     qsizetype wordCount = 0; ///< of `content`
+    WordTally words;
     Lifetime lifetime;
 };
 

@@ -1,6 +1,7 @@
 #include "render/markdown/CountablePieces.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace tessaline {
 
@@ -13,25 +14,28 @@ bool mayBeginPiece(char16_t c) {
            c == u'-' || c == u'+' || c == u'#' || c == u'>';
 }
 
+constexpr qsizetype stretch = 32;
+
+/// Whether one of the next `stretch` characters is more than a part of a word. The loop has a fixed
+/// length and no exit, so that the compiler vectorises it.
+bool hasSyntax(const char16_t* characters) {
+    std::uint16_t found = 0; // as wide as the characters, for the same reason
+    for (qsizetype i = 0; i < stretch; ++i) {
+        const char16_t c = characters[i];
+        found |=
+            std::uint16_t((c == u'[') | (c == u']') | (c == u'(') | (c == u')') | (c == u'\n'));
+    }
+    return found != 0;
+}
+
 } // namespace
 
-CountablePieces::CountablePieces(QStringView whole, qsizetype shortestPiece)
-    : text(whole), shortest(shortestPiece) {}
-
-QStringView CountablePieces::next() {
-    const qsizetype start = begin;
-    const bool isLast = text.size() - start <= 2 * shortest;
-    if (isLast) begin = text.size();
-    while (begin < text.size()) {
-        pass(text[begin++].unicode());
-        if (begin - start >= shortest && mayCutBefore(begin)) break;
-    }
-    return text.sliced(start, begin - start);
-}
+CountablePieces::CountablePieces(QStringView whole, qsizetype shortestPiece, qsizetype from)
+    : text(whole), shortest(shortestPiece), begin(from) {}
 
 /// Brackets within what may be a target are gone if it is one: there, they only ever keep pieces
 /// together.
-void CountablePieces::pass(char16_t character) {
+inline void CountablePieces::pass(char16_t character) {
     switch (character) {
     case u'[':
         ++openBrackets; // and if it goes, a parenthesis behind it comes next to the one before it
@@ -57,9 +61,35 @@ void CountablePieces::pass(char16_t character) {
     }
 }
 
-bool CountablePieces::mayCutBefore(qsizetype position) const {
-    return position < text.size() && openBrackets == 0 && !openTarget && !closedBracket &&
-           text[position - 1] == u'\n' && mayBeginPiece(text[position].unicode());
+QStringView CountablePieces::next(qsizetype goal) {
+    const qsizetype start = begin;
+    const bool isLast = goal == text.size() && text.size() - start <= 2 * shortest;
+    if (isLast) begin = text.size();
+    while (begin < text.size()) {
+        const qsizetype end = std::min(begin + stretch, text.size());
+        if (!closedBracket && end - begin == stretch && !hasSyntax(text.utf16() + begin)) {
+            begin = end;
+        } else if (passUntil(end, goal, start + shortest)) {
+            break;
+        }
+    }
+    return text.sliced(start, begin - start);
+}
+
+/// Stops and returns true where a piece ends that may from `least` on.
+bool CountablePieces::passUntil(qsizetype end, qsizetype goal, qsizetype least) {
+    while (begin < end) {
+        const char16_t character = text[begin++].unicode();
+        pass(character);
+        if (character == u'\n' && (begin == goal || begin >= least) && mayCutHere()) return true;
+    }
+    return false;
+}
+
+/// At the beginning of a line.
+bool CountablePieces::mayCutHere() const {
+    return begin < text.size() && openBrackets == 0 && !openTarget && !closedBracket &&
+           mayBeginPiece(text[begin].unicode());
 }
 
 } // namespace tessaline

@@ -9,17 +9,22 @@ namespace tessaline {
 class CountablePieces {
 public:
     /// Pieces have at least so many UTF-16 units, and as many more as it takes to find a line that
-    /// may begin the next one.
-    CountablePieces(QStringView text, qsizetype shortest);
+    /// may begin the next one. The first one begins at `from`, where one may.
+    CountablePieces(QStringView text, qsizetype shortest, qsizetype from = 0);
 
     bool isAtEnd() const { return begin == text.size(); }
 
-    /// The next piece, empty at the end.
-    QStringView next();
+    /// Where the next piece begins.
+    qsizetype position() const { return begin; }
+
+    /// The next piece, empty at the end. It ends at `goal` if it may, however short it is then.
+    QStringView next(qsizetype goal);
+    QStringView next() { return next(text.size()); }
 
 private:
     void pass(char16_t character);
-    bool mayCutBefore(qsizetype position) const;
+    bool passUntil(qsizetype end, qsizetype goal, qsizetype least);
+    bool mayCutHere() const;
 
     QStringView text;
     qsizetype shortest;

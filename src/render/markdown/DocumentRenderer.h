@@ -28,11 +28,13 @@ public:
 
     StyledText take();
 
-    /// What was appended since the last time. A line has the same styles each time it is rendered.
-    StyledFragment takeFragment() { return builder.takeFragment(); }
+    /// What was appended since the last `clear`, with the styles of all that was before. A line has
+    /// the same styles each time it is rendered.
+    const StyledText& current() const { return builder.current(); }
+    void removeCarriageReturns() { builder.removeCarriageReturns(); }
+    void clear() { builder.clear(); }
 
-    /// The styles met so far, and those of a plain newline and of code among them.
-    const std::vector<TextAttributes>& styles() const { return builder.styles(); }
+    /// The styles of a plain newline and of code.
     int plainStyle() const { return plainIndex; }
     int codeStyle();
 

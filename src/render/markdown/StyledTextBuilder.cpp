@@ -56,8 +56,9 @@ StyledText StyledTextBuilder::take() {
     return std::exchange(result, {});
 }
 
-StyledFragment StyledTextBuilder::takeFragment() {
-    return {std::exchange(result.text, {}), std::exchange(result.runs, {})};
+void StyledTextBuilder::clear() {
+    result.text.resize(0); // unlike clear(), keeps the memory
+    result.runs.clear();
 }
 
 } // namespace tessaline

@@ -25,10 +25,14 @@ public:
     /// Hands the text over; the builder is spent afterwards.
     StyledText take();
 
-    /// Hands over what was appended since the last time, and keeps the attributes.
-    StyledFragment takeFragment();
+    /// What was appended since the last `clear`.
+    const StyledText& current() const { return result; }
 
-    const std::vector<TextAttributes>& styles() const { return result.styles; }
+    /// Takes the carriage returns out of it.
+    void removeCarriageReturns() { tessaline::removeCarriageReturns(result); }
+
+    /// Forgets what was appended, and keeps the attributes.
+    void clear();
 
 private:
     struct Hash {
