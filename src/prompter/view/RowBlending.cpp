@@ -4,8 +4,8 @@
 
 namespace tessaline {
 
-void blendRows(const std::uint8_t* upper, const std::uint8_t* lower, unsigned lowerWeight,
-               std::uint8_t* out, std::size_t count) {
+WIDEST_VECTORS void blendRows(const std::uint8_t* upper, const std::uint8_t* lower,
+                              unsigned lowerWeight, std::uint8_t* out, std::size_t count) {
     if (lowerWeight == 0 || lowerWeight == wholeRow) {
         std::memcpy(out, lowerWeight == 0 ? upper : lower, count);
         return;

@@ -2,7 +2,6 @@
 
 #include "prompter/controls/ThemedScroller.h"
 #include "prompter/view/PreciseScrolling.h"
-#include "prompter/view/RowBlending.h"
 #include "prompter/view/ScriptViewAccessible.h"
 #include "reading/ReadingSession.h"
 
@@ -235,7 +234,7 @@ bool ScriptView::keepPlaceDuring(Action action) {
 /// Lays out all that the strips of the next frame show, so that drawing them changes no height.
 void ScriptView::measureVisible() {
     constexpr int mostPasses = 4; // each may bring unmeasured paragraphs into sight
-    const double ratio = frame.devicePixelRatio();
+    const double ratio = pixelRatio();
     const double strip = StripCache::rowsPerStrip / ratio;
     for (int pass = 0; pass < mostPasses && !layout.isMeasured(); ++pass) {
         const double top = std::floor(scrollTop / strip) * strip - verticalInset;
@@ -253,7 +252,7 @@ void ScriptView::timerEvent(QTimerEvent* event) {
     if (!layout.isMeasured()) return continueLayout();
     idleTimer.stop();
     const auto top = qsizetype(scrollTop * devicePixelRatioF());
-    strips.prepare(top + frame.height() + StripCache::rowsPerStrip / 2);
+    strips.prepare(top + composer.frame().height() + StripCache::rowsPerStrip / 2);
     strips.prepare(top - StripCache::rowsPerStrip / 2);
 }
 
@@ -283,31 +282,18 @@ void ScriptView::resizeEvent(QResizeEvent*) {
 void ScriptView::sizeFrame() {
     const double ratio = devicePixelRatioF();
     const QSize pixels(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
+    const QImage& frame = composer.frame();
     if (frame.size() == pixels && frame.devicePixelRatio() == ratio) return;
-    frame = QImage(pixels, QImage::Format_RGB32);
-    frame.setDevicePixelRatio(ratio);
+    composer.resize(pixels, ratio);
     strips.resize(pixels.width(), pixels.height(), ratio);
 }
 
 void ScriptView::paintEvent(QPaintEvent*) {
     sizeFrame(); // the screen, and with it the pixel ratio, may be another one now
-    if (frame.isNull()) return;
+    if (composer.frame().isNull()) return;
     measureVisible();
-    keepPlaceDuring([this] { composeFrame(); });
-    QPainter(this).drawImage(QPointF(0, 0), frame);
-}
-
-void ScriptView::composeFrame() {
-    const double firstRow = scrollTop * frame.devicePixelRatio();
-    auto row = qsizetype(std::floor(firstRow));
-    const auto lowerWeight = unsigned(std::lround((firstRow - double(row)) * wholeRow));
-    const auto bytes = std::size_t(frame.width()) * 4;
-    const std::uint8_t* upper = strips.row(row);
-    for (int y = 0; y < frame.height(); ++y) {
-        const std::uint8_t* lower = strips.row(++row);
-        blendRows(upper, lower, lowerWeight, frame.scanLine(y), bytes);
-        upper = lower;
-    }
+    keepPlaceDuring([this] { composer.compose(strips, scrollTop * pixelRatio()); });
+    QPainter(this).drawImage(QPointF(0, 0), composer.frame());
 }
 
 void ScriptView::setSelection(const TextSelection& selection) {
@@ -332,7 +318,7 @@ void ScriptView::invalidateBetween(qsizetype offset, qsizetype other) {
     if (offset == other) return;
     const double top = caretRect(std::min(offset, other)).top() + scrollTop;
     const double bottom = caretRect(std::max(offset, other)).bottom() + scrollTop;
-    const double ratio = frame.devicePixelRatio();
+    const double ratio = pixelRatio();
     strips.invalidateRows(qsizetype(std::floor(top * ratio)), qsizetype(std::ceil(bottom * ratio)));
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "prompter/layout/ScriptLayout.h"
+#include "prompter/view/FrameComposer.h"
 #include "prompter/view/ScriptInteraction.h"
 #include "prompter/view/StripCache.h"
 #include "prompter/view/TextSelection.h"
 #include "reading/ReadingView.h"
 
 #include <QBasicTimer>
-#include <QImage>
 #include <QWidget>
 
 #include <memory>
@@ -117,14 +117,14 @@ private:
     double positionOfParagraph(std::size_t paragraph) const;
     void goByHand(std::size_t paragraph);
     void sizeFrame();
-    void composeFrame();
+    double pixelRatio() const { return composer.frame().devicePixelRatio(); }
     void updateScroller();
     void invalidateBetween(qsizetype offset, qsizetype other);
 
     std::shared_ptr<ReadingSession> session;
     ScriptLayout layout;
     StripCache strips;
-    QImage frame;
+    FrameComposer composer;
     ThemedScroller* scroller;
     ScriptInteraction interaction;
     TextSelection currentSelection;

@@ -8,6 +8,21 @@
 
 namespace tessaline {
 
+namespace {
+
+PixelRange seenPixels(const QImage& image, int row) {
+    const auto* pixels = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+    const auto isSeen = [](QRgb pixel) { return pixel != blackPixel; };
+    const auto* end = pixels + image.width();
+    const auto* first = std::find_if(pixels, end, isSeen);
+    if (first == end) return {};
+    while (!isSeen(end[-1]))
+        --end;
+    return {int(first - pixels), int(end - pixels)};
+}
+
+} // namespace
+
 StripCache::StripCache(Draw drawColumn) : draw(std::move(drawColumn)) {}
 
 void StripCache::resize(int width, int height, double devicePixelRatio) {
@@ -17,7 +32,7 @@ void StripCache::resize(int width, int height, double devicePixelRatio) {
     const int count = height / rowsPerStrip + 2 + 2;
     kept.clear();
     for (int i = 0; i < count; ++i)
-        kept.push_back({-1, QImage(std::max(width, 1), rowsPerStrip, QImage::Format_RGB32)});
+        kept.push_back({-1, QImage(std::max(width, 1), rowsPerStrip, QImage::Format_RGB32), {}});
 }
 
 void StripCache::invalidate() {
@@ -32,9 +47,11 @@ void StripCache::invalidateRows(qsizetype top, qsizetype bottom) {
     }
 }
 
-const std::uint8_t* StripCache::row(qsizetype index) {
+StripCache::Row StripCache::row(qsizetype index) {
     const qsizetype strip = index / rowsPerStrip;
-    return slotOf(strip).image.constScanLine(int(index - strip * rowsPerStrip));
+    const Slot& slot = slotOf(strip);
+    const auto inStrip = int(index - strip * rowsPerStrip);
+    return {slot.image.constScanLine(inStrip), slot.seen[std::size_t(inStrip)]};
 }
 
 bool StripCache::prepare(qsizetype row) {
@@ -72,6 +89,9 @@ void StripCache::drawStrip(Slot& slot, qsizetype strip) {
     painter.scale(pixelRatio, pixelRatio);
     painter.translate(0, -top);
     draw(painter, top, top + rowsPerStrip / pixelRatio);
+    painter.end();
+    for (int row = 0; row < rowsPerStrip; ++row)
+        slot.seen[std::size_t(row)] = seenPixels(slot.image, row);
 }
 
 } // namespace tessaline

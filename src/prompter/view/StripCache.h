@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -9,6 +10,16 @@
 class QPainter;
 
 namespace tessaline {
+
+inline constexpr QRgb blackPixel = 0xff000000;
+
+/// A stretch of a row, in device pixels.
+struct PixelRange {
+    int begin = 0;
+    int end = 0;
+
+    bool isEmpty() const { return begin >= end; }
+};
 
 /// Pictures of a tall column, cut into strips of equal height that are drawn once and kept while
 /// they are near the eye. Rows count device pixels from the column's top. Once it has been sized,
@@ -33,9 +44,14 @@ public:
     /// Forgets the strips between two rows.
     void invalidateRows(qsizetype top, qsizetype bottom);
 
-    /// The pixels of a row, drawn now unless they are kept. Valid until the next call that is not
-    /// for a row of the same screenful.
-    const std::uint8_t* row(qsizetype index);
+    struct Row {
+        const std::uint8_t* pixels;
+        PixelRange seen; ///< what is not black
+    };
+
+    /// A row, drawn now unless it is kept. Valid until the next call that is not for a row of the
+    /// same screenful.
+    Row row(qsizetype index);
 
     /// Draws a strip around this row ahead of time, if it is not kept. Returns whether it drew.
     bool prepare(qsizetype row);
@@ -44,6 +60,7 @@ private:
     struct Slot {
         qsizetype strip = -1;
         QImage image;
+        std::array<PixelRange, rowsPerStrip> seen;
     };
 
     Slot& slotOf(qsizetype strip);

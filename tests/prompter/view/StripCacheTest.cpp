@@ -23,7 +23,7 @@ struct Column {
             painter.fillRect(QRectF(0, y, 10, 1), QColor(0, 0, int(y) % 251));
     }};
 
-    int blueOf(qsizetype row) { return strips.row(row)[0]; }
+    int blueOf(qsizetype row) { return strips.row(row).pixels[0]; }
 };
 
 TEST(StripCache, ShowsEveryRowOfTheColumn) {
@@ -48,7 +48,7 @@ TEST(StripCache, KeepsThePointersOfAScreenfulValid) {
     column.strips.resize(10, 200, 1.0);
     std::vector<const std::uint8_t*> pointers;
     for (int row = 500; row <= 701; ++row)
-        pointers.push_back(column.strips.row(row));
+        pointers.push_back(column.strips.row(row).pixels);
     for (int row = 500; row <= 701; ++row)
         ASSERT_EQ(pointers[std::size_t(row - 500)][0], row % 251);
 }
