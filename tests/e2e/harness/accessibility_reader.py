@@ -59,6 +59,7 @@ class Reader:
         self.bus = Gio.DBusConnection.new_for_address_sync(
             address.unpack()[0], flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION
         )
+        self.applications = {}  # by the number of the process
 
     def ask(self, questions):
         """The answers to questions ((bus name, path), (interface, method, arguments)), in order."""
@@ -87,11 +88,16 @@ class Reader:
         except GLib.Error:
             return None
 
+    def application_of(self, pid):
+        """None while there is none."""
+        if pid not in self.applications:
+            for application in self.ask([(REGISTRY, CHILDREN)])[0]:
+                self.applications[self.process_of(application[0])] = application
+        return self.applications.get(pid)
+
     def windows(self, pid, title=None):
-        found = []
-        for application in self.ask([(REGISTRY, CHILDREN)])[0]:
-            if self.process_of(application[0]) == pid:
-                found += self.ask([(application, CHILDREN)])[0]
+        application = self.application_of(pid)
+        found = self.ask([(application, CHILDREN)])[0] if application else []
         if title is not None:
             names = self.ask([(window, NAME) for window in found])
             found = [window for window, name in zip(found, names) if name == title]
@@ -146,7 +152,8 @@ def main():
         try:
             answer = reader.windows(**json.loads(line))
         except GLib.Error:
-            answer = None  # Windows come and go while they are read.
+            answer = None  # Windows come and go while they are read, and so do programs.
+            reader.applications.clear()
         print(json.dumps(answer), flush=True)
 
 
