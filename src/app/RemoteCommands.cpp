@@ -3,8 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/RemoteControl.h"
 #include "app/ScriptIntake.h"
-#include "platform/MainQueue.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "settings/TextFile.h"
 
 #include <optional>
@@ -15,6 +14,11 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+struct FoundText {
+    std::optional<QString> text;
+    QString problem; ///< why there is none
+};
 
 Refusal unreadable(const QString& path, const QString& problem) {
     return {u"cannot read %1: %2"_s.arg(path, problem)};
@@ -39,17 +43,17 @@ void RemoteCommands::carryOut(const RemoteRequest& request, const Reply& reply) 
 void RemoteCommands::openFile(const OpenRequest& request, const Reply& reply) {
     if (!request.path.startsWith(u'/'))
         return reply(unreadable(request.path, u"Not a path from the root"_s));
-    const auto finish = lifetime.guard(
-        [this, request, reply](const std::optional<QString>& text, const QString& problem) {
-            if (!text) return reply(unreadable(request.path, problem));
-            showFile(request, *text);
-            reply(delegate.status());
-        });
-    taskRunner.run([&queue = mainQueue, path = request.path, finish] {
-        QString problem;
-        auto text = readTextFile(path, ByteOrderMark::drop, &problem);
-        queue.post([finish, problem, text = std::move(text)] { finish(text, problem); });
+    const auto finish = lifetime.guard([this, request, reply](const FoundText& found) {
+        if (!found.text) return reply(unreadable(request.path, found.problem));
+        showFile(request, *found.text);
+        reply(delegate.status());
     });
+    const auto read = [path = request.path] {
+        FoundText found;
+        found.text = readTextFile(path, ByteOrderMark::drop, &found.problem);
+        return found;
+    };
+    runThenPost(taskRunner, mainQueue, read, finish);
 }
 
 void RemoteCommands::showFile(const OpenRequest& request, const QString& text) {

@@ -1,7 +1,6 @@
 #include "reading/ContentRenderer.h"
 
-#include "platform/MainQueue.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "reading/MarkdownScript.h"
 
 #include <memory>
@@ -48,13 +47,14 @@ void ContentRenderer::render(const QString& markdown, Handler done) {
         return deliver(Rendering{nullptr, std::move(words), std::move(content)});
     }
 
-    auto task = std::make_shared<Rendering>(Rendering{last, words, {}});
-    tasks.run([markdown, deliver, task, &mainQueue = queue] {
-        if (!deliver.isAlive()) return;
-        task->content = rendered(markdown, task->before.get(), task->words);
-        task->before.reset();
-        mainQueue.post([task, deliver] { deliver(std::move(*task)); });
-    });
+    runThenPost(
+        tasks, queue,
+        [markdown, task = Rendering{last, words, {}}]() mutable {
+            task.content = rendered(markdown, task.before.get(), task.words);
+            task.before.reset();
+            return std::move(task);
+        },
+        deliver);
 }
 
 } // namespace tessaline

@@ -1,7 +1,6 @@
 #include "sources/FollowedFile.h"
 
-#include "platform/MainQueue.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "platform/TimerMaker.h"
 #include "settings/TextFile.h"
 #include "settings/WholeFile.h"
@@ -43,15 +42,13 @@ FollowedFile::~FollowedFile() = default;
 
 void FollowedFile::check() {
     if (std::exchange(isReading, true)) return; // slow reads do not pile up
-    auto finish = lifetime.guard(
-        [this](const Stamp& found, const std::optional<QString>& text) { take(found, text); });
-    taskRunner.run(
-        [&queue = mainQueue, path = filePath, known = stamp, finish = std::move(finish)] {
-            const Stamp found = Stamp::of(path);
-            std::optional<QString> text;
-            if (known != found) text = readTextFile(path, ByteOrderMark::drop);
-            queue.post([finish, found, text = std::move(text)] { finish(found, text); });
-        });
+    const auto look = [path = filePath, known = stamp] {
+        Look now{Stamp::of(path), std::nullopt};
+        if (known != now.found) now.text = readTextFile(path, ByteOrderMark::drop);
+        return now;
+    };
+    runThenPost(taskRunner, mainQueue, look,
+                lifetime.guard([this](const Look& now) { take(now.found, now.text); }));
 }
 
 void FollowedFile::take(const Stamp& found, const std::optional<QString>& text) {

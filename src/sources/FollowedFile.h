@@ -48,6 +48,11 @@ private:
         QDateTime changed;
     };
 
+    struct Look {
+        Stamp found;
+        std::optional<QString> text; ///< of a file that may be another one
+    };
+
     void check();
     void take(const Stamp& found, const std::optional<QString>& text);
 

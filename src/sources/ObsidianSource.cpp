@@ -1,7 +1,6 @@
 #include "sources/ObsidianSource.h"
 
-#include "platform/MainQueue.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "platform/TimerMaker.h"
 #include "settings/SupportFolder.h"
 #include "sources/ContentFile.h"
@@ -93,11 +92,7 @@ void ObsidianSource::readInBackground(Read read, ContentCallback deliver) {
         lastContent = *text;
         deliver(*text);
     };
-    taskRunner.run([&queue = mainQueue, read = std::move(read),
-                    finish = lifetime.guard(std::move(finish))]() mutable {
-        // The callback moves on with the text, so that it is destroyed on the main thread.
-        queue.post([text = read(), finish = std::move(finish)] { finish(text); });
-    });
+    runThenPost(taskRunner, mainQueue, std::move(read), lifetime.guard(std::move(finish)));
 }
 
 } // namespace tessaline

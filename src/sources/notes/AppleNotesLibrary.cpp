@@ -1,7 +1,6 @@
 #include "sources/notes/AppleNotesLibrary.h"
 
-#include "platform/MainQueue.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "platform/UrlOpener.h"
 #include "sources/notes/NoteReader.h"
 
@@ -18,14 +17,9 @@ AppleNotesLibrary::AppleNotesLibrary(MainQueue& queue, TaskRunner& tasks, Proces
     : mainQueue(queue), taskRunner(tasks), processRunner(processes), urlOpener(opener) {}
 
 void AppleNotesLibrary::listNotes(std::function<void(const Answer&)> completion) {
-    taskRunner.run([&queue = mainQueue, &processes = processRunner,
-                    complete = lifetime.guard(std::move(completion))]() mutable {
-        if (!complete.isAlive()) return;
-        // The completion moves on with the answer, so that it is destroyed on the main thread.
-        queue.post([answer = readNoteList(processes), complete = std::move(complete)] {
-            complete(answer);
-        });
-    });
+    runThenPost(
+        taskRunner, mainQueue, [&processes = processRunner] { return readNoteList(processes); },
+        lifetime.guard(std::move(completion)));
 }
 
 void AppleNotesLibrary::openAutomationPreferences() {

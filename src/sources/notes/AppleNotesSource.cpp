@@ -1,7 +1,6 @@
 #include "sources/notes/AppleNotesSource.h"
 
-#include "platform/MainQueue.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "platform/TimerMaker.h"
 #include "sources/notes/NoteReader.h"
 
@@ -60,11 +59,12 @@ void AppleNotesSource::stopWatching() {
 
 void AppleNotesSource::check() {
     ++checksInFlight;
-    taskRunner.run([&queue = mainQueue, &processes = processRunner, note = configuration,
-                    finish = lifetime.guard([this](const QString& text) { deliver(text); })] {
-        if (!finish.isAlive()) return;
-        queue.post([finish, text = textFor(readNote(processes, note))] { finish(text); });
-    });
+    runThenPost(
+        taskRunner, mainQueue,
+        [&processes = processRunner, note = configuration] {
+            return textFor(readNote(processes, note));
+        },
+        lifetime.guard([this](const QString& text) { deliver(text); }));
 }
 
 void AppleNotesSource::deliver(const QString& text) {

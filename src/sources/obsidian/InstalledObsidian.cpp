@@ -1,9 +1,8 @@
 #include "sources/obsidian/InstalledObsidian.h"
 
 #include "platform/ApplicationLookup.h"
-#include "platform/MainQueue.h"
 #include "platform/Platform.h"
-#include "platform/TaskRunner.h"
+#include "platform/RunThenPost.h"
 #include "sources/obsidian/CommunityPlugins.h"
 #include "sources/obsidian/CompanionPlugin.h"
 #include "sources/obsidian/ObsidianLocator.h"
@@ -61,14 +60,11 @@ bool InstalledObsidian::isPluginEnabled() const {
 }
 
 void InstalledObsidian::lookUpPlugin(std::function<void(PluginState)> deliver) const {
-    platform.queryTasks->run([registry = registry, &queue = *platform.mainQueue,
-                              deliver = std::move(deliver)]() mutable {
-        PluginState state;
-        if (const auto vault = registry.findVault())
-            state = {isInstalledIn(*vault), isEnabledIn(*vault)};
-        // The callback moves on with the state, so that it is destroyed on the main thread.
-        queue.post([state, deliver = std::move(deliver)] { deliver(state); });
-    });
+    const auto lookUp = [registry = registry] {
+        const auto vault = registry.findVault();
+        return vault ? PluginState{isInstalledIn(*vault), isEnabledIn(*vault)} : PluginState();
+    };
+    runThenPost(*platform.queryTasks, *platform.mainQueue, lookUp, std::move(deliver));
 }
 
 ObsidianIntegration::InstallResult InstalledObsidian::installPlugin() {
