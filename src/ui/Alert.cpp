@@ -17,6 +17,8 @@
 
 namespace tessaline {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int iconSize = 48;
@@ -71,21 +73,24 @@ Alert::Alert(QWidget& window, const AlertContent& content, QWidget* accessory)
 void Alert::addTexts(const AlertContent& content, QWidget* accessory) {
     auto* body = new QHBoxLayout;
     body->setSpacing(16);
-    iconLabel = new IconImage(iconFor(content), iconSize);
-    body->addWidget(iconLabel, 0, Qt::AlignTop);
+    auto* icon = new IconImage(iconFor(content), iconSize);
+    icon->setObjectName(u"iconLabel"_s);
+    body->addWidget(icon, 0, Qt::AlignTop);
 
     auto* texts = new QVBoxLayout;
     texts->setSpacing(8);
-    messageLabel =
+    QLabel* message =
         makeWrappingLabel(content.messageText, systemFont(13, QFont::Bold), SystemPalette::label);
-    informativeLabel =
+    QLabel* informative =
         makeWrappingLabel(content.informativeText, systemFont(12), SystemPalette::label);
-    for (QLabel* label : {messageLabel, informativeLabel}) {
+    message->setObjectName(u"messageLabel"_s);
+    informative->setObjectName(u"informativeLabel"_s);
+    for (QLabel* label : {message, informative}) {
         label->setFixedWidth(textWidth);
         texts->addWidget(label);
     }
     if (accessory) {
-        informativeLabel->setBuddy(accessory); // what screen readers call it by
+        informative->setBuddy(accessory); // what screen readers call it by
         texts->addWidget(accessory);
     }
     texts->addStretch();
@@ -99,6 +104,7 @@ void Alert::addButtons(const QStringList& titles) {
     row->addStretch();
     for (int i = 0; i < titles.size(); ++i) {
         auto* button = new BezelButton(titles[i]);
+        button->setObjectName(u"button%1"_s.arg(i));
         button->setMinimumWidth(leastButtonWidth);
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, i] { done(i + 1); });

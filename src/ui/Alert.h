@@ -2,13 +2,13 @@
 
 #include <QDialog>
 #include <QIcon>
-#include <QLabel>
-#include <QPushButton>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <vector>
+
+class QPushButton;
 
 namespace tessaline {
 
@@ -37,11 +37,6 @@ public:
     static Alert* beginSheet(QWidget& window, const AlertContent& content,
                              QWidget* accessory = nullptr, Completion completion = {});
 
-    QLabel* iconLabel = nullptr;
-    QLabel* messageLabel = nullptr;
-    QLabel* informativeLabel = nullptr;
-    std::vector<QPushButton*> buttons; ///< in the order of the content
-
 protected:
     void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
@@ -54,6 +49,7 @@ private:
     void finish(int result);
     void placeOverWindow();
 
+    std::vector<QPushButton*> buttons; ///< in the order of the content
     Completion completion;
     bool answered = false;
 };

@@ -68,10 +68,10 @@ QWidget* ConfigWindow::createContent() {
     connect(integrations, &IntegrationsSection::obsidianToggled, this,
             &ConfigWindow::obsidianToggleChanged);
     sources = new SourceSection(settings, sourceManager, services.notes);
-    sources->onSourceChanged = [this](SourceType source) { announceSource(source); };
+    connect(sources, &SourceSection::sourceChanged, this, &ConfigWindow::announceSource);
     display = new DisplaySection(settings, *platform.screens, services.recorder);
-    display->onSettingsChanged = [this] { announceSettings(); };
-    display->onSliderReleased = [this] { announceSize(); };
+    connect(display, &DisplaySection::settingsChanged, this, &ConfigWindow::announceSettings);
+    connect(display, &DisplaySection::sliderReleased, this, &ConfigWindow::announceSize);
     accessibility = new AccessibilityRow;
     connect(accessibility, &AccessibilityRow::fixPressed, this, &ConfigWindow::fixAccessibility);
 

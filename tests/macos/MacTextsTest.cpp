@@ -72,7 +72,7 @@ TEST_F(OnboardingOnAMac, SaysHowToSendANote) {
     switchObsidian();
     ASSERT_TRUE(sheet());
     EXPECT_EQ(
-        sheet()->informativeLabel->text(),
+        part<QLabel>(*sheet(), "informativeLabel")->text(),
         u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press ⌘P and type \"tessaline\"."_s);
 }
 

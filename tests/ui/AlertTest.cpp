@@ -1,6 +1,7 @@
 #include "ui/Alert.h"
 
 #include "support/PrintQt.h"
+#include "ui/VisibleSheet.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -45,17 +46,17 @@ TEST_F(AlertTest, BlocksItsWindowAndReturnsAtOnce) {
 
 TEST_F(AlertTest, ShowsItsTextsAsTheyAre) {
     const Alert* alert = ask();
-    EXPECT_EQ(alert->messageLabel->text(), u"Title"_s);
-    EXPECT_EQ(alert->informativeLabel->text(), u"What <b>there</b> is to say"_s);
-    EXPECT_EQ(alert->informativeLabel->textFormat(), Qt::PlainText);
-    ASSERT_EQ(alert->buttons.size(), 2u);
-    EXPECT_EQ(alert->buttons[0]->text(), u"Select"_s);
-    EXPECT_EQ(alert->buttons[1]->text(), u"Cancel"_s);
+    EXPECT_EQ(part<QLabel>(*alert, "messageLabel")->text(), u"Title"_s);
+    EXPECT_EQ(part<QLabel>(*alert, "informativeLabel")->text(), u"What <b>there</b> is to say"_s);
+    EXPECT_EQ(part<QLabel>(*alert, "informativeLabel")->textFormat(), Qt::PlainText);
+    ASSERT_EQ(alertButtons(*alert).size(), 2);
+    EXPECT_EQ(alertButtons(*alert)[0]->text(), u"Select"_s);
+    EXPECT_EQ(alertButtons(*alert)[1]->text(), u"Cancel"_s);
 }
 
 TEST_F(AlertTest, TellsWhichButtonWasPressedAndGoesAway) {
     const QPointer<Alert> alert = ask();
-    QTest::mouseClick(alert->buttons[0], Qt::LeftButton);
+    QTest::mouseClick(alertButtons(*alert)[0], Qt::LeftButton);
     EXPECT_THAT(answers, ElementsAre(0));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(alert);
@@ -78,10 +79,10 @@ TEST_F(AlertTest, WaitsForTheOneBeforeIt) {
     Alert* second = ask(u"Second"_s);
     const Alert* third = ask(u"Third"_s);
     EXPECT_FALSE(second->isVisible());
-    QTest::mouseClick(first->buttons[1], Qt::LeftButton);
+    QTest::mouseClick(alertButtons(*first)[1], Qt::LeftButton);
     EXPECT_TRUE(second->isVisible());
     EXPECT_FALSE(third->isVisible());
-    QTest::mouseClick(second->buttons[0], Qt::LeftButton);
+    QTest::mouseClick(alertButtons(*second)[0], Qt::LeftButton);
     EXPECT_TRUE(third->isVisible());
     EXPECT_THAT(answers, ElementsAre(1, 0));
 }
@@ -97,7 +98,7 @@ TEST_F(AlertTest, MayOpenAnotherOneWhenItIsAnswered) {
 
 TEST_F(AlertTest, NeedsNobodyToTell) {
     const QPointer<Alert> alert = Alert::beginSheet(window, {.messageText = u"Note"_s});
-    EXPECT_EQ(alert->buttons.front()->text(), u"OK"_s);
+    EXPECT_EQ(alertButtons(*alert).front()->text(), u"OK"_s);
     QTest::keyClick(alert, Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(alert);
@@ -119,8 +120,8 @@ TEST_F(AlertTest, HoldsTheAccessoryBetweenTextAndButtons) {
     const Alert* alert = Alert::beginSheet(window, {.messageText = u"Pick"_s}, accessory);
     const auto top = [alert](const QWidget* part) { return part->mapTo(alert, QPoint(0, 0)).y(); };
     EXPECT_TRUE(accessory->isVisible());
-    EXPECT_GT(top(accessory), top(alert->informativeLabel));
-    EXPECT_LT(top(accessory), top(alert->buttons.front()));
+    EXPECT_GT(top(accessory), top(part<QLabel>(*alert, "informativeLabel")));
+    EXPECT_LT(top(accessory), top(alertButtons(*alert).front()));
 }
 
 TEST_F(AlertTest, ShowsEveryLineOfALongText) {
@@ -128,15 +129,15 @@ TEST_F(AlertTest, ShowsEveryLineOfALongText) {
     content.messageText = u"Error"_s;
     content.informativeText = QString(60, u'x').append(u' ').repeated(12);
     const Alert* alert = Alert::beginSheet(window, content);
-    EXPECT_GE(alert->informativeLabel->height(),
-              alert->informativeLabel->heightForWidth(alert->informativeLabel->width()));
-    EXPECT_TRUE(alert->rect().contains(alert->buttons.front()->geometry()));
+    const auto* informative = part<QLabel>(*alert, "informativeLabel");
+    EXPECT_GE(informative->height(), informative->heightForWidth(informative->width()));
+    EXPECT_TRUE(alert->rect().contains(alertButtons(*alert).front()->geometry()));
 }
 
 TEST_F(AlertTest, DrawsAnotherIconForAWarningAndTheGivenOneBeforeBoth) {
     const auto iconOf = [this](const AlertContent& content) {
         auto* alert = Alert::beginSheet(window, content);
-        QImage icon = alert->iconLabel->grab().toImage();
+        QImage icon = part<QLabel>(*alert, "iconLabel")->grab().toImage();
         QTest::keyClick(alert, Qt::Key_Escape);
         return icon;
     };
@@ -157,7 +158,7 @@ TEST_F(AlertTest, InformsUnderTheProgramsOwnIconButDoesNotWarnUnderIt) {
     QApplication::setWindowIcon(green);
     const auto middleOfTheIcon = [this](AlertContent::Style style) {
         auto* alert = Alert::beginSheet(window, {.messageText = u"a"_s, .style = style});
-        const QImage icon = alert->iconLabel->grab().toImage();
+        const QImage icon = part<QLabel>(*alert, "iconLabel")->grab().toImage();
         QTest::keyClick(alert, Qt::Key_Escape);
         return icon.pixelColor(icon.rect().center());
     };

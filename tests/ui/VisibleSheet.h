@@ -1,6 +1,11 @@
 #pragma once
 
+#include "support/Part.h"
 #include "ui/Alert.h"
+
+#include <QLabel>
+#include <QList>
+#include <QPushButton>
 
 #include <memory>
 
@@ -13,11 +18,21 @@ inline Alert* visibleSheet(const QWidget& window) {
     return nullptr;
 }
 
+/// An alert's buttons in the order of its content.
+inline QList<QPushButton*> alertButtons(const Alert& alert) {
+    QList<QPushButton*> buttons;
+    while (auto* button =
+               alert.findChild<QPushButton*>(QStringLiteral("button%1").arg(buttons.size())))
+        buttons.push_back(button);
+    return buttons;
+}
+
 /// Whether an alert over this window has the icon of a warning.
 inline bool isWarning(QWidget& window, const Alert& alert) {
     const std::unique_ptr<Alert> warning(
         Alert::beginSheet(window, {.style = AlertContent::Style::warning}));
-    return alert.iconLabel->grab().toImage() == warning->iconLabel->grab().toImage();
+    return part<QLabel>(alert, "iconLabel")->grab().toImage() ==
+           part<QLabel>(*warning, "iconLabel")->grab().toImage();
 }
 
 } // namespace tessaline

@@ -33,23 +33,23 @@ DisplaySection::DisplaySection(AppSettings& shared, const Screens& attached,
     QVBoxLayout* column = layOutColumn(*this, 10);
     column->addWidget(createScreenRow());
 
-    widthValueLabel = addSliderRow(u"Width"_s, u"widthValueLabel"_s);
+    widthRow = addSliderRow(u"Width"_s, u"widthValueLabel"_s);
     widthSlider = addSlider(u"Width"_s, u"widthSlider"_s);
     widthSlider->setLimits(380, 800);
     widthSlider->setPoints(settings.width());
 
-    heightValueLabel = addSliderRow(u"Height"_s, u"heightValueLabel"_s);
+    heightRow = addSliderRow(u"Height"_s, u"heightValueLabel"_s);
     heightSlider = addSlider(u"Height"_s, u"heightSlider"_s);
     heightSlider->setLimits(100, 800);
     heightSlider->setPoints(settings.height());
 
-    fontValueLabel = addSliderRow(u"Font Size"_s, u"fontValueLabel"_s);
+    fontRow = addSliderRow(u"Font Size"_s, u"fontValueLabel"_s);
     fontSlider = addSlider(u"Font Size"_s, u"fontSlider"_s);
     fontSlider->setLimits(10, 30);
     fontSlider->setPoints(settings.fontSize());
 
-    xOffsetLabel = addSliderRow(u"Position"_s, u"xOffsetLabel"_s);
-    xOffsetLabel->setText(u"Center"_s);
+    xOffsetRow = addSliderRow(u"Position"_s, u"xOffsetLabel"_s);
+    xOffsetRow->setValue(u"Center"_s);
     xOffsetSlider = addSlider(u"Position"_s, u"xOffsetSlider"_s);
     xOffsetSlider->setDeadZone(HorizontalPosition::deadZone);
     updatePositionSliderLimits();
@@ -87,20 +87,17 @@ QWidget* DisplaySection::createScrollRateRow() {
     return row;
 }
 
-QLabel* DisplaySection::addSliderRow(const QString& name, const QString& identifier) {
-    auto* row = new SliderRow(name);
-    row->valueLabel->setObjectName(identifier);
+SliderRow* DisplaySection::addSliderRow(const QString& name, const QString& identifier) {
+    auto* row = new SliderRow(name, identifier);
     layout()->addWidget(row);
-    return row->valueLabel;
+    return row;
 }
 
 PointSlider* DisplaySection::addSlider(const QString& name, const QString& identifier) {
     auto* slider = new PointSlider(name, sliderWidth);
     slider->setObjectName(identifier);
     connect(slider, &PointSlider::moved, this, &DisplaySection::configChanged);
-    connect(slider, &PointSlider::sliderReleased, this, [this] {
-        if (onSliderReleased) onSliderReleased();
-    });
+    connect(slider, &PointSlider::sliderReleased, this, &DisplaySection::sliderReleased);
     layout()->addWidget(slider);
     layout()->setAlignment(slider, Qt::AlignLeading);
     return slider;
@@ -141,14 +138,14 @@ void DisplaySection::updatePositionSliderLimits() {
 }
 
 void DisplaySection::updateValueLabels() {
-    widthValueLabel->setText(lengthText(widthSlider->points(), u"px"_s));
-    heightValueLabel->setText(lengthText(heightSlider->points(), u"px"_s));
-    fontValueLabel->setText(lengthText(fontSlider->points(), u"pt"_s));
+    widthRow->setValue(lengthText(widthSlider->points(), u"px"_s));
+    heightRow->setValue(lengthText(heightSlider->points(), u"px"_s));
+    fontRow->setValue(lengthText(fontSlider->points(), u"pt"_s));
     updateXOffsetLabel();
 }
 
 void DisplaySection::updateXOffsetLabel() {
-    xOffsetLabel->setText(HorizontalPosition::text(xOffsetSlider->points()));
+    xOffsetRow->setValue(HorizontalPosition::text(xOffsetSlider->points()));
 }
 
 void DisplaySection::selectScrollRate() {
@@ -158,7 +155,7 @@ void DisplaySection::selectScrollRate() {
 void DisplaySection::configChanged() {
     settings.change([this](PersistedSettings& values) { takeControls(values); });
     updateValueLabels();
-    if (onSettingsChanged) onSettingsChanged();
+    Q_EMIT settingsChanged();
     recorder.trackDisplaySettings(settings.values());
 }
 
@@ -203,7 +200,7 @@ void DisplaySection::screenSelectionChanged() {
     settings.setPreferredDisplayID(display);
     updatePositionSliderLimits();
     updateXOffsetLabel();
-    if (onSettingsChanged) onSettingsChanged();
+    Q_EMIT settingsChanged();
     recorder.trackScreenChanged(screenPopup->currentIndex());
 }
 

@@ -2,11 +2,6 @@
 
 #include <QWidget>
 
-#include <functional>
-#include <optional>
-
-class QLabel;
-
 namespace tessaline {
 
 class AppSettings;
@@ -14,6 +9,7 @@ class PointSlider;
 class PopupButton;
 class ScreenManager;
 class Screens;
+class SliderRow;
 class UsageRecorder;
 struct PersistedSettings;
 
@@ -30,9 +26,6 @@ public:
     /// The displays to choose from; null: only the automatic choice is offered. Borrowed.
     void setScreenManager(ScreenManager* manager) { screenManager = manager; }
 
-    /// Called after every saved change.
-    std::function<void()> onSettingsChanged;
-
     /// Shows the settings' sizes, position, scroll rate and, if it is attached, display.
     void showSettings();
 
@@ -42,16 +35,19 @@ public:
     /// Writes the sliders' values beside their names.
     void updateValueLabels();
 
-    /// Called when the user lets a slider go.
-    std::function<void()> onSliderReleased;
-
     /// Whether the user holds a slider with the mouse.
     bool isSliderHeld() const;
+
+Q_SIGNALS:
+    /// After every saved change, before it is recorded.
+    void settingsChanged();
+    /// The user let a slider go.
+    void sliderReleased();
 
 private:
     QWidget* createScreenRow();
     QWidget* createScrollRateRow();
-    QLabel* addSliderRow(const QString& name, const QString& identifier);
+    SliderRow* addSliderRow(const QString& name, const QString& identifier);
     PointSlider* addSlider(const QString& name, const QString& identifier);
     PopupButton* createTickFactorPopup();
     double computeMaxXOffset() const;
@@ -69,10 +65,10 @@ private:
     PointSlider* fontSlider = nullptr;
     PointSlider* xOffsetSlider = nullptr;
     PopupButton* tickFactorPopup = nullptr;
-    QLabel* widthValueLabel = nullptr;
-    QLabel* heightValueLabel = nullptr;
-    QLabel* fontValueLabel = nullptr;
-    QLabel* xOffsetLabel = nullptr;
+    SliderRow* widthRow = nullptr;
+    SliderRow* heightRow = nullptr;
+    SliderRow* fontRow = nullptr;
+    SliderRow* xOffsetRow = nullptr;
     AppSettings& settings;
     const Screens& screens;
     UsageRecorder& recorder;

@@ -124,7 +124,7 @@ void SourceSection::sourceTypeChanged() {
         settings.setActiveSourceType(source);
     }
     updateSourceConfigVisibility();
-    if (onSourceChanged) onSourceChanged(source);
+    Q_EMIT sourceChanged(source);
 }
 
 void SourceSection::browseForFile() {}

@@ -36,8 +36,9 @@ public:
     /// Shows the rows that the active source needs.
     void updateSourceConfigVisibility();
 
-    /// Called with the new source after the user chose another one.
-    std::function<void(SourceType)> onSourceChanged;
+Q_SIGNALS:
+    /// The user chose another source, which is active by now.
+    void sourceChanged(SourceType source);
 
 private:
     QWidget* createFileRow();

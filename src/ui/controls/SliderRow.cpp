@@ -13,7 +13,7 @@ constexpr int gap = 4;
 
 } // namespace
 
-SliderRow::SliderRow(const QString& name, QWidget* parent)
+SliderRow::SliderRow(const QString& name, const QString& valueName, QWidget* parent)
     : QWidget(parent)
     , valueLabel(makeLabel({}, monospacedDigitFont(13), SystemPalette::secondaryLabel)) {
     setFixedWidth(settingsColumnWidth);
@@ -21,8 +21,13 @@ SliderRow::SliderRow(const QString& name, QWidget* parent)
     row->addWidget(makeLabel(name, systemFont(13), SystemPalette::label));
     row->addSpacing(gap);
     row->addStretch();
+    valueLabel->setObjectName(valueName);
     valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     row->addWidget(valueLabel);
+}
+
+void SliderRow::setValue(const QString& text) {
+    valueLabel->setText(text);
 }
 
 } // namespace tessaline

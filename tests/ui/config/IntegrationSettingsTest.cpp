@@ -136,8 +136,8 @@ TEST_F(IntegrationSettings, SwitchingOnInstallsAMissingPluginAndTellsTheOutcome)
     EXPECT_THAT(stage.recorder.names(),
                 ElementsAre(u"source_enabled"_s, u"obsidian_plugin_installed"_s));
     ASSERT_TRUE(sheet());
-    EXPECT_EQ(sheet()->messageLabel->text(), u"Plugin Reinstalled"_s);
-    EXPECT_EQ(sheet()->informativeLabel->text(), u"Restart Obsidian."_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "messageLabel")->text(), u"Plugin Reinstalled"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "informativeLabel")->text(), u"Restart Obsidian."_s);
     EXPECT_EQ(status().text(), u"Plugin active"_s); // while the alert still shows
 }
 
@@ -229,10 +229,11 @@ TEST_F(IntegrationSettings, ReinstallingReportsSuccessWithTheApplicationsIcon) {
     shown();
     QTest::mouseClick(&reinstall(), Qt::LeftButton);
     ASSERT_TRUE(sheet());
-    EXPECT_EQ(sheet()->messageLabel->text(), u"Plugin Reinstalled"_s);
-    ASSERT_EQ(sheet()->buttons.size(), 1u);
-    EXPECT_EQ(sheet()->buttons[0]->text(), u"OK"_s);
-    EXPECT_EQ(sheet()->iconLabel->grab().toImage().pixelColor(24, 24), QColor(Qt::red));
+    EXPECT_EQ(part<QLabel>(*sheet(), "messageLabel")->text(), u"Plugin Reinstalled"_s);
+    ASSERT_EQ(alertButtons(*sheet()).size(), 1);
+    EXPECT_EQ(alertButtons(*sheet())[0]->text(), u"OK"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "iconLabel")->grab().toImage().pixelColor(24, 24),
+              QColor(Qt::red));
     EXPECT_EQ(stage.recorder.events[0].properties[u"success"_s], u"true"_s);
 }
 
@@ -246,8 +247,8 @@ TEST_F(IntegrationSettings, ReinstallingReportsFailureWithTheReason) {
     shown();
     QTest::mouseClick(&reinstall(), Qt::LeftButton);
     ASSERT_TRUE(sheet());
-    EXPECT_EQ(sheet()->messageLabel->text(), u"Installation Failed"_s);
-    EXPECT_EQ(sheet()->informativeLabel->text(), u"No space left"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "messageLabel")->text(), u"Installation Failed"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "informativeLabel")->text(), u"No space left"_s);
     EXPECT_TRUE(isWarning(window(), *sheet()));
     EXPECT_EQ(stage.recorder.events[0].properties[u"success"_s], u"false"_s);
     EXPECT_EQ(status().text(), u"Plugin not found"_s);

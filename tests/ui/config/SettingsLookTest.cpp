@@ -128,12 +128,16 @@ TEST_F(SettingsLook, EverySliderStandsDirectlyBelowItsRow) {
     const auto sliders = parts<PointSlider>();
     ASSERT_THAT(rows, SizeIs(4));
     ASSERT_THAT(sliders, SizeIs(4));
+    constexpr const char* values[] = {"widthValueLabel", "heightValueLabel", "fontValueLabel",
+                                      "xOffsetLabel"};
     for (std::size_t i = 0; i < rows.size(); ++i) {
         EXPECT_EQ(bounds(*rows[i]).width(), 280);
         EXPECT_EQ(bounds(*sliders[i]).top(), bounds(*rows[i]).bottom() + 1 + 10);
         EXPECT_EQ(bounds(*sliders[i]).left(), 20);
-        EXPECT_EQ(bounds(*rows[i]->valueLabel).right(), 299);
-        EXPECT_TRUE(rows[i]->valueLabel->alignment() & Qt::AlignRight);
+        const auto* value = part<QLabel>(*rows[i], values[i]);
+        ASSERT_TRUE(value);
+        EXPECT_EQ(bounds(*value).right(), 299);
+        EXPECT_TRUE(value->alignment() & Qt::AlignRight);
     }
 }
 

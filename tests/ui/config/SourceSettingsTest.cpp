@@ -138,11 +138,11 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
     const Alert* picker =
         pick(Notes{{u"2"_s, u"Zebra"_s}, {u"1"_s, u"Ant"_s}, {u"3"_s, u"Zebra"_s}});
     ASSERT_TRUE(picker);
-    EXPECT_EQ(picker->messageLabel->text(), u"Select a Note"_s);
-    EXPECT_EQ(picker->informativeLabel->text(), u"Choose the note to display:"_s);
-    ASSERT_EQ(picker->buttons.size(), 2u);
-    EXPECT_EQ(picker->buttons[0]->text(), u"Select"_s);
-    EXPECT_EQ(picker->buttons[1]->text(), u"Cancel"_s);
+    EXPECT_EQ(part<QLabel>(*picker, "messageLabel")->text(), u"Select a Note"_s);
+    EXPECT_EQ(part<QLabel>(*picker, "informativeLabel")->text(), u"Choose the note to display:"_s);
+    ASSERT_EQ(alertButtons(*picker).size(), 2);
+    EXPECT_EQ(alertButtons(*picker)[0]->text(), u"Select"_s);
+    EXPECT_EQ(alertButtons(*picker)[1]->text(), u"Cancel"_s);
     EXPECT_EQ(notePopup().size(), QSize(300, 25));
     EXPECT_THAT(titlesOf(notePopup()), ElementsAre(u"Zebra"_s, u"Ant"_s, u"Zebra"_s));
 
@@ -150,7 +150,7 @@ TEST_F(SourceSettings, LetTheUserPickANoteFromTheListAsReceived) {
                 Contains(Pair(QAccessible::ComboBox, u"Choose the note to display:"_s)));
 
     notePopup().setCurrentIndex(2); // of the same name as the first
-    QTest::mouseClick(picker->buttons[0], Qt::LeftButton);
+    QTest::mouseClick(alertButtons(*picker)[0], Qt::LeftButton);
     const AppleNotesConfiguration chosen{u"3"_s, u"Zebra"_s};
     EXPECT_EQ(stage.settings.appleNotesConfig(), chosen);
     EXPECT_EQ(AppSettings(stage.configPath).appleNotesConfig(), chosen);
@@ -179,7 +179,7 @@ TEST_F(SourceSettings, CancellingThePickerChangesNothing) {
     useNotes();
     stage.settings.setAppleNotesConfig(AppleNotesConfiguration{u"0"_s, u"Old"_s});
     const Alert* picker = pick(Notes{{u"1"_s, u"Ant"_s}});
-    QTest::mouseClick(picker->buttons[1], Qt::LeftButton);
+    QTest::mouseClick(alertButtons(*picker)[1], Qt::LeftButton);
     EXPECT_EQ(stage.settings.appleNotesConfig(), (AppleNotesConfiguration{u"0"_s, u"Old"_s}));
     EXPECT_EQ(noteName(), u"Old"_s);
     QTest::keyClick(pick(Notes{{u"1"_s, u"Ant"_s}}), Qt::Key_Escape);
@@ -198,9 +198,10 @@ TEST_F(SourceSettings, SayThatThereAreNoNotes) {
     useNotes();
     const Alert* alert = pick(Notes{});
     ASSERT_TRUE(alert);
-    EXPECT_EQ(alert->messageLabel->text(), u"No Notes Found"_s);
-    EXPECT_EQ(alert->informativeLabel->text(), u"You don't have any notes in Apple Notes yet."_s);
-    EXPECT_EQ(alert->buttons.size(), 1u);
+    EXPECT_EQ(part<QLabel>(*alert, "messageLabel")->text(), u"No Notes Found"_s);
+    EXPECT_EQ(part<QLabel>(*alert, "informativeLabel")->text(),
+              u"You don't have any notes in Apple Notes yet."_s);
+    EXPECT_EQ(alertButtons(*alert).size(), 1);
     EXPECT_FALSE(isWarning(window(), *alert));
     EXPECT_FALSE(window().findChild<PopupButton*>(u"notePopup"_s));
 }
@@ -215,8 +216,8 @@ TEST_F(SourceSettings, TellAnyOtherFailure) {
     useNotes();
     const Alert* alert = pick(ContentSourceError::scriptError(u"timed out"_s));
     ASSERT_TRUE(alert);
-    EXPECT_EQ(alert->messageLabel->text(), u"Error"_s);
-    EXPECT_EQ(alert->informativeLabel->text(), u"Script error: timed out"_s);
+    EXPECT_EQ(part<QLabel>(*alert, "messageLabel")->text(), u"Error"_s);
+    EXPECT_EQ(part<QLabel>(*alert, "informativeLabel")->text(), u"Script error: timed out"_s);
     EXPECT_TRUE(isWarning(window(), *alert));
     EXPECT_EQ(stage.notes.preferencesOpened, 0);
 }

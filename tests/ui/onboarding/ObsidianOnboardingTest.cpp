@@ -79,13 +79,14 @@ TEST_F(ObsidianOnboarding, SwitchingObsidianOnInstallsThePluginAndSaysSo) {
               (QMap<QString, QString>{{u"source_type"_s, u"obsidian"_s}}));
     EXPECT_EQ(stage.recorder.events[1].properties[u"success"_s], u"true"_s);
     ASSERT_TRUE(sheet());
-    EXPECT_EQ(sheet()->messageLabel->text(), u"Notes Bridge Installed"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "messageLabel")->text(), u"Notes Bridge Installed"_s);
     EXPECT_EQ(
-        sheet()->informativeLabel->text(),
+        part<QLabel>(*sheet(), "informativeLabel")->text(),
         u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press Ctrl+P and type \"tessaline\"."_s);
-    EXPECT_EQ(sheet()->iconLabel->grab().toImage().pixelColor(24, 24), QColor(Qt::red));
-    ASSERT_EQ(sheet()->buttons.size(), 1u);
-    EXPECT_EQ(sheet()->buttons[0]->text(), u"OK"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "iconLabel")->grab().toImage().pixelColor(24, 24),
+              QColor(Qt::red));
+    ASSERT_EQ(alertButtons(*sheet()).size(), 1);
+    EXPECT_EQ(alertButtons(*sheet())[0]->text(), u"OK"_s);
     EXPECT_TRUE(part<Switch>(obsidian(), "toggleSwitch")->isChecked());
     EXPECT_EQ(part<QLabel>(obsidian(), "statusLabel")->text(), u"Plugin active ✓"_s);
 }
@@ -108,8 +109,8 @@ TEST_F(ObsidianOnboarding, AFailedInstallationIsReportedAndLeavesObsidianOn) {
     shown();
     switchObsidian();
     ASSERT_TRUE(sheet());
-    EXPECT_EQ(sheet()->messageLabel->text(), u"Plugin Installation"_s);
-    EXPECT_EQ(sheet()->informativeLabel->text(), u"Could not copy"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "messageLabel")->text(), u"Plugin Installation"_s);
+    EXPECT_EQ(part<QLabel>(*sheet(), "informativeLabel")->text(), u"Could not copy"_s);
     EXPECT_TRUE(isWarning(window(), *sheet()));
     EXPECT_EQ(stage.recorder.events[1].properties[u"success"_s], u"false"_s);
     EXPECT_TRUE(obsidianEnabled());
