@@ -4,7 +4,7 @@
 #include "permissions/PermissionManager.h"
 #include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
-#include "prompter/PrompterStatus.h"
+#include "reading/PrompterStatus.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceType.h"

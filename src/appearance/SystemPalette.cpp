@@ -1,6 +1,6 @@
 #include "appearance/SystemPalette.h"
 
-#include "render/TextColor.h"
+#include "render/TextAttributes.h"
 
 namespace tessaline {
 

@@ -1,12 +1,29 @@
 #pragma once
 
-#include "platform/Notification.h"
+#include <QString>
 
+#include <any>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace tessaline {
+
+/// What a notification centre passes from a poster to its observers.
+struct Notification {
+    QString name;
+    const void* sender = nullptr; ///< the object that posts, compared by address only
+    std::map<QString, std::any> userInfo;
+
+    /// The value under `key`, or null when there is none or it is of another type than `T`. Points
+    /// into this notification.
+    template <typename T>
+    const T* value(const QString& key) const {
+        const auto entry = userInfo.find(key);
+        return entry == userInfo.end() ? nullptr : std::any_cast<T>(&entry->second);
+    }
+};
 
 /// Tells observers that something happened, without poster and observers knowing each other.
 class NotificationCenter {

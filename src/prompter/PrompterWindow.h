@@ -2,7 +2,7 @@
 
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
-#include "prompter/PrompterStatus.h"
+#include "reading/PrompterStatus.h"
 #include "reading/ContentRenderer.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceMode.h"

@@ -1,7 +1,7 @@
 #include "cli/documents/CompletionText.h"
 
 #include "cli/CommandTable.h"
-#include "cli/documents/FishCompletion.h"
+#include "cli/documents/ShellCompletions.h"
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Notification.h"
+#include "platform/NotificationCenter.h"
 #include "platform/NotificationCenter.h"
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/ControlRequest.h"
-#include "prompter/PrompterStatus.h"
+#include "reading/PrompterStatus.h"
 
 #include <QString>
 

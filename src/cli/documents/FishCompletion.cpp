@@ -1,4 +1,4 @@
-#include "cli/documents/FishCompletion.h"
+#include "cli/documents/ShellCompletions.h"
 
 #include "cli/CommandTable.h"
 #include "cli/documents/CompletionText.h"

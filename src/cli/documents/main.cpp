@@ -2,10 +2,8 @@
 
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
-#include "cli/documents/BashCompletion.h"
-#include "cli/documents/FishCompletion.h"
 #include "cli/documents/ManualPage.h"
-#include "cli/documents/ZshCompletion.h"
+#include "cli/documents/ShellCompletions.h"
 #include "settings/WholeFile.h"
 
 #include <QDir>

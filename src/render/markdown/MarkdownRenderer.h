@@ -1,8 +1,7 @@
 #pragma once
 
 #include "render/StyledText.h"
-#include "render/TextColor.h"
-#include "render/TextFont.h"
+#include "render/TextAttributes.h"
 
 #include <QStringView>
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "render/ParagraphStyle.h"
 #include "render/TextAttributes.h"
 #include "support/texts/StyledPiece.h"
 
