@@ -3,7 +3,6 @@
 #include "app/remote/SingleInstance.h"
 #include "cli/Console.h"
 #include "cli/ControlAnswer.h"
-#include "cli/ExitStatus.h"
 #include "platform/DisplaySession.h"
 
 #include <chrono>
@@ -15,11 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds longestWait{5};
-
-int fail(const QString& reason) {
-    reportError(reason);
-    return ExitStatus::failure;
-}
 
 QString nobodyRuns() {
     const QString finding = u"no prompter is running"_s;
@@ -35,15 +29,15 @@ QString nobodyRuns() {
 int runControl(const ControlRequest& request) {
     QString problem;
     const auto address = InstanceAddress::ofThisSession(&problem);
-    if (!address) return fail(u"no prompter can be reached: "_s + problem);
+    if (!address) return reportFailure(u"no prompter can be reached: "_s + problem);
     const auto outcome = SingleInstance::join(
         *address, [&] { return request; }, InstanceClient::Clock::now() + longestWait);
-    if (std::holds_alternative<SingleInstance::IsUs>(outcome)) return fail(nobodyRuns());
+    if (std::holds_alternative<SingleInstance::IsUs>(outcome)) return reportFailure(nobodyRuns());
     if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
-        return fail(u"no prompter can be reached: "_s + failure->problem);
+        return reportFailure(u"no prompter can be reached: "_s + failure->problem);
     const auto* answer = std::get_if<RemoteAnswer>(&outcome);
-    if (!answer) return fail(u"the prompter does not answer"_s);
-    if (const auto* refusal = std::get_if<Refusal>(answer)) return fail(refusal->reason);
+    if (!answer) return reportFailure(u"the prompter does not answer"_s);
+    if (const auto* refusal = std::get_if<Refusal>(answer)) return reportFailure(refusal->reason);
     return printText(controlAnswer(request, std::get<PrompterStatus>(*answer)) + u'\n');
 }
 

@@ -131,10 +131,7 @@ void hideEverything() {
 } // namespace
 
 int runPrompter(const PrompterStart& start) {
-    if (const auto problem = prepareDisplay()) {
-        reportError(*problem);
-        return ExitStatus::failure;
-    }
+    if (const auto problem = prepareDisplay()) return reportFailure(*problem);
     QApplication::setApplicationName(u"Tessaline"_s);
     QApplication::setDesktopFileName(u"app.tessaline.Tessaline"_s);
     QApplication::setQuitOnLastWindowClosed(

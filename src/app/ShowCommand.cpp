@@ -19,14 +19,9 @@ namespace {
 
 constexpr std::chrono::seconds longestWait{10};
 
-int fail(const QString& reason) {
-    reportError(reason);
-    return ExitStatus::failure;
-}
-
 int reportAnswer(const RemoteAnswer& answer) {
     const auto* refusal = std::get_if<Refusal>(&answer);
-    return refusal ? fail(refusal->reason) : ExitStatus::success;
+    return refusal ? reportFailure(refusal->reason) : ExitStatus::success;
 }
 
 /// Reads what the arguments name, if anything. Returns what is wrong with it.
@@ -77,9 +72,9 @@ int runShow(int argc, char** argv, const CommandLine::Show& request) {
     if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
         return runUnheard(start, failure->problem);
     if (std::holds_alternative<SingleInstance::NothingToAsk>(outcome))
-        return fail(script->problem());
+        return reportFailure(script->problem());
     if (std::holds_alternative<SingleInstance::Silence>(outcome))
-        return fail(u"the Tessaline that runs on this display does not answer"_s);
+        return reportFailure(u"the Tessaline that runs on this display does not answer"_s);
     start.socketPath = address->socketPath();
     return runPrompter(start);
 }

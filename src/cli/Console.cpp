@@ -18,6 +18,11 @@ void reportError(const QString& message) {
     DescriptorSink(STDERR_FILENO).write((line + u'\n').toLocal8Bit());
 }
 
+int reportFailure(const QString& reason) {
+    reportError(reason);
+    return ExitStatus::failure;
+}
+
 int printText(const QString& text) {
     std::signal(SIGPIPE, SIG_IGN);
     DescriptorSink output(STDOUT_FILENO);
@@ -26,8 +31,7 @@ int printText(const QString& text) {
 }
 
 int reportOutputFailure(const QString& reason) {
-    reportError(u"cannot write standard output: %1"_s.arg(reason));
-    return ExitStatus::failure;
+    return reportFailure(u"cannot write standard output: %1"_s.arg(reason));
 }
 
 } // namespace tessaline

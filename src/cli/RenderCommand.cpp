@@ -61,9 +61,7 @@ int renderToStandardOutput(const RenderRequest& request, const QString& content)
     DescriptorSink sink(STDOUT_FILENO);
     const QString error = render(request, content, sink);
     if (!sink.error().isEmpty()) return reportOutputFailure(sink.error());
-    if (error.isEmpty()) return ExitStatus::success;
-    reportError(error);
-    return ExitStatus::failure;
+    return error.isEmpty() ? ExitStatus::success : reportFailure(error);
 }
 
 int renderToFile(const RenderRequest& request, const QString& content) {
@@ -73,8 +71,7 @@ int renderToFile(const RenderRequest& request, const QString& content) {
         if (writeWholeFile(request.output, sink.bytes, &error)) return ExitStatus::success;
         error = u"cannot write %1: %2"_s.arg(request.output, error);
     }
-    reportError(error);
-    return ExitStatus::failure;
+    return reportFailure(error);
 }
 
 } // namespace

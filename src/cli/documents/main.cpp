@@ -27,8 +27,7 @@ int main(int argc, char** argv) {
     for (const auto& [name, text] : documents) {
         QString error;
         if (writeWholeFile(folder.filePath(name), text.toUtf8(), &error)) continue;
-        reportError(u"cannot write %1: %2"_s.arg(name, error));
-        return ExitStatus::failure;
+        return reportFailure(u"cannot write %1: %2"_s.arg(name, error));
     }
     return ExitStatus::success;
 }
