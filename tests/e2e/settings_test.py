@@ -55,7 +55,7 @@ class Place(SettingsTestCase):
 
     def test_can_be_closed_and_opened_again(self):
         self.start_with_settings()
-        self.desktop.key("alt+F4")
+        self.desktop.close_by_keys(self.window_of_settings)
         wait_until(lambda: not self.settings_are_open(), "it is closed")
         self.open_settings()
         self.wait_for_top(HEIGHT)
