@@ -5,7 +5,7 @@ target_include_directories(tessaline_options INTERFACE "${CMAKE_SOURCE_DIR}/src"
 target_compile_definitions(
   tessaline_options
   INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
-            QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+            QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_WARN_DEPRECATED_UP_TO=0x060400)
 # Designated initialisers leave the other members to their defaults, on purpose.
 target_compile_options(
   tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor

@@ -93,7 +93,10 @@ std::optional<QDateTime> fromIso8601(QByteArrayView text) {
     const int ahead = reader.seconds();
     if (!reader.isValid || !reader.rest.isEmpty() || !date.isValid() || !time.isValid())
         return std::nullopt;
-    return QDateTime(date, time, Qt::UTC).addSecs(-ahead);
+    // Each way to name UTC is one that some versions of Qt are slow at, or warn of.
+    static const QDateTime epoch = QDateTime::fromSecsSinceEpoch(0).toUTC();
+    return epoch.addDays(epoch.date().daysTo(date))
+        .addMSecs(time.msecsSinceStartOfDay() - ahead * qint64{1000});
 }
 
 } // namespace tessaline

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTimeZone>
 
 #include <gmock/gmock.h>
 
@@ -145,7 +146,7 @@ private:
 };
 
 TEST_F(AnalyticsFileInBerlin, CountsDaysOfTheUsersCalendar) {
-    stage.now = QDateTime(QDate(2026, 11, 20), QTime(11, 0), Qt::UTC); // 12 o'clock
+    stage.now = QDateTime(QDate(2026, 11, 20), QTime(11, 0), QTimeZone::utc()); // 12 o'clock
     putEvents({u"2026-10-21T12:00:00+02:00"_s, u"2026-10-21T12:00:01+02:00"_s});
     runAndFlush();
     EXPECT_EQ(namesIn(stage.path), (QStringList{u"2026-10-21T12:00:01+02:00"_s, u"now"_s}));

@@ -3,6 +3,8 @@
 #include "support/KilledProcess.h"
 #include "support/PrintQt.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace tessaline {
@@ -17,7 +19,7 @@ protected:
 
     QTemporaryDir folder;
     QString path = folder.filePath(u"analytics.json"_s);
-    const QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30), Qt::UTC};
+    const QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30), QTimeZone::utc()};
     KilledProcess process;
 
     AnalyticsEvent event(qsizetype number) const {

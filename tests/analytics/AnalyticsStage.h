@@ -10,6 +10,7 @@
 #include "support/TestPlatform.h"
 
 #include <QTemporaryDir>
+#include <QTimeZone>
 
 #include <memory>
 #include <utility>
@@ -51,7 +52,7 @@ struct AnalyticsStage : TestPlatform {
 
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("support/analytics.json"));
-    QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30), Qt::UTC};
+    QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30), QTimeZone::utc()};
     FakeEnvironmentProbe environment;
     std::vector<Signal> sent;
 };

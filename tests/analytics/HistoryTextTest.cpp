@@ -5,6 +5,8 @@
 #include "support/JoinedPieces.h"
 #include "support/PrintQt.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -15,8 +17,8 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-const QDateTime moment(QDate(2026, 11, 20), QTime(21, 44, 30), Qt::UTC);
-const QDateTime longAgo(QDate(-1, 1, 1), QTime(0, 0), Qt::UTC);
+const QDateTime moment(QDate(2026, 11, 20), QTime(21, 44, 30), QTimeZone::utc());
+const QDateTime longAgo(QDate(-1, 1, 1), QTime(0, 0), QTimeZone::utc());
 
 QByteArray bytesOf(const HistoryText& text) {
     return joined(text.pieces());

@@ -3,6 +3,8 @@
 #include "support/CaseName.h"
 #include "support/PrintQt.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -13,7 +15,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 QDateTime utc(int year, int month, int day, int hour, int minute, int second, int msec = 0) {
-    return {QDate(year, month, day), QTime(hour, minute, second, msec), Qt::UTC};
+    return {QDate(year, month, day), QTime(hour, minute, second, msec), QTimeZone::utc()};
 }
 
 TEST(Iso8601, WritesUtcInWholeSeconds) {

@@ -2,6 +2,8 @@
 
 #include "support/PrintQt.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -11,7 +13,8 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-const TDSignal example{.receivedAt = QDateTime(QDate(2026, 11, 20), QTime(21, 44, 30), Qt::UTC),
+const TDSignal example{.receivedAt =
+                           QDateTime(QDate(2026, 11, 20), QTime(21, 44, 30), QTimeZone::utc()),
                        .appID = u"app"_s,
                        .clientUser = u"user"_s,
                        .sessionID = u"session"_s,

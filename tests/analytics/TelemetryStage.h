@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
+#include <QTimeZone>
 
 #include <memory>
 
@@ -51,7 +52,7 @@ struct TelemetryStage : TestPlatform {
         HttpPoster& poster;
     };
 
-    QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30, 250), Qt::UTC};
+    QDateTime now{QDate(2026, 11, 20), QTime(21, 44, 30, 250), QTimeZone::utc()};
 };
 
 } // namespace tessaline

@@ -13,7 +13,7 @@ namespace {
 
 /// The history as it is written again; none when it cannot be read.
 std::optional<QByteArray> rewritten(const QByteArray& bytes) {
-    const QDateTime longAgo(QDate(-1, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime longAgo(QDate(-1, 1, 1), QTime(0, 0), QTimeZone::utc());
     bool leftOut = false;
     QString error;
     const auto text = HistoryText::read(bytes, longAgo, leftOut, error);
