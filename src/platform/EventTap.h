@@ -18,6 +18,9 @@ public:
 
     /// Switches the tap on again after the system switched it off.
     virtual void enable() = 0;
+
+    /// Whether the tap sees events at this moment. Most systems never switch one off.
+    virtual bool isOn() const { return true; }
 };
 
 /// Makes event taps.
@@ -28,6 +31,10 @@ public:
     /// A tap that is on, or null where the system does not allow one now. The handler must return
     /// quickly: input waits for it.
     virtual std::unique_ptr<EventTap> create(EventTap::Handler handler) = 0;
+
+    /// Whether the system would allow a tap now. Unlike `AccessibilityTrust`, which may still tell
+    /// of a permission that was taken away, this tries. May be asked from within a tap's handler.
+    virtual bool wouldAllow() { return true; }
 };
 
 } // namespace tessaline

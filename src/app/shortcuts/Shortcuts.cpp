@@ -5,6 +5,7 @@
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 
+#include <chrono>
 #include <iostream>
 #include <utility>
 
@@ -33,6 +34,10 @@ bool isPaste(const KeyEvent& key) {
     return key.modifiers == Modifier::command && key.characters.toLower() == "v"_L1;
 }
 
+EventTapLife::TimePoint now() {
+    return std::chrono::steady_clock::now();
+}
+
 bool hasControl(ModifierFlags modifiers) {
     return (modifiers & Modifier::control) != 0;
 }
@@ -41,7 +46,12 @@ bool hasControl(ModifierFlags modifiers) {
 
 Shortcuts::Shortcuts(const Platform& borrowedPlatform, UsageRecorder& usageRecorder,
                      Actions givenActions)
-    : platform(borrowedPlatform), recorder(usageRecorder), actions(std::move(givenActions)) {}
+    : platform(borrowedPlatform)
+    , recorder(usageRecorder)
+    , actions(std::move(givenActions))
+    , scrollEventTap(
+          *platform.eventTaps, *platform.mainQueue,
+          lifetime.guard([this](const TapEvent& event) { return handleScrollEventTap(event); })) {}
 
 Shortcuts::~Shortcuts() = default;
 
@@ -61,6 +71,7 @@ void Shortcuts::pollAccessibility() {
         tapFailureReported = false;
         recorder.trackPermissionStatus(PermissionType::accessibility, trusted);
     }
+    scrollEventTap.dropIfOff();
     // Also without a change: what another program held before may be free by now.
     trySetupGlobalShortcuts();
 }
@@ -105,10 +116,8 @@ void Shortcuts::toggleScroll(const KeyEvent& key) {
 }
 
 void Shortcuts::setupGlobalScrollEventTap() {
-    if (scrollEventTap) return;
-    scrollEventTap = platform.eventTaps->create(
-        lifetime.guard([this](const TapEvent& event) { return handleScrollEventTap(event); }));
-    if (scrollEventTap || std::exchange(tapFailureReported, true)) return;
+    const bool isRefused = scrollEventTap.makeIfNeeded(now()) == EventTapLife::Attempt::refused;
+    if (!isRefused || std::exchange(tapFailureReported, true)) return;
     std::cout << "Failed to create scroll event tap" << std::endl;
 }
 
@@ -116,7 +125,7 @@ EventTap::Verdict Shortcuts::handleScrollEventTap(const TapEvent& event) {
     const bool control = hasControl(event.modifiers);
     switch (event.type) {
     case TapEvent::Type::tapDisabled:
-        if (scrollEventTap) scrollEventTap->enable();
+        scrollEventTap.switchedOff(now());
         return EventTap::Verdict::passOn;
     case TapEvent::Type::scrollWheel:
         return control && event.isReadable ? scrollLater(event) : EventTap::Verdict::passOn;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/shortcuts/EventTapLife.h"
 #include "platform/EventTap.h"
 #include "platform/GlobalKeyMonitor.h"
 #include "platform/Lifetime.h"
@@ -15,8 +16,8 @@ class UsageRecorder;
 struct Platform;
 
 /// Keyboard shortcuts and pointer gestures that drive the prompter, in windows of ours and, while
-/// the system allows it, in those of other applications. Nothing that was set up is removed before
-/// this object goes away.
+/// the system allows it, in those of other applications. But for a tap that the system switched off
+/// and keeps off, nothing that was set up is removed before this object goes away.
 class Shortcuts {
 public:
     static constexpr double shortcutScrollStep = 40.0;       ///< points per Control + arrow key
@@ -61,7 +62,7 @@ private:
     bool tapFailureReported = false;
     std::unique_ptr<LocalKeyMonitor::Registration> localMonitor;
     std::unique_ptr<GlobalKeyMonitor::Registration> globalMonitor;
-    std::unique_ptr<EventTap> scrollEventTap;
+    EventTapLife scrollEventTap;
     std::unique_ptr<RepeatingTimer> accessibilityPollTimer;
 };
 

@@ -51,6 +51,19 @@ TapEvent tapEventFrom(CGEventType type, CGEventRef event) {
     }
 }
 
+/// A tap of the session that may swallow events, ahead of all others; null where the system allows
+/// none now.
+CFMachPortRef createFilter(CGEventMask events, CGEventTapCallBack callback,
+                           void* context) CF_RETURNS_RETAINED {
+    return CGEventTapCreate(kCGSessionEventTap, kCGHeadInsertEventTap, kCGEventTapOptionDefault,
+                            events, callback, context);
+}
+
+CGEventRef passOn(CGEventTapProxy /*proxy*/, CGEventType /*type*/, CGEventRef event,
+                  void* /*context*/) {
+    return event;
+}
+
 /// A tap of the session, ahead of all others, served by the main run loop.
 class MacEventTap final : public EventTap {
 public:
@@ -68,9 +81,7 @@ public:
 
     /// False when the system does not allow a tap now.
     bool install() {
-        port.reset(CGEventTapCreate(kCGSessionEventTap, kCGHeadInsertEventTap,
-                                    kCGEventTapOptionDefault, tappedEvents, &MacEventTap::receive,
-                                    this));
+        port.reset(createFilter(tappedEvents, &MacEventTap::receive, this));
         if (!port) return false;
         source.reset(CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
         if (!source) return false;
@@ -80,6 +91,7 @@ public:
     }
 
     void enable() override { CGEventTapEnable(port.get(), true); }
+    bool isOn() const override { return CGEventTapIsEnabled(port.get()); }
 
 private:
     static CGEventRef receive(CGEventTapProxy /*proxy*/, CGEventType type, CGEventRef event,
@@ -102,6 +114,14 @@ public:
         auto tap = std::make_unique<MacEventTap>(std::move(handler));
         if (!tap->install()) return nullptr;
         return tap;
+    }
+
+    bool wouldAllow() override {
+        // Nobody serves it, so it is there for the rarest events only, and for no longer than this.
+        const CfHolder<CFMachPortRef> probe(
+            createFilter(CGEventMaskBit(kCGEventOtherMouseDown), &passOn, nullptr));
+        if (probe) CFMachPortInvalidate(probe.get());
+        return probe != nullptr;
     }
 };
 

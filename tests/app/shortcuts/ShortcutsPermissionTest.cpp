@@ -101,6 +101,27 @@ TEST_F(ShortcutsPermission, GrantedAgainInstallsNothingTwice) {
     EXPECT_EQ(eventTaps.liveTaps, 1);
 }
 
+TEST_F(ShortcutsPermission, ATapThatTheSystemKeepsOffGoesAndComesBackWithTheNextGrant) {
+    setUpTrusted();
+    eventTaps.allowed = false;
+    setTrust(false);
+    eventTaps.switchOff();
+    EXPECT_EQ(eventTaps.enables, 0);
+    mainQueue.runAll();
+    EXPECT_EQ(eventTaps.liveTaps, 0);
+    eventTaps.allowed = true;
+    setTrust(true);
+    EXPECT_EQ(eventTaps.liveTaps, 1);
+    EXPECT_EQ(eventTaps.send(wheel()), EventTap::Verdict::swallow);
+}
+
+TEST_F(ShortcutsPermission, ThePollDropsATapThatWentOffWithoutAWord) {
+    setUpTrusted();
+    eventTaps.isOn = false;
+    setTrust(false);
+    EXPECT_EQ(eventTaps.liveTaps, 0);
+}
+
 TEST_F(ShortcutsPermission, AChordHeldByAnotherProgramIsTriedAgainByThePoll) {
     globalKeys.allowed = false;
     setUpTrusted();
