@@ -17,8 +17,9 @@ public:
 
     virtual ~DisplayLink() = default;
 
-    /// Begins to call back. Does nothing when started already.
-    virtual void start() = 0;
+    /// Begins to call back. False where the system does not; then this may be tried again. Does
+    /// nothing when started already.
+    virtual bool start() = 0;
 
     /// Ends the calls. Waits for a callback in progress: once this has returned, none runs. A
     /// callback must therefore never wait for the main thread, nor stop its own link.

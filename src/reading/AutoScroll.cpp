@@ -3,26 +3,36 @@
 #include "reading/Pace.h"
 #include "render/engines/DisplayLinkScrollerDelegate.h"
 
+#include <utility>
+
 namespace tessaline {
 
-AutoScroll::AutoScroll(const std::weak_ptr<DisplayLinkScrollerDelegate>& reader,
-                       DisplayLinkMaker& links, TimerMaker& timers, MainQueue& queue)
-    : displayLinkScroller(links, queue) {
-    if (displayLinkScroller.isAvailable()) {
-        displayLinkScroller.setDelegate(reader);
-    } else {
-        timerScroller.emplace(timers, queue, links);
-        timerScroller->setDelegate(reader);
-    }
+AutoScroll::AutoScroll(std::weak_ptr<DisplayLinkScrollerDelegate> receiver,
+                       DisplayLinkMaker& linkMaker, TimerMaker& timerMaker, MainQueue& mainQueue)
+    : reader(std::move(receiver))
+    , links(linkMaker)
+    , timers(timerMaker)
+    , queue(mainQueue)
+    , displayLinkScroller(links, queue) {
+    displayLinkScroller.setDelegate(reader);
+    if (!displayLinkScroller.isAvailable()) fallBackToTimer();
+}
+
+void AutoScroll::fallBackToTimer() {
+    timerScroller.emplace(timers, queue, links);
+    timerScroller->setDelegate(reader);
+    if (pointsPerSecond) timerScroller->updatePixelsPerSecond(*pointsPerSecond);
 }
 
 void AutoScroll::setPace(const Pace& pace) {
-    displayLinkScroller.updatePixelsPerSecond(pace.pointsPerSecond());
-    if (timerScroller) timerScroller->updatePixelsPerSecond(pace.pointsPerSecond());
+    pointsPerSecond = pace.pointsPerSecond();
+    displayLinkScroller.updatePixelsPerSecond(*pointsPerSecond);
+    if (timerScroller) timerScroller->updatePixelsPerSecond(*pointsPerSecond);
 }
 
 void AutoScroll::start() {
     displayLinkScroller.start();
+    if (!displayLinkScroller.isAvailable() && !timerScroller) fallBackToTimer();
     if (timerScroller) timerScroller->start();
 }
 

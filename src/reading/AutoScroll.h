@@ -10,6 +10,7 @@
 namespace tessaline {
 
 class DisplayLinkScrollerDelegate;
+class MainQueue;
 
 /// Moves the text at an even speed, with the display's refresh where that can be had and with a
 /// timer otherwise.
@@ -17,7 +18,7 @@ class AutoScroll : public PositionSource {
 public:
     /// The engine hands what it produces to `reader` itself, which is held weakly. The others are
     /// borrowed.
-    AutoScroll(const std::weak_ptr<DisplayLinkScrollerDelegate>& reader, DisplayLinkMaker& links,
+    AutoScroll(std::weak_ptr<DisplayLinkScrollerDelegate> reader, DisplayLinkMaker& links,
                TimerMaker& timers, MainQueue& queue);
 
     void start() override;
@@ -27,8 +28,15 @@ public:
     bool running() const;
 
 private:
+    void fallBackToTimer();
+
+    const std::weak_ptr<DisplayLinkScrollerDelegate> reader;
+    DisplayLinkMaker& links;
+    TimerMaker& timers;
+    MainQueue& queue;
     DisplayLinkScroller displayLinkScroller;
     std::optional<TimerScroller> timerScroller;
+    std::optional<double> pointsPerSecond; ///< once it is known
 };
 
 } // namespace tessaline

@@ -115,6 +115,41 @@ TEST_F(CoreVideoDisplayLinkTest, IsStoppedAndReleasedByItsEnd) {
     EXPECT_EQ(FakeCoreVideo::releases(), 1);
 }
 
+TEST_F(CoreVideoDisplayLinkTest, DeliversNothingAfterItsEndEvenIfCoreVideoIsLate) {
+    auto link = makeRecordingLink();
+    link->start();
+    link.reset();
+    EXPECT_FALSE(FakeCoreVideo::refresh(100));
+    EXPECT_THAT(times, IsEmpty());
+}
+
+TEST_F(CoreVideoDisplayLinkTest, ALateRefreshDoesNotReachTheNextLink) {
+    auto link = makeRecordingLink();
+    link->start();
+    const auto late = FakeCoreVideo::keepCall();
+    link = makeRecordingLink();
+    link->start();
+    EXPECT_FALSE(late(100));
+    EXPECT_THAT(times, IsEmpty());
+    EXPECT_TRUE(FakeCoreVideo::refresh(200));
+}
+
+TEST_F(CoreVideoDisplayLinkTest, IsNotOfferedWhenCoreVideoDoesNotCallBack) {
+    FakeCoreVideo::breakDown(FakeCoreVideo::Fault::settingTheCallback);
+    EXPECT_EQ(makeRecordingLink(), nullptr);
+    EXPECT_EQ(FakeCoreVideo::releases(), 1);
+}
+
+TEST_F(CoreVideoDisplayLinkTest, SaysThatCoreVideoDoesNotStartItAndTriesAgain) {
+    const auto link = makeRecordingLink();
+    FakeCoreVideo::breakDown(FakeCoreVideo::Fault::starting);
+    EXPECT_FALSE(link->start());
+    FakeCoreVideo::breakDown(FakeCoreVideo::Fault::none);
+    EXPECT_TRUE(link->start());
+    FakeCoreVideo::refresh(100);
+    EXPECT_THAT(times, ElementsAre(100));
+}
+
 class CoreVideoDisplayLinkStopTest : public ::testing::TestWithParam<FakeCoreVideo::Stopping> {
 protected:
     CoreVideoDisplayLinkStopTest() {

@@ -13,6 +13,7 @@ struct State {
     Stopping stopping = Stopping::returnsAtOnce;
     CVDisplayLinkOutputCallback callback = nullptr;
     void* context = nullptr;
+    Fault fault = Fault::none;
     bool running = false;
     int starts = 0;
     int stops = 0;
@@ -31,13 +32,21 @@ void reset(Creation creation, Stopping stopping) {
     state = {.creation = creation, .stopping = stopping};
 }
 
+void breakDown(Fault fault) {
+    state.fault = fault;
+}
+
 bool refresh(std::uint64_t hostTime) {
-    if (!state.callback) return false;
-    const CVTimeStamp now{};
-    const CVTimeStamp output{.hostTime = hostTime};
-    CVOptionFlags flagsOut = 0;
-    return state.callback(theLink(), &now, &output, 0, &flagsOut, state.context) ==
-           kCVReturnSuccess;
+    return state.callback && keepCall()(hostTime);
+}
+
+std::function<bool(std::uint64_t)> keepCall() {
+    return [callback = state.callback, context = state.context](std::uint64_t hostTime) {
+        const CVTimeStamp now{};
+        const CVTimeStamp output{.hostTime = hostTime};
+        CVOptionFlags flagsOut = 0;
+        return callback(theLink(), &now, &output, 0, &flagsOut, context) == kCVReturnSuccess;
+    };
 }
 
 void loseContext() {
@@ -72,12 +81,14 @@ CVReturn CVDisplayLinkCreateWithActiveCGDisplays(CVDisplayLinkRef* displayLinkOu
 
 CVReturn CVDisplayLinkSetOutputCallback(CVDisplayLinkRef /*displayLink*/,
                                         CVDisplayLinkOutputCallback callback, void* userInfo) {
+    if (state.fault == Fault::settingTheCallback) return kCVReturnError;
     state.callback = callback;
     state.context = userInfo;
     return kCVReturnSuccess;
 }
 
 CVReturn CVDisplayLinkStart(CVDisplayLinkRef /*displayLink*/) {
+    if (state.fault == Fault::starting) return kCVReturnError;
     ++state.starts;
     state.running = true;
     return kCVReturnSuccess;
@@ -95,7 +106,5 @@ double CVGetHostClockFrequency() {
 }
 
 void CFRelease(CFTypeRef cf) {
-    if (cf != theLink()) return;
-    ++state.releases;
-    state.callback = nullptr;
+    if (cf == theLink()) ++state.releases;
 }

@@ -119,6 +119,25 @@ TEST_F(AutoScrollTest, FallsBackToTheTimerWithoutADisplayLink) {
     EXPECT_TRUE(timers.liveIntervals().empty());
 }
 
+TEST_F(AutoScrollTest, FallsBackToTheTimerWhenTheDisplayLinkDoesNotStart) {
+    links.canStart = false;
+    settings.autoScrollEnabled = true;
+    settings.scrollRate = ScrollRate::fast;
+    settings.scrollSpeed = 5.0;
+    testing::internal::CaptureStdout();
+    AutoScroll& scroll = make();
+    EXPECT_NE(testing::internal::GetCapturedStdout().find("falling back to Timer"),
+              std::string::npos);
+    EXPECT_TRUE(scroll.running());
+    timers.advance(1.5 / 60);
+    queue.runAll();
+    ASSERT_EQ(view.steps.size(), 1u);
+    EXPECT_DOUBLE_EQ(view.steps[0], 0.32);
+    scroll.stop();
+    scroll.start();
+    EXPECT_EQ(timers.liveIntervals().size(), 1u);
+}
+
 TEST_F(AutoScrollTest, RunsNoTimerBeforeItIsSwitchedOnWithoutADisplayLink) {
     links.available = false;
     AutoScroll& scroll = make();

@@ -11,15 +11,19 @@ namespace tessaline {
 /// A display link that refreshes when a test says so. Enters itself in the list of living links.
 class FakeDisplayLink final : public DisplayLink {
 public:
-    FakeDisplayLink(Callback action, double frequency, std::vector<FakeDisplayLink*>& list)
-        : callback(std::move(action)), ticksPerSecond(frequency), living(list) {
+    FakeDisplayLink(Callback action, double frequency, bool starts,
+                    std::vector<FakeDisplayLink*>& list)
+        : callback(std::move(action)), ticksPerSecond(frequency), canStart(starts), living(list) {
         living.push_back(this);
     }
     ~FakeDisplayLink() override { std::erase(living, this); }
     FakeDisplayLink(const FakeDisplayLink&) = delete;
     FakeDisplayLink& operator=(const FakeDisplayLink&) = delete;
 
-    void start() override { started = true; }
+    bool start() override {
+        started = canStart;
+        return started;
+    }
     void stop() override { started = false; }
     double clockFrequency() const override { return ticksPerSecond; }
 
@@ -33,6 +37,7 @@ public:
 private:
     Callback callback;
     double ticksPerSecond;
+    bool canStart;
     std::vector<FakeDisplayLink*>& living;
     bool started = false;
 };

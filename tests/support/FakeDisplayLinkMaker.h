@@ -10,7 +10,8 @@ public:
     std::unique_ptr<DisplayLink> make(DisplayLink::Callback callback) override {
         ++calls;
         if (!available) return nullptr;
-        return std::make_unique<FakeDisplayLink>(std::move(callback), clockFrequency, living);
+        return std::make_unique<FakeDisplayLink>(std::move(callback), clockFrequency, canStart,
+                                                 living);
     }
     void setRefreshRate(double hertz) override { refreshRate = hertz; }
 
@@ -22,6 +23,8 @@ public:
 
     /// Whether links can be had at all.
     bool available = true;
+    /// Whether those that are made from now on start when they are told to.
+    bool canStart = true;
     /// Host clock of the links to be made. At 60 ticks a second, one tick is one frame exactly.
     double clockFrequency = 60.0;
     /// What the maker was told last.

@@ -34,12 +34,13 @@ ClockDisplayLink::~ClockDisplayLink() {
     thread.join();
 }
 
-void ClockDisplayLink::start() {
+bool ClockDisplayLink::start() {
     {
         const std::scoped_lock guard(lock);
         if (!schedule) schedule.emplace(monotonicNow(), *refreshRate);
     }
     changed.notify_all();
+    return true;
 }
 
 void ClockDisplayLink::stop() {

@@ -30,7 +30,7 @@ public:
     ClockDisplayLink(const ClockDisplayLink&) = delete;
     ClockDisplayLink& operator=(const ClockDisplayLink&) = delete;
 
-    void start() override;
+    bool start() override;
     void stop() override;
     double clockFrequency() const override { return 1e9; }
 

@@ -5,35 +5,34 @@
 
 #include <CoreVideo/CoreVideo.h>
 
-#include <mutex>
+#include <memory>
 
 namespace tessaline {
 
 /// A display link of Core Video. Host time is that of the frame's output.
 class CoreVideoDisplayLink final : public DisplayLink {
 public:
-    CoreVideoDisplayLink(CfHolder<CVDisplayLinkRef> nativeLink, Callback action);
+    /// Null where Core Video does not call back.
+    static std::unique_ptr<DisplayLink> create(CfHolder<CVDisplayLinkRef> nativeLink,
+                                               Callback action);
     ~CoreVideoDisplayLink() override;
     CoreVideoDisplayLink(const CoreVideoDisplayLink&) = delete;
     CoreVideoDisplayLink& operator=(const CoreVideoDisplayLink&) = delete;
 
-    void start() override;
+    bool start() override;
     void stop() override;
     double clockFrequency() const override;
 
 private:
+    class Receiver;
+
+    CoreVideoDisplayLink(CfHolder<CVDisplayLinkRef> nativeLink, std::shared_ptr<Receiver> frames);
     static CVReturn output(CVDisplayLinkRef link, const CVTimeStamp* now,
                            const CVTimeStamp* outputTime, CVOptionFlags flagsIn,
                            CVOptionFlags* flagsOut, void* context);
-    void callBack(std::uint64_t hostTime);
 
-    const Callback callback;
     const CfHolder<CVDisplayLinkRef> link;
-
-    // Held during a callback, so that stopping waits for it.
-    std::mutex lock;
-    bool started = false;
-    std::uint64_t latest = 0;
+    const std::shared_ptr<Receiver> receiver;
 };
 
 } // namespace tessaline

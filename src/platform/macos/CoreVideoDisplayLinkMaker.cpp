@@ -14,7 +14,7 @@ public:
         const CVReturn status = CVDisplayLinkCreateWithActiveCGDisplays(&created);
         CfHolder<CVDisplayLinkRef> link(created);
         if (status != kCVReturnSuccess || !link) return nullptr;
-        return std::make_unique<CoreVideoDisplayLink>(std::move(link), std::move(callback));
+        return CoreVideoDisplayLink::create(std::move(link), std::move(callback));
     }
 
     void setRefreshRate(double /*hertz*/) override {}

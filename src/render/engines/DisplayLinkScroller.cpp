@@ -20,10 +20,7 @@ constexpr double smallestScroll = 0.1;
 DisplayLinkScroller::DisplayLinkScroller(DisplayLinkMaker& links, MainQueue& queue)
     : mainQueue(queue)
     , displayLink(links.make([this](std::uint64_t hostTime) { tick(hostTime); })) {
-    if (!displayLink) {
-        std::puts("Failed to create CVDisplayLink, falling back to Timer");
-        std::fflush(stdout);
-    }
+    if (!displayLink) reportFallback();
 }
 
 DisplayLinkScroller::~DisplayLinkScroller() {
@@ -36,8 +33,10 @@ void DisplayLinkScroller::setDelegate(std::weak_ptr<DisplayLinkScrollerDelegate>
 
 void DisplayLinkScroller::start() {
     if (!displayLink || isRunning) return;
-    displayLink->start();
-    isRunning = true;
+    isRunning = displayLink->start();
+    if (isRunning) return;
+    displayLink.reset();
+    reportFallback();
 }
 
 void DisplayLinkScroller::stop() {
@@ -80,6 +79,11 @@ double DisplayLinkScroller::secondsSinceLastFrame(std::uint64_t hostTime) const 
 
 void DisplayLinkScroller::postScroll(double deltaY) {
     mainQueue.post(lifetime.guard([this, deltaY] { deliver(deltaY); }));
+}
+
+void DisplayLinkScroller::reportFallback() {
+    std::puts("Failed to create CVDisplayLink, falling back to Timer");
+    std::fflush(stdout);
 }
 
 void DisplayLinkScroller::deliver(double deltaY) {

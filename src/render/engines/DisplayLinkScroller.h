@@ -17,8 +17,8 @@ class MainQueue;
 /// main queue. The display link's thread does the counting in between.
 class DisplayLinkScroller {
 public:
-    /// Makes its display link at once. Where there is none, says so on standard output; the engine
-    /// then never moves anything. The queue must outlive the engine.
+    /// Makes its display link at once. Where there is none, or one that does not start, says so on
+    /// standard output; the engine then never moves anything. The queue must outlive the engine.
     DisplayLinkScroller(DisplayLinkMaker& links, MainQueue& queue);
     ~DisplayLinkScroller();
     DisplayLinkScroller(const DisplayLinkScroller&) = delete;
@@ -27,7 +27,7 @@ public:
     /// Sets the receiver of the distances, which is held weakly.
     void setDelegate(std::weak_ptr<DisplayLinkScrollerDelegate> receiver);
 
-    /// Whether there is a display link.
+    /// Whether there is a display link. One that does not start is given up.
     bool isAvailable() const { return displayLink != nullptr; }
 
     /// Begins to scroll. Does nothing while running or without a display link.
@@ -46,6 +46,7 @@ private:
     void tick(std::uint64_t hostTime);
     double secondsSinceLastFrame(std::uint64_t hostTime) const;
     void postScroll(double deltaY);
+    static void reportFallback();
     void deliver(double deltaY);
 
     MainQueue& mainQueue;

@@ -78,6 +78,18 @@ TEST_F(DisplayLinkScrollerTest, WithoutALinkNeitherStartsNorStops) {
     EXPECT_EQ(links.calls, 1);
 }
 
+TEST_F(DisplayLinkScrollerTest, GivesALinkUpThatDoesNotStart) {
+    links.canStart = false;
+    makeEngine();
+    ::testing::internal::CaptureStdout();
+    engine->start();
+    EXPECT_EQ(::testing::internal::GetCapturedStdout(),
+              "Failed to create CVDisplayLink, falling back to Timer\n");
+    EXPECT_FALSE(engine->running());
+    EXPECT_FALSE(engine->isAvailable());
+    EXPECT_THAT(links.living, IsEmpty());
+}
+
 TEST_F(DisplayLinkScrollerTest, StartsAndStopsItsLink) {
     makeEngine();
     engine->start();
