@@ -7,6 +7,7 @@
 #include "platform/Screens.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FocusOnClick.h"
+#include "platform/qt/KeyTranslation.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/Placeholder.h"
 #include "prompter/PrompterGeometry.h"
@@ -322,7 +323,8 @@ void PrompterWindow::updateMinimizeButtonAppearance() {
 }
 
 void PrompterWindow::wheelEvent(QWheelEvent* event) {
-    if (!event->modifiers().testFlag(Qt::ControlModifier)) return QWidget::wheelEvent(event);
+    if (!(translateModifiers(event->modifiers()) & Modifier::control))
+        return QWidget::wheelEvent(event);
     const double points = event->angleDelta().y() / unitsPerWheelStep * pointsPerWheelLine;
     performScroll(preciseScrolling(*event).value_or(points));
 }

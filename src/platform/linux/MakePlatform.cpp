@@ -4,6 +4,7 @@
 #include "platform/linux/desktop/DesktopFileIcons.h"
 #include "platform/linux/desktop/LinuxActivationPolicy.h"
 #include "platform/linux/desktop/LinuxBundleInformation.h"
+#include "platform/qt/KeyTranslation.h"
 #include "platform/qt/QtAdapters.h"
 #include "platform/qt/QtFolderChooser.h"
 #include "platform/qt/QtLocalKeyMonitor.h"
@@ -17,7 +18,7 @@ std::unique_ptr<Platform> makePlatform() {
     addQtAdapters(*platform);
     platform->bundle =
         std::make_unique<LinuxBundleInformation>(QCoreApplication::applicationDirPath());
-    platform->localKeys = std::make_unique<QtLocalKeyMonitor>(KeyTranslation::control);
+    platform->localKeys = std::make_unique<QtLocalKeyMonitor>(systemKeyTranslation());
     platform->activationPolicy = std::make_unique<LinuxActivationPolicy>();
     platform->applications =
         std::make_unique<DesktopApplicationLookup>(DesktopEntries::installed());

@@ -6,17 +6,6 @@ namespace tessaline {
 
 namespace {
 
-ModifierFlags modifiersOf(const QKeyEvent& event, KeyTranslation translation) {
-    const bool isMac = translation == KeyTranslation::command;
-    const Qt::KeyboardModifiers held = event.modifiers();
-    ModifierFlags flags = 0;
-    if (held.testFlag(Qt::ShiftModifier)) flags |= Modifier::shift;
-    if (held.testFlag(Qt::AltModifier)) flags |= Modifier::option;
-    if (held.testFlag(Qt::ControlModifier)) flags |= isMac ? Modifier::command : Modifier::control;
-    if (held.testFlag(Qt::MetaModifier)) flags |= isMac ? Modifier::control : Modifier::command;
-    return flags;
-}
-
 /// The text of a key with Control is a control character; its code is the letter that the key has
 /// in menus, on every layout.
 QString charactersOf(const QKeyEvent& event) {
@@ -38,10 +27,20 @@ int keyCodeOf(const QKeyEvent& event) {
 
 } // namespace
 
+ModifierFlags translateModifiers(Qt::KeyboardModifiers held, KeyTranslation translation) {
+    const bool isMac = translation == KeyTranslation::command;
+    ModifierFlags flags = 0;
+    if (held.testFlag(Qt::ShiftModifier)) flags |= Modifier::shift;
+    if (held.testFlag(Qt::AltModifier)) flags |= Modifier::option;
+    if (held.testFlag(Qt::ControlModifier)) flags |= isMac ? Modifier::command : Modifier::control;
+    if (held.testFlag(Qt::MetaModifier)) flags |= isMac ? Modifier::control : Modifier::command;
+    return flags;
+}
+
 KeyEvent translateKey(const QKeyEvent& event, KeyTranslation translation) {
     KeyEvent key{.characters = charactersOf(event),
                  .keyCode = keyCodeOf(event),
-                 .modifiers = modifiersOf(event, translation),
+                 .modifiers = translateModifiers(event.modifiers(), translation),
                  .isRepeat = event.isAutoRepeat()};
     const bool isControlV = translation == KeyTranslation::control &&
                             key.modifiers == Modifier::control && event.key() == Qt::Key_V;

@@ -1,5 +1,6 @@
 #include "prompter/view/ScriptInteraction.h"
 
+#include "platform/qt/KeyTranslation.h"
 #include "prompter/view/ScriptView.h"
 
 #include <QApplication>
@@ -41,7 +42,7 @@ bool ScriptInteraction::keyPress(const QKeyEvent& event) {
 bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
     const double page = view.height() - pointsPerKeyLine;
     const double position = view.scrollPosition();
-    const auto isPlain = (event.modifiers() & ~(Qt::KeypadModifier | Qt::ControlModifier)) == 0;
+    const auto isPlain = (translateModifiers(event.modifiers()) & ~Modifier::control) == 0;
     if (!isPlain) return false;
     switch (event.key()) {
     case Qt::Key_Up:

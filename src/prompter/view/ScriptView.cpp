@@ -1,5 +1,6 @@
 #include "prompter/view/ScriptView.h"
 
+#include "platform/qt/KeyTranslation.h"
 #include "prompter/controls/ThemedScroller.h"
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ScriptViewAccessible.h"
@@ -352,7 +353,7 @@ void ScriptView::reveal(qsizetype offset) {
 }
 
 void ScriptView::wheelEvent(QWheelEvent* event) {
-    if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
+    if (translateModifiers(event->modifiers()) & Modifier::control) return event->ignore();
     const double steps = event->angleDelta().y() / unitsPerWheelStep;
     const double points = steps * QApplication::wheelScrollLines() * pointsPerWheelLine;
     scrollByHand(scrollTop - preciseScrolling(*event).value_or(points));

@@ -1,0 +1,9 @@
+#include "platform/qt/KeyTranslation.h"
+
+namespace tessaline {
+
+KeyTranslation systemKeyTranslation() {
+    return KeyTranslation::command;
+}
+
+} // namespace tessaline
