@@ -19,6 +19,7 @@ class FolderChooser;
 class GlobalKeyMonitor;
 class NativeLook;
 class StatusArea;
+class UserDefaults;
 class WindowTraits;
 
 // The adapters for macOS, each defined in the file of its name. Main thread.
@@ -34,6 +35,7 @@ std::unique_ptr<FolderChooser> makeFolderChooser();
 std::unique_ptr<GlobalKeyMonitor> makeGlobalKeyMonitor();
 std::unique_ptr<NativeLook> makeNativeLook();
 std::unique_ptr<StatusArea> makeStatusArea();
+std::unique_ptr<UserDefaults> makeUserDefaults();
 std::unique_ptr<WindowTraits> makeWindowTraits();
 
 /// What tells a screen from others, in every session.

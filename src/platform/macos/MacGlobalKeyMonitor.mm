@@ -25,7 +25,7 @@ KeyEvent keyEventFrom(NSEvent* event) {
     return {.characters = chordCharacters(event),
             .keyCode = event.keyCode,
             .modifiers = modifierFlagsFromNative(event.modifierFlags),
-            .isRepeat = event.ARepeat};
+            .isRepeat = event.ARepeat != NO};
 }
 
 class MonitorRegistration final : public GlobalKeyMonitor::Registration {

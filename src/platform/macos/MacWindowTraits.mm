@@ -4,15 +4,20 @@
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QWidget>
 
 #import <AppKit/AppKit.h>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace tessaline {
 
 namespace {
+
+Q_LOGGING_CATEGORY(windowLog, "tessaline.windows")
 
 /// Qt's native identifier of a window is its view.
 NSWindow* windowOf(WindowTraits::NativeWindow window) {
@@ -26,12 +31,20 @@ public:
     bool showsTranslucency() const override { return true; }
     void onTranslucencyChange(std::function<void()> /*changed*/) override {}
 
-    bool canExcludeFromCapture() const override { return true; }
+    /// From macOS 15 on, what records the screen sees every window all the same.
+    bool canExcludeFromCapture() const override {
+        constexpr NSOperatingSystemVersion first{15, 0, 0};
+        return ![NSProcessInfo.processInfo isOperatingSystemAtLeastVersion:first];
+    }
 
-    /// The system leaves it to a recording program whether it honours this.
+    /// Also where it does not do all of its work: programs that take single windows in the old way
+    /// still honour it.
     bool excludeFromCapture(NativeWindow window) override {
         windowOf(window).sharingType = NSWindowSharingNone;
-        return true;
+        const bool works = canExcludeFromCapture();
+        if (!works && !std::exchange(reported, true))
+            qCWarning(windowLog, "This version of macOS shows the prompter in recordings.");
+        return works;
     }
 
     void place(QWidget& window, const Rect& frame, const Screen& /*screen*/) override {
@@ -72,6 +85,7 @@ public:
 
 private:
     NSRunningApplication* previous = nil;
+    bool reported = false;
 };
 
 } // namespace

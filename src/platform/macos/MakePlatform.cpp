@@ -11,8 +11,10 @@
 #include "platform/Platform.h"
 #include "platform/ReservedEdges.h"
 #include "platform/StatusArea.h"
+#include "platform/UserDefaults.h"
 #include "platform/WindowTraits.h"
 #include "platform/macos/MacAdapters.h"
+#include "platform/qt/KeyTranslation.h"
 #include "platform/qt/QtAdapters.h"
 #include "platform/qt/QtLocalKeyMonitor.h"
 #include "platform/qt/QtPasteboard.h"
@@ -23,6 +25,7 @@ namespace tessaline {
 std::unique_ptr<Platform> makePlatform() {
     auto platform = std::make_unique<Platform>();
     addQtAdapters(*platform);
+    platform->defaults = makeUserDefaults();
     platform->bundle = makeBundleInformation();
     // The system tells Qt the visible frame of every screen.
     platform->screens = std::make_unique<QtScreens>(*platform->notifications, *platform->mainQueue,
@@ -31,7 +34,7 @@ std::unique_ptr<Platform> makePlatform() {
     platform->windowTraits = makeWindowTraits();
     platform->pasteboard = std::make_unique<QtPasteboard>();
     platform->trust = makeAccessibilityTrust();
-    platform->localKeys = std::make_unique<QtLocalKeyMonitor>(KeyTranslation::command);
+    platform->localKeys = std::make_unique<QtLocalKeyMonitor>(systemKeyTranslation());
     platform->globalKeys = makeGlobalKeyMonitor();
     platform->eventTaps = makeEventTapMaker();
     platform->look = makeNativeLook();

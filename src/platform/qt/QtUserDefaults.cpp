@@ -8,14 +8,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Qt's own separator is the slash, which it turns into the dot on macOS.
+/// Qt's own separator is the slash.
 QString settingsKey(QString key) {
     return key.replace(u'.', u'/');
 }
 
 } // namespace
 
-// On macOS Qt turns the organization's domain round, and has "app.tessaline.Tessaline".
 QtUserDefaults::QtUserDefaults()
     : open([] { return std::make_unique<QSettings>(u"tessaline.app"_s, u"Tessaline"_s); }) {}
 

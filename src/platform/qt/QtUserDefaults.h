@@ -10,9 +10,8 @@
 
 namespace tessaline {
 
-/// The user's defaults where Qt keeps them on this system: below ~/.config on Linux, among the
-/// preferences on macOS. A text is in its file when `setString` returns; one that cannot be written
-/// is not kept.
+/// The user's defaults in a file below ~/.config. A text is in its file when `setString` returns;
+/// one that cannot be written is not kept.
 class QtUserDefaults final : public UserDefaults {
 public:
     QtUserDefaults();

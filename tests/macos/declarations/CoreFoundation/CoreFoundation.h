@@ -23,6 +23,7 @@ typedef long CFIndex;
 typedef unsigned long CFTypeID;
 
 typedef const CF_BRIDGED_TYPE(id) void* CFTypeRef;
+typedef CFTypeRef CFPropertyListRef;
 typedef const struct CF_BRIDGED_TYPE(id) __CFAllocator* CFAllocatorRef;
 typedef const struct CF_BRIDGED_TYPE(NSString) __CFString* CFStringRef;
 typedef const struct CF_BRIDGED_TYPE(NSArray) __CFArray* CFArrayRef;
@@ -60,6 +61,11 @@ CFTypeRef CFBundleGetValueForInfoDictionaryKey(CFBundleRef bundle, CFStringRef k
 CFURLRef CFBundleCopyResourcesDirectoryURL(CFBundleRef bundle) CF_RETURNS_RETAINED;
 Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase, UInt8* buffer,
                                          CFIndex maxBufLen);
+
+CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key,
+                                            CFStringRef applicationID) CF_RETURNS_RETAINED;
+void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFStringRef applicationID);
+Boolean CFPreferencesAppSynchronize(CFStringRef applicationID);
 
 CFRunLoopRef CFRunLoopGetMain(void);
 void CFRunLoopAddSource(CFRunLoopRef rl, CFRunLoopSourceRef source, CFRunLoopMode mode);

@@ -10,7 +10,12 @@
 #define NS_ENUM(_type, _name) CF_ENUM(_type, _name)
 #define NS_OPTIONS(_type, _name) CF_OPTIONS(_type, _name)
 
+// On Macs with Intel's processor it is a number.
+#if __OBJC_BOOL_IS_BOOL
 typedef bool BOOL;
+#else
+typedef signed char BOOL;
+#endif
 #define YES __objc_yes
 #define NO __objc_no
 #define nil nullptr
@@ -27,6 +32,17 @@ NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat w, CGFloat h);
 __attribute__((objc_root_class))
 @interface NSObject
 - (BOOL)isEqual:(nullable id)object;
+@end
+
+typedef struct {
+    NSInteger majorVersion;
+    NSInteger minorVersion;
+    NSInteger patchVersion;
+} NSOperatingSystemVersion;
+
+@interface NSProcessInfo : NSObject
+@property(class, readonly, strong) NSProcessInfo* processInfo;
+- (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
 @end
 
 @interface NSString : NSObject
