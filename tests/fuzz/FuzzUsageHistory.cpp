@@ -3,6 +3,8 @@
 #include "analytics/HistoryText.h"
 #include "support/JoinedPieces.h"
 
+#include <QTimeZone>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
