@@ -21,7 +21,7 @@ TEST(SessionOnAMac, HasOneDisplayWhateverXQuartzSays) {
         const auto address = InstanceAddress::ofSession(
             [&](const char* name) { return qstrcmp(name, "DISPLAY") == 0 ? display : QString(); },
             temporary.path(), &problem);
-        ASSERT_TRUE(address.has_value()) << problem;
+        ASSERT_TRUE(address.has_value()) << qPrintable(problem);
         EXPECT_EQ(address->display, u"main"_s);
     }
 }
