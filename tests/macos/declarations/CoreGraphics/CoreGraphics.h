@@ -24,7 +24,9 @@ struct CGRect {
 };
 typedef struct CGRect CGRect;
 
-CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height);
+inline CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
+    return {{x, y}, {width, height}};
+}
 bool CGRectContainsPoint(CGRect rect, CGPoint point);
 
 // Displays.

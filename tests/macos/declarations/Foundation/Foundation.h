@@ -25,7 +25,9 @@ typedef unsigned long NSUInteger;
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
-NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat w, CGFloat h);
+inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat w, CGFloat h) {
+    return CGRectMake(x, y, w, h);
+}
 
 #pragma clang assume_nonnull begin
 
@@ -69,6 +71,8 @@ typedef struct {
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
 @end
 
-extern "C" id _Nullable CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) _Nullable X);
+inline id _Nullable CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) _Nullable X) {
+    return (__bridge_transfer id)X;
+}
 
 #pragma clang assume_nonnull end

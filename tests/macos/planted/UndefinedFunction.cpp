@@ -1,0 +1,9 @@
+namespace tessaline {
+
+void inventedFunction();
+
+void callIt() {
+    inventedFunction();
+}
+
+} // namespace tessaline
