@@ -128,16 +128,18 @@ CGError CGGetActiveDisplayList(std::uint32_t maxDisplays, CGDirectDisplayID* act
 }
 
 CGRect CGDisplayBounds(CGDirectDisplayID display) {
-    for (const auto& known : fakeMac().displays)
-        if (known.id == display)
-            return CGRectMake(known.bounds.x(), known.bounds.y(), known.bounds.width(),
-                              known.bounds.height());
+    for (const auto& known : fakeMac().displays) {
+        if (known.id != display) continue;
+        return CGRectMake(known.bounds.x(), known.bounds.y(), known.bounds.width(),
+                          known.bounds.height());
+    }
     return {};
 }
 
 boolean_t CGDisplayIsBuiltin(CGDirectDisplayID display) {
-    for (const auto& known : fakeMac().displays)
+    for (const auto& known : fakeMac().displays) {
         if (known.id == display) return known.isBuiltIn;
+    }
     return false;
 }
 
