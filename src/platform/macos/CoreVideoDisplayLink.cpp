@@ -35,6 +35,7 @@ public:
     Receiver(const Receiver&) = delete;
     Receiver& operator=(const Receiver&) = delete;
 
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): nobody follows it
     void* context() const { return reinterpret_cast<void*>(number); }
 
     /// Returns what it was before. Waits for a call in progress.

@@ -189,9 +189,11 @@ void teachFiles() {
              unsigned long most) -> unsigned long {
               const QStringList addresses = list->text.split(u'\n', Qt::SkipEmptyParts);
               unsigned long count = 0;
-              for (; count < most && state[0] < std::size_t(addresses.size()); ++count, ++state[0])
-                  found[count] =
-                      autoreleased(FakeMacParts::newAddress(addresses[qsizetype(state[0])]));
+              for (; count < most && state[0] < std::size_t(addresses.size());
+                   ++count, ++state[0]) {
+                  const QString& address = addresses[qsizetype(state[0])];
+                  found[count] = autoreleased(FakeMacParts::newAddress(address));
+              }
               static unsigned long changes;
               state[1] = reinterpret_cast<unsigned long>(found);
               state[2] = reinterpret_cast<unsigned long>(&changes);

@@ -148,6 +148,7 @@ void objc_storeStrong(Object** place, Object* object) {
     fake::release(std::exchange(*place, object));
 }
 void* objc_autoreleasePoolPush() {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the compiler only hands it back
     return reinterpret_cast<void*>(fake::runtime().pool.size());
 }
 void objc_autoreleasePoolPop(void* pool) {
@@ -159,7 +160,7 @@ void objc_enumerationMutation(Object* /*collection*/) {
 }
 
 // Where blocks on the stack say what they are.
-void* _NSConcreteStackBlock[32];
+void* classOfStackBlocks[32] __asm__("_NSConcreteStackBlock");
 }
 
 // A message is a jump to the method with everything in registers and on the stack as it is; to
