@@ -29,16 +29,13 @@ TEST_P(MarkdownScriptOf, IsThatOfTheWholeRenderedText) {
     EXPECT_EQ(difference(markdownScript(markdown, fontSize), wholeScript(markdown)), QString());
 }
 
-INSTANTIATE_TEST_SUITE_P(Blocks, MarkdownScriptOf,
-                         testing::Values(u""_s, u"\n"_s, u"a\n"_s, u"```"_s, u"```\n"_s,
-                                         u"```\n```"_s, u"```\n```\n"_s, u"```\na"_s, u"```\na\n"_s,
-                                         u"```\n\n\na\n\n\n"_s, u"```\n\n\na\n\n```\nb"_s,
-                                         u"```\n\r\na\r\n\r\n```\r\nb"_s, u"```\n\n```"_s,
-                                         u"a\n```\nb\n```"_s, u"```\na\n```\n```\nb\n```\n"_s,
-                                         u"a\r\n\r\n# b\r\n"_s, u"~~**```**~~\nx"_s),
-                         [](const testing::TestParamInfo<QString>& info) {
-                             return "case" + std::to_string(info.index);
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Blocks, MarkdownScriptOf,
+    testing::Values(u""_s, u"\n"_s, u"a\n"_s, u"```"_s, u"```\n"_s, u"```\n```"_s, u"```\n```\n"_s,
+                    u"```\na"_s, u"```\na\n"_s, u"```\n\n\na\n\n\n"_s, u"```\n\n\na\n\n```\nb"_s,
+                    u"```\n\r\na\r\n\r\n```\r\nb"_s, u"```\n\n```"_s, u"a\n```\nb\n```"_s,
+                    u"```\na\n```\n```\nb\n```\n"_s, u"a\r\n\r\n# b\r\n"_s, u"~~**```**~~\nx"_s),
+    [](const auto& parameter) { return "case" + std::to_string(parameter.index); });
 
 TEST(MarkdownScript, IsThatOfTheWholeTextForAnyDocument) {
     RandomMarkdown random(7);
