@@ -2,8 +2,8 @@
 
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
-#include "reading/PrompterStatus.h"
 #include "reading/ContentRenderer.h"
+#include "reading/PrompterStatus.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/NotificationCenter.h"
-#include "platform/NotificationCenter.h"
 #include "settings/AppSettings.h"
 #include "sources/ClipboardSource.h"
 #include "sources/SourceManager.h"
