@@ -19,18 +19,23 @@ class Clipboard:
         something else."""
         file = self.desktop.folder / "clipboard"
         file.write_bytes(data)
-        self.clear()
+        before = self.owner
         command = ["xclip", "-verbose", "-selection", "clipboard", "-in", file]
         command += ["-target", target] if target else []
         self.owner = self.desktop.start("xclip", command)
         self.owner.wait_for_output("Waiting for selection request")
+        # Not before: a desktop takes over what nobody owns, and may do so late.
+        self._end(before)
 
     def clear(self):
-        if self.owner:
-            self.owner.send(signal.SIGCONT)  # one that a scenario has stopped
-            self.owner.end()
-            self.desktop.processes.remove(self.owner)
+        self._end(self.owner)
         self.owner = None
+
+    def _end(self, owner):
+        if owner:
+            owner.send(signal.SIGCONT)  # one that a scenario has stopped
+            owner.end()
+            self.desktop.processes.remove(owner)
 
     def read(self):
         """The text that is on offer; None when there is none."""
