@@ -37,6 +37,7 @@ public:
     Script make() {
         while (!isDone)
             addNextLine();
+        renderer.clear();
         Script script;
         script.paragraphs = std::move(cutter.paragraphs);
         script.styles = renderer.current().styles;

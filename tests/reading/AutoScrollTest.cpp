@@ -11,7 +11,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace tessaline {
 namespace {
@@ -32,6 +34,22 @@ protected:
         for (int i = 0; i < frames; ++i)
             links.refresh(++hostTime);
         queue.runAll();
+    }
+
+    /// Makes one that has to do without frames, and sees that it runs.
+    AutoScroll& makeFallenBack() {
+        settings.autoScrollEnabled = true;
+        settings.scrollRate = ScrollRate::fast;
+        settings.scrollSpeed = 5.0;
+        testing::internal::CaptureStdout();
+        AutoScroll& scroll = make();
+        EXPECT_NE(testing::internal::GetCapturedStdout().find("falling back to Timer"),
+                  std::string::npos);
+        EXPECT_TRUE(scroll.running());
+        timers.advance(1.5 / 60);
+        queue.runAll();
+        EXPECT_EQ(view.steps, std::vector<double>{0.32});
+        return scroll;
     }
 
     PersistedSettings settings;
@@ -102,18 +120,7 @@ TEST_F(AutoScrollTest, MovesNothingOnceTheSettingsSayNo) {
 
 TEST_F(AutoScrollTest, FallsBackToTheTimerWithoutADisplayLink) {
     links.available = false;
-    settings.autoScrollEnabled = true;
-    settings.scrollRate = ScrollRate::fast;
-    settings.scrollSpeed = 5.0;
-    testing::internal::CaptureStdout();
-    AutoScroll& scroll = make();
-    EXPECT_NE(testing::internal::GetCapturedStdout().find("falling back to Timer"),
-              std::string::npos);
-    EXPECT_TRUE(scroll.running());
-    timers.advance(1.5 / 60);
-    queue.runAll();
-    ASSERT_EQ(view.steps.size(), 1u);
-    EXPECT_DOUBLE_EQ(view.steps[0], 0.32);
+    AutoScroll& scroll = makeFallenBack();
     scroll.stop();
     EXPECT_FALSE(scroll.running());
     EXPECT_TRUE(timers.liveIntervals().empty());
@@ -121,18 +128,7 @@ TEST_F(AutoScrollTest, FallsBackToTheTimerWithoutADisplayLink) {
 
 TEST_F(AutoScrollTest, FallsBackToTheTimerWhenTheDisplayLinkDoesNotStart) {
     links.canStart = false;
-    settings.autoScrollEnabled = true;
-    settings.scrollRate = ScrollRate::fast;
-    settings.scrollSpeed = 5.0;
-    testing::internal::CaptureStdout();
-    AutoScroll& scroll = make();
-    EXPECT_NE(testing::internal::GetCapturedStdout().find("falling back to Timer"),
-              std::string::npos);
-    EXPECT_TRUE(scroll.running());
-    timers.advance(1.5 / 60);
-    queue.runAll();
-    ASSERT_EQ(view.steps.size(), 1u);
-    EXPECT_DOUBLE_EQ(view.steps[0], 0.32);
+    AutoScroll& scroll = makeFallenBack();
     scroll.stop();
     scroll.start();
     EXPECT_EQ(timers.liveIntervals().size(), 1u);

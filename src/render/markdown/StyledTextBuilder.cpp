@@ -8,6 +8,9 @@ namespace tessaline {
 
 namespace {
 
+/// Memory for so many UTF-16 units is kept for the next line; a line of megabytes is rare.
+constexpr qsizetype longestKept = 16384;
+
 std::size_t hashOf(const std::optional<TextFont>& font) {
     if (!font) return 0;
     return qHashMulti(1, int(font->family), int(font->weight), font->italic, font->size);
@@ -57,6 +60,10 @@ StyledText StyledTextBuilder::take() {
 }
 
 void StyledTextBuilder::clear() {
+    if (result.text.capacity() > longestKept) {
+        result.text = QString();
+        result.runs = {};
+    }
     result.text.resize(0); // unlike clear(), keeps the memory
     result.runs.clear();
 }
