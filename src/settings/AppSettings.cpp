@@ -145,18 +145,13 @@ bool AppSettings::isSourceEnabled(SourceType source) const {
     return current.enabledSourceTypes.contains(source);
 }
 
-AppSettings::Observation AppSettings::observe(Observer observer) {
-    auto observation = std::make_shared<const Observer>(std::move(observer));
-    observers.push_back(observation);
-    return observation;
+AppSettings::Observation
+AppSettings::observe(ChangeObservers<PersistedSettings>::Observer observer) {
+    return observers.add(std::move(observer));
 }
 
 void AppSettings::announce(const PersistedSettings& before) {
-    if (before == current) return;
-    std::erase_if(observers, [](const auto& observer) { return observer.expired(); });
-    // A copy: who is called may register and drop others.
-    for (const auto& observer : std::vector(observers))
-        if (const auto living = observer.lock()) (*living)(before);
+    if (before != current) observers.announce(before);
 }
 
 QString AppSettings::configPath() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings/ChangeObservers.h"
 #include "settings/PersistedSettings.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
@@ -78,14 +79,10 @@ public:
     std::vector<SourceType> getEnabledSources() const;
     bool isSourceEnabled(SourceType source) const;
 
-    /// Hears of changes once they are saved, with the values from before.
-    using Observer = std::function<void(const PersistedSettings& before)>;
-    /// Keeps an observer registered for as long as it lives. It may outlive the settings.
-    using Observation = std::shared_ptr<const Observer>;
+    using Observation = ChangeObservers<PersistedSettings>::Observation;
 
-    /// Observers are called in the order in which they registered. They may register and drop
-    /// others: a new one hears of the next change, a dropped one of none any more.
-    [[nodiscard]] Observation observe(Observer observer);
+    /// Hears of changes once they are saved, with the values from before. It may outlive this.
+    [[nodiscard]] Observation observe(ChangeObservers<PersistedSettings>::Observer observer);
 
     SourceMode sourceMode = SourceMode::file; ///< in memory only
     QString clipboardContent;                 ///< in memory only
@@ -96,7 +93,7 @@ private:
     void announce(const PersistedSettings& before);
 
     PersistedSettings current;
-    std::vector<std::weak_ptr<const Observer>> observers;
+    ChangeObservers<PersistedSettings> observers;
 
     const std::unique_ptr<SettingsFile<PersistedSettings>> file;
 };

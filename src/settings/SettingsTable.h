@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <concepts>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -60,6 +61,15 @@ SettingsKey<Values> settingsKey(const char* name, double Values::*member, double
     key.limit = [member, greatest](Values& values) {
         values.*member = std::min(values.*member, greatest);
     };
+    return key;
+}
+
+/// `limit` brings a value within what is allowed.
+template <typename Values, typename T, typename Limit>
+requires std::invocable<Limit, T&> SettingsKey<Values> settingsKey(const char* name,
+                                                                   T Values::*member, Limit limit) {
+    auto key = settingsKey(name, member);
+    key.limit = [member, limit](Values& values) { limit(values.*member); };
     return key;
 }
 

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "settings/JsonValue.h"
+
+#include <QString>
+
+#include <array>
+
+namespace tessaline {
+
+/// What decides how fast the text passes: the speed of auto-scroll, words a minute, or the moment
+/// at which the end is to be reached.
+enum class PaceMode { speed, words, finish };
+
+/// What marks the line that is being read: nothing, a marker at both edges, or a light band.
+enum class ReadingGuide { none, marker, band };
+
+/// What happens when the end of a script is reached: the text stands, auto-scroll is switched off,
+/// or the script begins again.
+enum class ScriptEnd { stand, stop, goRound };
+
+/// A choice, the string that stands for it in files, commands and usage events, and the name that
+/// the user sees.
+template <typename T>
+struct Choice {
+    T value;
+    const char16_t* raw;
+    const char16_t* title;
+};
+
+inline constexpr std::array paceModes{
+    Choice{PaceMode::speed, u"speed", u"Speed"},
+    Choice{PaceMode::words, u"words", u"Words a minute"},
+    Choice{PaceMode::finish, u"finish", u"Finish in time"},
+};
+
+inline constexpr std::array readingGuides{
+    Choice{ReadingGuide::none, u"none", u"None"},
+    Choice{ReadingGuide::marker, u"marker", u"Marker"},
+    Choice{ReadingGuide::band, u"band", u"Band"},
+};
+
+inline constexpr std::array scriptEnds{
+    Choice{ScriptEnd::stand, u"stand", u"Stand"},
+    Choice{ScriptEnd::stop, u"stop", u"Stop"},
+    Choice{ScriptEnd::goRound, u"round", u"Go round"},
+};
+
+QString rawValue(PaceMode mode);
+QString rawValue(ReadingGuide guide);
+QString rawValue(ScriptEnd end);
+
+/// The JSON text that stands for a choice.
+JsonValue encode(PaceMode mode);
+JsonValue encode(ReadingGuide guide);
+JsonValue encode(ScriptEnd end);
+
+/// Takes over the choice that a JSON text stands for. False, and no change, when it stands for
+/// none.
+bool decode(const JsonValue& value, PaceMode& mode);
+bool decode(const JsonValue& value, ReadingGuide& guide);
+bool decode(const JsonValue& value, ScriptEnd& end);
+
+} // namespace tessaline

@@ -1,0 +1,65 @@
+#include "settings/ReadingSettings.h"
+
+#include "settings/SettingsFile.h"
+#include "settings/SupportFolder.h"
+
+#include <QDir>
+
+#include <cstdio>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void printLine(const QString& line) {
+    std::fputs((line + u'\n').toUtf8().constData(), stdout);
+    std::fflush(stdout);
+}
+
+QString standardPath() {
+    // Where this fails, writing the file fails next and says so.
+    QDir().mkpath(supportFolderPath());
+    return supportFolderPath() + "/reading.json"_L1;
+}
+
+} // namespace
+
+ReadingSettings::ReadingSettings(const std::optional<QString>& path)
+    : file(std::make_unique<SettingsFile<ReadingOptions>>(
+          [path] { return path ? *path : standardPath(); }, readingOptionsTable(),
+          UnknownKeys::kept)) {
+    load();
+}
+
+ReadingSettings::~ReadingSettings() = default;
+
+void ReadingSettings::load() {
+    if (!file->exists()) return;
+    QString error;
+    if (auto loaded = file->load(&error)) {
+        current = *std::move(loaded);
+        return;
+    }
+    printLine(u"⚠️ Failed to load reading options: "_s + error);
+    file->keepUnusable(current);
+}
+
+void ReadingSettings::change(const std::function<void(ReadingOptions& values)>& edit) {
+    const ReadingOptions before = current;
+    edit(current);
+    readingOptionsTable().limit(current);
+    if (before == current) return;
+    QString error;
+    if (!file->save(current, &error)) printLine(u"❌ Failed to save reading options: "_s + error);
+    observers.announce(before);
+}
+
+ReadingSettings::Observation
+ReadingSettings::observe(ChangeObservers<ReadingOptions>::Observer observer) {
+    return observers.add(std::move(observer));
+}
+
+} // namespace tessaline
