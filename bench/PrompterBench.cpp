@@ -9,6 +9,7 @@
 #include "reading/ContentRenderer.h"
 #include "reading/ReadingSession.h"
 #include "settings/PersistedSettings.h"
+#include "settings/ReadingOptions.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -66,8 +67,9 @@ private:
     tessaline::ContentRenderer renderer{none, none};
     tessaline::WordTally arriving; ///< the source manager's
     tessaline::PersistedSettings settings;
+    tessaline::ReadingOptions options;
     std::shared_ptr<tessaline::ReadingSession> session =
-        std::make_shared<tessaline::ReadingSession>(settings);
+        std::make_shared<tessaline::ReadingSession>(settings, options);
 
 public:
     ScriptView view{session};

@@ -118,7 +118,7 @@ void AppDelegate::createSourceManager() {
 }
 
 void AppDelegate::createPrompterWindow() {
-    prompterWindow = std::make_unique<PrompterWindow>(settings, platform);
+    prompterWindow = std::make_unique<PrompterWindow>(settings, readingSettings, platform);
     prompterWindow->setScreenManager(&screenManager);
     prompterWindow->updateFrame();
     prompterCutout = std::make_unique<PrompterCutout>(*prompterWindow);

@@ -7,6 +7,7 @@
 #include "reading/PrompterStatus.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
+#include "settings/ReadingSettings.h"
 #include "settings/SourceType.h"
 
 #include <QString>
@@ -104,6 +105,7 @@ private:
     Environment environment;
     const Platform& platform;
     AppSettings settings;
+    ReadingSettings readingSettings;
     ScreenManager screenManager;
     PermissionManager permissionManager;
     std::unique_ptr<SourceManager> sourceManager;

@@ -20,6 +20,7 @@
 #include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
+#include "settings/ReadingSettings.h"
 
 #include <QEasingCurve>
 #include <QPainter>
@@ -52,11 +53,13 @@ double overlap(const Rect& a, const Rect& b) {
 
 } // namespace
 
-PrompterWindow::PrompterWindow(AppSettings& appSettings, const Platform& borrowedPlatform)
+PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrowedReading,
+                               const Platform& borrowedPlatform)
     : QWidget(nullptr, Qt::FramelessWindowHint | borrowedPlatform.windowTraits->creationFlags())
     , settings(appSettings)
+    , readingSettings(borrowedReading)
     , platform(borrowedPlatform)
-    , session(std::make_shared<ReadingSession>(settings.values()))
+    , session(std::make_shared<ReadingSession>(settings.values(), readingSettings.values()))
     , renderer(*platform.renderTasks, *platform.mainQueue) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);

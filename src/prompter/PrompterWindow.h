@@ -19,6 +19,7 @@ namespace tessaline {
 
 class ControlStrip;
 class ReadingSession;
+class ReadingSettings;
 class ScreenManager;
 class ScriptView;
 struct Platform;
@@ -30,8 +31,8 @@ class PrompterWindow : public QWidget {
 
 public:
     /// Builds the window, places it on the main screen and starts auto-scroll if the settings say
-    /// so; shows nothing yet. Follows the settings from then on. Both arguments are borrowed.
-    PrompterWindow(AppSettings& settings, const Platform& platform);
+    /// so; shows nothing yet. Follows the settings from then on. All arguments are borrowed.
+    PrompterWindow(AppSettings& settings, ReadingSettings& reading, const Platform& platform);
     ~PrompterWindow() override;
 
     /// Places the window on the manager's preferred screen from the next `updateFrame` on.
@@ -119,6 +120,7 @@ private:
 
     AppSettings& settings;
     AppSettings::Observation settingsObservation;
+    ReadingSettings& readingSettings;
     const Platform& platform;
     const std::shared_ptr<ReadingSession> session;
     const ScreenManager* screenManager = nullptr;

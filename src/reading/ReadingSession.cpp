@@ -10,8 +10,11 @@
 
 namespace tessaline {
 
-ReadingSession::ReadingSession(const PersistedSettings& borrowed)
-    : settings(borrowed), currentScript(std::make_shared<const Script>()) {}
+ReadingSession::ReadingSession(const PersistedSettings& borrowedSettings,
+                               const ReadingOptions& borrowedOptions)
+    : settings(borrowedSettings)
+    , options(borrowedOptions)
+    , currentScript(std::make_shared<const Script>()) {}
 
 ReadingSession::~ReadingSession() = default;
 

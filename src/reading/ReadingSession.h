@@ -15,15 +15,16 @@ namespace tessaline {
 
 class PositionSource;
 struct PersistedSettings;
+struct ReadingOptions;
 
 /// A text being read: what is read, where the reader is, and how fast they go on. Views show it;
 /// hands and the position source move it, by `moveTo` and `moveBy` and in no other way. Distances
 /// are points of the view that was added first; any others follow.
 class ReadingSession final : public DisplayLinkScrollerDelegate {
 public:
-    /// Speed, rate and whether the source may move the text are asked of the settings, which are
-    /// borrowed.
-    explicit ReadingSession(const PersistedSettings& settings);
+    /// Speed, rate and whether the source may move the text are asked of the settings, the user's
+    /// way of reading of the options. Both are borrowed.
+    ReadingSession(const PersistedSettings& settings, const ReadingOptions& options);
     ~ReadingSession() override;
 
     /// Replaces the text. The reader's place stays if the new text has it too.
@@ -72,6 +73,7 @@ private:
                                            std::size_t countBefore) const;
 
     const PersistedSettings& settings;
+    const ReadingOptions& options;
     std::shared_ptr<const Script> currentScript;
     qsizetype wordCount = 0;
     ReadingPlace readersPlace;

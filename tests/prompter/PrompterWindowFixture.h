@@ -7,6 +7,7 @@
 #include "prompter/view/ScriptView.h"
 #include "reading/ReadingSession.h"
 #include "settings/AppSettings.h"
+#include "settings/ReadingSettings.h"
 #include "support/FakeDisplayLinkMaker.h"
 #include "support/FakeMainQueue.h"
 #include "support/FakeScreens.h"
@@ -44,7 +45,7 @@ protected:
 
     PrompterWindow& window() {
         if (!prompter) {
-            prompter = std::make_unique<PrompterWindow>(settings, fakes.platform);
+            prompter = std::make_unique<PrompterWindow>(settings, readingSettings, fakes.platform);
             prompter->show();
         }
         return *prompter;
@@ -65,7 +66,8 @@ protected:
         const double textMargin = 10;
         EXPECT_EQ(margin, (view.height() - 60) / 2.0 + textMargin);
 
-        const auto session = std::make_shared<ReadingSession>(settings.values());
+        const auto session =
+            std::make_shared<ReadingSession>(settings.values(), readingSettings.values());
         ScriptView fresh(session);
         fresh.resize(view.size());
         session->setContent({std::make_shared<const Script>(placeholderText(view.height()))});
@@ -80,6 +82,7 @@ protected:
 
     QTemporaryDir folder;
     AppSettings settings{folder.filePath(QStringLiteral("config.json"))};
+    ReadingSettings readingSettings{folder.filePath(QStringLiteral("reading.json"))};
     TestPlatform fakes;
     FakeMainQueue& queue = fakes.mainQueue;
     FakeTaskRunner& tasks = fakes.renderTasks;

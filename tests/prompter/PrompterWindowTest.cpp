@@ -137,7 +137,7 @@ TEST_F(PrompterWindowTest, KeepsItsHeightWhenItIsToggledInMidAnimation) {
 
 TEST_F(PrompterWindowTest, TakesALongTextWhileItIsHidden) {
     window().hide();
-    auto hidden = std::make_unique<PrompterWindow>(settings, fakes.platform);
+    auto hidden = std::make_unique<PrompterWindow>(settings, readingSettings, fakes.platform);
     hidden->updateText(u"line\n"_s.repeated(20000));
     queue.runAll();
     hidden->performScroll(-100);

@@ -4,6 +4,7 @@
 
 #include "reading/ReadingSession.h"
 #include "settings/PersistedSettings.h"
+#include "settings/ReadingOptions.h"
 #include "support/FakeDisplayLinkMaker.h"
 #include "support/FakeMainQueue.h"
 #include "support/FakeTimerMaker.h"
@@ -53,11 +54,13 @@ protected:
     }
 
     PersistedSettings settings;
+    ReadingOptions options;
     RecordingView view;
     FakeDisplayLinkMaker links;
     FakeTimerMaker timers;
     FakeMainQueue queue;
-    const std::shared_ptr<ReadingSession> session = std::make_shared<ReadingSession>(settings);
+    const std::shared_ptr<ReadingSession> session =
+        std::make_shared<ReadingSession>(settings, options);
     std::uint64_t hostTime = 0;
 };
 

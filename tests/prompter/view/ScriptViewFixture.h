@@ -4,6 +4,7 @@
 #include "reading/MarkdownScript.h"
 #include "reading/ReadingSession.h"
 #include "settings/PersistedSettings.h"
+#include "settings/ReadingOptions.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -49,7 +50,9 @@ protected:
     }
 
     PersistedSettings settings;
-    const std::shared_ptr<ReadingSession> session = std::make_shared<ReadingSession>(settings);
+    ReadingOptions options;
+    const std::shared_ptr<ReadingSession> session =
+        std::make_shared<ReadingSession>(settings, options);
     ScriptView view{session};
 };
 
