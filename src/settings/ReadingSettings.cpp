@@ -39,8 +39,12 @@ ReadingSettings::~ReadingSettings() = default;
 void ReadingSettings::load() {
     if (!file->exists()) return;
     QString error;
-    if (auto loaded = file->load(&error)) {
+    QStringList limited;
+    if (auto loaded = file->load(&error, &limited)) {
         current = *std::move(loaded);
+        if (!limited.isEmpty())
+            printLine(u"⚠️ Reading options out of range were brought into it: "_s +
+                      limited.join(u", "));
         return;
     }
     printLine(u"⚠️ Failed to load reading options: "_s + error);

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QFileInfo>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -45,12 +46,13 @@ public:
 
     bool exists() const { return QFileInfo::exists(place()); }
 
-    /// The values that the file holds. None when it cannot be used, which is to be followed by
-    /// `keepUnusable`; `error` receives a one-line description.
-    std::optional<Values> load(QString* error) {
+    /// The values that the file holds; `limited` receives the names of those that were beyond their
+    /// limits. None when it cannot be used, which is to be followed by `keepUnusable`; `error`
+    /// receives a one-line description.
+    std::optional<Values> load(QString* error, QStringList* limited = nullptr) {
         unwritten.reset();
         const auto bytes = readSettingsFile(place(), error);
-        return bytes ? table.decode(*bytes, error) : std::nullopt;
+        return bytes ? table.decode(*bytes, error, limited) : std::nullopt;
     }
 
     /// Sees to it that no save loses a file that cannot be used, while these values are in force.

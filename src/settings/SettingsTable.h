@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <concepts>
@@ -24,7 +25,7 @@ struct SettingsKey {
     std::function<bool(const JsonValue& value, Values& values)> read;
     std::function<bool(const Values& values)> isLeftOut;
     std::function<bool(const Values& values, JsonWriter& json)> write;
-    std::function<void(Values& values)> limit;
+    std::function<bool(Values& values)> limit; ///< whether the value was beyond its limits
 };
 
 template <typename Values, typename T>
@@ -37,7 +38,7 @@ SettingsKey<Values> settingsKey(const char* name, T Values::*member) {
             [member](const Values& values, JsonWriter& json) {
                 return tessaline::write(json, values.*member);
             },
-            [](Values&) {}};
+            [](Values&) { return false; }};
 }
 
 /// The key is left out when there is no value.
@@ -51,17 +52,7 @@ SettingsKey<Values> settingsKey(const char* name, std::optional<T> Values::*memb
             [member](const Values& values, JsonWriter& json) {
                 return tessaline::write(json, *(values.*member));
             },
-            [](Values&) {}};
-}
-
-/// A number above `greatest` is taken for that.
-template <typename Values>
-SettingsKey<Values> settingsKey(const char* name, double Values::*member, double greatest) {
-    auto key = settingsKey(name, member);
-    key.limit = [member, greatest](Values& values) {
-        values.*member = std::min(values.*member, greatest);
-    };
-    return key;
+            [](Values&) { return false; }};
 }
 
 /// `limit` brings a value within what is allowed.
@@ -69,8 +60,19 @@ template <typename Values, typename T, typename Limit>
 requires std::invocable<Limit, T&> SettingsKey<Values> settingsKey(const char* name,
                                                                    T Values::*member, Limit limit) {
     auto key = settingsKey(name, member);
-    key.limit = [member, limit](Values& values) { limit(values.*member); };
+    key.limit = [member, limit](Values& values) {
+        const T before = values.*member;
+        limit(values.*member);
+        return !(values.*member == before);
+    };
     return key;
+}
+
+/// A number above `greatest` is taken for that.
+template <typename Values>
+SettingsKey<Values> settingsKey(const char* name, double Values::*member, double greatest) {
+    return settingsKey(name, member,
+                       [greatest](double& value) { value = std::min(value, greatest); });
 }
 
 /// Everything that a settings file is about: its keys, in the order in which they are written.
@@ -86,9 +88,11 @@ public:
         : keys(std::move(everyKey)), makeAgree(std::move(settle)) {}
 
     /// Reads the content of a file. Keys that are absent or null keep their default, unknown ones
-    /// are passed over. Any other departure from the format fails as a whole: none is returned and
-    /// `error` receives a one-line description.
-    std::optional<Values> decode(const QByteArray& bytes, QString* error = nullptr) const {
+    /// are passed over, and `limited` receives the names of those that were beyond their limits.
+    /// Any other departure from the format fails as a whole: none is returned and `error` receives
+    /// a one-line description.
+    std::optional<Values> decode(const QByteArray& bytes, QString* error = nullptr,
+                                 QStringList* limited = nullptr) const {
         const auto object = parseJsonObject(bytes, error);
         if (!object) return std::nullopt;
         Values values;
@@ -100,7 +104,8 @@ public:
             return std::nullopt;
         }
         makeAgree(*object, values);
-        limit(values);
+        const QStringList names = limit(values);
+        if (limited) *limited = names;
         return values;
     }
 
@@ -129,10 +134,12 @@ public:
         return bytes;
     }
 
-    /// Brings every number within its limits.
-    void limit(Values& values) const {
+    /// Brings every value within its limits. Returns the names of those that were not.
+    QStringList limit(Values& values) const {
+        QStringList names;
         for (const auto& key : keys)
-            key.limit(values);
+            if (key.limit(values)) names += QString::fromLatin1(key.name);
+        return names;
     }
 
     /// Whether a file's member of this name is one of ours.

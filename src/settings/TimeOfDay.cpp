@@ -1,7 +1,5 @@
 #include "settings/TimeOfDay.h"
 
-#include <QTime>
-
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,6 +18,10 @@ std::optional<TimeOfDay> timeOfDayFromText(QStringView text) {
     const QTime time = QTime::fromString(text.toString(), u"H:mm"_s);
     if (!time.isValid()) return std::nullopt;
     return TimeOfDay{time.hour() * minutesPerHour + time.minute()};
+}
+
+bool hasPassed(TimeOfDay time, QTime now) {
+    return now.hour() * minutesPerHour + now.minute() >= time.minutes;
 }
 
 JsonValue encode(TimeOfDay time) {

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringView>
+#include <QTime>
 
 #include <optional>
 
@@ -21,6 +22,9 @@ QString timeOfDayText(TimeOfDay time);
 
 /// The time that a text such as "15:30" or "9:05" stands for, or none.
 std::optional<TimeOfDay> timeOfDayFromText(QStringView text);
+
+/// Whether this time is over today, so that the next one is tomorrow's.
+bool hasPassed(TimeOfDay time, QTime now);
 
 JsonValue encode(TimeOfDay time);
 bool decode(const JsonValue& value, TimeOfDay& time);
