@@ -65,12 +65,12 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::down:
         return delegate.performScroll(-Shortcuts::shortcutScrollStep);
     case ControlCommand::top:
-        return view.scrollByHand(0);
+        return view.jumps().toTop();
     case ControlCommand::nextHeading:
-        view.scrollToNextHeader();
+        view.jumps().toNextHeading();
         return;
     case ControlCommand::previousHeading:
-        view.scrollToPreviousHeader();
+        view.jumps().toPreviousHeading();
         return;
     case ControlCommand::show:
         return delegate.reveal();

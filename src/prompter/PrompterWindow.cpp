@@ -20,7 +20,6 @@
 #include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
-#include "settings/ReadingSettings.h"
 
 #include <QEasingCurve>
 #include <QPainter>
@@ -76,11 +75,14 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
         updateStatsOfWhatIsSeen();
     });
     setupUI();
+    updateReadingFrame();
     updateFrame();
     session->setSource(std::make_unique<AutoScroll>(session, *platform.displayLinks,
                                                     *platform.timers, *platform.mainQueue));
     settingsObservation =
         settings.observe([this](const PersistedSettings& before) { settingsChanged(before); });
+    readingObservation =
+        readingSettings.observe([this](const ReadingOptions&) { updateReadingFrame(); });
     platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
@@ -241,6 +243,7 @@ void PrompterWindow::rerender() {
 }
 
 void PrompterWindow::renderContent() {
+    updateReadingFrame();
     if (lastRawContent == placeholderContent) {
         renderPlaceholder();
     } else {
@@ -306,6 +309,13 @@ void PrompterWindow::settingsChanged(const PersistedSettings& before) {
     if (now.scrollSpeed != before.scrollSpeed) updateScrollParameters();
     if (now.autoScrollEnabled == before.autoScrollEnabled) return;
     now.autoScrollEnabled ? session->start() : session->stop();
+}
+
+void PrompterWindow::updateReadingFrame() {
+    ReadingFrame frame = ReadingFrame::of(readingSettings.values());
+    // The hint keeps its place in the middle.
+    if (lastRawContent == placeholderContent) frame.isActive = false;
+    view->setReadingFrame(frame);
 }
 
 void PrompterWindow::updateScrollParameters() {

@@ -5,6 +5,7 @@
 #include "reading/ContentRenderer.h"
 #include "reading/PrompterStatus.h"
 #include "settings/AppSettings.h"
+#include "settings/ReadingSettings.h"
 #include "settings/SourceMode.h"
 #include "settings/SourceType.h"
 
@@ -19,7 +20,6 @@ namespace tessaline {
 
 class ControlStrip;
 class ReadingSession;
-class ReadingSettings;
 class ScreenManager;
 class ScriptView;
 struct Platform;
@@ -117,10 +117,12 @@ private:
     void updateStatsOfWhatIsSeen();
     void shape();
     void settingsChanged(const PersistedSettings& before);
+    void updateReadingFrame();
 
     AppSettings& settings;
     AppSettings::Observation settingsObservation;
     ReadingSettings& readingSettings;
+    ReadingSettings::Observation readingObservation;
     const Platform& platform;
     const std::shared_ptr<ReadingSession> session;
     const ScreenManager* screenManager = nullptr;

@@ -31,6 +31,11 @@ double scaleOf(const QFont& font) {
     return drawn > 0.0 ? pointsOf(font) / drawn : 1.0;
 }
 
+double lineHeightOf(const QFont& font) {
+    const QFontMetricsF metrics(font);
+    return scaledLineHeight(metrics.height(), metrics.leading(), scaleOf(font));
+}
+
 QFont grown(TextFont font, double growth) {
     font.size += growth;
     return resolvedFont(font);
@@ -46,7 +51,7 @@ FormatTable::Entry makeEntry(const TextAttributes& attributes, double growth) {
     if (attributes.background) entry.background = resolvedColor(*attributes.background);
     const QFontMetricsF metrics(font);
     entry.scale = scaleOf(font);
-    entry.lineHeight = scaledLineHeight(metrics.height(), metrics.leading(), entry.scale);
+    entry.lineHeight = lineHeightOf(font);
     entry.averageAdvance = metrics.averageCharWidth() * entry.scale;
     return entry;
 }
@@ -88,6 +93,10 @@ QFont defaultTextFont() {
 
 double scaledLineHeight(double height, double leading, double scale) {
     return std::ceil(height * scale) + std::max(leading, 0.0) * scale;
+}
+
+double lineHeightOf(const TextFont& font) {
+    return lineHeightOf(resolvedFont(font));
 }
 
 FormatTable::FormatTable() : plainEntry(makeEntry({}, 0.0)) {}

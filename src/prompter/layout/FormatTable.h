@@ -24,6 +24,9 @@ QFont defaultTextFont();
 /// descent together.
 double scaledLineHeight(double height, double leading, double scale);
 
+/// How high a line of nothing but this font is, in points.
+double lineHeightOf(const TextFont& font);
+
 /// What the attribute sets of a text look like in Qt's terms, resolved once for each set.
 class FormatTable {
 public:

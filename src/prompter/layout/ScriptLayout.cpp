@@ -82,6 +82,12 @@ double ScriptLayout::fontGrowth() const {
     return bodySize > 0.0 && written > 0.0 ? bodySize - written : 0.0;
 }
 
+double ScriptLayout::bodyLineHeight() const {
+    const double size =
+        currentScript->fontSize > 0.0 ? currentScript->fontSize + fontGrowth() : bodySize;
+    return size > 0.0 ? lineHeightOf({.size = size}) : formats.plain().lineHeight;
+}
+
 void ScriptLayout::estimateAll() {
     const std::size_t count = currentScript->paragraphs.size();
     std::vector<double> estimates(count);

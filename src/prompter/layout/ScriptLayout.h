@@ -46,6 +46,9 @@ public:
     /// By how many points the fonts here are larger than the script says.
     double fontGrowth() const;
 
+    /// How high a line of body text is.
+    double bodyLineHeight() const;
+
     /// The column's height, in part estimated until `isMeasured`.
     double height() const { return heights.total(); }
 

@@ -44,6 +44,7 @@ bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
     const double position = view.scrollPosition();
     const auto isPlain = (translateModifiers(event.modifiers()) & ~Modifier::control) == 0;
     if (!isPlain) return false;
+    const bool isUnderWay = event.isAutoRepeat() && view.jumps().isUnderWay();
     switch (event.key()) {
     case Qt::Key_Up:
         view.scrollByHand(position - pointsPerKeyLine);
@@ -58,10 +59,10 @@ bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
         view.scrollByHand(position + page);
         return true;
     case Qt::Key_Home:
-        view.scrollByHand(0);
+        if (!isUnderWay) view.jumps().toTop();
         return true;
     case Qt::Key_End:
-        view.scrollByHand(view.documentHeight());
+        if (!isUnderWay) view.jumps().toEnd();
         return true;
     default:
         return false;

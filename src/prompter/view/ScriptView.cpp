@@ -3,6 +3,7 @@
 #include "platform/qt/KeyTranslation.h"
 #include "prompter/controls/ThemedScroller.h"
 #include "prompter/view/PreciseScrolling.h"
+#include "prompter/view/ReadingGuidePainter.h"
 #include "prompter/view/ScriptViewAccessible.h"
 #include "reading/ReadingSession.h"
 
@@ -23,7 +24,7 @@ namespace tessaline {
 namespace {
 
 constexpr double horizontalInset = 15.0;
-constexpr double verticalInset = 10.0;
+constexpr double marginOfRevealed = 10.0;
 constexpr double pointsPerWheelLine = 20.0;
 constexpr double unitsPerWheelStep = 120.0; // as mice report one notch
 
@@ -31,9 +32,6 @@ constexpr double unitsPerWheelStep = 120.0; // as mice report one notch
 /// short enough that no frame is late.
 constexpr qsizetype unitsLaidOutAtOnce = 12000;
 constexpr qsizetype unitsLaidOutPerSlice = 3000;
-
-/// Positions less than so many points apart count as the same.
-constexpr double samePlace = 0.5;
 
 /// The scroller counts in whole steps; so many make a point, unless the document is too long.
 constexpr double scrollerStepsPerPoint = 8.0;
@@ -49,11 +47,12 @@ ScriptView::ScriptView(std::shared_ptr<ReadingSession> shown, QWidget* parent)
     : QWidget(parent)
     , session(std::move(shown))
     , strips([this](QPainter& painter, double top, double bottom) {
-        painter.translate(horizontalInset, verticalInset);
-        layout.draw(painter, top - verticalInset, bottom - verticalInset, currentSelection.range());
+        painter.translate(horizontalInset, room.above);
+        layout.draw(painter, top - room.above, bottom - room.above, currentSelection.range());
     })
     , scroller(new ThemedScroller(this))
-    , interaction(*this) {
+    , interaction(*this)
+    , scriptJumps(*this) {
     installScriptViewAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -62,7 +61,9 @@ ScriptView::ScriptView(std::shared_ptr<ReadingSession> shown, QWidget* parent)
     scroller->setAccessibleName(tr("Scroll position"));
     connect(scroller, &QScrollBar::valueChanged, this,
             [this](int value) { scrollTo(value / scrollerScale(maximumScrollPosition())); });
+    connect(scroller, &QScrollBar::sliderPressed, this, [this] { scriptJumps.stop(); });
     layout.setScript(session->script());
+    updateRoom();
     session->addView(*this);
 }
 
@@ -71,7 +72,7 @@ ScriptView::~ScriptView() {
 }
 
 double ScriptView::documentHeight() const {
-    return layout.height() + 2 * verticalInset;
+    return layout.height() + room.above + room.below;
 }
 
 double ScriptView::maximumScrollPosition() const {
@@ -79,6 +80,7 @@ double ScriptView::maximumScrollPosition() const {
 }
 
 void ScriptView::scrollTo(double position) {
+    scriptJumps.stop();
     session->moveBy(position - scrollTop);
 }
 
@@ -105,52 +107,45 @@ void ScriptView::setPosition(double position) {
 
 void ScriptView::tellPlace() {
     if (scrollTop == 0.0) return session->reached(*this, {});
-    const double y = scrollTop - verticalInset;
+    const double y = columnY(scrollTop);
     const std::size_t paragraph = layout.paragraphAt(y);
     const double height = std::max(layout.heightOf(paragraph), 1.0);
     session->reached(*this, {paragraph, (y - layout.topOf(paragraph)) / height});
 }
 
 double ScriptView::positionOf(const ReadingPlace& place) const {
-    return layout.topOf(place.paragraph) + place.fraction * layout.heightOf(place.paragraph) +
-           verticalInset;
+    return positionOfY(layout.topOf(place.paragraph) +
+                       place.fraction * layout.heightOf(place.paragraph));
 }
 
-/// The scroll position that shows the line of an offset at the view's top.
-double ScriptView::positionOf(qsizetype offset) {
+double ScriptView::positionOf(qsizetype offset) const {
     const std::size_t paragraph = script().paragraphOf(offset);
-    if (offset == script().paragraphs[paragraph].start) return positionOfParagraph(paragraph);
-    return scrollTop + caretRect(offset).top();
+    if (readingFrame.isActive) return positionOfY(layout.caretRect(offset).center().y());
+    // The first one comes with the room above it, others without anything of those before them.
+    if (offset == script().paragraphs[paragraph].start)
+        return paragraph == 0 ? 0.0 : positionOfY(layout.topOf(paragraph));
+    return positionOfY(layout.caretRect(offset).top());
 }
 
-/// The scroll position that shows a paragraph, and nothing of those before it, at the view's top.
-double ScriptView::positionOfParagraph(std::size_t paragraph) const {
-    return paragraph == 0 ? 0.0 : layout.topOf(paragraph) + verticalInset;
+void ScriptView::setReadingFrame(const ReadingFrame& wanted) {
+    if (wanted == readingFrame) return;
+    const bool standsStill = wanted.isActive != readingFrame.isActive && scrollTop > 0.0;
+    readingFrame = wanted;
+    scriptJumps.setGliding(wanted.glides);
+    if (readingFrame.isActive)
+        keepPlaceDuring([this] { ReadingRoom::of(readingFrame, layout, height()); });
+    const double above = room.above;
+    updateRoom();
+    if (standsStill) scrollTop += room.above - above;
+    layoutChanged();
 }
 
-void ScriptView::goByHand(std::size_t paragraph) {
-    scroller->reveal();
-    session->moveTo(script().paragraphs[paragraph].start);
-}
-
-bool ScriptView::scrollToNextHeader() {
-    if (scrollTop >= maximumScrollPosition()) return false;
-    for (std::size_t i = layout.paragraphAt(scrollTop); i < script().paragraphs.size(); ++i) {
-        if (script().headingLevel(i) == 0) continue;
-        if (positionOfParagraph(i) >= scrollTop + samePlace) return goByHand(i), true;
-    }
-    return false;
-}
-
-bool ScriptView::scrollToPreviousHeader() {
-    for (std::size_t i = layout.paragraphAt(scrollTop) + 1; i-- > 0;) {
-        if (script().headingLevel(i) == 0) continue;
-        if (positionOfParagraph(i) <= scrollTop - samePlace) return goByHand(i), true;
-    }
-    return false;
+void ScriptView::updateRoom() {
+    room = ReadingRoom::of(readingFrame, layout, height());
 }
 
 void ScriptView::scriptChanged(const Script& before, const ScriptChange& change, bool placeIsKept) {
+    scriptJumps.stop();
     layout.setScript(session->script(), change);
     if (change.oldCount == 0 && change.newCount == 0) return;
     moveSelectionAcross(change, before);
@@ -187,6 +182,7 @@ void ScriptView::setFontSize(double points) {
 
 void ScriptView::setAnew(bool atReadersPlace) {
     if (script().length() <= unitsLaidOutAtOnce) layout.measureMore(unitsLaidOutAtOnce + 1, 0);
+    updateRoom();
     if (atReadersPlace) scrollTop = positionOf(session->place());
     layoutChanged();
 }
@@ -214,7 +210,7 @@ bool ScriptView::keepPlaceDuring(Action action) {
     }
     const double height = layout.height();
     const bool atEnd = scrollTop > 0.0 && scrollTop == maximumScrollPosition();
-    const std::size_t anchor = layout.paragraphAt(scrollTop - verticalInset);
+    const std::size_t anchor = layout.paragraphAt(columnY(scrollTop));
     const double before = layout.topOf(anchor);
     action();
     const double moved = layout.topOf(anchor) - before;
@@ -238,7 +234,7 @@ void ScriptView::measureVisible() {
     const double ratio = pixelRatio();
     const double strip = StripCache::rowsPerStrip / ratio;
     for (int pass = 0; pass < mostPasses && !layout.isMeasured(); ++pass) {
-        const double top = std::floor(scrollTop / strip) * strip - verticalInset;
+        const double top = std::floor(scrollTop / strip) * strip - room.above;
         const double bottom = top + height() + 2 * strip;
         if (!keepPlaceDuring([&] { layout.measureBetween(top, bottom); })) return;
     }
@@ -272,6 +268,7 @@ void ScriptView::resizeEvent(QResizeEvent*) {
     sizeFrame();
     const double textWidth = std::max(width() - 2 * horizontalInset, 1.0);
     if (textWidth == layout.textWidth()) {
+        updateRoom();
         scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
         tellPlace();
         return updateScroller();
@@ -294,7 +291,9 @@ void ScriptView::paintEvent(QPaintEvent*) {
     if (composer.frame().isNull()) return;
     measureVisible();
     keepPlaceDuring([this] { composer.compose(strips, scrollTop * pixelRatio()); });
-    QPainter(this).drawImage(QPointF(0, 0), composer.frame());
+    QPainter painter(this);
+    painter.drawImage(QPointF(0, 0), composer.frame());
+    paintReadingGuide(painter, readingFrame, room, width());
 }
 
 void ScriptView::setSelection(const TextSelection& selection) {
@@ -333,23 +332,24 @@ void ScriptView::copySelection() const {
 }
 
 QRectF ScriptView::caretRect(qsizetype offset) const {
-    return layout.caretRect(offset).translated(horizontalInset, verticalInset - scrollTop);
+    return layout.caretRect(offset).translated(horizontalInset, room.above - scrollTop);
 }
 
 QRectF ScriptView::paragraphRect(std::size_t paragraph) const {
-    const double top = layout.topOf(paragraph) + verticalInset - scrollTop;
+    const double top = layout.topOf(paragraph) + room.above - scrollTop;
     return {horizontalInset, top, layout.textWidth(), layout.heightOf(paragraph)};
 }
 
 qsizetype ScriptView::offsetAt(const QPointF& point) const {
-    return layout.offsetAt({point.x() - horizontalInset, point.y() + scrollTop - verticalInset});
+    return layout.offsetAt({point.x() - horizontalInset, point.y() + scrollTop - room.above});
 }
 
 void ScriptView::reveal(qsizetype offset) {
     keepPlaceDuring([&] { layout.measureAt(offset); });
     const QRectF caret = caretRect(offset);
-    if (caret.top() < 0) scrollTo(scrollTop + caret.top() - verticalInset);
-    if (caret.bottom() > height()) scrollTo(scrollTop + caret.bottom() - height() + verticalInset);
+    if (caret.top() < 0) scrollTo(scrollTop + caret.top() - marginOfRevealed);
+    if (caret.bottom() > height())
+        scrollTo(scrollTop + caret.bottom() - height() + marginOfRevealed);
 }
 
 void ScriptView::wheelEvent(QWheelEvent* event) {
@@ -360,10 +360,12 @@ void ScriptView::wheelEvent(QWheelEvent* event) {
 }
 
 void ScriptView::keyPressEvent(QKeyEvent* event) {
+    if (!event->isAutoRepeat()) scriptJumps.stop();
     if (!interaction.keyPress(*event)) QWidget::keyPressEvent(event);
 }
 
 void ScriptView::mousePressEvent(QMouseEvent* event) {
+    scriptJumps.stop();
     interaction.mousePress(*event);
 }
 void ScriptView::mouseMoveEvent(QMouseEvent* event) {

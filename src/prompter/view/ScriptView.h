@@ -2,7 +2,10 @@
 
 #include "prompter/layout/ScriptLayout.h"
 #include "prompter/view/FrameComposer.h"
+#include "prompter/view/ReadingFrame.h"
+#include "prompter/view/ReadingRoom.h"
 #include "prompter/view/ScriptInteraction.h"
+#include "prompter/view/ScriptJumps.h"
 #include "prompter/view/StripCache.h"
 #include "prompter/view/TextSelection.h"
 #include "reading/ReadingView.h"
@@ -52,10 +55,23 @@ public:
     /// As above for a movement of the reader's hand: it shows the scroller for a moment.
     void scrollByHand(double position);
 
-    /// Moves the next header below the view's top edge, or the last one above it, to the top. False
-    /// when there is none.
-    bool scrollToNextHeader();
-    bool scrollToPreviousHeader();
+    /// Sets what the reader wants around the text, which stands still where it can.
+    void setReadingFrame(const ReadingFrame& wanted);
+
+    /// The middle of the line that is being read, from the view's top.
+    double eyeLine() const { return room.eyeLine; }
+
+    /// The scroll position that has the middle of an offset's line at the eye line, if that is
+    /// active, or the line and nothing of those before it at the top.
+    double positionOf(qsizetype offset) const;
+
+    /// The paragraph that is read at a scroll position.
+    std::size_t paragraphReadAt(double position) const {
+        return layout.paragraphAt(columnY(position));
+    }
+
+    /// Where to jump from here.
+    ScriptJumps& jumps() { return scriptJumps; }
 
     bool isLayoutComplete() const { return layout.isMeasured(); }
 
@@ -106,7 +122,9 @@ private:
     void setPosition(double position);
     void tellPlace();
     double positionOf(const ReadingPlace& place) const;
-    double positionOf(qsizetype offset);
+    double positionOfY(double y) const { return y + room.above - room.readingY; }
+    double columnY(double position) const { return position + room.readingY - room.above; }
+    void updateRoom();
     void moveSelectionAcross(const ScriptChange& change, const Script& before);
     template <typename Action>
     bool keepPlaceDuring(Action action);
@@ -114,8 +132,6 @@ private:
     void setAnew(bool atReadersPlace);
     void layoutChanged();
     void continueLayout();
-    double positionOfParagraph(std::size_t paragraph) const;
-    void goByHand(std::size_t paragraph);
     void sizeFrame();
     double pixelRatio() const { return composer.frame().devicePixelRatio(); }
     void updateScroller();
@@ -123,10 +139,13 @@ private:
 
     std::shared_ptr<ReadingSession> session;
     ScriptLayout layout;
+    ReadingFrame readingFrame;
+    ReadingRoom room;
     StripCache strips;
     FrameComposer composer;
     ThemedScroller* scroller;
     ScriptInteraction interaction;
+    ScriptJumps scriptJumps;
     TextSelection currentSelection;
     double scrollTop = 0.0;
     QBasicTimer idleTimer;

@@ -97,7 +97,7 @@ TEST_F(ScriptViewAccessibleTest, PlacesHeadingsWhereTheyAreSeen) {
     show(lines(50) + u"# Far\n"_s + lines(50));
     const auto* heading = interface().child(interface().childCount() - 1);
     EXPECT_TRUE(heading->state().offscreen);
-    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_TRUE(view.jumps().toNextHeading());
     EXPECT_FALSE(heading->state().offscreen);
     const QPoint corner = view.mapToGlobal(QPoint(0, 0));
     EXPECT_NEAR(heading->rect().top(), corner.y(), 1);

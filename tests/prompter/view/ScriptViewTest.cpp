@@ -73,24 +73,24 @@ TEST_F(ScriptViewTest, CannotScrollWhatFits) {
 
 TEST_F(ScriptViewTest, GoesFromHeaderToHeader) {
     show(u"# First\n"_s + lines(30) + u"## Second\n"_s + lines(30) + u"# Third\n"_s + lines(30));
-    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_TRUE(view.jumps().toNextHeading());
     EXPECT_EQ(topLine(), u"Second"_s);
-    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_TRUE(view.jumps().toNextHeading());
     EXPECT_EQ(topLine(), u"Third"_s);
-    EXPECT_FALSE(view.scrollToNextHeader());
-    EXPECT_TRUE(view.scrollToPreviousHeader());
+    EXPECT_FALSE(view.jumps().toNextHeading());
+    EXPECT_TRUE(view.jumps().toPreviousHeading());
     EXPECT_EQ(topLine(), u"Second"_s);
-    EXPECT_TRUE(view.scrollToPreviousHeader());
+    EXPECT_TRUE(view.jumps().toPreviousHeading());
     EXPECT_EQ(view.scrollPosition(), 0);
-    EXPECT_FALSE(view.scrollToPreviousHeader());
+    EXPECT_FALSE(view.jumps().toPreviousHeading());
 }
 
 TEST_F(ScriptViewTest, ReturnsToTheHeaderOfTheTextBeingRead) {
     show(u"# First\n"_s + lines(30) + u"## Second\n"_s + lines(60));
-    view.scrollToNextHeader();
+    view.jumps().toNextHeading();
     const double header = view.scrollPosition();
     view.scrollTo(header + 100);
-    EXPECT_TRUE(view.scrollToPreviousHeader());
+    EXPECT_TRUE(view.jumps().toPreviousHeading());
     EXPECT_DOUBLE_EQ(view.scrollPosition(), header);
 }
 
@@ -100,23 +100,23 @@ TEST_F(ScriptViewTest, FindsHeadersInTextThatIsNotLaidOutYet) {
                                  lines(100),
                              16));
     ASSERT_FALSE(view.isLayoutComplete());
-    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_TRUE(view.jumps().toNextHeading());
     EXPECT_EQ(topLine(), u"Far away"_s);
 }
 
 TEST_F(ScriptViewTest, HasNoHeaderToGoToInPlainText) {
     show(lines(100));
     view.scrollTo(200);
-    EXPECT_FALSE(view.scrollToNextHeader());
-    EXPECT_FALSE(view.scrollToPreviousHeader());
+    EXPECT_FALSE(view.jumps().toNextHeading());
+    EXPECT_FALSE(view.jumps().toPreviousHeading());
     EXPECT_EQ(view.scrollPosition(), 200);
 }
 
 TEST_F(ScriptViewTest, GoesToTheEndForAHeaderThatCannotReachTheTop) {
     show(lines(60) + u"# Last\nend"_s);
-    EXPECT_TRUE(view.scrollToNextHeader());
+    EXPECT_TRUE(view.jumps().toNextHeading());
     EXPECT_EQ(view.scrollPosition(), view.maximumScrollPosition());
-    EXPECT_FALSE(view.scrollToNextHeader());
+    EXPECT_FALSE(view.jumps().toNextHeading());
 }
 
 TEST_F(ScriptViewTest, MovesWhatItDrawsByFractionsOfAPixel) {

@@ -1,0 +1,74 @@
+#include "prompter/view/ScriptJumps.h"
+
+#include "prompter/view/ScriptView.h"
+#include "reading/ReadingSession.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessaline {
+
+namespace {
+
+/// Positions less than so many points apart count as the same.
+constexpr double samePlace = 0.5;
+
+} // namespace
+
+ScriptJumps::ScriptJumps(ScriptView& owner)
+    : view(owner)
+    , glide([this] { return view.scrollPosition(); },
+            [this](double points) { view.reading().moveBy(points); }) {}
+
+/// Where a jump starts from: who asks for the next heading twice means the one after the next.
+double ScriptJumps::start() const {
+    return isUnderWay() ? target() : view.scrollPosition();
+}
+
+double ScriptJumps::positionOfHeading(std::size_t paragraph) const {
+    return view.positionOf(view.script().paragraphs[paragraph].start);
+}
+
+bool ScriptJumps::toNextHeading() {
+    const double from = start();
+    if (from >= view.maximumScrollPosition()) return false;
+    const Script& script = view.script();
+    for (std::size_t i = view.paragraphReadAt(from); i < script.paragraphs.size(); ++i) {
+        if (script.headingLevel(i) == 0) continue;
+        if (positionOfHeading(i) >= from + samePlace) return toHeading(i), true;
+    }
+    return false;
+}
+
+bool ScriptJumps::toPreviousHeading() {
+    const double from = start();
+    for (std::size_t i = view.paragraphReadAt(from) + 1; i-- > 0;) {
+        if (view.script().headingLevel(i) == 0) continue;
+        if (positionOfHeading(i) <= from - samePlace) return toHeading(i), true;
+    }
+    return false;
+}
+
+void ScriptJumps::toHeading(std::size_t paragraph) {
+    const qsizetype offset = view.script().paragraphs[paragraph].start;
+    jump([this, offset] { return std::min(view.positionOf(offset), view.maximumScrollPosition()); },
+         [this, offset] { view.reading().moveTo(offset); });
+}
+
+void ScriptJumps::toTop() {
+    jump([] { return 0.0; }, [this] { view.scrollTo(0); });
+}
+
+void ScriptJumps::toEnd() {
+    jump([this] { return view.maximumScrollPosition(); },
+         [this] { view.scrollTo(view.documentHeight()); });
+}
+
+void ScriptJumps::jump(Glide::Place newTarget, std::function<void()> arrive) {
+    view.scrollByHand(view.scrollPosition()); // which ends the last jump
+    if (!glides || !view.isVisible()) return arrive();
+    target = std::move(newTarget);
+    glide.start(target, std::move(arrive));
+}
+
+} // namespace tessaline
