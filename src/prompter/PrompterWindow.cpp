@@ -9,6 +9,7 @@
 #include "platform/qt/FocusOnClick.h"
 #include "platform/qt/KeyTranslation.h"
 #include "prompter/ControlStrip.h"
+#include "prompter/CountdownView.h"
 #include "prompter/Placeholder.h"
 #include "prompter/PrompterGeometry.h"
 #include "prompter/ReadingStatistics.h"
@@ -77,6 +78,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
     setupUI();
     updateReadingFrame();
     updateFrame();
+    holdForCountdown();
     session->setSource(std::make_unique<AutoScroll>(session, *platform.displayLinks,
                                                     *platform.timers, *platform.mainQueue));
     settingsObservation =
@@ -99,6 +101,11 @@ void PrompterWindow::setupUI() {
     view->setAccessibleName(u"Script"_s);
     setFocusProxy(view);
     view->setFocus();
+    countdown = new CountdownView(*platform.timers, scrollArea);
+    countdown->setObjectName(u"prompter_countdown"_s);
+    connect(countdown, &CountdownView::ended, this, [this] { session->setHeld(false); });
+    connect(countdown, &CountdownView::cancelled, this,
+            [this] { settings.setAutoScrollEnabled(false); });
     connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
 }
 
@@ -158,6 +165,7 @@ void PrompterWindow::toggleCollapsed() {
                                   : expandedFrame(settledFrame, expandedHeight);
     if (!collapsed) squareCorners = false;
     arrangeContent();
+    countDownWhileSeen();
     animateTo(target);
     updateMinimizeButtonAppearance();
 }
@@ -196,6 +204,7 @@ void PrompterWindow::arrangeContent() {
     scrollArea->setGeometry(textMargin, textTop, textWidth, textHeight);
     const bool heightChanges = textHeight != view->height();
     view->resize(scrollArea->size());
+    countdown->resize(scrollArea->size());
     // The hint is set for one height, and for none while nothing of it is seen.
     if (heightChanges && textHeight > 0 && lastRawContent == placeholderContent)
         renderPlaceholder();
@@ -211,6 +220,7 @@ void PrompterWindow::setVisible(bool visible) {
     if (changes && !visible) platform.windowTraits->release(*this);
     QWidget::setVisible(visible);
     if (changes && visible) platform.windowTraits->adopt(*this);
+    if (changes) countDownWhileSeen();
 }
 
 void PrompterWindow::showEvent(QShowEvent* event) {
@@ -295,6 +305,7 @@ PrompterStatus PrompterWindow::status() const {
 }
 
 void PrompterWindow::performScroll(double deltaY) {
+    view->jumps().stop();
     session->moveBy(-deltaY);
 }
 
@@ -308,7 +319,24 @@ void PrompterWindow::settingsChanged(const PersistedSettings& before) {
     const PersistedSettings& now = settings.values();
     if (now.scrollSpeed != before.scrollSpeed) updateScrollParameters();
     if (now.autoScrollEnabled == before.autoScrollEnabled) return;
+    holdForCountdown();
     now.autoScrollEnabled ? session->start() : session->stop();
+    countDownWhileSeen();
+}
+
+/// The reader may have asked for a moment before the text starts to move.
+void PrompterWindow::holdForCountdown() {
+    session->setHeld(settings.autoScrollEnabled() &&
+                     readingSettings.values().countdownSeconds > 0.0);
+}
+
+/// Nobody can get ready by what they do not see: it begins anew once the text is in sight again.
+void PrompterWindow::countDownWhileSeen() {
+    if (session->isHeld() && isVisible() && !collapsed) {
+        countdown->start(int(readingSettings.values().countdownSeconds));
+    } else {
+        countdown->stop();
+    }
 }
 
 void PrompterWindow::updateReadingFrame() {

@@ -19,6 +19,7 @@
 namespace tessaline {
 
 class ControlStrip;
+class CountdownView;
 class ReadingSession;
 class ScreenManager;
 class ScriptView;
@@ -118,6 +119,8 @@ private:
     void shape();
     void settingsChanged(const PersistedSettings& before);
     void updateReadingFrame();
+    void holdForCountdown();
+    void countDownWhileSeen();
 
     AppSettings& settings;
     AppSettings::Observation settingsObservation;
@@ -129,6 +132,7 @@ private:
     ControlStrip* strip = nullptr;
     QWidget* scrollArea = nullptr; ///< what of the text is seen
     ScriptView* view = nullptr;
+    CountdownView* countdown = nullptr;
     bool watchesClicks = false;
     bool collapsed = false;
     bool squareCorners = false; ///< follows `collapsed` once the window has its height

@@ -79,7 +79,13 @@ void ReadingSession::setSource(std::unique_ptr<PositionSource> newSource) {
 }
 
 void ReadingSession::start() {
-    if (source) source->start();
+    if (source && !held) source->start();
+}
+
+void ReadingSession::setHeld(bool hold) {
+    if (std::exchange(held, hold) == hold) return;
+    if (hold) return stop();
+    if (settings.autoScrollEnabled) start();
 }
 
 void ReadingSession::stop() {

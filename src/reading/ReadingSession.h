@@ -53,6 +53,11 @@ public:
     void start();
     void stop();
 
+    /// While the session is held, the source does not move the text. Letting it go starts the
+    /// source if the settings say so.
+    void setHeld(bool hold);
+    bool isHeld() const { return held; }
+
     /// Takes the pace over from the settings.
     void updatePace();
 
@@ -78,6 +83,7 @@ private:
     qsizetype wordCount = 0;
     ReadingPlace readersPlace;
     double seconds = 0.0;
+    bool held = false;
     FrameRate frames;
     std::vector<ReadingView*> views;
     std::unique_ptr<PositionSource> source;

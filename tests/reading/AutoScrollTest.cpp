@@ -64,6 +64,22 @@ protected:
     std::uint64_t hostTime = 0;
 };
 
+TEST_F(AutoScrollTest, WaitsWhileItsSessionIsHeld) {
+    settings.autoScrollEnabled = true;
+    session->setHeld(true);
+    const AutoScroll& scroll = make();
+    EXPECT_FALSE(scroll.running());
+    session->start();
+    EXPECT_FALSE(scroll.running());
+    session->setHeld(false);
+    EXPECT_TRUE(scroll.running());
+    session->setHeld(true);
+    EXPECT_FALSE(scroll.running());
+    settings.autoScrollEnabled = false;
+    session->setHeld(false);
+    EXPECT_FALSE(scroll.running());
+}
+
 TEST_F(AutoScrollTest, RunsFromTheStartWhenTheSettingsSaySo) {
     settings.autoScrollEnabled = true;
     EXPECT_TRUE(make().running());

@@ -5,6 +5,7 @@
 #include "reading/MarkdownScript.h"
 #include "reading/PositionSource.h"
 #include "settings/PersistedSettings.h"
+#include "settings/ReadingOptions.h"
 
 #include <QStringList>
 
@@ -47,7 +48,8 @@ protected:
     PersistedSettings settings;
     RecordingView first;
     RecordingView second;
-    ReadingSession session{settings};
+    ReadingOptions options;
+    ReadingSession session{settings, options};
     QStringList calls;
 };
 
