@@ -62,6 +62,7 @@ PrompterWindow& AppDelegate::prompter() const {
 PrompterStatus AppDelegate::status() const {
     PrompterStatus status = prompter().status();
     status.version = CommandLine::version();
+    tellOptions(readingSettings.values(), QTime::currentTime(), status);
     return status;
 }
 

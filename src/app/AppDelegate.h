@@ -69,6 +69,7 @@ public:
     /// Whether the normal start has happened: the first-run window is done with.
     bool hasStarted() const { return shortcuts != nullptr; }
     const AppSettings& currentSettings() const { return settings; }
+    ReadingSettings& reading() { return readingSettings; }
     PrompterWindow& prompter() const;
     PrompterStatus status() const;
 

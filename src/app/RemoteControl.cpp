@@ -1,10 +1,12 @@
 #include "app/RemoteControl.h"
 
 #include "app/AppDelegate.h"
+#include "app/ReadingCommands.h"
 #include "app/ScriptIntake.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
+#include "settings/ReadingSettings.h"
 
 namespace tessaline {
 
@@ -42,7 +44,6 @@ RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
 
 void RemoteControl::carryOut(const ControlRequest& request) {
     ScriptView& view = delegate.prompter().textView();
-    const AppSettings& settings = delegate.currentSettings();
     switch (request.command) {
     case ControlCommand::toggle:
         return delegate.toggleScroll();
@@ -51,11 +52,11 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::pause:
         return setAutoScroll(false);
     case ControlCommand::faster:
-        return delegate.setScrollSpeed(settings.scrollSpeed() + speedStep);
+        return stepPace(PaceStep::faster);
     case ControlCommand::slower:
-        return delegate.setScrollSpeed(settings.scrollSpeed() - speedStep);
+        return stepPace(PaceStep::slower);
     case ControlCommand::speed:
-        return delegate.setScrollSpeed(request.speed());
+        return delegate.setScrollSpeed(request.number());
     case ControlCommand::rate:
         if (const auto rate = scrollRateFromRawValue(request.argument))
             delegate.chooseScrollRate(*rate);
@@ -82,6 +83,14 @@ void RemoteControl::carryOut(const ControlRequest& request) {
         return setCollapsed(false);
     case ControlCommand::settings:
         return delegate.showConfig();
+    case ControlCommand::pace:
+    case ControlCommand::guide:
+    case ControlCommand::eyeLine:
+    case ControlCommand::countdown:
+    case ControlCommand::atEnd:
+    case ControlCommand::glide:
+        return delegate.reading().change(
+            [&request](ReadingOptions& options) { takeOver(request, options); });
     case ControlCommand::quit:
         return delegate.quitApp();
     case ControlCommand::source:
@@ -89,6 +98,17 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::status:
         return;
     }
+}
+
+void RemoteControl::stepPace(PaceStep step) {
+    ReadingSettings& reading = delegate.reading();
+    if (reading.values().pace == PaceMode::speed) {
+        const double change = step == PaceStep::faster ? speedStep : -speedStep;
+        return delegate.setScrollSpeed(delegate.currentSettings().scrollSpeed() + change);
+    }
+    reading.change([step](ReadingOptions& options) {
+        tessaline::stepPace(options, step, QTime::currentTime());
+    });
 }
 
 void RemoteControl::setAutoScroll(bool on) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/remote/RemoteRequest.h"
+#include "settings/PaceStep.h"
 
 #include <QString>
 
@@ -14,7 +15,7 @@ class AppDelegate;
 /// shortcuts take.
 class RemoteControl {
 public:
-    /// What a step of `faster` or `slower` changes.
+    /// What a step of `faster` or `slower` changes while the pace goes by the speed.
     static constexpr double speedStep = 0.25;
 
     explicit RemoteControl(AppDelegate& delegate);
@@ -27,6 +28,7 @@ public:
 private:
     RemoteAnswer answerTo(const ControlRequest& request);
     void carryOut(const ControlRequest& request);
+    void stepPace(PaceStep step);
     void setAutoScroll(bool on);
     void setCollapsed(bool collapsed);
     void paste(const Reply& reply);

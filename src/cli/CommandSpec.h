@@ -11,13 +11,27 @@ namespace tessaline {
 
 /// What an option or an action takes, as the parser, the help and the completions know it.
 struct CommandValue {
-    enum class Kind : std::uint8_t { text, file };
+    enum class Kind : std::uint8_t {
+        text, ///< anything, or one of the choices where there are any
+        file,
+        number, ///< a number within the limits, or one of the choices
+        finish, ///< minutes within the limits, such as "12m", or a time of day, such as "15:30"
+    };
 
     QStringView name;                     ///< how the help calls it; empty: nothing is taken
-    std::span<const QStringView> choices; ///< all there are; empty: anything
+    std::span<const QStringView> choices; ///< words that it may be
     Kind kind = Kind::text;
+    double least = 0.0;
+    double most = 0.0;
+    bool isWhole = false; ///< no fraction is allowed
 
     bool isTaken() const { return !name.isEmpty(); }
+};
+
+/// What follows one of the choices of an action.
+struct ChoiceTail {
+    QStringView choice;
+    CommandValue value; ///< may be left out
 };
 
 /// An option as the parser and the help both know it.
@@ -34,6 +48,7 @@ struct ControlAction {
     QStringView name;
     CommandValue value; ///< never optional
     QStringView help;   ///< one line
+    std::span<const ChoiceTail> tails{};
 };
 
 /// A term of a list with its explanation.

@@ -1,5 +1,8 @@
 #include "cli/CommandTable.h"
 
+#include "cli/ControlRequest.h"
+#include "settings/ReadingOptions.h"
+
 #include <algorithm>
 
 namespace tessaline {
@@ -35,6 +38,8 @@ constexpr HelpEntry programEnvironment[] = {
 
 constexpr HelpEntry programFiles[] = {
     {u"~/Library/Application Support/Tessaline/config.json", u"The settings."},
+    {u"~/Library/Application Support/Tessaline/reading.json",
+     u"The reading options, once one of them was chosen."},
     {u"~/Library/Application Support/Tessaline/clipboard-content.md",
      u"The script that was pasted or opened last."},
     {u"~/Library/Application Support/Tessaline/analytics.json", u"The history of use."},
@@ -120,7 +125,28 @@ constexpr HelpSection renderSections[] = {
 
 constexpr QStringView rates[] = {u"slow", u"medium", u"fast"};
 constexpr QStringView sources[] = {u"obsidian", u"clipboard"};
+constexpr QStringView paces[] = {u"speed", u"words", u"finish"};
+constexpr QStringView guides[] = {u"none", u"marker", u"band"};
+constexpr QStringView bandLines[] = {u"1", u"2"};
+constexpr QStringView eyeLines[] = {u"second"};
+constexpr QStringView ends[] = {u"stand", u"stop", u"round"};
+constexpr QStringView switchStates[] = {u"on", u"off"};
 constexpr CommandValue nothing{};
+
+constexpr ChoiceTail paceTails[] = {
+    {u"words",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = ReadingOptions::leastWordsPerMinute,
+      .most = ReadingOptions::mostWordsPerMinute}},
+    {u"finish",
+     {.name = u"WHEN",
+      .kind = Kind::finish,
+      .least = ReadingOptions::leastFinishMinutes,
+      .most = ReadingOptions::mostFinishMinutes}},
+};
+
+constexpr ChoiceTail guideTails[] = {{u"band", {.name = u"LINES", .choices = bandLines}}};
 
 using C = ControlCommand;
 
@@ -128,10 +154,21 @@ constexpr ControlAction actions[] = {
     {C::toggle, u"toggle", nothing, u"Start or stop moving by itself."},
     {C::play, u"play", nothing, u"Start moving by itself."},
     {C::pause, u"pause", nothing, u"Stop moving by itself."},
-    {C::faster, u"faster", nothing, u"Move faster by 0.25, up to 5."},
-    {C::slower, u"slower", nothing, u"Move slower by 0.25, down to 0."},
-    {C::speed, u"speed", {.name = u"N"}, u"Move at speed N, from 0 to 5."},
+    {C::faster, u"faster", nothing, u"Move faster by 0.25, up to 5, or as below."},
+    {C::slower, u"slower", nothing, u"Move slower by 0.25, down to 0, or as below."},
+    {C::speed,
+     u"speed",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = ControlRequest::leastSpeed,
+      .most = ControlRequest::mostSpeed},
+     u"Move at speed N, from 0 to 5."},
     {C::rate, u"rate", {.name = u"slow|medium|fast", .choices = rates}, u"Set the speed's scale."},
+    {C::pace,
+     u"pace",
+     {.name = u"speed|words [N]|finish [WHEN]", .choices = paces},
+     u"Set what decides how fast it moves; see below.",
+     paceTails},
     {C::up, u"up", nothing, u"Scroll towards the start by one step."},
     {C::down, u"down", nothing, u"Scroll towards the end by one step."},
     {C::top, u"top", nothing, u"Go to the start of the script."},
@@ -147,6 +184,34 @@ constexpr ControlAction actions[] = {
      u"source",
      {.name = u"obsidian|clipboard", .choices = sources},
      u"Show what this source has."},
+    {C::guide,
+     u"guide",
+     {.name = u"none|marker|band [LINES]", .choices = guides},
+     u"Mark the line that is being read.",
+     guideTails},
+    {C::eyeLine,
+     u"eyeline",
+     {.name = u"second|N",
+      .choices = eyeLines,
+      .kind = Kind::number,
+      .least = 100.0 * ReadingOptions::leastEyeLine,
+      .most = 100.0 * ReadingOptions::mostEyeLine},
+     u"Read at the second line, or N percent down."},
+    {C::countdown,
+     u"countdown",
+     {.name = u"N",
+      .kind = Kind::number,
+      .most = ReadingOptions::mostCountdownSeconds,
+      .isWhole = true},
+     u"Count N seconds down before it moves; 0: none."},
+    {C::atEnd,
+     u"at-end",
+     {.name = u"stand|stop|round", .choices = ends},
+     u"At the end stand, stop, or begin again."},
+    {C::glide,
+     u"glide",
+     {.name = u"on|off", .choices = switchStates},
+     u"Ease jumps to headings, top and end, or not."},
     {C::quit, u"quit", nothing, u"End the program."},
     {C::status, u"status", nothing, u"Print its state as one JSON object."},
 };
@@ -162,6 +227,8 @@ constexpr HelpEntry controlStatuses[] = {
 constexpr HelpEntry controlExamples[] = {
     {u"tessaline ctl toggle", u"For a key or a foot pedal: start and stop."},
     {u"tessaline ctl speed 2.5", u"Move at speed 2.5."},
+    {u"tessaline ctl pace words 150", u"Move at 150 words a minute."},
+    {u"tessaline ctl pace finish 12m", u"Be at the end after twelve minutes."},
     {u"tessaline ctl status | jq .words", u"Print how many words the script has."},
 };
 
@@ -173,18 +240,27 @@ constexpr HelpSection controlSections[] = {
 constexpr CommandSpec commands[] = {
     {
         .name = u"ctl",
-        .usage = u"COMMAND [ARGUMENT]",
+        .usage = u"COMMAND [ARGUMENT]...",
         .summary = u"Tell the running prompter to play, pause, scroll, show and more.\n"
                    u"See 'tessaline ctl --help'.",
         .description =
             u"Tells the running prompter to do something, as its buttons and shortcuts do, and\n"
             u"prints its answer on one line. Meant for keys of the desktop, stream decks and\n"
             u"foot pedals.\n",
+        .notes =
+            u"The pace is the speed; or N words a minute, from 60 to 300; or such that the\n"
+            u"end comes after WHEN minutes, such as 12m, or at the time WHEN, such as 15:30.\n"
+            u"A time that has passed today means tomorrow. Without N or WHEN the last ones\n"
+            u"count.\n"
+            u"'faster' and 'slower' step what the pace is: the speed by 0.25, the words by 5,\n"
+            u"the minutes by 0.5, the time by one minute.\n"
+            u"\n"
+            u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n",
         .options = controlOptions,
         .actions = actions,
         .sections = controlSections,
         .leastOperands = 1,
-        .mostOperands = 2,
+        .mostOperands = 3,
     },
     {
         .name = u"render",

@@ -2,6 +2,8 @@
 
 #include "settings/JsonWriter.h"
 
+#include <type_traits>
+
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,12 +30,10 @@ void write(JsonWriter& json, const QString& text) {
     json.string(text);
 }
 
-void write(JsonWriter& json, SourceType source) {
-    json.string(rawValue(source));
-}
-
-void write(JsonWriter& json, ScrollRate rate) {
-    json.string(rawValue(rate));
+template <typename Choice>
+requires std::is_enum_v<Choice>
+void write(JsonWriter& json, Choice choice) {
+    json.string(rawValue(choice));
 }
 
 QString json(const PrompterStatus& status) {
@@ -53,6 +53,39 @@ QString position(const PrompterStatus& status) {
         .arg(status.maximumScrollPosition, 0, 'f', 1);
 }
 
+QString finish(const PrompterStatus& status) {
+    if (status.finish.endsWith(u'm')) return u"finish in %1 min"_s.arg(status.finish.chopped(1));
+    return "finish at "_L1 + status.finish +
+           (status.finishTomorrow ? " tomorrow: that time has passed today"_L1 : ""_L1);
+}
+
+QString pace(const PrompterStatus& status) {
+    switch (status.pace) {
+    case PaceMode::speed:
+        return u"speed %1"_s.arg(status.speed);
+    case PaceMode::words:
+        return u"%1 words a minute"_s.arg(status.wantedWordsPerMinute);
+    case PaceMode::finish:
+        return finish(status);
+    }
+    Q_UNREACHABLE();
+}
+
+QString guide(const PrompterStatus& status) {
+    const QString text = "guide "_L1 + rawValue(status.guide);
+    return status.guide == ReadingGuide::band ? u"%1 %2"_s.arg(text).arg(status.guideLines) : text;
+}
+
+QString eyeLine(const PrompterStatus& status) {
+    const bool isSecond = status.eyeLine == "second"_L1;
+    return isSecond ? u"eye line at the second line"_s
+                    : u"eye line at %1 percent"_s.arg(status.eyeLine);
+}
+
+QString countdown(const PrompterStatus& status) {
+    return status.countdown == 0 ? u"countdown off"_s : u"countdown %1 s"_s.arg(status.countdown);
+}
+
 } // namespace
 
 QString controlAnswer(const ControlRequest& request, const PrompterStatus& status) {
@@ -63,6 +96,8 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return status.autoScroll ? u"auto-scroll on"_s : u"auto-scroll off"_s;
     case ControlCommand::faster:
     case ControlCommand::slower:
+    case ControlCommand::pace:
+        return pace(status);
     case ControlCommand::speed:
         return u"speed %1"_s.arg(status.speed);
     case ControlCommand::rate:
@@ -86,6 +121,16 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"pasted"_s;
     case ControlCommand::source:
         return u"source "_s + rawValue(status.source);
+    case ControlCommand::guide:
+        return guide(status);
+    case ControlCommand::eyeLine:
+        return eyeLine(status);
+    case ControlCommand::countdown:
+        return countdown(status);
+    case ControlCommand::atEnd:
+        return "at the end: "_L1 + rawValue(status.atEnd);
+    case ControlCommand::glide:
+        return status.glide ? u"glide on"_s : u"glide off"_s;
     case ControlCommand::quit:
         return u"ending"_s;
     case ControlCommand::status:

@@ -2,8 +2,10 @@
 
 #include "cli/CommandTable.h"
 #include "settings/PlainNumber.h"
+#include "settings/TimeOfDay.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessaline {
 
@@ -11,34 +13,96 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// What the action's argument may be, for messages.
-QString allowedArguments(const ControlAction& action) {
-    if (action.value.choices.empty()) {
-        return u"a number from %1 to %2"_s.arg(ControlRequest::leastSpeed)
-            .arg(ControlRequest::mostSpeed);
-    }
-    QString text;
-    for (auto choice = action.value.choices.begin(); choice != action.value.choices.end();
-         ++choice) {
-        if (!text.isEmpty()) text += choice + 1 == action.value.choices.end() ? " or "_L1 : ", "_L1;
-        text += choice->toString();
-    }
-    return text;
+using Kind = CommandValue::Kind;
+
+QString numbersOf(const CommandValue& value) {
+    return u"a %1number from %2 to %3"_s.arg(value.isWhole ? u"whole "_s : QString())
+        .arg(value.least)
+        .arg(value.most);
 }
 
-/// The argument in the form that requests carry; none when it is not allowed.
-std::optional<QString> checkedArgument(const ControlAction& action, const QString& argument) {
-    const auto& choices = action.value.choices;
-    if (!choices.empty()) {
-        if (std::find(choices.begin(), choices.end(), argument) == choices.end()) return {};
-        return argument;
+/// What the value may be, for messages.
+QString allowed(const CommandValue& value) {
+    if (value.kind == Kind::finish) {
+        return u"minutes from %1m to %2m or a time of day such as 15:30"_s.arg(value.least)
+            .arg(value.most);
     }
+    QStringList words;
+    for (const QStringView choice : value.choices)
+        words += choice.toString();
+    if (value.kind == Kind::number) words += numbersOf(value);
+    const QString last = words.takeLast();
+    return words.isEmpty() ? last : words.join(", "_L1) + " or "_L1 + last;
+}
+
+std::optional<QString> checkedNumber(const CommandValue& value, const QString& text) {
     bool isNumber = false;
-    const double number = argument.toDouble(&isNumber);
+    const double number = text.toDouble(&isNumber);
     // Written so that NaN fails as well.
-    if (!isNumber || !(number >= ControlRequest::leastSpeed && number <= ControlRequest::mostSpeed))
-        return {};
+    if (!isNumber || !(number >= value.least && number <= value.most)) return {};
+    if (value.isWhole && number != std::floor(number)) return {};
     return QString::fromLatin1(plainNumber(number + 0.0)); // no negative zero
+}
+
+std::optional<QString> checkedFinish(const CommandValue& value, const QString& text) {
+    if (const auto time = timeOfDayFromText(text)) return timeOfDayText(*time);
+    if (!text.endsWith(u'm')) return {};
+    auto minutes = checkedNumber(value, text.chopped(1));
+    if (minutes) *minutes += u'm';
+    return minutes;
+}
+
+/// The word in the form that requests carry; none when it is not allowed.
+std::optional<QString> checked(const CommandValue& value, const QString& word) {
+    const auto& choices = value.choices;
+    if (std::find(choices.begin(), choices.end(), word) != choices.end()) return word;
+    if (value.kind == Kind::number) return checkedNumber(value, word);
+    if (value.kind == Kind::finish) return checkedFinish(value, word);
+    return {};
+}
+
+/// Takes the words apart from the first to the last.
+class WordReader {
+public:
+    explicit WordReader(const QStringList& given) : words(given) {}
+
+    /// The next word if the value allows it; else none, and `problem` says why.
+    std::optional<QString> take(const CommandValue& value) {
+        const QString before = words.first(next).join(u' ');
+        if (next == words.size()) {
+            problem = u"%1 needs %2"_s.arg(before, allowed(value));
+            return {};
+        }
+        const QString& word = words[next++];
+        const auto result = checked(value, word);
+        if (!result) problem = u"%1 '%2' is not %3"_s.arg(before, word, allowed(value));
+        return result;
+    }
+
+    bool isAtEnd() const { return next == words.size(); }
+    /// The next word, which there is.
+    const QString& peek() const { return words[next]; }
+
+    QString problem;
+
+private:
+    const QStringList& words;
+    qsizetype next = 1; ///< behind the command's name
+};
+
+/// Reads what follows the command's name into the request. False when the reader tells a problem.
+bool readArguments(const ControlAction& action, WordReader& reader, ControlRequest& request) {
+    if (!action.value.isTaken()) return true;
+    const auto argument = reader.take(action.value);
+    if (!argument) return false;
+    request.argument = *argument;
+    const auto tail =
+        std::find_if(action.tails.begin(), action.tails.end(),
+                     [&argument](const ChoiceTail& each) { return each.choice == *argument; });
+    if (tail == action.tails.end() || reader.isAtEnd()) return true;
+    const auto detail = reader.take(tail->value);
+    if (detail) request.detail = *detail;
+    return detail.has_value();
 }
 
 } // namespace
@@ -52,15 +116,11 @@ std::optional<ControlRequest> ControlRequest::parse(const QStringList& words, QS
     const ControlAction* action = controlActionNamed(words.first());
     if (!action) return refuse(u"unknown command '%1'"_s.arg(words.first()));
 
-    const qsizetype count = action->value.isTaken() ? 2 : 1;
-    if (words.size() > count) return refuse(u"unexpected argument '%1'"_s.arg(words[count]));
-    if (words.size() < count)
-        return refuse(u"%1 needs %2"_s.arg(words.first(), allowedArguments(*action)));
-    if (count == 1) return ControlRequest{action->command, {}};
-
-    const auto argument = checkedArgument(*action, words[1]);
-    if (argument) return ControlRequest{action->command, *argument};
-    return refuse(u"%1 '%2' is not %3"_s.arg(words[0], words[1], allowedArguments(*action)));
+    ControlRequest request{action->command, {}};
+    WordReader reader(words);
+    if (!readArguments(*action, reader, request)) return refuse(reader.problem);
+    if (!reader.isAtEnd()) return refuse(u"unexpected argument '%1'"_s.arg(reader.peek()));
+    return request;
 }
 
 QStringList ControlRequest::words() const {
@@ -69,11 +129,12 @@ QStringList ControlRequest::words() const {
                                      [this](const auto& a) { return a.command == command; });
     Q_ASSERT(action != actions.end());
     QStringList words{action->name.toString()};
-    if (!argument.isEmpty()) words += argument;
+    for (const QString& word : {argument, detail})
+        if (!word.isEmpty()) words += word;
     return words;
 }
 
-double ControlRequest::speed() const {
+double ControlRequest::number() const {
     return argument.toDouble();
 }
 

@@ -21,12 +21,15 @@ struct ControlRequest {
     /// What `parse` reads as this very request.
     QStringList words() const;
 
-    /// The argument of `ControlCommand::speed`, from `leastSpeed` to `mostSpeed`.
-    double speed() const;
+    /// The argument as a number, where it is one.
+    double number() const;
 
     ControlCommand command = ControlCommand::status;
     /// A number in plain decimals, or one of the command's choices; empty for commands without.
     QString argument;
+    /// What follows that choice: a number, minutes such as "12.5m", a time of day such as "09:30",
+    /// or another choice; empty where nothing does.
+    QString detail{};
 
     bool operator==(const ControlRequest&) const = default;
 };

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "settings/ReadingChoices.h"
 #include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
 
 #include <QString>
+#include <QTime>
 
 namespace tessaline {
 
@@ -21,6 +23,23 @@ struct PrompterStatus {
     ScrollRate rate = ScrollRate::medium;
     bool autoScroll = false;
     int frameRate = 0; ///< frames that auto-scroll made in the last second
+
+    PaceMode pace = PaceMode::speed;
+    double wordsPerMinute = 0.0; ///< as the text moves now
+    double wordsRead = 0.0;      ///< spoken ones above the eye line, with the fraction of its line
+    double secondsLeft = 0.0;
+    double secondsElapsed = 0.0;
+
+    // What the reading options say, in the forms of the commands that change them.
+    double wantedWordsPerMinute = 0.0;
+    QString finish;              ///< "12m" or "15:30"
+    bool finishTomorrow = false; ///< that time has passed today
+    QString eyeLine;             ///< "second", or percent of the text's height
+    ReadingGuide guide = ReadingGuide::none;
+    int guideLines = 1;
+    int countdown = 0; ///< seconds
+    ScriptEnd atEnd = ScriptEnd::stand;
+    bool glide = false;
 
     bool operator==(const PrompterStatus&) const = default;
 
@@ -40,7 +59,26 @@ struct PrompterStatus {
         visit("rate", status.rate);
         visit("autoScroll", status.autoScroll);
         visit("frameRate", status.frameRate);
+        visit("pace", status.pace);
+        visit("wordsPerMinute", status.wordsPerMinute);
+        visit("wordsRead", status.wordsRead);
+        visit("secondsLeft", status.secondsLeft);
+        visit("secondsElapsed", status.secondsElapsed);
+        visit("wantedWordsPerMinute", status.wantedWordsPerMinute);
+        visit("finish", status.finish);
+        visit("finishTomorrow", status.finishTomorrow);
+        visit("eyeLine", status.eyeLine);
+        visit("guide", status.guide);
+        visit("guideLines", status.guideLines);
+        visit("countdown", status.countdown);
+        visit("atEnd", status.atEnd);
+        visit("glide", status.glide);
     }
 };
+
+struct ReadingOptions;
+
+/// Tells the reading options in a status; `now` is the time on the clock.
+void tellOptions(const ReadingOptions& options, QTime now, PrompterStatus& status);
 
 } // namespace tessaline

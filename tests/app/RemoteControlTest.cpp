@@ -4,6 +4,7 @@
 #include "cli/ControlRequest.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
+#include "settings/ReadingSettings.h"
 #include "support/PrintQt.h"
 #include "ui/ConfigWindow.h"
 #include "ui/controls/PointSlider.h"
@@ -105,6 +106,65 @@ TEST_F(RemoteControlTest, ChangesSpeedAndRate) {
     EXPECT_EQ(textOf(u"faster"_s), u"speed 5"_s);
     EXPECT_EQ(textOf(u"rate fast"_s), u"rate fast"_s);
     EXPECT_EQ(savedSettings().scrollRate(), ScrollRate::fast);
+}
+
+TEST_F(RemoteControlTest, ChangesTheReadingOptions) {
+    launch();
+    const ReadingSettings& reading = delegate->reading();
+    EXPECT_EQ(textOf(u"pace words 160"_s), u"160 words a minute"_s);
+    EXPECT_EQ(textOf(u"guide band 2"_s), u"guide band 2"_s);
+    EXPECT_EQ(textOf(u"eyeline 33"_s), u"eye line at 33 percent"_s);
+    EXPECT_EQ(textOf(u"countdown 3"_s), u"countdown 3 s"_s);
+    EXPECT_EQ(textOf(u"at-end round"_s), u"at the end: round"_s);
+    EXPECT_EQ(textOf(u"glide on"_s), u"glide on"_s);
+    EXPECT_EQ(reading.values(), (ReadingOptions{.pace = PaceMode::words,
+                                                .wordsPerMinute = 160,
+                                                .eyeLine = 0.33,
+                                                .guide = ReadingGuide::band,
+                                                .guideLines = 2,
+                                                .countdownSeconds = 3,
+                                                .atEnd = ScriptEnd::goRound,
+                                                .glide = true}));
+    EXPECT_EQ(ReadingSettings().values(), reading.values());
+    EXPECT_EQ(statusAfter(u"status"_s).eyeLine, u"33"_s);
+
+    for (const auto words :
+         {"pace speed", "guide none", "eyeline second", "countdown 0", "at-end stand", "glide off"})
+        textOf(QString::fromLatin1(words));
+    EXPECT_EQ(reading.values(), (ReadingOptions{.wordsPerMinute = 160, .guideLines = 2}));
+    EXPECT_EQ(statusAfter(u"status"_s).eyeLine, u"second"_s);
+    EXPECT_EQ(savedSettings().values(), delegate->currentSettings().values());
+}
+
+TEST_F(RemoteControlTest, TakesTheMomentToFinishAsMinutesOrAsATime) {
+    launch();
+    EXPECT_EQ(textOf(u"pace finish 12.5m"_s), u"finish in 12.5 min"_s);
+    EXPECT_EQ(delegate->reading().values().finishMinutes, 12.5);
+    // Midnight is over, whenever this runs.
+    EXPECT_EQ(textOf(u"pace finish 0:00"_s),
+              u"finish at 00:00 tomorrow: that time has passed today"_s);
+    EXPECT_EQ(delegate->reading().values().finishAt, TimeOfDay{0});
+    textOf(u"pace speed"_s);
+    EXPECT_EQ(statusAfter(u"pace finish"_s).finish, u"00:00"_s);
+    EXPECT_EQ(textOf(u"pace finish 12m"_s), u"finish in 12 min"_s);
+    EXPECT_EQ(delegate->reading().values().finishAt, std::nullopt);
+}
+
+TEST_F(RemoteControlTest, StepsWhatThePaceGoesBy) {
+    launch();
+    textOf(u"speed 2"_s);
+    textOf(u"pace words 150"_s);
+    EXPECT_EQ(textOf(u"faster"_s), u"155 words a minute"_s);
+    EXPECT_EQ(textOf(u"slower"_s), u"150 words a minute"_s);
+    textOf(u"pace words 300"_s);
+    EXPECT_EQ(textOf(u"faster"_s), u"300 words a minute"_s);
+    textOf(u"pace finish 1m"_s);
+    EXPECT_EQ(textOf(u"faster"_s), u"finish in 0.5 min"_s);
+    EXPECT_EQ(textOf(u"faster"_s), u"finish in 0.5 min"_s);
+    EXPECT_EQ(textOf(u"slower"_s), u"finish in 1 min"_s);
+    EXPECT_EQ(delegate->currentSettings().scrollSpeed(), 2.0);
+    textOf(u"pace speed"_s);
+    EXPECT_EQ(textOf(u"faster"_s), u"speed 2.25"_s);
 }
 
 TEST_F(RemoteControlTest, ChangesNothingButTheRate) {

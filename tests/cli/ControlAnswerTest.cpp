@@ -21,7 +21,27 @@ PrompterStatus aStatus() {
             .speed = 2.25,
             .rate = ScrollRate::fast,
             .autoScroll = true,
-            .frameRate = 60};
+            .frameRate = 60,
+            .pace = PaceMode::words,
+            .wordsPerMinute = 149.5,
+            .wordsRead = 12.25,
+            .secondsLeft = 900.5,
+            .secondsElapsed = 5,
+            .wantedWordsPerMinute = 150,
+            .finish = u"12.5m"_s,
+            .finishTomorrow = false,
+            .eyeLine = u"second"_s,
+            .guide = ReadingGuide::band,
+            .guideLines = 2,
+            .countdown = 3,
+            .atEnd = ScriptEnd::goRound,
+            .glide = true};
+}
+
+PrompterStatus with(void (*change)(PrompterStatus& status)) {
+    PrompterStatus status = aStatus();
+    change(status);
+    return status;
 }
 
 QString answer(ControlCommand command) {
@@ -30,7 +50,7 @@ QString answer(ControlCommand command) {
 
 TEST(ControlAnswer, TellsWhatTheCommandIsAbout) {
     EXPECT_EQ(answer(ControlCommand::toggle), u"auto-scroll on"_s);
-    EXPECT_EQ(answer(ControlCommand::faster), u"speed 2.25"_s);
+    EXPECT_EQ(answer(ControlCommand::speed), u"speed 2.25"_s);
     EXPECT_EQ(answer(ControlCommand::rate), u"rate fast"_s);
     EXPECT_EQ(answer(ControlCommand::down), u"position 12.3 of 400.0"_s);
     EXPECT_EQ(answer(ControlCommand::minimize), u"expanded"_s);
@@ -39,12 +59,59 @@ TEST(ControlAnswer, TellsWhatTheCommandIsAbout) {
     EXPECT_EQ(answer(ControlCommand::quit), u"ending"_s);
 }
 
+TEST(ControlAnswer, TellsWhatThePaceGoesBy) {
+    for (const auto command :
+         {ControlCommand::pace, ControlCommand::faster, ControlCommand::slower}) {
+        const auto answerTo = [command](const PrompterStatus& status) {
+            return controlAnswer({command, {}}, status);
+        };
+        EXPECT_EQ(answerTo(aStatus()), u"150 words a minute"_s);
+        EXPECT_EQ(answerTo(with([](auto& status) { status.pace = PaceMode::speed; })),
+                  u"speed 2.25"_s);
+        EXPECT_EQ(answerTo(with([](auto& status) { status.pace = PaceMode::finish; })),
+                  u"finish in 12.5 min"_s);
+        EXPECT_EQ(answerTo(with([](auto& status) {
+                      status.pace = PaceMode::finish;
+                      status.finish = u"15:30"_s;
+                  })),
+                  u"finish at 15:30"_s);
+        EXPECT_EQ(answerTo(with([](auto& status) {
+                      status.pace = PaceMode::finish;
+                      status.finish = u"15:30"_s;
+                      status.finishTomorrow = true;
+                  })),
+                  u"finish at 15:30 tomorrow: that time has passed today"_s);
+    }
+}
+
+TEST(ControlAnswer, TellsTheReadingOptions) {
+    EXPECT_EQ(answer(ControlCommand::guide), u"guide band 2"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::guide, {}},
+                            with([](auto& status) { status.guide = ReadingGuide::marker; })),
+              u"guide marker"_s);
+    EXPECT_EQ(answer(ControlCommand::eyeLine), u"eye line at the second line"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::eyeLine, {}},
+                            with([](auto& status) { status.eyeLine = u"33.5"_s; })),
+              u"eye line at 33.5 percent"_s);
+    EXPECT_EQ(answer(ControlCommand::countdown), u"countdown 3 s"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::countdown, {}},
+                            with([](auto& status) { status.countdown = 0; })),
+              u"countdown off"_s);
+    EXPECT_EQ(answer(ControlCommand::atEnd), u"at the end: round"_s);
+    EXPECT_EQ(answer(ControlCommand::glide), u"glide on"_s);
+}
+
 TEST(ControlAnswer, TellsEverythingAsJson) {
     EXPECT_EQ(answer(ControlCommand::status),
               u"{\"version\":\"1.2.3\",\"visible\":true,\"collapsed\":false,"
               "\"source\":\"obsidian\",\"words\":2368,\"time\":\"12m30s\","
               "\"scrollPosition\":12.34,\"maximumScrollPosition\":400.0,\"speed\":2.25,"
-              "\"rate\":\"fast\",\"autoScroll\":true,\"frameRate\":60}"_s);
+              "\"rate\":\"fast\",\"autoScroll\":true,\"frameRate\":60,"
+              "\"pace\":\"words\",\"wordsPerMinute\":149.5,\"wordsRead\":12.25,"
+              "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
+              "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
+              "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
+              "\"glide\":true}"_s);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "cli/CommandTable.h"
 #include "settings/PersistedSettings.h"
+#include "settings/ReadingChoices.h"
 #include "settings/ScrollRate.h"
 #include "settings/SourceType.h"
 #include "support/CaseName.h"
@@ -22,8 +23,13 @@ std::vector<QStringList> allRequests() {
         if (!action.value.isTaken()) requests.push_back({name});
         for (const QStringView choice : action.value.choices)
             requests.push_back({name, choice.toString()});
+        for (const ChoiceTail& tail : action.tails)
+            for (const QStringView choice : tail.value.choices)
+                requests.push_back({name, tail.choice.toString(), choice.toString()});
     }
-    requests.push_back({u"speed"_s, u"1.25"_s});
+    for (const auto text : {"speed 1.25", "eyeline 33.5", "countdown 10", "pace words 160",
+                            "pace finish 12.5m", "pace finish 09:30"})
+        requests.push_back(QString::fromLatin1(text).split(u' '));
     return requests;
 }
 
@@ -61,7 +67,7 @@ TEST_P(ControlRequestSpeed, IsANumberInPlainDecimals) {
     const auto request = ControlRequest::parse({u"speed"_s, GetParam().given}, nullptr);
     ASSERT_TRUE(request.has_value());
     EXPECT_EQ(request->argument, GetParam().argument);
-    EXPECT_EQ(request->speed(), GetParam().speed);
+    EXPECT_EQ(request->number(), GetParam().speed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, ControlRequestSpeed,
@@ -95,6 +101,77 @@ TEST(ControlRequest, RefusesWhatIsNoChoice) {
     EXPECT_EQ(error, u"source 'appleNotes' is not obsidian or clipboard"_s);
 }
 
+struct Refused {
+    const char* words;
+    const char* reason;
+};
+
+class ControlRequestRefusal : public testing::TestWithParam<Refused> {};
+
+TEST_P(ControlRequestRefusal, SaysWhatIsAllowed) {
+    QString error;
+    EXPECT_EQ(ControlRequest::parse(QString::fromLatin1(GetParam().words).split(u' '), &error),
+              std::nullopt);
+    EXPECT_EQ(error, QString::fromLatin1(GetParam().reason));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Words, ControlRequestRefusal,
+    testing::Values(
+        Refused{"pace", "pace needs speed, words or finish"},
+        Refused{"pace 150", "pace '150' is not speed, words or finish"},
+        Refused{"pace speed 2", "unexpected argument '2'"},
+        Refused{"pace words 59", "pace words '59' is not a number from 60 to 300"},
+        Refused{"pace words nan", "pace words 'nan' is not a number from 60 to 300"},
+        Refused{"pace words 150 now", "unexpected argument 'now'"},
+        Refused{"pace finish 12", "pace finish '12' is not minutes from 0.5m to 600m or a time of "
+                                  "day such as 15:30"},
+        Refused{"pace finish 0.4m", "pace finish '0.4m' is not minutes from 0.5m to 600m or a time "
+                                    "of day such as 15:30"},
+        Refused{"pace finish 24:00", "pace finish '24:00' is not minutes from 0.5m to 600m or a "
+                                     "time of day such as 15:30"},
+        Refused{"guide band 3", "guide band '3' is not 1 or 2"},
+        Refused{"guide marker 1", "unexpected argument '1'"},
+        Refused{"eyeline first", "eyeline 'first' is not second or a number from 25 to 50"},
+        Refused{"eyeline 51", "eyeline '51' is not second or a number from 25 to 50"},
+        Refused{"countdown", "countdown needs a whole number from 0 to 10"},
+        Refused{"countdown 2.5", "countdown '2.5' is not a whole number from 0 to 10"},
+        Refused{"countdown 11", "countdown '11' is not a whole number from 0 to 10"},
+        Refused{"at-end jump", "at-end 'jump' is not stand, stop or round"},
+        Refused{"glide", "glide needs on or off"}),
+    byMember<&Refused::words>);
+
+TEST(ControlRequest, ReadsTheFormsOfAMomentToFinish) {
+    const auto detailOf = [](const QString& when) {
+        return ControlRequest::parse({u"pace"_s, u"finish"_s, when}, nullptr)->detail;
+    };
+    EXPECT_EQ(detailOf(u"12.50m"_s), u"12.5m"_s);
+    EXPECT_EQ(detailOf(u"600m"_s), u"600m"_s);
+    EXPECT_EQ(detailOf(u"9:05"_s), u"09:05"_s);
+    EXPECT_EQ(ControlRequest::parse({u"pace"_s, u"finish"_s}, nullptr)->detail, QString());
+}
+
+template <typename Choices>
+QStringList rawValuesOf(const Choices& choices) {
+    QStringList words;
+    for (const auto& choice : choices)
+        words += rawValue(choice.value);
+    return words;
+}
+
+QStringList choicesOf(QStringView action) {
+    QStringList words;
+    for (const QStringView choice : controlActionNamed(action)->value.choices)
+        words += choice.toString();
+    return words;
+}
+
+TEST(ControlRequest, OffersWhatTheReadingOptionsKnow) {
+    EXPECT_EQ(choicesOf(u"pace"), rawValuesOf(paceModes));
+    EXPECT_EQ(choicesOf(u"guide"), rawValuesOf(readingGuides));
+    EXPECT_EQ(choicesOf(u"at-end"), rawValuesOf(scriptEnds));
+}
+
 TEST(ControlRequest, OffersWhatTheSettingsKnow) {
     QStringList rates;
     for (const ScrollRate rate : allScrollRates)
@@ -108,7 +185,8 @@ TEST(ControlRequest, OffersWhatTheSettingsKnow) {
         QStringList choices;
         for (const QStringView choice : action.value.choices)
             choices += choice.toString();
-        if (!choices.isEmpty()) {
+        if (!choices.isEmpty() && action.value.kind == CommandValue::Kind::text &&
+            action.tails.empty()) {
             EXPECT_EQ(choices.join(u'|'), action.value.name);
         }
     }

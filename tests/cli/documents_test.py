@@ -18,6 +18,8 @@ PROMPT = "ready>"
 
 RATES = {"slow", "medium", "fast"}
 SOURCES = {"obsidian", "clipboard"}
+PACES = {"speed", "words", "finish"}
+BAND_LINES = {"1", "2"}
 FORMATS = {"json", "html", "png"}
 
 
@@ -126,6 +128,8 @@ class TabKey:
             ("tessaline ct", ["tessaline", "ctl"]),
             ("tessaline ctl nex", ["tessaline", "ctl", "next-heading"]),
             ("tessaline ctl rate f", ["tessaline", "ctl", "rate", "fast"]),
+            ("tessaline ctl guide ba", ["tessaline", "ctl", "guide", "band"]),
+            ("tessaline ctl guide band 2", ["tessaline", "ctl", "guide", "band", "2"]),
             ("tessaline ctl source ob", ["tessaline", "ctl", "source", "obsidian"]),
             ("tessaline render --fon", ["tessaline", "render", "--font-size"]),
             ("tessaline render --format h", ["tessaline", "render", "--format", "html"]),
@@ -166,6 +170,10 @@ class Bash(TabKey, Case):
         self.assertEqual(self.offered("ctl", "rate", ""), RATES)
         self.assertEqual(self.offered("ctl", "source", ""), SOURCES)
         self.assertEqual(self.offered("ctl", "speed", ""), set())
+        self.assertEqual(self.offered("ctl", "pace", ""), PACES)
+        self.assertEqual(self.offered("ctl", "pace", "words", ""), set())
+        self.assertEqual(self.offered("ctl", "guide", "band", ""), BAND_LINES)
+        self.assertEqual(self.offered("ctl", "guide", "none", ""), set())
         self.assertEqual(self.offered("ctl", "play", ""), set())
         self.assertEqual(self.offered("ctl", "rate", "slow", ""), set())
         self.assertEqual(self.offered("render", "-"), options("render"))
@@ -199,6 +207,8 @@ class Fish(Case):
         self.assertEqual(self.offered("tessaline ctl rate "), RATES)
         self.assertEqual(self.offered("tessaline ctl source "), SOURCES)
         self.assertEqual(self.offered("tessaline ctl play "), set())
+        self.assertEqual(self.offered("tessaline ctl pace "), PACES)
+        self.assertEqual(self.offered("tessaline ctl guide band "), BAND_LINES)
         self.assertEqual(self.offered("tessaline render "), {"my talk.md"})
         self.assertEqual(self.offered("tessaline render -"), options("render"))
         self.assertEqual(self.offered("tessaline render --format "), FORMATS)

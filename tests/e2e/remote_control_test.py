@@ -46,7 +46,10 @@ class RemoteControl(PrompterTestCase):
         self.assertEqual(
             list(status),
             ["version", "visible", "collapsed", "source", "words", "time", "scrollPosition"]
-            + ["maximumScrollPosition", "speed", "rate", "autoScroll", "frameRate"],
+            + ["maximumScrollPosition", "speed", "rate", "autoScroll", "frameRate"]
+            + ["pace", "wordsPerMinute", "wordsRead", "secondsLeft", "secondsElapsed"]
+            + ["wantedWordsPerMinute", "finish", "finishTomorrow", "eyeLine", "guide"]
+            + ["guideLines", "countdown", "atEnd", "glide"],
         )
         self.assertEqual(status["version"], self.call("--version")[1].split()[1])
         self.assertTrue(status["visible"])

@@ -8,8 +8,8 @@ namespace {
 
 bool isOutOfRange(const ControlRequest& request) {
     return request.command == ControlCommand::speed &&
-           !(request.speed() >= ControlRequest::leastSpeed &&
-             request.speed() <= ControlRequest::mostSpeed);
+           !(request.number() >= ControlRequest::leastSpeed &&
+             request.number() <= ControlRequest::mostSpeed);
 }
 
 } // namespace

@@ -1,10 +1,13 @@
 #include "app/remote/RemoteMessage.h"
 
+#include "settings/EnumerationCodec.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <concepts>
+#include <type_traits>
 
 namespace tessaline::remoteMessage {
 
@@ -48,25 +51,13 @@ std::variant<RemoteRequest, Refusal> controlRequest(const QJsonArray& array) {
     return Refusal{problem};
 }
 
-QJsonValue written(SourceType source) {
-    return rawValue(source);
-}
-
-QJsonValue written(ScrollRate rate) {
-    return rawValue(rate);
-}
-
 template <typename Value>
 QJsonValue written(const Value& value) {
-    return value;
-}
-
-void read(const QJsonValue& from, SourceType& source) {
-    source = sourceTypeFromRawValue(from.toString()).value_or(source);
-}
-
-void read(const QJsonValue& from, ScrollRate& rate) {
-    rate = scrollRateFromRawValue(from.toString()).value_or(rate);
+    if constexpr (std::is_enum_v<Value>) {
+        return rawValue(value);
+    } else {
+        return value;
+    }
 }
 
 void read(const QJsonValue& from, QString& text) {
@@ -77,12 +68,14 @@ void read(const QJsonValue& from, bool& flag) {
     flag = from.toBool();
 }
 
-template <typename Number>
-void read(const QJsonValue& from, Number& number) {
-    if constexpr (std::floating_point<Number>) {
-        number = from.toDouble();
+template <typename Value>
+void read(const QJsonValue& from, Value& value) {
+    if constexpr (std::is_enum_v<Value>) {
+        decode(JsonValue{from.toString()}, value); // else it stays as it is
+    } else if constexpr (std::floating_point<Value>) {
+        value = from.toDouble();
     } else {
-        number = Number(from.toInteger());
+        value = Value(from.toInteger());
     }
 }
 

@@ -70,10 +70,17 @@ QString offer(const CommandValue& value) {
 QString controlBranch(const CommandSpec& spec) {
     QStringList names;
     QString values;
+    QString details;
     for (const ControlAction& action : spec.actions) {
-        names += action.name.toString();
+        const QString name = action.name.toString();
+        names += name;
         if (!action.value.choices.empty())
-            values += u"            %1) %2 ;;\n"_s.arg(action.name.toString(), offer(action.value));
+            values += u"            %1) %2 ;;\n"_s.arg(name, offer(action.value));
+        for (const ChoiceTail& tail : action.tails) {
+            if (tail.value.choices.empty()) continue;
+            details += u"            '%1 %2') %3 ;;\n"_s.arg(name, tail.choice.toString(),
+                                                             offer(tail.value));
+        }
     }
     return u"    %1)\n"
            u"        if ((COMP_CWORD == 2)); then\n"
@@ -81,8 +88,12 @@ QString controlBranch(const CommandSpec& spec) {
            u"        elif ((COMP_CWORD == 3)); then\n"
            u"            case $previous in\n%4"
            u"            esac\n"
+           u"        elif ((COMP_CWORD == 4)); then\n"
+           u"            case \"${COMP_WORDS[2]} $previous\" in\n%5"
+           u"            esac\n"
            u"        fi\n"
-           u"        ;;\n"_s.arg(spec.name.toString(), names.join(u' '), optionWords(spec), values);
+           u"        ;;\n"_s.arg(spec.name.toString(), names.join(u' '), optionWords(spec), values,
+                                 details);
 }
 
 QString fileBranch(const CommandSpec& spec) {

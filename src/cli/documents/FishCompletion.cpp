@@ -67,6 +67,12 @@ QString actions(const CommandSpec& spec) {
         if (action.value.choices.empty()) continue;
         text += line(u"__tessaline_words_are %1 %2"_s.arg(name, word),
                      u"-a '%1'"_s.arg(joinedWords(action.value.choices)));
+        for (const ChoiceTail& tail : action.tails) {
+            if (tail.value.choices.empty()) continue;
+            text +=
+                line(u"__tessaline_words_are %1 %2 %3"_s.arg(name, word, tail.choice.toString()),
+                     u"-a '%1'"_s.arg(joinedWords(tail.value.choices)));
+        }
     }
     return text;
 }

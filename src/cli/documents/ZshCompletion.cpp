@@ -80,10 +80,16 @@ QString descriptions(const auto& entries, const auto& helpOf) {
 
 QString controlFunction(const CommandSpec& spec) {
     QString values;
+    QString details;
     for (const ControlAction& entry : spec.actions) {
         if (entry.value.choices.empty()) continue;
-        const QString words = joinedWords(entry.value.choices);
-        values += u"    %1) compadd %2 ;;\n"_s.arg(entry.name.toString(), words);
+        const QString name = entry.name.toString();
+        values += u"    %1) compadd %2 ;;\n"_s.arg(name, joinedWords(entry.value.choices));
+        for (const ChoiceTail& tail : entry.tails) {
+            if (tail.value.choices.empty()) continue;
+            details += u"    '%1 %2') compadd %3 ;;\n"_s.arg(name, tail.choice.toString(),
+                                                             joinedWords(tail.value.choices));
+        }
     }
     return u"_tessaline_%1_command() {\n"
            u"    local -a commands=(\n%2    )\n"
@@ -92,12 +98,15 @@ QString controlFunction(const CommandSpec& spec) {
            u"_tessaline_%1_argument() {\n"
            u"    case $words[2] in\n%3    esac\n"
            u"}\n\n"
+           u"_tessaline_%1_detail() {\n"
+           u"    case \"$words[2] $words[3]\" in\n%5    esac\n"
+           u"}\n\n"
            u"_tessaline_%1() {\n"
            u"    _arguments %4 '1:command:_tessaline_%1_command' "
-           u"'2:argument:_tessaline_%1_argument'\n"
+           u"'2:argument:_tessaline_%1_argument' '3:detail:_tessaline_%1_detail'\n"
            u"}\n"_s.arg(spec.name.toString(),
                         descriptions(spec.actions, [](const auto& entry) { return entry.help; }),
-                        values, optionArguments(spec));
+                        values, optionArguments(spec), details);
 }
 
 QString fileFunction(const CommandSpec& spec) {

@@ -52,7 +52,21 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .speed = 2.25,
                                 .rate = ScrollRate::fast,
                                 .autoScroll = true,
-                                .frameRate = 60};
+                                .frameRate = 60,
+                                .pace = PaceMode::finish,
+                                .wordsPerMinute = 151.5,
+                                .wordsRead = 20.25,
+                                .secondsLeft = 600.5,
+                                .secondsElapsed = 30.5,
+                                .wantedWordsPerMinute = 155,
+                                .finish = u"15:30"_s,
+                                .finishTomorrow = true,
+                                .eyeLine = u"33"_s,
+                                .guide = ReadingGuide::band,
+                                .guideLines = 2,
+                                .countdown = 3,
+                                .atEnd = ScriptEnd::stop,
+                                .glide = true};
     EXPECT_EQ(sentAndRead(RemoteAnswer(status)), RemoteAnswer(status));
     EXPECT_EQ(sentAndRead(RemoteAnswer(PrompterStatus{})), RemoteAnswer(PrompterStatus{}));
 }
