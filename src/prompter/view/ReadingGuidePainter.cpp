@@ -4,12 +4,11 @@
 #include "prompter/view/ReadingFrame.h"
 #include "prompter/view/ReadingRoom.h"
 
-#include <QPaintDevice>
 #include <QPainter>
 #include <QPolygonF>
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace tessaline {
 
@@ -20,18 +19,12 @@ constexpr double bandAlpha = 0.12;
 // A marker grows with the text, within the margin beside it.
 constexpr double markerShare = 0.6;
 constexpr double lowestMarker = 8.0;
-constexpr double highestMarker = 16.0;
+constexpr double highestMarker = 14.0;
 constexpr double markerWidth = 0.7; // of its height
-
-/// The nearest place that is the edge of a device pixel.
-double onPixel(const QPainter& painter, double y) {
-    const double ratio = painter.device()->devicePixelRatioF();
-    return std::round(y * ratio) / ratio;
-}
 
 void paintMarkers(QPainter& painter, const ReadingRoom& room, double width) {
     const double height = std::clamp(room.lineHeight * markerShare, lowestMarker, highestMarker);
-    const double y = onPixel(painter, room.eyeLine);
+    const double y = room.eyeLine;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(SystemPalette::amber());
@@ -43,8 +36,8 @@ void paintMarkers(QPainter& painter, const ReadingRoom& room, double width) {
 }
 
 void paintBand(QPainter& painter, const ReadingRoom& room, double lines, double width) {
-    const double height = onPixel(painter, lines * room.lineHeight);
-    const double top = onPixel(painter, room.eyeLine - height / 2);
+    const double height = lines * room.lineHeight;
+    const double top = room.eyeLine - height / 2;
     painter.fillRect(QRectF(0, top, width, height),
                      SystemPalette::withAlpha(SystemPalette::white, bandAlpha));
 }

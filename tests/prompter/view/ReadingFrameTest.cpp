@@ -146,22 +146,35 @@ TEST_F(ReadingFrameTest, BringsHeadingsToTheEyeLine) {
 }
 
 TEST_F(ReadingFrameTest, KeepsTheLineThatIsReadWhileALongTextIsMeasured) {
-    setScript(
-        markdownScript(u"a paragraph of several lines, whose height is estimated. "_s.repeated(9)
-                           .append(u"\n\n"_s)
-                           .repeated(300),
-                       16));
+    setScript(markdownScript(
+        u"WIDER WORDS THAN ESTIMATED. "_s.repeated(18).append(u"\n\n"_s).repeated(300), 16));
     view.setReadingFrame({.isActive = true, .eyeLine = 0.5});
     view.scrollTo(40000);
     view.grab();
     const double before = middleOf(lineRead()) - view.eyeLine();
     const qsizetype line = lineRead();
     ASSERT_FALSE(view.isLayoutComplete());
+    const double end = view.maximumScrollPosition();
     while (!view.isLayoutComplete())
         QCoreApplication::processEvents();
+    EXPECT_NE(view.maximumScrollPosition(), end) << "the estimates were wrong";
     EXPECT_NEAR(middleOf(line) - view.eyeLine(), before, 1e-6);
     view.scrollTo(1e9);
     EXPECT_NEAR(middleOf(view.script().length() - 2), view.eyeLine(), 1e-6);
+}
+
+TEST_F(ReadingFrameTest, KeepsTheLineThatIsReadWhenItIsSeenForTheFirstTime) {
+    setScript(markdownScript(
+        u"WIDER WORDS THAN ESTIMATED. "_s.repeated(5).append(u"\n\n"_s).repeated(600), 16));
+    view.setReadingFrame({.isActive = true, .eyeLine = 0.5});
+    view.scrollTo(40000);
+    ASSERT_FALSE(view.isLayoutComplete());
+    const std::size_t paragraph = session->place().paragraph;
+    const double before = view.paragraphRect(paragraph).top();
+    const double end = view.maximumScrollPosition();
+    view.grab();
+    EXPECT_NE(view.maximumScrollPosition(), end) << "the estimates were wrong";
+    EXPECT_NEAR(view.paragraphRect(paragraph).top(), before, 1e-6);
 }
 
 TEST_F(ReadingFrameTest, ComesBackFromATextOfNothing) {
