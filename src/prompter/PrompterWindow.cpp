@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "platform/ScreenCoordinates.h"
 #include "platform/Screens.h"
+#include "platform/TimerMaker.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FocusOnClick.h"
 #include "platform/qt/KeyTranslation.h"
@@ -16,7 +17,7 @@
 #include "prompter/WindowShape.h"
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ScriptView.h"
-#include "reading/AutoScroll.h"
+#include "reading/ReadingConductor.h"
 #include "reading/ReadingSession.h"
 #include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
@@ -79,12 +80,12 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
     updateReadingFrame();
     updateFrame();
     holdForCountdown();
-    session->setSource(std::make_unique<AutoScroll>(session, *platform.displayLinks,
-                                                    *platform.timers, *platform.mainQueue));
+    conductor = std::make_unique<ReadingConductor>(settings, readingSettings, session, platform);
+    readingOptionsChanged();
     settingsObservation =
         settings.observe([this](const PersistedSettings& before) { settingsChanged(before); });
     readingObservation =
-        readingSettings.observe([this](const ReadingOptions&) { updateReadingFrame(); });
+        readingSettings.observe([this](const ReadingOptions&) { readingOptionsChanged(); });
     platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
 }
 
@@ -280,8 +281,16 @@ void PrompterWindow::showContent(RenderedContent content) {
 
 void PrompterWindow::updateStats() {
     session->updateReadingTime();
-    strip->showStatistics(ReadingStatistics::labelText(session->words(), session->readingSeconds()),
-                          ReadingStatistics::labelColor(session->pace().rate));
+    if (readingSettings.values().pace == PaceMode::speed) {
+        strip->showStatistics(
+            ReadingStatistics::labelText(session->words(), session->readingSeconds()),
+            ReadingStatistics::labelColor(session->pace().rate));
+    } else {
+        strip->showStatistics(ReadingStatistics::pacedLabelText(session->words(),
+                                                                session->secondsLeft().value_or(0),
+                                                                session->secondsLate()),
+                              ReadingStatistics::pacedLabelColor);
+    }
 }
 
 // What changed while the window was collapsed was counted for a view without height.
@@ -344,6 +353,19 @@ void PrompterWindow::updateReadingFrame() {
     // The hint keeps its place in the middle.
     if (lastRawContent == placeholderContent) frame.isActive = false;
     view->setReadingFrame(frame);
+}
+
+/// With a promised pace, the label counts the rest down.
+void PrompterWindow::readingOptionsChanged() {
+    updateReadingFrame();
+    constexpr TimerMaker::Interval second{1.0};
+    if (readingSettings.values().pace == PaceMode::speed) {
+        countingDown.reset();
+    } else if (!countingDown) {
+        countingDown =
+            platform.timers->every(second, lifetime.guard([this] { updateStatsOfWhatIsSeen(); }));
+    }
+    updateStatsOfWhatIsSeen();
 }
 
 void PrompterWindow::updateScrollParameters() {

@@ -20,7 +20,9 @@ namespace tessaline {
 
 class ControlStrip;
 class CountdownView;
+class ReadingConductor;
 class ReadingSession;
+class RepeatingTimer;
 class ScreenManager;
 class ScriptView;
 struct Platform;
@@ -121,6 +123,7 @@ private:
     void updateReadingFrame();
     void holdForCountdown();
     void countDownWhileSeen();
+    void readingOptionsChanged();
 
     AppSettings& settings;
     AppSettings::Observation settingsObservation;
@@ -128,6 +131,8 @@ private:
     ReadingSettings::Observation readingObservation;
     const Platform& platform;
     const std::shared_ptr<ReadingSession> session;
+    std::unique_ptr<ReadingConductor> conductor;
+    std::unique_ptr<RepeatingTimer> countingDown;
     const ScreenManager* screenManager = nullptr;
     ControlStrip* strip = nullptr;
     QWidget* scrollArea = nullptr; ///< what of the text is seen

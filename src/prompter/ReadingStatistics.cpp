@@ -13,6 +13,11 @@ QString labelText(qsizetype words, double seconds) {
     return u"%1 words • ~%2"_s.arg(words).arg(timeText(seconds));
 }
 
+QString pacedLabelText(qsizetype words, double seconds, double secondsLate) {
+    const QString text = u"%1 words • ~%2"_s.arg(words).arg(exactTimeText(seconds));
+    return secondsLate < 1.0 ? text : text + u" • %1 late"_s.arg(exactTimeText(secondsLate));
+}
+
 QColor labelColor(ScrollRate rate) {
     switch (rate) {
     case ScrollRate::slow:

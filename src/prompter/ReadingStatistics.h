@@ -1,5 +1,6 @@
 #pragma once
 
+#include "appearance/SystemPalette.h"
 #include "settings/ScrollRate.h"
 
 #include <QColor>
@@ -12,6 +13,13 @@ namespace ReadingStatistics {
 
 /// The label's whole text, such as "312 words • ~2m30s".
 QString labelText(qsizetype words, double seconds);
+
+/// The same where the pace is promised: how long the rest takes, to the second, and how much too
+/// late it will end, such as "312 words • ~1m12s • 20s late".
+QString pacedLabelText(qsizetype words, double seconds, double secondsLate);
+
+/// Its colour then, which says nothing.
+inline constexpr QColor pacedLabelColor = SystemPalette::label;
 
 /// The label's colour, which tells the rate.
 QColor labelColor(ScrollRate rate);

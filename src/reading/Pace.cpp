@@ -30,7 +30,11 @@ double Pace::secondsFor(double points) const {
 }
 
 QString timeText(double seconds) {
-    const auto shown = qint64(std::max(seconds, secondsPerStep));
+    return exactTimeText(std::max(seconds, secondsPerStep));
+}
+
+QString exactTimeText(double seconds) {
+    const auto shown = qint64(seconds);
     if (shown < secondsPerMinute) return u"%1s"_s.arg(shown);
     const qint64 minutes = shown / secondsPerMinute;
     const qint64 rest = shown % secondsPerMinute;

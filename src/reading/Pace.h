@@ -23,4 +23,7 @@ struct Pace {
 /// An estimate as text, at least five seconds: "45s", "2m30s", "3m".
 QString timeText(double seconds);
 
+/// A time as text, to the second: "0s", "45s", "2m30s", "3m".
+QString exactTimeText(double seconds);
+
 } // namespace tessaline

@@ -17,6 +17,9 @@ public:
     virtual void stop() = 0;
 
     virtual void setPace(const Pace& pace) = 0;
+
+    /// The reader is elsewhere, whoever moved them.
+    virtual void readerMoved() {}
 };
 
 } // namespace tessaline

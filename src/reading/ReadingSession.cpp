@@ -3,18 +3,20 @@
 #include "reading/PositionSource.h"
 #include "reading/ScriptChange.h"
 #include "settings/PersistedSettings.h"
+#include "settings/ReadingOptions.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace tessaline {
 
 ReadingSession::ReadingSession(const PersistedSettings& borrowedSettings,
-                               const ReadingOptions& borrowedOptions)
+                               const ReadingOptions& borrowedOptions, Clocks givenClocks)
     : settings(borrowedSettings)
     , options(borrowedOptions)
-    , currentScript(std::make_shared<const Script>()) {}
+    , currentScript(std::make_shared<const Script>())
+    , promise(options, givenClocks)
+    , clocks(std::move(givenClocks)) {}
 
 ReadingSession::~ReadingSession() = default;
 
@@ -22,7 +24,9 @@ void ReadingSession::setContent(RenderedContent content) {
     wordCount = content.wordCount;
     const auto before = std::exchange(currentScript, std::move(content.script));
     const ScriptChange change = ScriptChange::between(*before, *currentScript);
+    spokenWords.scriptChanged(change);
     const auto kept = placeAfter(change, before->paragraphs.size());
+    if (!kept) beginAnew();
     if (kept) readersPlace = *kept;
     readersPlace.paragraph = std::min(readersPlace.paragraph, currentScript->paragraphs.size() - 1);
     // The first one last: the others follow what it tells.
@@ -53,6 +57,7 @@ void ReadingSession::reached(const ReadingView& view, const ReadingPlace& place)
     readersPlace = place;
     for (std::size_t i = 1; i < views.size(); ++i)
         views[i]->follow(place);
+    if (source) source->readerMoved();
 }
 
 void ReadingSession::addView(ReadingView& view) {
@@ -79,7 +84,11 @@ void ReadingSession::setSource(std::unique_ptr<PositionSource> newSource) {
 }
 
 void ReadingSession::start() {
-    if (source && !held) source->start();
+    if (!source || held) return;
+    if (readersPlace.fraction == ReadingPlace{}.fraction) beginAnew();
+    promise.begin();
+    elapsed.start(clocks.steady());
+    source->start();
 }
 
 void ReadingSession::setHeld(bool hold) {
@@ -89,22 +98,103 @@ void ReadingSession::setHeld(bool hold) {
 }
 
 void ReadingSession::stop() {
+    elapsed.stop(clocks.steady());
     if (source) source->stop();
 }
 
+/// What was promised and counted belongs to a reading that is over.
+void ReadingSession::beginAnew() {
+    promise.forget();
+    elapsed.reset(clocks.steady());
+    if (settings.autoScrollEnabled) promise.begin();
+}
+
 void ReadingSession::updatePace() {
+    promise.forget();
+    if (settings.autoScrollEnabled) promise.begin();
     if (source) source->setPace(pace());
 }
 
 int ReadingSession::framesPerSecond() const {
-    return frames.framesPerSecond(std::chrono::steady_clock::now());
+    return frames.framesPerSecond(clocks.steady());
 }
 
 void ReadingSession::scrollerDidProduceScroll(DisplayLinkScroller&, double deltaY) {
     // Some that were produced before auto-scroll was switched off arrive behind that.
-    if (!settings.autoScrollEnabled) return;
-    frames.add(std::chrono::steady_clock::now());
-    moveBy(-deltaY);
+    if (settings.autoScrollEnabled) advance(-deltaY);
+}
+
+void ReadingSession::advance(double points) {
+    frames.add(clocks.steady());
+    moveBy(points);
+    if (options.atEnd != ScriptEnd::stand && onEnd && isAtEnd()) onEnd();
+}
+
+void ReadingSession::beginAgain() {
+    moveTo(0);
+    beginAnew();
+    if (source) source->setPace(pace());
+}
+
+bool ReadingSession::isAtEnd() const {
+    return readerPosition() >= lastReaderPosition();
+}
+
+double ReadingSession::readerPosition() const {
+    return views.empty() ? 0.0 : views.front()->readerPosition();
+}
+
+double ReadingSession::lastReaderPosition() const {
+    return views.empty() ? 0.0 : views.front()->lastReaderPosition();
+}
+
+double ReadingSession::topOf(std::size_t paragraph) const {
+    return views.empty() ? 0.0 : views.front()->topOf(paragraph);
+}
+
+std::optional<ReadingProgress> ReadingSession::progress() const {
+    if (views.empty()) return std::nullopt;
+    return std::optional<ReadingProgress>(std::in_place, *currentScript, spokenWords,
+                                          *views.front());
+}
+
+double ReadingSession::wordsRead() const {
+    const auto words = progress();
+    return words ? words->wordsRead() : 0.0;
+}
+
+double ReadingSession::wordsLeft() const {
+    const auto words = progress();
+    return words ? std::max(words->wordsInAll() - words->wordsRead(), 0.0) : 0.0;
+}
+
+double ReadingSession::wordsPerMinute() const {
+    const auto words = progress();
+    if (!words || !settings.autoScrollEnabled || isAtEnd()) return 0.0;
+    constexpr double secondsPerMinute = 60.0;
+    if (options.pace != PaceMode::speed)
+        return promise.wordsPerSecond(wordsLeft()) * secondsPerMinute;
+    // What passes in a while, as one line more or less is much in a moment.
+    constexpr double window = 30.0;
+    const double half = pace().pointsPerSecond() * window / 2;
+    const double y = readerPosition();
+    return (words->wordsAbove(y + half) - words->wordsAbove(y - half)) / window * secondsPerMinute;
+}
+
+std::optional<double> ReadingSession::secondsLeft() const {
+    if (options.pace != PaceMode::speed) return promise.secondsLeft(wordsLeft());
+    const double rest = lastReaderPosition() - readerPosition();
+    const double speed = pace().pointsPerSecond();
+    if (rest <= 0.0) return 0.0;
+    return speed > 0.0 ? std::optional(rest / speed) : std::nullopt;
+}
+
+double ReadingSession::secondsLate() const {
+    return options.pace == PaceMode::finish ? promise.secondsLate(wordsLeft()) : 0.0;
+}
+
+double ReadingSession::secondsElapsed() const {
+    return elapsed.seconds(clocks.steady());
 }
 
 } // namespace tessaline

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "reading/Clocks.h"
 #include "reading/ContentRenderer.h"
 #include "reading/FrameRate.h"
 #include "reading/Pace.h"
 #include "reading/ReadingView.h"
 #include "reading/Script.h"
+#include "reading/Stopwatch.h"
+#include "reading/pace/ReadingProgress.h"
+#include "reading/pace/ReadingPromise.h"
+#include "reading/pace/SpokenWordIndex.h"
 #include "render/engines/DisplayLinkScrollerDelegate.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -24,7 +30,8 @@ class ReadingSession final : public DisplayLinkScrollerDelegate {
 public:
     /// Speed, rate and whether the source may move the text are asked of the settings, the user's
     /// way of reading of the options. Both are borrowed.
-    ReadingSession(const PersistedSettings& settings, const ReadingOptions& options);
+    ReadingSession(const PersistedSettings& settings, const ReadingOptions& options,
+                   Clocks clocks = {});
     ~ReadingSession() override;
 
     /// Replaces the text. The reader's place stays if the new text has it too.
@@ -58,11 +65,55 @@ public:
     void setHeld(bool hold);
     bool isHeld() const { return held; }
 
-    /// Takes the pace over from the settings.
+    /// Takes the pace over from the settings and the options. Promises made so far are settled.
     void updatePace();
 
     /// How many times the source moved the text in the last second.
     int framesPerSecond() const;
+
+    /// Moves the reader on by so many points, as the source does; tells when the end is reached.
+    void advance(double points);
+
+    /// Moves the reader back to the beginning, for another reading.
+    void beginAgain();
+
+    /// Called when the source has reached the end.
+    std::function<void()> onEnd;
+
+    /// Whether the reader is at the furthest place there is.
+    bool isAtEnd() const;
+
+    /// The middle of the line that is being read, in points from the document's top.
+    double readerPosition() const;
+    double lastReaderPosition() const; ///< the furthest
+
+    /// Where a paragraph begins, in the same points.
+    double topOf(std::size_t paragraph) const;
+
+    /// How much has been read, or none where there is no view.
+    std::optional<ReadingProgress> progress() const;
+
+    /// Spoken words above the line that is being read, with a fraction of that line.
+    double wordsRead() const;
+
+    /// Spoken words a minute, as the text moves now.
+    double wordsPerMinute() const;
+
+    /// How long the rest takes at the present pace. None where it never ends.
+    std::optional<double> secondsLeft() const;
+
+    double secondsLate() const; ///< how much too late the promised end will be
+
+    /// How long the text has been moving since its beginning.
+    double secondsElapsed() const;
+
+    const ReadingPromise& currentPromise() const { return promise; }
+
+    /// Counts the changes of lines, by which what was worked out of them is known to be old.
+    int layoutVersion() const { return linesVersion; }
+
+    /// A view has set its lines anew.
+    void linesChanged() { ++linesVersion; }
 
     void scrollerDidProduceScroll(DisplayLinkScroller& scroller, double deltaY) override;
 
@@ -74,6 +125,8 @@ public:
     void reached(const ReadingView& view, const ReadingPlace& place);
 
 private:
+    double wordsLeft() const;
+    void beginAnew();
     std::optional<ReadingPlace> placeAfter(const ScriptChange& change,
                                            std::size_t countBefore) const;
 
@@ -86,6 +139,11 @@ private:
     bool held = false;
     FrameRate frames;
     std::vector<ReadingView*> views;
+    SpokenWordIndex spokenWords;
+    ReadingPromise promise;
+    Stopwatch elapsed;
+    int linesVersion = 0;
+    const Clocks clocks;
     std::unique_ptr<PositionSource> source;
 };
 

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <limits>
+#include <vector>
 
 namespace tessaline {
 
@@ -15,6 +16,14 @@ struct ScriptChange;
 struct ReadingPlace {
     std::size_t paragraph = 0;
     double fraction = -std::numeric_limits<double>::infinity(); ///< of the paragraph's height
+};
+
+/// A line of text as a view has set it.
+struct LineBox {
+    std::size_t paragraph = 0;
+    int start = 0;       ///< of its text in the paragraph, in UTF-16 units
+    double top = 0.0;    ///< points from the document's top
+    double height = 0.0; ///< points
 };
 
 /// What a session needs of those who show it: they know how high its paragraphs are, and turn
@@ -40,6 +49,17 @@ public:
 
     /// How many points the whole text can be moved by.
     virtual double distance() const = 0;
+
+    /// The middle of the line that is being read, and the furthest that it gets, in points from the
+    /// document's top.
+    virtual double readerPosition() const = 0;
+    virtual double lastReaderPosition() const = 0;
+
+    /// Where a paragraph begins, in the same points. In part an estimate.
+    virtual double topOf(std::size_t paragraph) const = 0;
+
+    /// The lines of all paragraphs that reach between two heights, from the top down, laid out.
+    virtual std::vector<LineBox> linesBetween(double top, double bottom) = 0;
 };
 
 } // namespace tessaline

@@ -83,6 +83,11 @@ std::size_t Script::paragraphOf(qsizetype offset) const {
     return std::size_t(next - paragraphs.begin()) - 1;
 }
 
+ParagraphKind Script::kind(std::size_t index) const {
+    const TextAttributes* its = attributes(index);
+    return its && its->paragraph ? its->paragraph->kind : ParagraphKind::body;
+}
+
 int Script::headingLevel(std::size_t index) const {
     const Paragraph& paragraph = paragraphs[index];
     if (paragraph.length == 0 || paragraph.continuesPrevious) return 0;

@@ -38,6 +38,9 @@ struct Script {
     /// Whether a paragraph of this script and one of another have the same text and attributes.
     bool hasSameParagraph(std::size_t index, const Script& other, std::size_t otherIndex) const;
 
+    /// What a paragraph is.
+    ParagraphKind kind(std::size_t index) const;
+
     /// The level of the heading whose line a paragraph begins, from 1 on; 0 where there is none.
     int headingLevel(std::size_t index) const;
 

@@ -46,9 +46,9 @@ protected:
     }
 
     PersistedSettings settings;
+    ReadingOptions options;
     RecordingView first;
     RecordingView second;
-    ReadingOptions options;
     ReadingSession session{settings, options};
     QStringList calls;
 };

@@ -18,6 +18,10 @@ public:
     void moveTo(qsizetype offset) override { offsets.push_back(offset); }
     void follow(const ReadingPlace& place) override { followed.push_back(place); }
     double distance() const override { return wholeDistance; }
+    double readerPosition() const override { return 0.0; }
+    double lastReaderPosition() const override { return wholeDistance; }
+    double topOf(std::size_t) const override { return 0.0; }
+    std::vector<LineBox> linesBetween(double, double) override { return {}; }
 
     std::vector<bool> placesKept;
     std::vector<double> steps;

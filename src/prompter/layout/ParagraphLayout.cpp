@@ -188,6 +188,13 @@ std::vector<QRectF> ParagraphLayout::placesOf(int line, const TextRange& wanted)
     return places;
 }
 
+void ParagraphLayout::appendLines(std::vector<LineBox>& boxes, std::size_t paragraph,
+                                  double top) const {
+    for (std::size_t line = 0; line < lines.size(); ++line)
+        boxes.push_back({paragraph, text->lineAt(int(line)).textStart(), top + lines[line].top,
+                         lines[line].height});
+}
+
 qsizetype ParagraphLayout::positionAt(const QPointF& point) const {
     std::size_t line = 0;
     while (line + 1 < lines.size() && lines[line + 1].top <= point.y())

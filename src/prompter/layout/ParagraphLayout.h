@@ -2,6 +2,7 @@
 
 #include "prompter/layout/FormatTable.h"
 #include "prompter/layout/TextRange.h"
+#include "reading/ReadingView.h"
 #include "reading/Script.h"
 
 #include <QColor>
@@ -38,6 +39,9 @@ public:
     /// Draws what a range holds of them on a ground that hides what was drawn there before.
     void drawOver(QPainter& painter, double top, double bottom, const TextRange& range,
                   const QColor& ground) const;
+
+    /// Appends its lines, as those of this paragraph with its top at a height.
+    void appendLines(std::vector<LineBox>& boxes, std::size_t paragraph, double top) const;
 
     /// The position nearest to a point.
     qsizetype positionAt(const QPointF& point) const;

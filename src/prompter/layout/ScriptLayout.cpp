@@ -131,6 +131,18 @@ void ScriptLayout::measureBetween(double top, double bottom) {
     }
 }
 
+std::vector<LineBox> ScriptLayout::linesBetween(double top, double bottom) {
+    measureBetween(top, bottom);
+    std::vector<LineBox> boxes;
+    std::size_t index = paragraphAt(top);
+    for (double y = topOf(index); index < measured.size(); ++index) {
+        laidOut(index).appendLines(boxes, index, y);
+        y += heights.height(index);
+        if (y > bottom) break;
+    }
+    return boxes;
+}
+
 void ScriptLayout::measureAt(qsizetype offset) {
     measuredLayout(currentScript->paragraphOf(offset));
 }

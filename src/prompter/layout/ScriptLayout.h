@@ -4,6 +4,7 @@
 #include "prompter/layout/HeightIndex.h"
 #include "prompter/layout/ParagraphLayout.h"
 #include "prompter/layout/TextRange.h"
+#include "reading/ReadingView.h"
 #include "reading/Script.h"
 #include "reading/ScriptChange.h"
 
@@ -69,6 +70,9 @@ public:
     std::size_t paragraphAt(double y) const { return heights.indexAt(y); }
     double topOf(std::size_t paragraph) const { return heights.topOf(paragraph); }
     double heightOf(std::size_t paragraph) const { return heights.height(paragraph); }
+
+    /// The lines of all paragraphs that reach between two heights, which are measured.
+    std::vector<LineBox> linesBetween(double top, double bottom);
 
     /// Draws what lies between two heights, with the selected text highlighted.
     void draw(QPainter& painter, double top, double bottom, const TextRange& selection);

@@ -189,6 +189,7 @@ void ScriptView::setAnew(bool atReadersPlace) {
 
 void ScriptView::layoutChanged() {
     scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
+    session->linesChanged();
     tellPlace();
     strips.invalidate();
     updateScroller();
@@ -333,6 +334,18 @@ void ScriptView::copySelection() const {
 
 QRectF ScriptView::caretRect(qsizetype offset) const {
     return layout.caretRect(offset).translated(horizontalInset, room.above - scrollTop);
+}
+
+double ScriptView::topOf(std::size_t paragraph) const {
+    return layout.topOf(paragraph) + room.above;
+}
+
+std::vector<LineBox> ScriptView::linesBetween(double top, double bottom) {
+    std::vector<LineBox> boxes;
+    keepPlaceDuring([&] { boxes = layout.linesBetween(top - room.above, bottom - room.above); });
+    for (LineBox& box : boxes)
+        box.top += room.above;
+    return boxes;
 }
 
 QRectF ScriptView::paragraphRect(std::size_t paragraph) const {

@@ -118,6 +118,10 @@ private:
     void moveTo(qsizetype offset) override;
     void follow(const ReadingPlace& place) override { setPosition(positionOf(place)); }
     double distance() const override { return maximumScrollPosition(); }
+    double readerPosition() const override { return scrollTop + eyeLine(); }
+    double lastReaderPosition() const override { return maximumScrollPosition() + eyeLine(); }
+    double topOf(std::size_t paragraph) const override;
+    std::vector<LineBox> linesBetween(double top, double bottom) override;
 
     void setPosition(double position);
     void tellPlace();
