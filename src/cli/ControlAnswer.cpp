@@ -2,6 +2,7 @@
 
 #include "settings/JsonWriter.h"
 
+#include <optional>
 #include <type_traits>
 
 namespace tessaline {
@@ -16,6 +17,10 @@ void write(JsonWriter& json, bool value) {
 
 void write(JsonWriter& json, double value) {
     json.real(value);
+}
+
+void write(JsonWriter& json, const std::optional<double>& number) {
+    number ? json.real(*number) : json.null();
 }
 
 void write(JsonWriter& json, qint64 count) {

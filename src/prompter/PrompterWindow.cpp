@@ -299,18 +299,17 @@ void PrompterWindow::updateStatsOfWhatIsSeen() {
 }
 
 PrompterStatus PrompterWindow::status() const {
-    return {.version = {},
-            .visible = isVisible(),
-            .collapsed = collapsed,
-            .source = settings.activeSourceType(),
-            .words = session->words(),
-            .time = timeText(session->readingSeconds()),
-            .scrollPosition = view->scrollPosition(),
-            .maximumScrollPosition = view->maximumScrollPosition(),
-            .speed = settings.scrollSpeed(),
-            .rate = settings.scrollRate(),
-            .autoScroll = settings.autoScrollEnabled(),
-            .frameRate = session->framesPerSecond()};
+    PrompterStatus status{.version = {},
+                          .visible = isVisible(),
+                          .collapsed = collapsed,
+                          .source = settings.activeSourceType(),
+                          .scrollPosition = view->scrollPosition(),
+                          .maximumScrollPosition = view->maximumScrollPosition(),
+                          .speed = settings.scrollSpeed(),
+                          .rate = settings.scrollRate(),
+                          .autoScroll = settings.autoScrollEnabled()};
+    session->tellProgress(status);
+    return status;
 }
 
 void PrompterWindow::performScroll(double deltaY) {

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QTime>
 
+#include <optional>
+
 namespace tessaline {
 
 /// What the prompter shows and does at one moment, for whoever watches it from outside.
@@ -27,7 +29,7 @@ struct PrompterStatus {
     PaceMode pace = PaceMode::speed;
     double wordsPerMinute = 0.0; ///< as the text moves now
     double wordsRead = 0.0;      ///< spoken ones above the eye line, with the fraction of its line
-    double secondsLeft = 0.0;
+    std::optional<double> secondsLeft; ///< none: at this pace the text never ends
     double secondsElapsed = 0.0;
 
     // What the reading options say, in the forms of the commands that change them.

@@ -1,6 +1,7 @@
 #include "reading/ReadingSession.h"
 
 #include "reading/PositionSource.h"
+#include "reading/PrompterStatus.h"
 #include "reading/ScriptChange.h"
 #include "settings/PersistedSettings.h"
 #include "settings/ReadingOptions.h"
@@ -193,8 +194,14 @@ double ReadingSession::secondsLate() const {
     return options.pace == PaceMode::finish ? promise.secondsLate(wordsLeft()) : 0.0;
 }
 
-double ReadingSession::secondsElapsed() const {
-    return elapsed.seconds(clocks.steady());
+void ReadingSession::tellProgress(PrompterStatus& status) const {
+    status.words = wordCount;
+    status.time = timeText(seconds);
+    status.frameRate = framesPerSecond();
+    status.wordsPerMinute = wordsPerMinute();
+    status.wordsRead = wordsRead();
+    status.secondsLeft = secondsLeft();
+    status.secondsElapsed = elapsed.seconds(clocks.steady());
 }
 
 } // namespace tessaline

@@ -20,6 +20,7 @@
 namespace tessaline {
 
 class PositionSource;
+struct PrompterStatus;
 struct PersistedSettings;
 struct ReadingOptions;
 
@@ -93,19 +94,13 @@ public:
     /// How much has been read, or none where there is no view.
     std::optional<ReadingProgress> progress() const;
 
-    /// Spoken words above the line that is being read, with a fraction of that line.
-    double wordsRead() const;
-
-    /// Spoken words a minute, as the text moves now.
-    double wordsPerMinute() const;
-
     /// How long the rest takes at the present pace. None where it never ends.
     std::optional<double> secondsLeft() const;
 
     double secondsLate() const; ///< how much too late the promised end will be
 
-    /// How long the text has been moving since its beginning.
-    double secondsElapsed() const;
+    /// Tells this in a status, and how much has been read how fast.
+    void tellProgress(PrompterStatus& status) const;
 
     const ReadingPromise& currentPromise() const { return promise; }
 
@@ -125,7 +120,9 @@ public:
     void reached(const ReadingView& view, const ReadingPlace& place);
 
 private:
+    double wordsRead() const;
     double wordsLeft() const;
+    double wordsPerMinute() const;
     void beginAnew();
     std::optional<ReadingPlace> placeAfter(const ScriptChange& change,
                                            std::size_t countBefore) const;

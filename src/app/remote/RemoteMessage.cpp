@@ -51,6 +51,10 @@ std::variant<RemoteRequest, Refusal> controlRequest(const QJsonArray& array) {
     return Refusal{problem};
 }
 
+QJsonValue written(const std::optional<double>& number) {
+    return number ? QJsonValue(*number) : QJsonValue();
+}
+
 template <typename Value>
 QJsonValue written(const Value& value) {
     if constexpr (std::is_enum_v<Value>) {
@@ -66,6 +70,10 @@ void read(const QJsonValue& from, QString& text) {
 
 void read(const QJsonValue& from, bool& flag) {
     flag = from.toBool();
+}
+
+void read(const QJsonValue& from, std::optional<double>& number) {
+    number = from.isDouble() ? std::optional(from.toDouble()) : std::nullopt;
 }
 
 template <typename Value>
