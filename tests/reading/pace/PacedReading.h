@@ -2,24 +2,14 @@
 
 #include "LineView.h"
 
-#include "reading/ReadingSession.h"
-#include "settings/PersistedSettings.h"
-#include "settings/ReadingOptions.h"
-#include "support/FakeDisplayLinkMaker.h"
-#include "support/FakeMainQueue.h"
-#include "support/FakeTimerMaker.h"
+#include "support/PacedSession.h"
 
-#include <QDateTime>
-#include <QString>
-
-#include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace tessaline {
 
-/// A text that is read at a promised pace, frame by frame, as fast as the test can.
-class PacedReading {
+/// A text in lines that is read at a promised pace.
+class PacedReading : public PacedSession {
 public:
     /// What a frame showed.
     struct Frame {
@@ -28,39 +18,18 @@ public:
         double words;    ///< read so far
     };
 
-    PacedReading();
-    PacedReading(const PacedReading&) = delete;
-    PacedReading& operator=(const PacedReading&) = delete;
-
-    void show(const QString& markdown);
-
-    /// Starts or stops the text as the settings do.
-    void play();
-    void pause();
-
     /// Lets time pass, with so many frames a second; returns what they showed.
     std::vector<Frame> run(double seconds, double framesPerSecond = 60.0);
 
-    /// Plays until the text stands at its end.
+    /// Lets time pass until the text stands at its end.
     std::vector<Frame> runToEnd(double atMostSeconds, double framesPerSecond = 60.0);
 
-    double now() const { return time; }
-    bool atEnd() const { return view->position() >= view->distance(); }
+    bool atEnd() const { return view.position() >= view.distance(); }
 
-    PersistedSettings settings;
-    ReadingOptions options;
-    FakeDisplayLinkMaker links;
-    FakeTimerMaker timers;
-    FakeMainQueue queue;
-    QDateTime wallTime; ///< at the beginning of time
-    std::unique_ptr<ReadingSession> session;
-    std::unique_ptr<LineView> view;
+    LineView view{*session, 50, 20.0};
 
 private:
-    Clocks clocks();
     Frame nextFrame(double framesPerSecond);
-
-    double time = 0.0;
 };
 
 } // namespace tessaline

@@ -99,7 +99,7 @@ TEST_F(PacedScrollTest, CrossesBlankSpaceInTheTimeOfABreath) {
     reading.play();
     const auto frames = reading.runToEnd(300);
     // Its place is found in the lines, the time is that in which the reader is in it.
-    const auto& lines = reading.view->allLines();
+    const auto& lines = reading.view.allLines();
     const auto blank = std::find_if(lines.begin(), lines.end(),
                                     [](const LineBox& line) { return line.paragraph == 1; });
     const double top = blank->top - lines.front().height / 2;
@@ -133,12 +133,12 @@ TEST_F(PacedScrollTest, GoesOnFromWhereAHandLeftTheReader) {
     reading.show(prose(2000));
     reading.play();
     reading.run(10);
-    reading.view->scrollTo(800);
+    reading.view.scrollTo(800);
     const auto frames = reading.run(60);
     EXPECT_NEAR(frames.front().position, 800, 0.5);
     // Nothing is made up for: the promise begins anew.
     EXPECT_LT(worstHalfMinute(frames, 150), 0.5);
-    reading.view->scrollTo(100);
+    reading.view.scrollTo(100);
     EXPECT_LT(worstHalfMinute(reading.run(60), 150), 0.5);
 }
 
@@ -146,10 +146,10 @@ TEST_F(PacedScrollTest, KeepsThePaceAcrossAnotherFontAndWidth) {
     reading.show(prose(2000));
     reading.play();
     reading.run(20);
-    reading.view->set(24, 33);
+    reading.view.set(24, 33);
     auto frames = reading.run(60);
     EXPECT_LT(worstHalfMinute(frames, 150), tolerance(150));
-    reading.view->set(120, 14);
+    reading.view.set(120, 14);
     frames = reading.run(60);
     EXPECT_LT(worstHalfMinute(frames, 150), tolerance(150));
 }
@@ -158,7 +158,7 @@ TEST_F(PacedScrollTest, KeepsThePaceWhenTheTextBeforeAndBehindChanges) {
     reading.show(prose(300) + "\n\n"_L1 + prose(1000));
     reading.play();
     reading.run(60);
-    const double words = reading.view->wordsRead();
+    const double words = reading.view.wordsRead();
     reading.show(prose(200) + "\n\n"_L1 + prose(300) + "\n\n"_L1 + prose(1200));
     const auto frames = reading.run(60);
     EXPECT_LT(worstHalfMinute(frames, 150), tolerance(150));
@@ -196,7 +196,7 @@ TEST_F(PacedScrollTest, StandsAtTheEndWithoutFramesUntilThereIsMore) {
                            [](const FakeDisplayLink* link) { return link->isStarted(); });
     };
     EXPECT_FALSE(isTicking());
-    reading.view->scrollTo(0);
+    reading.view.scrollTo(0);
     EXPECT_TRUE(isTicking());
     EXPECT_GT(reading.run(2).back().position, 1);
 }
@@ -209,7 +209,7 @@ TEST_F(PacedScrollTest, FallsBackToATimerWhereThereIsNoDisplayLink) {
     reading.play();
     EXPECT_EQ(reading.timers.liveIntervals().size(), 1u);
     reading.timers.advance(1.0);
-    EXPECT_GT(reading.view->position(), 0.0);
+    EXPECT_GT(reading.view.position(), 0.0);
 }
 
 TEST_F(PacedScrollTest, MovesWhatHoldsNoWordAtAll) {
@@ -261,11 +261,11 @@ TEST_F(PacedScrollTest, ReachesTheEndOnTimeWhateverHappensOnTheWay) {
     reading.run(45);
     reading.play();
     reading.run(20);
-    reading.view->scrollTo(reading.view->position() + 300);
+    reading.view.scrollTo(reading.view.position() + 300);
     reading.run(20);
-    reading.view->scrollTo(reading.view->position() - 500);
+    reading.view.scrollTo(reading.view.position() - 500);
     reading.run(30);
-    reading.view->set(30, 30);
+    reading.view.set(30, 30);
     reading.run(30);
     reading.show(talk + prose(100));
     EXPECT_NEAR(reading.runToEnd(1000).back().seconds, 480, 4.8);
@@ -307,7 +307,7 @@ TEST_P(AnyScript, PassesSteadilyAtThePromisedPace) {
     const auto& [seed, wordsPerMinute, charactersPerLine, lineHeight] = GetParam();
     PacedReading reading;
     reading.options.wordsPerMinute = wordsPerMinute;
-    reading.view->set(charactersPerLine, lineHeight);
+    reading.view.set(charactersPerLine, lineHeight);
     reading.show(randomTalk(seed, 1000));
     reading.play();
     const auto frames = reading.runToEnd(3000);
