@@ -48,9 +48,10 @@ TEST_F(ReadingGuideTest, DimsNothing) {
     const QImage without = picture(frameOf(ReadingGuide::none));
     for (const auto guide : {ReadingGuide::band, ReadingGuide::marker}) {
         const QImage with = picture(frameOf(guide));
-        for (int y = 0; y < with.height(); ++y)
+        for (int y = 0; y < with.height(); ++y) {
             for (int x = 0; x < with.width(); ++x)
                 ASSERT_GE(qGray(with.pixel(x, y)), qGray(without.pixel(x, y))) << x << ", " << y;
+        }
     }
 }
 

@@ -28,12 +28,11 @@ protected:
         return view.positionOf(view.script().text().indexOf(name));
     }
 
-    /// The positions after so many sixtieths of a second each.
-    std::vector<double> positionsDuring(double seconds) {
-        constexpr double frame = 1.0 / 60;
+    /// The positions at the beginning and after each of so many sixtieths of a second.
+    std::vector<double> positionsDuring(int frames) {
         std::vector<double> positions{position()};
-        for (double passed = 0; passed < seconds; passed += frame) {
-            time.pass(frame);
+        for (int frame = 0; frame < frames; ++frame) {
+            time.pass(1.0 / 60);
             positions.push_back(position());
         }
         return positions;
@@ -48,7 +47,7 @@ TEST_F(ScriptJumpsTest, GlideForHalfASecondSmoothlyAtBothEnds) {
     ASSERT_TRUE(view.jumps().toNextHeading());
     EXPECT_EQ(position(), 0) << "nothing moves at once";
     const double way = heading(u"Two"_s);
-    const auto positions = positionsDuring(0.45);
+    const auto positions = positionsDuring(27);
     double fastest = 0;
     for (std::size_t i = 1; i < positions.size(); ++i) {
         EXPECT_GE(positions[i], positions[i - 1]);
