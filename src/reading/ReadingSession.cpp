@@ -84,6 +84,11 @@ void ReadingSession::setSource(std::unique_ptr<PositionSource> newSource) {
     if (settings.autoScrollEnabled) start();
 }
 
+/// Whether the source may move the text.
+bool ReadingSession::isOn() const {
+    return settings.autoScrollEnabled && !held;
+}
+
 void ReadingSession::start() {
     if (!source || held) return;
     if (readersPlace.fraction == ReadingPlace{}.fraction) beginAnew();
@@ -107,12 +112,12 @@ void ReadingSession::stop() {
 void ReadingSession::beginAnew() {
     promise.forget();
     elapsed.reset(clocks.steady());
-    if (settings.autoScrollEnabled) promise.begin();
+    if (isOn()) promise.begin();
 }
 
 void ReadingSession::updatePace() {
     promise.forget();
-    if (settings.autoScrollEnabled) promise.begin();
+    if (isOn()) promise.begin();
     if (source) source->setPace(pace());
 }
 
@@ -122,7 +127,7 @@ int ReadingSession::framesPerSecond() const {
 
 void ReadingSession::scrollerDidProduceScroll(DisplayLinkScroller&, double deltaY) {
     // Some that were produced before auto-scroll was switched off arrive behind that.
-    if (settings.autoScrollEnabled) advance(-deltaY);
+    if (isOn()) advance(-deltaY);
 }
 
 void ReadingSession::advance(double points) {
@@ -171,7 +176,7 @@ double ReadingSession::wordsLeft() const {
 
 double ReadingSession::wordsPerMinute() const {
     const auto words = progress();
-    if (!words || !settings.autoScrollEnabled || isAtEnd()) return 0.0;
+    if (!words || !isOn() || isAtEnd()) return 0.0;
     constexpr double secondsPerMinute = 60.0;
     if (options.pace != PaceMode::speed)
         return promise.wordsPerSecond(wordsLeft()) * secondsPerMinute;

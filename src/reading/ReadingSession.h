@@ -120,6 +120,7 @@ public:
     void reached(const ReadingView& view, const ReadingPlace& place);
 
 private:
+    bool isOn() const;
     double wordsRead() const;
     double wordsLeft() const;
     double wordsPerMinute() const;

@@ -3,6 +3,8 @@
 #include "PacedReading.h"
 #include "RandomTalk.h"
 
+#include "reading/PrompterStatus.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -127,6 +129,28 @@ TEST_F(PacedScrollTest, StartsAndStopsSoftly) {
     EXPECT_EQ(stop[59].position, stop[20].position);
     EXPECT_TRUE(std::none_of(reading.links.living.begin(), reading.links.living.end(),
                              [](const FakeDisplayLink* link) { return link->isStarted(); }));
+}
+
+TEST_F(PacedScrollTest, WaitsAndPromisesNothingWhileItsSessionIsHeld) {
+    reading.options.pace = PaceMode::finish;
+    reading.options.finishMinutes = 1;
+    reading.show(prose(150));
+    reading.session->setHeld(true);
+    reading.play();
+    reading.session->updatePace();
+    reading.run(30);
+    EXPECT_EQ(reading.view.position(), 0);
+    PrompterStatus status;
+    reading.session->tellProgress(status);
+    EXPECT_EQ(status.wordsPerMinute, 0);
+    EXPECT_EQ(status.secondsElapsed, 0);
+    EXPECT_DOUBLE_EQ(status.secondsLeft.value_or(0), 60);
+
+    reading.session->setHeld(false);
+    reading.run(59);
+    EXPECT_FALSE(reading.atEnd());
+    reading.run(2);
+    EXPECT_TRUE(reading.atEnd());
 }
 
 TEST_F(PacedScrollTest, GoesOnFromWhereAHandLeftTheReader) {
