@@ -122,7 +122,7 @@ void PacedScroll::makePlan() {
         const auto [lines, above] = progress->linesBetween(y - pointsBehind, y + ahead);
         plan.emplace(lines, rate);
         wordsAbovePlan = above;
-        const bool reachesEnd = plan->bottom() < y + ahead;
+        const bool reachesEnd = plan->bottom() >= session.lastReaderPosition();
         plannedUntil = reachesEnd ? std::numeric_limits<double>::infinity()
                                   : plan->placeAfter(plan->bottom(), -secondsForEvenness);
         if (reachesEnd || plannedUntil > plan->placeAfter(y, leastSecondsPlanned)) break;

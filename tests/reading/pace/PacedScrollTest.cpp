@@ -1,7 +1,7 @@
 #include "reading/pace/PacedScroll.h"
 
 #include "PacedReading.h"
-#include "RandomTalk.h"
+#include "support/texts/RandomTalk.h"
 
 #include "reading/PrompterStatus.h"
 

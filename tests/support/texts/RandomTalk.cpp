@@ -1,4 +1,4 @@
-#include "RandomTalk.h"
+#include "support/texts/RandomTalk.h"
 
 #include <random>
 
