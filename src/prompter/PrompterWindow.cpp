@@ -22,8 +22,10 @@
 #include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
+#include "settings/PaceStep.h"
 
 #include <QEasingCurve>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -45,6 +47,14 @@ constexpr double unitsPerWheelStep = 120.0;
 /// The desktop's standard resize animation takes this long for every so many points.
 constexpr double resizeMilliseconds = 200.0;
 constexpr double resizePoints = 150.0;
+
+/// What a key does to the pace, if it is one for that.
+std::optional<PaceStep> paceStepOf(const QKeyEvent& event) {
+    const bool isPlain = !(event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    if (isPlain && event.key() == Qt::Key_Plus) return PaceStep::faster;
+    if (isPlain && event.key() == Qt::Key_Minus) return PaceStep::slower;
+    return std::nullopt;
+}
 
 double overlap(const Rect& a, const Rect& b) {
     const double width = std::min(a.maxX(), b.maxX()) - std::max(a.minX(), b.minX());
@@ -382,6 +392,14 @@ void PrompterWindow::updateSourceIndicator(SourceType source) {
 
 void PrompterWindow::updateMinimizeButtonAppearance() {
     strip->showCollapsed(collapsed);
+}
+
+void PrompterWindow::keyPressEvent(QKeyEvent* event) {
+    const auto step = paceStepOf(*event);
+    if (!step || readingSettings.values().pace == PaceMode::speed)
+        return QWidget::keyPressEvent(event);
+    readingSettings.change(
+        [step](ReadingOptions& options) { stepPace(options, *step, QTime::currentTime()); });
 }
 
 void PrompterWindow::wheelEvent(QWheelEvent* event) {
