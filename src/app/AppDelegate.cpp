@@ -1,10 +1,11 @@
 #include "app/AppDelegate.h"
 
 #include "analytics/UsageRecorder.h"
-#include "app/ConfigWindowPlacer.h"
 #include "app/FirstRun.h"
 #include "app/PrompterCutout.h"
+#include "app/ReadingPanel.h"
 #include "app/ScriptIntake.h"
+#include "app/SideWindowPlacer.h"
 #include "app/StatusItem.h"
 #include "app/WindowOrder.h"
 #include "app/shortcuts/Shortcuts.h"
@@ -17,6 +18,7 @@
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
+#include "prompter/view/ScriptView.h"
 #include "sources/ClipboardSource.h"
 #include "sources/ObsidianSource.h"
 #include "sources/SourceManager.h"
@@ -46,6 +48,7 @@ Object& required(const std::unique_ptr<Object>& object, const char* name) {
 AppDelegate::AppDelegate(const Environment& borrowed)
     : environment(borrowed)
     , platform(environment.platform)
+    , readingUsage(readingSettings, environment.recorder)
     , screenManager(*platform.screens, *platform.notifications)
     , permissionManager(platform) {}
 
@@ -132,11 +135,12 @@ void AppDelegate::createConfigWindow() {
     configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
     configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
     configWindow->winId(); // makes the native window
-    configPlacer = std::make_unique<ConfigWindowPlacer>(*configWindow, *prompterWindow,
-                                                        screenManager, settings);
-    configWindow->onSizeChanged = weakly(&AppDelegate::repositionConfigWindow);
-    new FrameMarginsWatch(*configWindow->windowHandle(),
-                          weakly(&AppDelegate::repositionConfigWindow));
+    configPlacer =
+        std::make_unique<SideWindowPlacer>(*configWindow, *prompterWindow, screenManager, settings);
+    readingPanel =
+        std::make_unique<ReadingPanel>(readingSettings, *prompterWindow, screenManager, settings);
+    configWindow->onSizeChanged = weakly(&AppDelegate::repositionWindows);
+    new FrameMarginsWatch(*configWindow->windowHandle(), weakly(&AppDelegate::repositionWindows));
 }
 
 void AppDelegate::connectButtons() {
@@ -156,11 +160,13 @@ void AppDelegate::setupStatusItem() {
     StatusItem::Actions actions;
     actions.showPrompter = weakly(&AppDelegate::showPrompterWindow);
     actions.showConfig = weakly(&AppDelegate::showConfig);
+    actions.showReading = weakly(&AppDelegate::showReading);
     actions.quit = weakly(&AppDelegate::quitApp);
     statusItem =
         std::make_unique<StatusItem>(*platform.statusArea, *platform.timers, std::move(actions));
     // The keys that the menu names work in the prompter as well.
     prompterWindow->addActions(statusItem->actions());
+    prompterWindow->textView().addAction(&statusItem->readingAction());
 }
 
 void AppDelegate::configureTelemetry() {
@@ -214,11 +220,16 @@ void AppDelegate::cycleSource() {
 
 void AppDelegate::showConfig() {
     config().refreshUI();
-    repositionConfigWindow();
+    repositionWindows();
     makeKeyAndOrderFront(config());
     config().startPeriodicRefresh();
     platform.activationPolicy->activateIgnoringOtherApps();
     environment.recorder.record({.name = u"settings_opened"_s});
+}
+
+void AppDelegate::showReading() {
+    readingPanel->show();
+    platform.activationPolicy->activateIgnoringOtherApps();
 }
 
 void AppDelegate::quitApp() {
@@ -269,7 +280,7 @@ void AppDelegate::screensChanged() {
     prompter().updateFrame();
     prompter().rerender();
     config().rebuildScreenPopup();
-    repositionConfigWindow();
+    repositionWindows();
 }
 
 void AppDelegate::handleSourceChange(SourceType source) {
@@ -289,11 +300,12 @@ void AppDelegate::settingsChanged() {
     prompter().updateFrame();
     prompter().rerender();
     prompter().updateScrollParameters();
-    repositionConfigWindow();
+    repositionWindows();
 }
 
-void AppDelegate::repositionConfigWindow() {
+void AppDelegate::repositionWindows() {
     configPlacer->place();
+    readingPanel->place();
 }
 
 } // namespace tessaline

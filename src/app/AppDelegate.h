@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Environment.h"
+#include "app/ReadingUsage.h"
 #include "permissions/PermissionManager.h"
 #include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
@@ -18,10 +19,11 @@
 namespace tessaline {
 
 class ConfigWindow;
-class ConfigWindowPlacer;
+class SideWindowPlacer;
 class FirstRun;
 class PrompterCutout;
 class PrompterWindow;
+class ReadingPanel;
 class ScriptIntake;
 class Shortcuts;
 class SourceManager;
@@ -52,6 +54,7 @@ public:
     void toggleScroll();
     void cycleSource();
     void showConfig();
+    void showReading();
     void quitApp();
 
     // What the shortcuts and remote control do besides.
@@ -91,7 +94,7 @@ private:
     void handleSourceChange(SourceType source);
     void activeSourceChanged(const Notification& change);
     void settingsChanged();
-    void repositionConfigWindow();
+    void repositionWindows();
 
     Services services() const;
     ConfigWindow& config() const;
@@ -107,6 +110,7 @@ private:
     const Platform& platform;
     AppSettings settings;
     ReadingSettings readingSettings;
+    ReadingUsage readingUsage;
     ScreenManager screenManager;
     PermissionManager permissionManager;
     std::unique_ptr<SourceManager> sourceManager;
@@ -114,7 +118,8 @@ private:
     std::unique_ptr<PrompterWindow> prompterWindow;
     std::unique_ptr<PrompterCutout> prompterCutout;
     std::unique_ptr<ConfigWindow> configWindow;
-    std::unique_ptr<ConfigWindowPlacer> configPlacer;
+    std::unique_ptr<SideWindowPlacer> configPlacer;
+    std::unique_ptr<ReadingPanel> readingPanel;
     std::unique_ptr<FirstRun> firstRun; ///< where there is one
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Shortcuts> shortcuts;

@@ -83,6 +83,8 @@ void RemoteControl::carryOut(const ControlRequest& request) {
         return setCollapsed(false);
     case ControlCommand::settings:
         return delegate.showConfig();
+    case ControlCommand::reading:
+        return delegate.showReading();
     case ControlCommand::pace:
     case ControlCommand::guide:
     case ControlCommand::eyeLine:

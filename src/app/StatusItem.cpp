@@ -49,6 +49,7 @@ void StatusItem::fillMenu() {
     addItem(menu, u"Show Tessaline"_s, {}, act.showPrompter);
     menu.addSeparator();
     addItem(menu, u"Settings…"_s, Qt::CTRL | Qt::Key_Comma, act.showConfig);
+    reading = addItem(menu, u"Reading…"_s, {}, act.showReading);
     menu.addSeparator();
     addItem(menu, u"Quit Tessaline"_s, Qt::CTRL | Qt::Key_Q, act.quit);
 }

@@ -22,6 +22,7 @@ public:
     struct Actions {
         std::function<void()> showPrompter;
         std::function<void()> showConfig;
+        std::function<void()> showReading;
         std::function<void()> quit;
     };
 
@@ -37,6 +38,9 @@ public:
     /// What the menu holds, separators included.
     QList<QAction*> actions() const { return menu.actions(); }
 
+    /// What opens the reading options.
+    QAction& readingAction() const { return *reading; }
+
     const QIcon& icon() const { return image; }
 
 private:
@@ -48,6 +52,7 @@ private:
     Actions act;
     QIcon image;
     QMenu menu;
+    QAction* reading = nullptr;            ///< in the menu
     std::unique_ptr<QSystemTrayIcon> item; ///< after the menu, which it refers to
     std::unique_ptr<RepeatingTimer> areaPollTimer;
 };

@@ -179,6 +179,7 @@ constexpr ControlAction actions[] = {
     {C::minimize, u"minimize", nothing, u"Fold it into the strip."},
     {C::expand, u"expand", nothing, u"Unfold it."},
     {C::settings, u"settings", nothing, u"Open the settings."},
+    {C::reading, u"reading", nothing, u"Open the reading options."},
     {C::paste, u"paste", nothing, u"Show the clipboard's text."},
     {C::source,
      u"source",

@@ -122,6 +122,8 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return status.collapsed ? u"minimized"_s : u"expanded"_s;
     case ControlCommand::settings:
         return u"settings shown"_s;
+    case ControlCommand::reading:
+        return u"reading options shown"_s;
     case ControlCommand::paste:
         return u"pasted"_s;
     case ControlCommand::source:

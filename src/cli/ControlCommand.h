@@ -24,6 +24,7 @@ enum class ControlCommand : std::uint8_t {
     minimize,
     expand,
     settings,
+    reading,
     paste,
     source,
     guide,

@@ -19,31 +19,29 @@ enum class ReadingGuide { none, marker, band };
 /// or the script begins again.
 enum class ScriptEnd { stand, stop, goRound };
 
-/// A choice, the string that stands for it in files, commands and usage events, and the name that
-/// the user sees.
+/// A choice, and the string that stands for it in files, commands and usage events.
 template <typename T>
 struct Choice {
     T value;
     const char16_t* raw;
-    const char16_t* title;
 };
 
 inline constexpr std::array paceModes{
-    Choice{PaceMode::speed, u"speed", u"Speed"},
-    Choice{PaceMode::words, u"words", u"Words a minute"},
-    Choice{PaceMode::finish, u"finish", u"Finish in time"},
+    Choice{PaceMode::speed, u"speed"},
+    Choice{PaceMode::words, u"words"},
+    Choice{PaceMode::finish, u"finish"},
 };
 
 inline constexpr std::array readingGuides{
-    Choice{ReadingGuide::none, u"none", u"None"},
-    Choice{ReadingGuide::marker, u"marker", u"Marker"},
-    Choice{ReadingGuide::band, u"band", u"Band"},
+    Choice{ReadingGuide::none, u"none"},
+    Choice{ReadingGuide::marker, u"marker"},
+    Choice{ReadingGuide::band, u"band"},
 };
 
 inline constexpr std::array scriptEnds{
-    Choice{ScriptEnd::stand, u"stand", u"Stand"},
-    Choice{ScriptEnd::stop, u"stop", u"Stop"},
-    Choice{ScriptEnd::goRound, u"round", u"Go round"},
+    Choice{ScriptEnd::stand, u"stand"},
+    Choice{ScriptEnd::stop, u"stop"},
+    Choice{ScriptEnd::goRound, u"round"},
 };
 
 QString rawValue(PaceMode mode);

@@ -1,7 +1,6 @@
 #include "ui/ConfigWindow.h"
 
 #include "analytics/UsageRecorder.h"
-#include "appearance/SystemPalette.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/Platform.h"
 #include "settings/AppSettings.h"
@@ -13,7 +12,6 @@
 #include "ui/config/IntegrationsSection.h"
 #include "ui/config/ShortcutsGrid.h"
 #include "ui/config/SourceSection.h"
-#include "ui/controls/FittingScrollArea.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/SectionTitle.h"
 #include "ui/controls/Separator.h"
@@ -38,16 +36,12 @@ constexpr TimerMaker::Interval refreshInterval{2.0};
 
 ConfigWindow::ConfigWindow(AppSettings& edited, SourceManager* manager,
                            const Platform& borrowedPlatform, const Services& borrowed)
-    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                           Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                           Qt::WindowCloseButtonHint)
+    : SideWindow(u"Settings"_s)
     , settings(edited)
     , sourceManager(manager)
     , platform(borrowedPlatform)
     , services(borrowed)
     , permissionManager(platform) {
-    setWindowTitle(u"Settings"_s);
-    setDarkLook(*this, SystemPalette::settingsBackground);
     layOut();
     settingsObservation =
         settings.observe([this](const PersistedSettings& before) { settingsChanged(before); });
@@ -114,22 +108,6 @@ void ConfigWindow::refreshUI() {
     fitToContent(*this);
 }
 
-QSize ConfigWindow::wholeSize() const {
-    return findChild<FittingScrollArea*>()->wholeSize();
-}
-
-int ConfigWindow::scrollBarWidth() const {
-    return findChild<FittingScrollArea*>()->scrollBarWidth();
-}
-
-void ConfigWindow::fitInto(int room) {
-    fitToContent(*this, room);
-}
-
-bool ConfigWindow::isSliderHeld() const {
-    return display->isSliderHeld();
-}
-
 void ConfigWindow::startPeriodicRefresh() {
     refreshTimer.reset();
     refreshTimer = platform.timers->every(refreshInterval, [this] {
@@ -165,10 +143,6 @@ void ConfigWindow::announceSettings() const {
     if (onSettingsChanged) onSettingsChanged();
 }
 
-void ConfigWindow::announceSize() const {
-    if (onSizeChanged) onSizeChanged();
-}
-
 void ConfigWindow::announceSource(SourceType source) const {
     if (onSourceChanged) onSourceChanged(source);
 }
@@ -179,22 +153,12 @@ void ConfigWindow::fixAccessibility() {
 
 bool ConfigWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) updateAccessibilityStatus();
-    return QWidget::event(event);
-}
-
-void ConfigWindow::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    if (!event->spontaneous()) focusNoControl(*this);
-}
-
-void ConfigWindow::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    announceSize();
+    return SideWindow::event(event);
 }
 
 void ConfigWindow::closeEvent(QCloseEvent* event) {
     refreshTimer.reset();
-    QWidget::closeEvent(event);
+    SideWindow::closeEvent(event);
 }
 
 } // namespace tessaline

@@ -4,8 +4,7 @@
 #include "settings/AppSettings.h"
 #include "settings/SourceType.h"
 #include "ui/Services.h"
-
-#include <QWidget>
+#include "ui/SideWindow.h"
 
 #include <functional>
 #include <memory>
@@ -20,8 +19,8 @@ class SourceManager;
 class SourceSection;
 
 /// The settings window. Edits the shared settings live: every change is saved and announced at
-/// once. Shows what others change. Closing hides it; it can be shown again.
-class ConfigWindow : public QWidget {
+/// once. Shows what others change.
+class ConfigWindow : public SideWindow {
     Q_OBJECT
 
 public:
@@ -46,31 +45,14 @@ public:
     /// Shows whether the Accessibility permission is granted.
     void updateAccessibilityStatus();
 
-    /// Its size without a frame where there is room for everything, and how much wider it is while
-    /// it scrolls.
-    QSize wholeSize() const;
-    int scrollBarWidth() const;
-
-    /// Gets as large as it can be with this height, in points and without a frame.
-    void fitInto(int room);
-
-    /// Whether the user holds a slider with the mouse, so that the window had better stay where it
-    /// is.
-    bool isSliderHeld() const;
-
     /// Called after every change by a control of this window, once it is saved and shown.
     std::function<void()> onSettingsChanged;
-
-    /// Called when the window has another size, or could have since a slider was let go.
-    std::function<void()> onSizeChanged;
 
     /// Called with the new source after the user chose another one.
     std::function<void(SourceType)> onSourceChanged;
 
 protected:
     bool event(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -80,7 +62,6 @@ private:
     void obsidianToggleChanged(bool on);
     void fixAccessibility();
     void announceSettings() const;
-    void announceSize() const;
     void announceSource(SourceType source) const;
 
     AppSettings& settings;

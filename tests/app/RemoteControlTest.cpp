@@ -10,6 +10,7 @@
 #include "ui/controls/PointSlider.h"
 #include "ui/controls/PopupButton.h"
 
+#include <QApplication>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -134,6 +135,23 @@ TEST_F(RemoteControlTest, ChangesTheReadingOptions) {
     EXPECT_EQ(reading.values(), (ReadingOptions{.wordsPerMinute = 160, .guideLines = 2}));
     EXPECT_EQ(statusAfter(u"status"_s).eyeLine, u"second"_s);
     EXPECT_EQ(savedSettings().values(), delegate->currentSettings().values());
+}
+
+TEST_F(RemoteControlTest, ShowsTheReadingOptionsWithoutTheSettings) {
+    launch();
+    const auto readingWindows = [] {
+        QStringList titles;
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            if (window->windowTitle() == u"Reading"_s && window->isVisible())
+                titles += window->windowTitle();
+        return titles.size();
+    };
+    EXPECT_EQ(readingWindows(), 0);
+    EXPECT_EQ(textOf(u"reading"_s), u"reading options shown"_s);
+    EXPECT_EQ(readingWindows(), 1);
+    textOf(u"reading"_s);
+    EXPECT_EQ(readingWindows(), 1);
+    EXPECT_FALSE(config()->isVisible());
 }
 
 TEST_F(RemoteControlTest, TakesTheMomentToFinishAsMinutesOrAsATime) {

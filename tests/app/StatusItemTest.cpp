@@ -32,16 +32,19 @@ protected:
 TEST_F(StatusItemTest, HasTheMenuWithItsTitlesAndKeys) {
     StatusItem item(area, timers, {});
     const auto actions = item.actions();
-    ASSERT_EQ(actions.size(), 5);
+    ASSERT_EQ(actions.size(), 6);
     EXPECT_EQ(actions[0]->text(), u"Show Tessaline"_s);
     EXPECT_TRUE(actions[0]->shortcut().isEmpty());
     EXPECT_TRUE(actions[1]->isSeparator());
     EXPECT_EQ(actions[2]->text(), u"Settings\u2026"_s);
     EXPECT_EQ(actions[2]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
-    EXPECT_TRUE(actions[3]->isSeparator());
-    EXPECT_EQ(actions[4]->text(), u"Quit Tessaline"_s);
-    EXPECT_EQ(actions[4]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
-    for (const int shown : {2, 4})
+    EXPECT_EQ(actions[3]->text(), u"Reading\u2026"_s);
+    EXPECT_TRUE(actions[3]->shortcut().isEmpty());
+    EXPECT_EQ(&item.readingAction(), actions[3]);
+    EXPECT_TRUE(actions[4]->isSeparator());
+    EXPECT_EQ(actions[5]->text(), u"Quit Tessaline"_s);
+    EXPECT_EQ(actions[5]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    for (const int shown : {2, 5})
         EXPECT_TRUE(actions[shown]->isShortcutVisibleInContextMenu());
 }
 
@@ -50,10 +53,11 @@ TEST_F(StatusItemTest, CarriesOutWhatIsChosen) {
     StatusItem item(area, timers,
                     {.showPrompter = [&] { done << u"show"_s; },
                      .showConfig = [&] { done << u"config"_s; },
+                     .showReading = [&] { done << u"reading"_s; },
                      .quit = [&] { done << u"quit"_s; }});
     for (QAction* action : item.actions())
         action->trigger();
-    EXPECT_EQ(done, (QStringList{u"show"_s, u"config"_s, u"quit"_s}));
+    EXPECT_EQ(done, (QStringList{u"show"_s, u"config"_s, u"reading"_s, u"quit"_s}));
 }
 
 TEST_F(StatusItemTest, IsShownAtOnceWhereThereIsATray) {

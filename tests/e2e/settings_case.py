@@ -22,6 +22,7 @@ CONTROLS = [
 
 class SettingsTestCase(AccessibleTestCase):
     desktop_options = {"size": (1280, 1024)}
+    title = TITLE
 
     def setUp(self):
         super().setUp()
@@ -43,7 +44,7 @@ class SettingsTestCase(AccessibleTestCase):
         return bool(self.desktop.windows(SETTINGS, self.prompter.pid))
 
     def last_row(self):
-        return self.control(TITLE, "label", "Shortcuts in Any Application")
+        return self.control(self.title, "label", "Shortcuts in Any Application")
 
     def prompter_area(self):
         return self.desktop.geometry(self.window)
@@ -52,7 +53,7 @@ class SettingsTestCase(AccessibleTestCase):
         wait_until(lambda: self.prompter_area() == area, f"the prompter is at {area}")
 
     def slider(self, name):
-        return self.control(TITLE, "slider", name)
+        return self.control(self.title, "slider", name)
 
     def place_of(self, slider, value):
         """Where on the screen the knob's middle is for a value."""
@@ -74,13 +75,13 @@ class SettingsTestCase(AccessibleTestCase):
 
     def choose(self, shown, wanted):
         """Chooses another entry of a popup with the mouse."""
-        self.click_on(self.control(TITLE, "combo box", shown))
-        self.click_on(self.control(TITLE, "list item", wanted))
-        self.control(TITLE, "combo box", wanted)
+        self.click_on(self.control(self.title, "combo box", shown))
+        self.click_on(self.control(self.title, "list item", wanted))
+        self.control(self.title, "combo box", wanted)
 
     def frame(self):
         """The upper and the lower edge of the window manager's frame around the window."""
-        _, top, _, height = self.open_window(TITLE).area
+        _, top, _, height = self.open_window(self.title).area
         extents = self.desktop.property(self.window_of_settings, "_NET_FRAME_EXTENTS")
         _, _, above, below = map(int, extents.split(","))
         return top - above, top + height + below
@@ -90,7 +91,7 @@ class SettingsTestCase(AccessibleTestCase):
 
     def focused(self):
         """(role, name) of what has the keyboard in the window; None if nothing has."""
-        for node in self.open_window(TITLE).shown():
+        for node in self.open_window(self.title).shown():
             if "focused" in node.states:
                 return node.role, node.name
         return None

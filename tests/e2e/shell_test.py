@@ -14,7 +14,7 @@ CONFIG = (LEFT + 58, STRIP_MIDDLE)
 TRAY_ICON = (SCREEN[0] - 15, STRIP_MIDDLE)
 TRAY_AREA = (SCREEN[0] - 30, 0, 30, 30)
 PANEL = {"dark": ("#202020", (32, 32, 32)), "light": ("#f4f4f4", (244, 244, 244))}
-MENU = {"Show Tessaline": 0, "Settings": 1, "Quit Tessaline": 2}
+MENU = {"Show Tessaline": 0, "Settings": 1, "Reading": 2, "Quit Tessaline": 3}
 ROW = 24
 
 

@@ -41,11 +41,13 @@ class StatusNotifier(TessalineTestCase):
         entries = self.item.show()["entries"]
         shown = [entry.get("type") or plain(entry["label"]) for entry in entries]
         self.assertEqual(
-            shown, ["Show Tessaline", "separator", "Settings…", "separator", "Quit Tessaline"]
+            shown,
+            ["Show Tessaline", "separator", "Settings…", "Reading…", "separator", "Quit Tessaline"],
         )
         self.assertEqual(entries[2]["shortcut"], [["Control", ","]])
-        self.assertEqual(entries[4]["shortcut"], [["Control", "Q"]])
-        self.assertNotIn("shortcut", entries[0])
+        self.assertEqual(entries[5]["shortcut"], [["Control", "Q"]])
+        for entry in (entries[0], entries[3]):
+            self.assertNotIn("shortcut", entry)
 
     def test_shows_the_prompter_by_its_menu(self):
         self.start_with_area()
@@ -63,6 +65,11 @@ class StatusNotifier(TessalineTestCase):
         self.start_with_area()
         self.item.choose("Settings…")
         self.desktop.wait_for_window(SETTINGS, self.prompter.pid)
+
+    def test_opens_the_reading_options_by_its_menu(self):
+        self.start_with_area()
+        self.item.choose("Reading…")
+        self.desktop.wait_for_window("^Reading$", self.prompter.pid)
 
     def test_quits_by_its_menu(self):
         self.start_with_area()

@@ -10,6 +10,7 @@
 #include "ui/WindowStage.h"
 #include "ui/controls/PopupButton.h"
 #include "ui/controls/Switch.h"
+#include "ui/reading/ReadingWindow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -177,6 +178,30 @@ void takeOnboarding(const Camera& camera) {
     camera.take(shown->window, u"welcome-obsidian-on"_s);
 }
 
+void takeReading(const Camera& camera) {
+    Set set;
+    ReadingSettings settings(set.folder.filePath(u"reading.json"_s));
+    ReadingWindow window(settings, [] { return QTime(12, 0); });
+    camera.take(window, u"reading-speed"_s);
+    settings.change([](ReadingOptions& options) {
+        options = {.pace = PaceMode::words,
+                   .eyeLine = 0.33,
+                   .guide = ReadingGuide::band,
+                   .guideLines = 2,
+                   .countdownSeconds = 3,
+                   .atEnd = ScriptEnd::goRound,
+                   .glide = true};
+    });
+    camera.take(window, u"reading-words"_s);
+    settings.change([](ReadingOptions& options) { options.pace = PaceMode::finish; });
+    camera.take(window, u"reading-minutes"_s);
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(&window, Qt::Key_Tab);
+    camera.take(window, u"reading-focus-minutes"_s);
+    settings.change([](ReadingOptions& options) { options.finishAt = TimeOfDay{11 * 60}; });
+    camera.take(window, u"reading-tomorrow"_s);
+}
+
 } // namespace
 } // namespace tessaline
 
@@ -188,5 +213,6 @@ int main(int argc, char** argv) {
     const tessaline::Camera camera(arguments.value(1, QStringLiteral("pictures")));
     tessaline::takeSettings(camera);
     tessaline::takeOnboarding(camera);
+    tessaline::takeReading(camera);
     return 0;
 }

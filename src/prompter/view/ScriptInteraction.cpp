@@ -182,6 +182,8 @@ void ScriptInteraction::showMenu(const QContextMenuEvent& event) {
         view.setSelection(selection);
     });
     all->setShortcut(QKeySequence::SelectAll);
+    if (!view.actions().isEmpty()) menu.addSeparator();
+    menu.addActions(view.actions());
     menu.exec(event.globalPos());
 }
 

@@ -13,7 +13,6 @@
 #include "ui/controls/Rows.h"
 #include "ui/controls/SliderRow.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace tessaline {
@@ -124,12 +123,6 @@ double DisplaySection::computeMaxXOffset() const {
         width = all.front().frame.width;
     }
     return HorizontalPosition::maximumOffset(width, settings.width());
-}
-
-bool DisplaySection::isSliderHeld() const {
-    const auto sliders = {widthSlider, heightSlider, fontSlider, xOffsetSlider};
-    return std::any_of(sliders.begin(), sliders.end(),
-                       [](const PointSlider* slider) { return slider->isSliderDown(); });
 }
 
 void DisplaySection::updatePositionSliderLimits() {

@@ -35,9 +35,6 @@ public:
     /// Writes the sliders' values beside their names.
     void updateValueLabels();
 
-    /// Whether the user holds a slider with the mouse.
-    bool isSliderHeld() const;
-
 Q_SIGNALS:
     /// After every saved change, before it is recorded.
     void settingsChanged();

@@ -73,7 +73,7 @@ QVariant PointSliderAccessible::minimumValue() const {
 }
 
 QVariant PointSliderAccessible::minimumStepSize() const {
-    return 1.0;
+    return slider().step();
 }
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
@@ -97,11 +97,17 @@ PointSlider::PointSlider(const QString& accessibleName, int width, QWidget* pare
 void PointSlider::setLimits(double minimum, double maximum) {
     lowest = minimum;
     highest = std::max(minimum, maximum);
-    const int pageInPoints = int((highest - lowest) / pagesPerRange);
-    setPageStep(std::max(pageInPoints, 1) * stepsPerPoint);
+    const double page = std::floor((highest - lowest) / pagesPerRange / step()) * step();
+    setPageStep(toSteps(std::max(page, step())));
     const QSignalBlocker silence(this);
     setRange(toSteps(lowest), toSteps(highest));
     setPoints(exact);
+}
+
+void PointSlider::setStep(double points) {
+    snap = points;
+    setSingleStep(toSteps(points));
+    setLimits(lowest, highest);
 }
 
 void PointSlider::setPoints(double value) {
@@ -118,10 +124,12 @@ void PointSlider::moveTo(double value) {
 
 // At the ends the limits count, which need not be whole steps.
 void PointSlider::adopt(int steps) {
+    const double before = exact;
     exact = double(steps) / stepsPerPoint;
     if (steps == minimum()) exact = lowest;
     if (steps == maximum()) exact = highest;
-    Q_EMIT moved();
+    if (snap > 0.0) setPoints(std::round(exact / snap) * snap);
+    if (snap <= 0.0 || exact != before) Q_EMIT moved();
 }
 
 // Runs while the position is chosen but not yet the value, which is when it may be corrected.

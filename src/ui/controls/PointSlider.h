@@ -5,7 +5,7 @@
 namespace tessaline {
 
 /// A horizontal slider over points with fractions. A press on its groove moves the knob there; an
-/// arrow key moves it by one point, Page Up and Page Down by a tenth of the range.
+/// arrow key moves it by one point or one step, Page Up and Page Down by a tenth of the range.
 class PointSlider : public QSlider {
     Q_OBJECT
 
@@ -18,6 +18,10 @@ public:
 
     /// Sets the range; the value is brought into it. Emits nothing.
     void setLimits(double minimum, double maximum);
+
+    /// The user gets multiples of so many points only.
+    void setStep(double points);
+    double step() const { return snap > 0.0 ? snap : 1.0; }
 
     /// Exactly what was set last or, after the user moved the knob, where that is.
     double points() const { return exact; }
@@ -52,6 +56,7 @@ private:
     double highest = 0.0;
     double exact = 0.0;
     double deadZone = 0.0;
+    double snap = 0.0; ///< the step; 0: none
 };
 
 } // namespace tessaline

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace tessaline {
 namespace {
 
@@ -43,6 +45,40 @@ TEST_F(PointSliderTest, BringsTheValueIntoTheRange) {
     EXPECT_EQ(slider.points(), 500);
     slider.setPoints(9999);
     EXPECT_EQ(slider.points(), 700.3);
+    EXPECT_EQ(moves, 0);
+}
+
+TEST_F(PointSliderTest, GivesMultiplesOfItsStepOnly) {
+    slider.setLimits(60, 300);
+    slider.setStep(5);
+    slider.setPoints(150);
+    QTest::keyClick(&slider, Qt::Key_Right);
+    EXPECT_EQ(slider.points(), 155);
+    QTest::keyClick(&slider, Qt::Key_Left);
+    QTest::keyClick(&slider, Qt::Key_Left);
+    EXPECT_EQ(slider.points(), 145);
+    QTest::keyClick(&slider, Qt::Key_PageUp);
+    EXPECT_EQ(slider.points(), 165);
+    QTest::keyClick(&slider, Qt::Key_End);
+    EXPECT_EQ(slider.points(), 300);
+    EXPECT_EQ(moves, 5);
+    for (const int x : {20, 83, 131, 201}) {
+        mouseDown(slider, QPoint(x, 10));
+        mouseUp(slider, QPoint(x, 10));
+        EXPECT_EQ(std::fmod(slider.points(), 5), 0) << x;
+        EXPECT_NEAR(slider.points(), 60 + 240 * x / 260.0, 12);
+    }
+}
+
+TEST_F(PointSliderTest, TellsNoMoveThatEndsAtTheSameStep) {
+    slider.setLimits(0, 10);
+    slider.setStep(5);
+    slider.setPoints(5);
+    const int middle = slider.width() / 2;
+    mouseDown(slider, QPoint(middle, 10));
+    mouseDrag(slider, QPoint(middle + 8, 10));
+    mouseUp(slider, QPoint(middle + 8, 10));
+    EXPECT_EQ(slider.points(), 5);
     EXPECT_EQ(moves, 0);
 }
 

@@ -1,4 +1,4 @@
-#include "app/ConfigWindowPlacement.h"
+#include "app/SideWindowPlacement.h"
 
 #include "platform/Screen.h"
 
@@ -15,8 +15,8 @@ double visibleLeft(double left, double width, const Rect& visible) {
 
 } // namespace
 
-ConfigWindowPlacement placeConfigWindow(const ConfigWindowSize& size, const Screen& screen,
-                                        const Rect& prompter) {
+SideWindowPlacement placeSideWindow(const SideWindowSize& size, const Screen& screen,
+                                    const Rect& prompter) {
     const Rect& visible = screen.visibleFrame;
     const double below = std::min(prompter.minY(), visible.maxY());
     const double roomBelow = below - visible.minY();

@@ -1,27 +1,23 @@
-#include "app/ConfigWindowPlacer.h"
+#include "app/SideWindowPlacer.h"
 
-#include "app/ConfigWindowPlacement.h"
+#include "app/SideWindowPlacement.h"
 #include "platform/ScreenCoordinates.h"
 #include "prompter/PrompterWindow.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
-#include "ui/ConfigWindow.h"
+#include "ui/SideWindow.h"
 #include "ui/controls/FittingScrollArea.h"
 
 #include <QWindow>
 
 namespace tessaline {
 
-ConfigWindowPlacer::ConfigWindowPlacer(ConfigWindow& configWindow,
-                                       const PrompterWindow& prompterWindow,
-                                       const ScreenManager& screenManager,
-                                       const AppSettings& appSettings)
-    : window(configWindow)
-    , prompter(prompterWindow)
-    , screens(screenManager)
-    , settings(appSettings) {}
+SideWindowPlacer::SideWindowPlacer(SideWindow& sideWindow, const PrompterWindow& prompterWindow,
+                                   const ScreenManager& screenManager,
+                                   const AppSettings& appSettings)
+    : window(sideWindow), prompter(prompterWindow), screens(screenManager), settings(appSettings) {}
 
-void ConfigWindowPlacer::place() {
+void SideWindowPlacer::place() {
     const QRect primary = primaryGeometry();
     const Screen screen = prompter.currentScreen().value_or(screens.preferredScreen());
     Rect unfolded = prompter.frame();
@@ -31,11 +27,11 @@ void ConfigWindowPlacer::place() {
     const QMargins frame = window.windowHandle()->frameMargins();
     const int forFrame = frame.isNull() ? titleBarAllowance : frame.top() + frame.bottom();
     const QSize whole = window.wholeSize();
-    const ConfigWindowPlacement placement =
-        placeConfigWindow({.width = double(whole.width() + frame.left() + frame.right()),
-                           .height = double(whole.height() + forFrame),
-                           .scrollBar = double(window.scrollBarWidth())},
-                          screen, unfolded);
+    const SideWindowPlacement placement =
+        placeSideWindow({.width = double(whole.width() + frame.left() + frame.right()),
+                         .height = double(whole.height() + forFrame),
+                         .scrollBar = double(window.scrollBarWidth())},
+                        screen, unfolded);
 
     const Rect now = fromQtCoordinates(window.geometry().marginsAdded(frame), primary);
     Rect target = now;

@@ -3,23 +3,23 @@
 namespace tessaline {
 
 class AppSettings;
-class ConfigWindow;
 class PrompterWindow;
 class ScreenManager;
+class SideWindow;
 
-/// Keeps the settings window where it can be used.
-class ConfigWindowPlacer {
+/// Keeps a window beside the prompter where it can be used.
+class SideWindowPlacer {
 public:
     /// Everything is borrowed.
-    ConfigWindowPlacer(ConfigWindow& window, const PrompterWindow& prompter,
-                       const ScreenManager& screens, const AppSettings& settings);
+    SideWindowPlacer(SideWindow& window, const PrompterWindow& prompter,
+                     const ScreenManager& screens, const AppSettings& settings);
 
     /// Puts the window below the prompter, or else beside or over it, on the prompter's screen.
     /// While a slider of the window is dragged, the window does not slip from under the pointer.
     void place();
 
 private:
-    ConfigWindow& window;
+    SideWindow& window;
     const PrompterWindow& prompter;
     const ScreenManager& screens;
     const AppSettings& settings;

@@ -1,0 +1,46 @@
+#include "app/ReadingUsage.h"
+
+#include "analytics/UsageRecorder.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct Option {
+    QString name;
+    QString value;
+};
+
+/// When somebody's talk ends is nobody's business, only that it has such a time.
+std::vector<Option> optionsOf(const ReadingOptions& options) {
+    return {
+        {u"pace"_s, rawValue(options.pace)},
+        {u"wordsPerMinute"_s, QString::number(options.wordsPerMinute)},
+        {u"finishMinutes"_s, QString::number(options.finishMinutes)},
+        {u"finishAt"_s, booleanText(options.finishAt.has_value())},
+        {u"eyeLine"_s, options.eyeLine ? QString::number(*options.eyeLine) : u"second"_s},
+        {u"guide"_s, rawValue(options.guide)},
+        {u"guideLines"_s, QString::number(options.guideLines)},
+        {u"countdownSeconds"_s, QString::number(options.countdownSeconds)},
+        {u"atEnd"_s, rawValue(options.atEnd)},
+        {u"glide"_s, booleanText(options.glide)},
+    };
+}
+
+} // namespace
+
+ReadingUsage::ReadingUsage(ReadingSettings& settings, UsageRecorder& recorder)
+    : observation(settings.observe([&settings, &recorder](const ReadingOptions& before) {
+        const auto was = optionsOf(before);
+        const auto is = optionsOf(settings.values());
+        for (std::size_t i = 0; i < is.size(); ++i)
+            if (is[i].value != was[i].value) recorder.trackSettingChanged(is[i].name, is[i].value);
+    })) {}
+
+} // namespace tessaline

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "settings/ReadingSettings.h"
+#include "ui/SideWindow.h"
+
+#include <QTime>
+
+#include <functional>
+#include <vector>
+
+namespace tessaline {
+
+class ReadingSection;
+
+/// The window of the reading options. Every change is in force and saved at once; what others
+/// change is shown.
+class ReadingWindow : public SideWindow {
+    Q_OBJECT
+
+public:
+    /// Builds the window; shows nothing yet. Borrows the settings; `now` tells the time on the
+    /// clock.
+    explicit ReadingWindow(ReadingSettings& settings,
+                           std::function<QTime()> now = &QTime::currentTime);
+
+    /// Shows what the options are now. The window has its right size afterwards.
+    void refresh();
+
+private:
+    QWidget* createContent(const std::function<QTime()>& now);
+    void showOptions();
+
+    ReadingSettings& settings;
+    ReadingSettings::Observation observation;
+    std::vector<ReadingSection*> sections;
+};
+
+} // namespace tessaline
