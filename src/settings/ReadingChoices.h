@@ -27,21 +27,21 @@ struct Choice {
 };
 
 inline constexpr std::array paceModes{
-    Choice{PaceMode::speed, u"speed"},
-    Choice{PaceMode::words, u"words"},
-    Choice{PaceMode::finish, u"finish"},
+    Choice<PaceMode>{PaceMode::speed, u"speed"},
+    Choice<PaceMode>{PaceMode::words, u"words"},
+    Choice<PaceMode>{PaceMode::finish, u"finish"},
 };
 
 inline constexpr std::array readingGuides{
-    Choice{ReadingGuide::none, u"none"},
-    Choice{ReadingGuide::marker, u"marker"},
-    Choice{ReadingGuide::band, u"band"},
+    Choice<ReadingGuide>{ReadingGuide::none, u"none"},
+    Choice<ReadingGuide>{ReadingGuide::marker, u"marker"},
+    Choice<ReadingGuide>{ReadingGuide::band, u"band"},
 };
 
 inline constexpr std::array scriptEnds{
-    Choice{ScriptEnd::stand, u"stand"},
-    Choice{ScriptEnd::stop, u"stop"},
-    Choice{ScriptEnd::goRound, u"round"},
+    Choice<ScriptEnd>{ScriptEnd::stand, u"stand"},
+    Choice<ScriptEnd>{ScriptEnd::stop, u"stop"},
+    Choice<ScriptEnd>{ScriptEnd::goRound, u"round"},
 };
 
 QString rawValue(PaceMode mode);
