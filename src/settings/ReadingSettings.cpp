@@ -25,6 +25,13 @@ QString standardPath() {
     return supportFolderPath() + "/reading.json"_L1;
 }
 
+void tellTomorrow(const ReadingOptions& options) {
+    if (options.pace != PaceMode::finish || !options.finishAt) return;
+    if (hasPassed(*options.finishAt, QTime::currentTime()))
+        printLine(u"⚠️ The time to finish, %1, has passed today: it means tomorrow"_s.arg(
+            timeOfDayText(*options.finishAt)));
+}
+
 } // namespace
 
 ReadingSettings::ReadingSettings(const std::optional<QString>& path)
@@ -45,6 +52,7 @@ void ReadingSettings::load() {
         if (!limited.isEmpty())
             printLine(u"⚠️ Reading options out of range were brought into it: "_s +
                       limited.join(u", "));
+        tellTomorrow(current);
         return;
     }
     printLine(u"⚠️ Failed to load reading options: "_s + error);

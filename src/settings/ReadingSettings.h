@@ -22,7 +22,8 @@ public:
     /// Starts from the defaults and loads the file over them: the one at `path`, if given, in place
     /// of the standard one. A file that cannot be used is reported on standard output, stays as it
     /// is, and changes nothing here; a copy of it is kept before the next save replaces it. Values
-    /// beyond their limits are brought within them, and reported in the same way.
+    /// beyond their limits are brought within them, and reported in the same way. So is a time to
+    /// finish that has passed today.
     explicit ReadingSettings(const std::optional<QString>& path = std::nullopt);
 
     ~ReadingSettings();

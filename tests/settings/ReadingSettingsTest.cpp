@@ -167,6 +167,16 @@ TEST_F(ReadingSettingsTest, NamesAllThatIsBeyondItsLimitsInOneLine) {
         "⚠️ Reading options out of range were brought into it: wordsPerMinute, eyeLine\n");
 }
 
+TEST_F(ReadingSettingsTest, SaysWhenTheTimeToFinishMeansTomorrow) {
+    // Midnight is over, whenever this runs.
+    putFile(path, R"({"pace": "finish", "finishAt": "00:00"})");
+    EXPECT_EQ(loaded().finishAt, TimeOfDay{0});
+    EXPECT_EQ(printed, "⚠️ The time to finish, 00:00, has passed today: it means tomorrow\n");
+    putFile(path, R"({"pace": "words", "finishAt": "00:00"})");
+    loaded();
+    EXPECT_EQ(printed, "");
+}
+
 TEST_F(ReadingSettingsTest, BringsChangesWithinTheLimits) {
     ReadingSettings settings(path);
     settings.change([](ReadingOptions& options) {
