@@ -74,11 +74,14 @@ class ByMouse(ReadingTestCase):
         self.wait_for_option("glide", True)
         self.choose("Words a Minute", "Finish in Minutes")
         self.wait_for_option("pace", "finish")
+        x, y, width, height = self.control(TITLE, "spin button", "Minutes").area
+        self.desktop.click(x + width - 10, y + height // 4)
+        self.wait_for_option("finishMinutes", 12.5)
 
         status = self.status()
         self.assertEqual(
             [status[name] for name in ("pace", "finish", "eyeLine", "guide", "guideLines")],
-            ["finish", "12m", "33", "band", 2],
+            ["finish", "12.5m", "33", "band", 2],
         )
         self.assertEqual((status["atEnd"], status["glide"]), ("round", True))
         self.desktop.close_by_keys(self.window_of_settings)

@@ -36,4 +36,15 @@ void drawBezel(QPainter& painter, const QWidget& widget, QColor ground, bool pre
     painter.restore();
 }
 
+void drawArrows(QPainter& painter, const QPointF& middle) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(SystemPalette::label, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const int way : {-1, 1}) {
+        const auto at = [&](double x, double y) { return middle + QPointF(x, way * y); };
+        painter.drawPolyline(QPolygonF({at(-arrowReach, 2), at(0, 5), at(arrowReach, 2)}));
+    }
+    painter.restore();
+}
+
 } // namespace tessaline

@@ -1,7 +1,13 @@
 #pragma once
 
 #include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "ui/controls/Bezel.h"
 
+#include <QLineEdit>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
 #include <QWheelEvent>
 
 namespace tessaline {
@@ -20,9 +26,22 @@ public:
         Box::setFocusPolicy(Qt::StrongFocus);
         Box::setKeyboardTracking(false);
         Box::setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        QPalette onBezel = Box::lineEdit()->palette();
+        onBezel.setColor(QPalette::Base, Qt::transparent);
+        Box::lineEdit()->setPalette(onBezel);
     }
 
 protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        drawBezel(painter, *this, SystemPalette::controlBackground, false);
+        QStyleOptionSpinBox option;
+        Box::initStyleOption(&option);
+        const QRectF up =
+            Box::style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this);
+        drawArrows(painter, {up.center().x(), Box::height() / 2.0});
+    }
+
     void wheelEvent(QWheelEvent* event) override {
         if (Box::hasFocus()) {
             Box::wheelEvent(event);

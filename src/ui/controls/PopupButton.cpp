@@ -18,7 +18,6 @@ namespace {
 
 constexpr int widestList = 480;
 constexpr int paddingAboveAndBelow = 4;
-constexpr int arrowReach = 3; ///< how far an arrow goes from its tip, to either side
 
 } // namespace
 
@@ -60,12 +59,7 @@ void PopupButton::paintEvent(QPaintEvent*) {
         painter.translate(width(), 0);
         painter.scale(-1, 1);
     }
-    painter.setPen(QPen(SystemPalette::label, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF middle(width() - bezelPadding - arrowReach, height() / 2.0);
-    for (const int way : {-1, 1}) {
-        const auto at = [&](double x, double y) { return middle + QPointF(x, way * y); };
-        painter.drawPolyline(QPolygonF({at(-arrowReach, 2), at(0, 5), at(arrowReach, 2)}));
-    }
+    drawArrows(painter, {double(width() - bezelPadding - arrowReach), height() / 2.0});
     painter.resetTransform();
     painter.setPen(isEnabled() ? SystemPalette::label : SystemPalette::disabledLabel);
     const QRect line = rect().adjusted(bezelPadding, 0, -2 * bezelPadding - 2 * arrowReach, 0);
