@@ -11,6 +11,7 @@
 #include "platform/qt/KeyTranslation.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/CountdownView.h"
+#include "prompter/PaceKeys.h"
 #include "prompter/Placeholder.h"
 #include "prompter/PrompterGeometry.h"
 #include "prompter/ReadingStatistics.h"
@@ -22,10 +23,8 @@
 #include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
-#include "settings/PaceStep.h"
 
 #include <QEasingCurve>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -47,14 +46,6 @@ constexpr double unitsPerWheelStep = 120.0;
 /// The desktop's standard resize animation takes this long for every so many points.
 constexpr double resizeMilliseconds = 200.0;
 constexpr double resizePoints = 150.0;
-
-/// What a key does to the pace, if it is one for that.
-std::optional<PaceStep> paceStepOf(const QKeyEvent& event) {
-    const bool isPlain = !(event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
-    if (isPlain && event.key() == Qt::Key_Plus) return PaceStep::faster;
-    if (isPlain && event.key() == Qt::Key_Minus) return PaceStep::slower;
-    return std::nullopt;
-}
 
 double overlap(const Rect& a, const Rect& b) {
     const double width = std::min(a.maxX(), b.maxX()) - std::max(a.minX(), b.minX());
@@ -395,11 +386,7 @@ void PrompterWindow::updateMinimizeButtonAppearance() {
 }
 
 void PrompterWindow::keyPressEvent(QKeyEvent* event) {
-    const auto step = paceStepOf(*event);
-    if (!step || readingSettings.values().pace == PaceMode::speed)
-        return QWidget::keyPressEvent(event);
-    readingSettings.change(
-        [step](ReadingOptions& options) { stepPace(options, *step, QTime::currentTime()); });
+    if (!stepPaceByKey(*event, readingSettings)) QWidget::keyPressEvent(event);
 }
 
 void PrompterWindow::wheelEvent(QWheelEvent* event) {
