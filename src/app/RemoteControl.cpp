@@ -33,9 +33,10 @@ void RemoteControl::carryOut(const ControlRequest& request, const Reply& reply) 
 RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
     if (request.command == ControlCommand::source) {
         const auto source = sourceTypeFromRawValue(request.argument);
-        if (!source || !delegate.chooseSource(*source))
+        if (!source || !delegate.chooseSource(*source)) {
             return Refusal{
                 u"the source '%1' is not enabled in the settings"_s.arg(request.argument)};
+        }
     } else {
         carryOut(request);
     }

@@ -74,7 +74,7 @@ public:
             return {};
         }
         const QString& word = words[next++];
-        const auto result = checked(value, word);
+        auto result = checked(value, word);
         if (!result) problem = u"%1 '%2' is not %3"_s.arg(before, word, allowed(value));
         return result;
     }

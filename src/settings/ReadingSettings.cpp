@@ -25,11 +25,16 @@ QString standardPath() {
     return supportFolderPath() + "/reading.json"_L1;
 }
 
+void tellLimited(const QStringList& names) {
+    if (names.isEmpty()) return;
+    printLine(u"⚠️ Reading options out of range were brought into it: "_s + names.join(u", "));
+}
+
 void tellTomorrow(const ReadingOptions& options) {
     if (options.pace != PaceMode::finish || !options.finishAt) return;
-    if (hasPassed(*options.finishAt, QTime::currentTime()))
-        printLine(u"⚠️ The time to finish, %1, has passed today: it means tomorrow"_s.arg(
-            timeOfDayText(*options.finishAt)));
+    if (!hasPassed(*options.finishAt, QTime::currentTime())) return;
+    printLine(u"⚠️ The time to finish, %1, has passed today: it means tomorrow"_s.arg(
+        timeOfDayText(*options.finishAt)));
 }
 
 } // namespace
@@ -47,11 +52,9 @@ void ReadingSettings::load() {
     if (!file->exists()) return;
     QString error;
     QStringList limited;
-    if (auto loaded = file->load(&error, &limited)) {
-        current = *std::move(loaded);
-        if (!limited.isEmpty())
-            printLine(u"⚠️ Reading options out of range were brought into it: "_s +
-                      limited.join(u", "));
+    if (const auto loaded = file->load(&error, &limited)) {
+        current = *loaded;
+        tellLimited(limited);
         tellTomorrow(current);
         return;
     }

@@ -137,8 +137,9 @@ public:
     /// Brings every value within its limits. Returns the names of those that were not.
     QStringList limit(Values& values) const {
         QStringList names;
-        for (const auto& key : keys)
+        for (const auto& key : keys) {
             if (key.limit(values)) names += QString::fromLatin1(key.name);
+        }
         return names;
     }
 

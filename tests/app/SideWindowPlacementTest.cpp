@@ -29,16 +29,14 @@ Rect prompterOn(const Rect& screen, double width, double height, double offset =
 
 TEST(SideWindowPlacement, HasItsTopExactlyThePromptersHeightBelowTheScreensTop) {
     const Rect frame{0, 0, 1920, 1080};
-    EXPECT_EQ(
-        placeSideWindow(window, screenWithPanels(frame, 30, 40), prompterOn(frame, 450, 256)),
-        (SideWindowPlacement{960 - 161, 824, 784, true}));
+    EXPECT_EQ(placeSideWindow(window, screenWithPanels(frame, 30, 40), prompterOn(frame, 450, 256)),
+              (SideWindowPlacement{960 - 161, 824, 784, true}));
 }
 
 TEST(SideWindowPlacement, StaysInTheMiddleWhereverThePrompterIs) {
     const Rect frame{1920, -200, 1920, 1080};
-    EXPECT_EQ(
-        placeSideWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 256.5, 300)),
-        (SideWindowPlacement{1920 + 960 - 161, 623.5, 823.5, true}));
+    EXPECT_EQ(placeSideWindow(window, screenWithPanels(frame), prompterOn(frame, 450, 256.5, 300)),
+              (SideWindowPlacement{1920 + 960 - 161, 623.5, 823.5, true}));
 }
 
 TEST(SideWindowPlacement, IsBelowAsLongAsThatShowsAllOfIt) {
@@ -51,9 +49,8 @@ TEST(SideWindowPlacement, IsBelowAsLongAsThatShowsAllOfIt) {
 
 TEST(SideWindowPlacement, IsBesideAPrompterThatLeavesNoRoomBelow) {
     const Rect frame{0, 0, 1366, 800};
-    EXPECT_EQ(
-        placeSideWindow(window, screenWithPanels(frame, 30, 20), prompterOn(frame, 450, 800)),
-        (SideWindowPlacement{683 + 225, 770, 750, false}));
+    EXPECT_EQ(placeSideWindow(window, screenWithPanels(frame, 30, 20), prompterOn(frame, 450, 800)),
+              (SideWindowPlacement{683 + 225, 770, 750, false}));
 }
 
 TEST(SideWindowPlacement, IsOnTheWiderSide) {
@@ -75,8 +72,7 @@ TEST(SideWindowPlacement, LiesOverThePrompterAsLittleAsItCan) {
     EXPECT_EQ(placeSideWindow(window, screenWithPanels(frame, 30), prompterOn(frame, 450, 256)),
               (SideWindowPlacement{640 - 332, 450, 450, false}));
     EXPECT_EQ(
-        placeSideWindow(window, screenWithPanels(frame, 30), prompterOn(frame, 450, 256, 95))
-            .left,
+        placeSideWindow(window, screenWithPanels(frame, 30), prompterOn(frame, 450, 256, 95)).left,
         0);
 }
 

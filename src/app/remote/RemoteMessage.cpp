@@ -117,9 +117,10 @@ std::variant<RemoteRequest, Refusal> decodeRequest(const QByteArray& line) {
     if (!message) return Refusal{u"this is no message"_s};
     const QString command = message->value("command"_L1).toString();
     if (command == "show"_L1) return ShowRequest{};
-    if (command == "open"_L1)
+    if (command == "open"_L1) {
         return OpenRequest{message->value("path"_L1).toString(),
                            message->value("follow"_L1).toBool()};
+    }
     if (command == "control"_L1) return controlRequest(message->value("words"_L1).toArray());
     return Refusal{u"there is no command '%1'"_s.arg(command)};
 }

@@ -20,7 +20,7 @@ constexpr int spacing = 10;
 
 } // namespace
 
-ReadingWindow::ReadingWindow(ReadingSettings& edited, std::function<QTime()> now)
+ReadingWindow::ReadingWindow(ReadingSettings& edited, const std::function<QTime()>& now)
     : SideWindow(u"Reading"_s), settings(edited) {
     fillWithContent(*this, createContent(now), leastContent);
     refresh();

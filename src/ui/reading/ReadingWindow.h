@@ -21,7 +21,7 @@ public:
     /// Builds the window; shows nothing yet. Borrows the settings; `now` tells the time on the
     /// clock.
     explicit ReadingWindow(ReadingSettings& settings,
-                           std::function<QTime()> now = &QTime::currentTime);
+                           const std::function<QTime()>& now = &QTime::currentTime);
 
     /// Shows what the options are now. The window has its right size afterwards.
     void refresh();
