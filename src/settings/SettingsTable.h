@@ -121,9 +121,10 @@ public:
             if (key.isLeftOut(values)) continue;
             json.key(key.name);
             if (key.write(values, json)) continue;
-            if (error)
+            if (error) {
                 *error =
                     QStringLiteral("\"%1\" is not a finite number").arg(QLatin1String(key.name));
+            }
             return std::nullopt;
         }
         for (const JsonMember& other : others) {

@@ -15,6 +15,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -140,11 +141,10 @@ TEST_F(RemoteControlTest, ChangesTheReadingOptions) {
 TEST_F(RemoteControlTest, ShowsTheReadingOptionsWithoutTheSettings) {
     launch();
     const auto readingWindows = [] {
-        QStringList titles;
-        for (const QWidget* window : QApplication::topLevelWidgets())
-            if (window->windowTitle() == u"Reading"_s && window->isVisible())
-                titles += window->windowTitle();
-        return titles.size();
+        const auto all = QApplication::topLevelWidgets();
+        return std::count_if(all.begin(), all.end(), [](const QWidget* window) {
+            return window->windowTitle() == u"Reading"_s && window->isVisible();
+        });
     };
     EXPECT_EQ(readingWindows(), 0);
     EXPECT_EQ(textOf(u"reading"_s), u"reading options shown"_s);

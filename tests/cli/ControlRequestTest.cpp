@@ -23,9 +23,10 @@ std::vector<QStringList> allRequests() {
         if (!action.value.isTaken()) requests.push_back({name});
         for (const QStringView choice : action.value.choices)
             requests.push_back({name, choice.toString()});
-        for (const ChoiceTail& tail : action.tails)
+        for (const ChoiceTail& tail : action.tails) {
             for (const QStringView choice : tail.value.choices)
                 requests.push_back({name, tail.choice.toString(), choice.toString()});
+        }
     }
     for (const auto text : {"speed 1.25", "eyeline 33.5", "countdown 10", "pace words 160",
                             "pace finish 12.5m", "pace finish 09:30"})
