@@ -299,9 +299,10 @@ TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
     EXPECT_EQ(picture.pixelColor(0, 255).alpha(), 0);
     EXPECT_EQ(picture.pixelColor(449, 255).alpha(), 0);
     EXPECT_EQ(picture.pixelColor(225, 255), QColor(Qt::black));
-    for (int x = 0; x < 16; ++x)
+    for (int x = 0; x < 16; ++x) {
         EXPECT_NEAR(picture.pixelColor(x, 252).alpha(), picture.pixelColor(449 - x, 252).alpha(),
                     4);
+    }
     // A circle of sixteen points crosses the lowest row in its middle, twelve points from the side.
     EXPECT_LT(picture.pixelColor(11, 255).alpha(), 128);
     EXPECT_GT(picture.pixelColor(12, 255).alpha(), 128);
