@@ -3,6 +3,7 @@
 #include "Verdicts.h"
 
 #include "prompter/PrompterWindow.h"
+#include "settings/ReadingSettings.h"
 #include "sources/obsidian/InstalledObsidian.h"
 #include "support/FakeApplicationLookup.h"
 #include "support/FakeDisplayLinkMaker.h"
@@ -82,7 +83,8 @@ private:
         mainQueue.runAll();
     }
 
-    PrompterWindow prompter{settings, platform};
+    ReadingSettings readingSettings{folder.filePath(u"reading.json"_s)};
+    PrompterWindow prompter{settings, readingSettings, platform};
     ConfigWindow window{settings, nullptr, platform, services};
 };
 

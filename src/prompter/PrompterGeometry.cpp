@@ -20,6 +20,12 @@ Rect withHeight(const Rect& frame, double height) {
     return {frame.minX(), frame.maxY() - height, frame.width, height};
 }
 
+double overlap(const Rect& a, const Rect& b) {
+    const double width = std::min(a.maxX(), b.maxX()) - std::max(a.minX(), b.minX());
+    const double height = std::min(a.maxY(), b.maxY()) - std::max(a.minY(), b.minY());
+    return width > 0 && height > 0 ? width * height : 0.0;
+}
+
 } // namespace
 
 Rect prompterFrame(const PrompterPlacement& placement, const Rect& screenFrame) {
@@ -34,6 +40,15 @@ Rect prompterFrameOnMainScreen(const PrompterPlacement& placement, const Rect& s
     const auto [width, height, xOffset] = placement;
     return {centred(width, screenFrame.width) + xOffset, screenFrame.height - height, width,
             height};
+}
+
+std::optional<Screen> screenBelow(const Rect& frame, const std::vector<Screen>& screens) {
+    const auto covered =
+        std::max_element(screens.begin(), screens.end(), [&frame](const auto& a, const auto& b) {
+            return overlap(frame, a.frame) < overlap(frame, b.frame);
+        });
+    if (covered == screens.end() || overlap(frame, covered->frame) <= 0) return std::nullopt;
+    return *covered;
 }
 
 double menuBarHeight(const std::optional<Screen>& screen) {

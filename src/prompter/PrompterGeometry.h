@@ -3,6 +3,7 @@
 #include "platform/Rect.h"
 
 #include <optional>
+#include <vector>
 
 namespace tessaline {
 
@@ -22,6 +23,9 @@ Rect prompterFrame(const PrompterPlacement& placement, const Rect& screenFrame);
 /// The place on the main screen that serves until the window knows of a choice of screens: computed
 /// from the screen's size alone, and not held within its sides.
 Rect prompterFrameOnMainScreen(const PrompterPlacement& placement, const Rect& screenFrame);
+
+/// The screen that most of a window with this frame is on, if any of it is on one.
+std::optional<Screen> screenBelow(const Rect& frame, const std::vector<Screen>& screens);
 
 /// The height of the strip that a menu bar or panel at the top of the screen takes, 24 at least.
 /// Also 24 when there is no screen.

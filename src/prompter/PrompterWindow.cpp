@@ -47,12 +47,6 @@ constexpr double unitsPerWheelStep = 120.0;
 constexpr double resizeMilliseconds = 200.0;
 constexpr double resizePoints = 150.0;
 
-double overlap(const Rect& a, const Rect& b) {
-    const double width = std::min(a.maxX(), b.maxX()) - std::max(a.minX(), b.minX());
-    const double height = std::min(a.maxY(), b.maxY()) - std::max(a.minY(), b.minY());
-    return width > 0 && height > 0 ? width * height : 0.0;
-}
-
 } // namespace
 
 PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrowedReading,
@@ -143,13 +137,7 @@ Rect PrompterWindow::frame() const {
 }
 
 std::optional<Screen> PrompterWindow::currentScreen() const {
-    const Rect own = frame();
-    const auto all = platform.screens->all();
-    const auto covered =
-        std::max_element(all.begin(), all.end(), [&](const auto& a, const auto& b) {
-            return overlap(own, a.frame) < overlap(own, b.frame);
-        });
-    if (covered != all.end() && overlap(own, covered->frame) > 0) return *covered;
+    if (auto covered = screenBelow(frame(), platform.screens->all())) return covered;
     if (screenManager) return screenManager->preferredScreen();
     return platform.screens->mainScreen();
 }

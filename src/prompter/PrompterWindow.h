@@ -71,8 +71,7 @@ public:
     /// Shows the last text again, with the settings as they are now.
     void rerender();
 
-    /// Tells the words and the reading time of the text.
-    void updateStats();
+    void updateStats(); ///< tells the words and the reading time of the text
 
     /// Moves the text by so many points; negative is forward.
     void performScroll(double deltaY);
@@ -80,14 +79,12 @@ public:
     /// Switches auto-scroll on or off and saves the settings.
     void toggleAutoScroll();
 
-    /// Takes speed and rate over from the settings.
-    void updateScrollParameters();
+    void updateScrollParameters(); ///< takes speed and rate over from the settings
 
     void updateSourceModeIndicator(SourceMode mode);
     void updateSourceIndicator(SourceType source);
 
-    /// Shows on the minimise button what it does next.
-    void updateMinimizeButtonAppearance();
+    void updateMinimizeButtonAppearance(); ///< it shows what it does next
 
     /// The controls, for connecting their actions.
     ControlStrip& controls() const { return *strip; }

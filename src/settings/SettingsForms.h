@@ -54,4 +54,20 @@ bool read(const JsonValue& value, std::optional<T>& target) {
     return read(value, target.emplace());
 }
 
+/// There is one: whoever writes asks first whether it is absent.
+template <typename T>
+bool write(JsonWriter& json, const std::optional<T>& value) {
+    return write(json, *value);
+}
+
+template <typename T>
+bool isAbsent(const T&) {
+    return false;
+}
+
+template <typename T>
+bool isAbsent(const std::optional<T>& value) {
+    return !value;
+}
+
 } // namespace tessaline

@@ -28,29 +28,16 @@ struct SettingsKey {
     std::function<bool(Values& values)> limit; ///< whether the value was beyond its limits
 };
 
+/// The key is left out when there is no value.
 template <typename Values, typename T>
 SettingsKey<Values> settingsKey(const char* name, T Values::*member) {
     return {name,
             [member](const JsonValue& value, Values& values) {
                 return tessaline::read(value, values.*member);
             },
-            [](const Values&) { return false; },
+            [member](const Values& values) { return isAbsent(values.*member); },
             [member](const Values& values, JsonWriter& json) {
                 return tessaline::write(json, values.*member);
-            },
-            [](Values&) { return false; }};
-}
-
-/// The key is left out when there is no value.
-template <typename Values, typename T>
-SettingsKey<Values> settingsKey(const char* name, std::optional<T> Values::*member) {
-    return {name,
-            [member](const JsonValue& value, Values& values) {
-                return tessaline::read(value, values.*member);
-            },
-            [member](const Values& values) { return !(values.*member).has_value(); },
-            [member](const Values& values, JsonWriter& json) {
-                return tessaline::write(json, *(values.*member));
             },
             [](Values&) { return false; }};
 }

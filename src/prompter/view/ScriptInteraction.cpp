@@ -120,6 +120,7 @@ void ScriptInteraction::selectUnitAt(const QPointF& point, TextSelection::Unit u
 }
 
 void ScriptInteraction::mousePress(const QMouseEvent& event) {
+    view.jumps().stop();
     if (event.button() != Qt::LeftButton) return;
     const bool isNear =
         (event.position() - doubleClickPoint).manhattanLength() < QApplication::startDragDistance();

@@ -127,6 +127,10 @@ double ScriptView::positionOf(qsizetype offset) const {
     return positionOfY(layout.caretRect(offset).top());
 }
 
+std::size_t ScriptView::paragraphReadAt(double position) const {
+    return layout.paragraphAt(columnY(position));
+}
+
 void ScriptView::setReadingFrame(const ReadingFrame& wanted) {
     if (wanted == readingFrame) return;
     const bool standsStill = wanted.isActive != readingFrame.isActive && scrollTop > 0.0;
@@ -378,7 +382,6 @@ void ScriptView::keyPressEvent(QKeyEvent* event) {
 }
 
 void ScriptView::mousePressEvent(QMouseEvent* event) {
-    scriptJumps.stop();
     interaction.mousePress(*event);
 }
 void ScriptView::mouseMoveEvent(QMouseEvent* event) {

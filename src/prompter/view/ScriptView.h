@@ -43,8 +43,7 @@ public:
     /// How far the document's top lies above the view's.
     double scrollPosition() const { return scrollTop; }
 
-    /// The furthest that the document can be scrolled.
-    double maximumScrollPosition() const;
+    double maximumScrollPosition() const; ///< the furthest that it can be scrolled
 
     /// The document's height with its margins. In part an estimate until `isLayoutComplete`.
     double documentHeight() const;
@@ -58,25 +57,19 @@ public:
     /// Sets what the reader wants around the text, which stands still where it can.
     void setReadingFrame(const ReadingFrame& wanted);
 
-    /// The middle of the line that is being read, from the view's top.
-    double eyeLine() const { return room.eyeLine; }
+    double eyeLine() const { return room.eyeLine; } ///< middle of the line being read, in the view
 
     /// The scroll position that has the middle of an offset's line at the eye line, if that is
     /// active, or the line and nothing of those before it at the top.
     double positionOf(qsizetype offset) const;
 
-    /// The paragraph that is read at a scroll position.
-    std::size_t paragraphReadAt(double position) const {
-        return layout.paragraphAt(columnY(position));
-    }
+    std::size_t paragraphReadAt(double scrollPosition) const;
 
-    /// Where to jump from here.
-    ScriptJumps& jumps() { return scriptJumps; }
+    ScriptJumps& jumps() { return scriptJumps; } ///< where to jump from here
 
     bool isLayoutComplete() const { return layout.isMeasured(); }
 
-    /// Lays out all that has not been laid out so far, at once.
-    void completeLayout();
+    void completeLayout(); ///< at once
 
     const TextSelection& selection() const { return currentSelection; }
     void setSelection(const TextSelection& selection);
@@ -93,8 +86,7 @@ public:
     /// estimate until `isLayoutComplete`.
     QRectF paragraphRect(std::size_t paragraph) const;
 
-    /// The offset nearest to a point in the view's coordinates.
-    qsizetype offsetAt(const QPointF& point) const;
+    qsizetype offsetAt(const QPointF& point) const; ///< nearest to a point there
 
 Q_SIGNALS:
     /// The whole document has been laid out: its height is exact now.
