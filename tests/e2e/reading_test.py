@@ -208,6 +208,8 @@ class SmallScreen(ReadingTestCase):
 
     def test_has_all_of_the_window_within_reach(self):
         self.start(self.write_script(TALK))
+        # It takes the keyboard when it appears, and must not take it from the window afterwards.
+        wait_until(lambda: self.desktop.focused_window() == self.window, "it has the keyboard")
         for words in (("pace", "words"), ("eyeline", "33"), ("reading",)):
             self.ctl(*words)
         self.window_is_there()
