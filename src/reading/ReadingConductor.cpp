@@ -36,14 +36,12 @@ std::unique_ptr<PositionSource> ReadingConductor::sourceForPace() const {
 
 void ReadingConductor::optionsChanged(const ReadingOptions& before) {
     const ReadingOptions& now = options.values();
-    const bool wasSpeed = before.pace == PaceMode::speed;
-    const bool isSpeed = now.pace == PaceMode::speed;
-    if (wasSpeed != isSpeed) {
+    if (now.pace == before.pace && now.wordsPerMinute == before.wordsPerMinute &&
+        now.finishMinutes == before.finishMinutes && now.finishAt == before.finishAt)
+        return;
+    if ((now.pace == PaceMode::speed) != (before.pace == PaceMode::speed))
         session->setSource(sourceForPace());
-    } else if (now.pace != before.pace || now.wordsPerMinute != before.wordsPerMinute ||
-               now.finishMinutes != before.finishMinutes || now.finishAt != before.finishAt) {
-        session->updatePace();
-    }
+    session->promiseAnew();
 }
 
 void ReadingConductor::endReached() {

@@ -11,6 +11,15 @@
 
 namespace tessaline {
 
+namespace {
+
+/// Whether a text was exchanged for another one, rather than edited.
+bool isAnotherText(const ScriptChange& change, std::size_t countBefore) {
+    return 2 * change.oldCount > countBefore;
+}
+
+} // namespace
+
 ReadingSession::ReadingSession(const PersistedSettings& borrowedSettings,
                                const ReadingOptions& borrowedOptions, Clocks givenClocks)
     : settings(borrowedSettings)
@@ -27,7 +36,7 @@ void ReadingSession::setContent(RenderedContent content) {
     const ScriptChange change = ScriptChange::between(*before, *currentScript);
     spokenWords.scriptChanged(change);
     const auto kept = placeAfter(change, before->paragraphs.size());
-    if (!kept) beginAnew();
+    if (!kept && isAnotherText(change, before->paragraphs.size())) beginAnew();
     if (kept) readersPlace = *kept;
     readersPlace.paragraph = std::min(readersPlace.paragraph, currentScript->paragraphs.size() - 1);
     // The first one last: the others follow what it tells.
@@ -116,9 +125,13 @@ void ReadingSession::beginAnew() {
 }
 
 void ReadingSession::updatePace() {
+    if (source) source->setPace(pace());
+}
+
+void ReadingSession::promiseAnew() {
     promise.forget();
     if (isOn()) promise.begin();
-    if (source) source->setPace(pace());
+    updatePace();
 }
 
 int ReadingSession::framesPerSecond() const {
@@ -131,9 +144,13 @@ void ReadingSession::scrollerDidProduceScroll(DisplayLinkScroller&, double delta
 }
 
 void ReadingSession::advance(double points) {
-    frames.add(clocks.steady());
+    const auto now = clocks.steady();
+    frames.add(now);
     moveBy(points);
-    if (options.atEnd != ScriptEnd::stand && onEnd && isAtEnd()) onEnd();
+    if (!isAtEnd()) return elapsed.start(now);
+    elapsed.stop(now);
+    promise.forget();
+    if (onEnd) onEnd();
 }
 
 void ReadingSession::beginAgain() {

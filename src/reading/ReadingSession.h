@@ -66,8 +66,10 @@ public:
     void setHeld(bool hold);
     bool isHeld() const { return held; }
 
-    /// Takes the pace over from the settings and the options. Promises made so far are settled.
-    void updatePace();
+    void updatePace(); ///< takes it over from the settings and the options
+
+    /// The options promise something else from now on.
+    void promiseAnew();
 
     /// How many times the source moved the text in the last second.
     int framesPerSecond() const;

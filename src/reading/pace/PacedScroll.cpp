@@ -60,7 +60,7 @@ void PacedScroll::setPace(const Pace&) {
 }
 
 void PacedScroll::readerMoved() {
-    if (isStarted && !session.isAtEnd()) clock.start();
+    if (isStarted && !clock.running() && !session.isAtEnd()) session.start();
 }
 
 void PacedScroll::frame(double seconds) {

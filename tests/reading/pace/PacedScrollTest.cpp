@@ -1,6 +1,7 @@
 #include "reading/pace/PacedScroll.h"
 
 #include "PacedReading.h"
+#include "reading/PrompterStatus.h"
 #include "support/texts/RandomTalk.h"
 
 #include "reading/PrompterStatus.h"
@@ -290,9 +291,31 @@ TEST_F(PacedScrollTest, ReachesTheEndOnTimeWhateverHappensOnTheWay) {
     reading.view.scrollTo(reading.view.position() - 500);
     reading.run(30);
     reading.view.set(30, 30);
+    reading.session->updatePace(); // as with every step of a slider
     reading.run(30);
+    const auto paragraph = qsizetype(reading.session->place().paragraph);
     reading.show(talk + prose(100));
+    reading.run(10);
+    QStringList lines = (talk + prose(100)).split(u'\n');
+    lines[paragraph] += " and some more words"_L1;
+    reading.show(lines.join(u'\n'));
     EXPECT_NEAR(reading.runToEnd(1000).back().seconds, 480, 4.8);
+}
+
+TEST_F(PacedScrollTest, PromisesTheEndAnewToWhoGoesBackFromIt) {
+    reading.options.pace = PaceMode::finish;
+    reading.options.finishMinutes = 2;
+    reading.show(prose(300));
+    reading.play();
+    reading.runToEnd(200);
+    reading.run(100);
+    PrompterStatus status;
+    reading.session->tellProgress(status);
+    EXPECT_NEAR(status.secondsElapsed, 120, 1.2);
+    reading.view.scrollTo(0);
+    const double begin = reading.now();
+    EXPECT_NEAR(reading.session->secondsLeft().value_or(0), 120, 0.1);
+    EXPECT_NEAR(reading.runToEnd(200).back().seconds - begin, 120, 1.2);
 }
 
 TEST_F(PacedScrollTest, ReachesTheEndAtATimeOfDay) {
