@@ -27,9 +27,10 @@ ReadingConductor::~ReadingConductor() {
 }
 
 std::unique_ptr<PositionSource> ReadingConductor::sourceForPace() const {
-    if (options.values().pace == PaceMode::speed)
+    if (options.values().pace == PaceMode::speed) {
         return std::make_unique<AutoScroll>(session, *platform.displayLinks, *platform.timers,
                                             *platform.mainQueue);
+    }
     return std::make_unique<PacedScroll>(*session, *platform.displayLinks, *platform.timers,
                                          *platform.mainQueue, Clocks{});
 }

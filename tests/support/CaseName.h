@@ -51,12 +51,10 @@ std::string nameOfValue(const T& value) {
         return nameOfText(value);
     } else if constexpr (std::convertible_to<T, QStringView>) {
         return nameOfText(QStringView(value).toString());
-    } else if constexpr (std::convertible_to<T, const char*>) {
+    } else if constexpr (std::convertible_to<T, const char*> || std::same_as<T, QByteArray>) {
         return nameOfBytes(value);
     } else if constexpr (std::convertible_to<T, std::string>) {
         return nameOfText(QString::fromStdString(value));
-    } else if constexpr (std::same_as<T, QByteArray>) {
-        return nameOfBytes(value);
     } else if constexpr (std::same_as<T, QStringList>) {
         return nameOfText(value.join(QLatin1Char(' ')));
     } else {

@@ -141,7 +141,9 @@ PacePlan::PacePlan(const std::vector<PacedLine>& lines, double wordsPerSecond)
     double top = 0.0;
     for (const Stretch& stretch : stretches) {
         const double bottom = top + stretch.height;
-        for (double y = double(velocities.size()) * cellHeight; y < bottom; y += cellHeight) {
+        const auto cells = std::size_t(std::ceil(bottom / cellHeight));
+        while (velocities.size() < cells) {
+            const double y = double(velocities.size()) * cellHeight;
             velocities.push_back(stretch.height / stretch.seconds);
             words.push_back(wordsSoFar + stretch.words * (y - top) / stretch.height);
         }

@@ -19,9 +19,10 @@ std::vector<PacedLine> ReadingProgress::withWords(const std::vector<LineBox>& bo
     lines.reserve(boxes.size());
     std::vector<int> starts; // of the words of the paragraph at hand
     for (auto box = boxes.begin(); box != boxes.end(); ++box) {
-        if (box == boxes.begin() || box->paragraph != std::prev(box)->paragraph)
+        if (box == boxes.begin() || box->paragraph != std::prev(box)->paragraph) {
             starts =
                 spokenWordStarts(script.content(box->paragraph).text, script.kind(box->paragraph));
+        }
         const auto next = std::next(box);
         const bool isLast = next == boxes.end() || next->paragraph != box->paragraph;
         const auto first = std::lower_bound(starts.begin(), starts.end(), box->start);

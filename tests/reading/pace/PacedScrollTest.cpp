@@ -40,7 +40,7 @@ double greatestSpeedChange(const std::vector<Frame>& frames) {
 
 /// By how many words the worst stretch of thirty seconds misses the promise.
 double worstHalfMinute(const std::vector<Frame>& frames, double wordsPerMinute) {
-    constexpr std::size_t length = 30 * 60;
+    constexpr std::size_t length = 1800; // frames
     double worst = 0.0;
     for (std::size_t i = length; i < frames.size(); ++i) {
         if (frames[i].words >= frames.back().words) break; // what is left holds no words
