@@ -190,9 +190,10 @@ std::vector<QRectF> ParagraphLayout::placesOf(int line, const TextRange& wanted)
 
 void ParagraphLayout::appendLines(std::vector<LineBox>& boxes, std::size_t paragraph,
                                   double top) const {
-    for (std::size_t line = 0; line < lines.size(); ++line)
+    for (std::size_t line = 0; line < lines.size(); ++line) {
         boxes.push_back({paragraph, text->lineAt(int(line)).textStart(), top + lines[line].top,
                          lines[line].height});
+    }
 }
 
 qsizetype ParagraphLayout::positionAt(const QPointF& point) const {
