@@ -147,7 +147,10 @@ void ReadingSession::advance(double points) {
     const auto now = clocks.steady();
     frames.add(now);
     moveBy(points);
-    if (!isAtEnd()) return elapsed.start(now);
+    if (!isAtEnd()) {
+        if (isOn()) elapsed.start(now); // a soft stop moves the text a little further
+        return;
+    }
     elapsed.stop(now);
     promise.forget();
     if (onEnd) onEnd();

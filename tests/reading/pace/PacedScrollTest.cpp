@@ -154,6 +154,17 @@ TEST_F(PacedScrollTest, WaitsAndPromisesNothingWhileItsSessionIsHeld) {
     EXPECT_TRUE(reading.atEnd());
 }
 
+TEST_F(PacedScrollTest, CountsNoTimeWhileItIsPaused) {
+    reading.show(prose(500));
+    reading.play();
+    reading.run(5);
+    reading.pause();
+    reading.run(10);
+    PrompterStatus status;
+    reading.session->tellProgress(status);
+    EXPECT_NEAR(status.secondsElapsed, 5, 0.1);
+}
+
 TEST_F(PacedScrollTest, GoesOnFromWhereAHandLeftTheReader) {
     reading.show(prose(2000));
     reading.play();
