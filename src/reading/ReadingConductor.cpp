@@ -40,6 +40,8 @@ void ReadingConductor::optionsChanged(const ReadingOptions& before) {
     if (now.pace == before.pace && now.wordsPerMinute == before.wordsPerMinute &&
         now.finishMinutes == before.finishMinutes && now.finishAt == before.finishAt)
         return;
+    // Other minutes count from the same beginning, so that a step on the way is no new start.
+    if (now.pace == before.pace && now.finishAt == before.finishAt) return session->updatePace();
     if ((now.pace == PaceMode::speed) != (before.pace == PaceMode::speed))
         session->setSource(sourceForPace());
     session->promiseAnew();

@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 
 namespace tessaline {
@@ -60,8 +61,9 @@ protected:
     ReadingSettings options{folder.filePath(u"reading.json"_s)};
     TestPlatform fakes;
     std::uint64_t hostTime = 0;
-    const std::shared_ptr<ReadingSession> session =
-        std::make_shared<ReadingSession>(settings.values(), options.values());
+    Clocks::TimePoint now;
+    const std::shared_ptr<ReadingSession> session = std::make_shared<ReadingSession>(
+        settings.values(), options.values(), Clocks{.steady = [this] { return now; }});
     LineView view{*session, 50, 20};
     ReadingConductor conductor{settings, options, session, fakes.platform};
 };
@@ -92,6 +94,17 @@ TEST_F(ReadingConductorTest, GoesOverToAnotherPaceWhileTheTextMoves) {
     const double position = view.position();
     run(5);
     EXPECT_NEAR(view.position() - position, 5 * 5.12, 0.3);
+}
+
+TEST_F(ReadingConductorTest, CountsOtherMinutesFromTheSameBeginning) {
+    options.change([](auto& values) {
+        values.pace = PaceMode::finish;
+        values.finishMinutes = 12;
+    });
+    play();
+    now += std::chrono::minutes(6);
+    options.change([](auto& values) { values.finishMinutes = 11.5; });
+    EXPECT_NEAR(*status().secondsLeft, 5.5 * 60, 1e-6);
 }
 
 TEST_F(ReadingConductorTest, LeavesTheTextAtItsEndUnlessItIsToldOtherwise) {

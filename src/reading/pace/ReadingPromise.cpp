@@ -22,17 +22,12 @@ ReadingPromise::ReadingPromise(const ReadingOptions& borrowed, Clocks given)
 
 void ReadingPromise::begin() {
     if (!hasEnd()) return;
-    using std::chrono::duration_cast;
-    if (options.finishAt) {
-        if (!endOnTheClock) endOnTheClock = nextMomentOf(*options.finishAt);
-    } else if (!endAfterMinutes) {
-        const std::chrono::duration<double> wanted(options.finishMinutes * secondsPerMinute);
-        endAfterMinutes = clocks.steady() + duration_cast<Clocks::TimePoint::duration>(wanted);
-    }
+    if (!begun) begun = clocks.steady();
+    if (options.finishAt && !endOnTheClock) endOnTheClock = nextMomentOf(*options.finishAt);
 }
 
 void ReadingPromise::forget() {
-    endAfterMinutes.reset();
+    begun.reset();
     endOnTheClock.reset();
 }
 
@@ -49,8 +44,9 @@ double ReadingPromise::secondsUntilEnd() const {
         const QDateTime end = endOnTheClock.value_or(nextMomentOf(*options.finishAt));
         return double(clocks.wall().msecsTo(end)) / millisecondsPerSecond;
     }
-    if (!endAfterMinutes) return options.finishMinutes * secondsPerMinute;
-    return std::chrono::duration<double>(*endAfterMinutes - clocks.steady()).count();
+    const double wanted = options.finishMinutes * secondsPerMinute;
+    if (!begun) return wanted;
+    return wanted - std::chrono::duration<double>(clocks.steady() - *begun).count();
 }
 
 double ReadingPromise::wordsPerSecond(double wordsLeft) const {

@@ -41,7 +41,7 @@ private:
 
     const ReadingOptions& options;
     Clocks clocks;
-    std::optional<Clocks::TimePoint> endAfterMinutes;
+    std::optional<Clocks::TimePoint> begun;
     std::optional<QDateTime> endOnTheClock;
 };
 
