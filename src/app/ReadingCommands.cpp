@@ -31,6 +31,11 @@ void takeOverEyeLine(const ControlRequest& request, ReadingOptions& options) {
     if (request.argument != "second"_L1) options.eyeLine = request.number() / 100.0;
 }
 
+void takeOverFont(const ControlRequest& request, ReadingOptions& options) {
+    options.fontFamily.reset();
+    if (request.argument != "default"_L1) options.fontFamily = request.argument;
+}
+
 } // namespace
 
 void takeOver(const ControlRequest& request, ReadingOptions& options) {
@@ -49,6 +54,23 @@ void takeOver(const ControlRequest& request, ReadingOptions& options) {
         return;
     case ControlCommand::glide:
         options.glide = request.argument == "on"_L1;
+        return;
+    case ControlCommand::mirror:
+        decode(JsonValue{request.argument}, options.mirror);
+        return;
+    case ControlCommand::opacity:
+        options.groundOpacity = request.number() / 100.0;
+        return;
+    case ControlCommand::clickThrough:
+        options.clickThrough = request.argument == "on"_L1;
+        return;
+    case ControlCommand::font:
+        return takeOverFont(request, options);
+    case ControlCommand::lineSpacing:
+        options.lineSpacing = request.number();
+        return;
+    case ControlCommand::distance:
+        options.readingDistance = request.number();
         return;
     default:
         return;

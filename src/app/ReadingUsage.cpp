@@ -17,7 +17,8 @@ struct Option {
     QString value;
 };
 
-/// When somebody's talk ends is nobody's business, only that it has such a time.
+/// When somebody's talk ends is nobody's business, only that it has such a time; which fonts they
+/// have is not either.
 std::vector<Option> optionsOf(const ReadingOptions& options) {
     return {
         {u"pace"_s, rawValue(options.pace)},
@@ -30,6 +31,12 @@ std::vector<Option> optionsOf(const ReadingOptions& options) {
         {u"countdownSeconds"_s, QString::number(options.countdownSeconds)},
         {u"atEnd"_s, rawValue(options.atEnd)},
         {u"glide"_s, booleanText(options.glide)},
+        {u"mirror"_s, rawValue(options.mirror)},
+        {u"groundOpacity"_s, QString::number(options.groundOpacity)},
+        {u"clickThrough"_s, booleanText(options.clickThrough)},
+        {u"fontFamily"_s, booleanText(options.fontFamily.has_value())},
+        {u"lineSpacing"_s, QString::number(options.lineSpacing)},
+        {u"readingDistance"_s, QString::number(options.readingDistance)},
     };
 }
 

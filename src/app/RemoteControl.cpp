@@ -92,6 +92,12 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::countdown:
     case ControlCommand::atEnd:
     case ControlCommand::glide:
+    case ControlCommand::mirror:
+    case ControlCommand::opacity:
+    case ControlCommand::clickThrough:
+    case ControlCommand::font:
+    case ControlCommand::lineSpacing:
+    case ControlCommand::distance:
         return delegate.reading().change(
             [&request](ReadingOptions& options) { takeOver(request, options); });
     case ControlCommand::quit:

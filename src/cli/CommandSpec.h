@@ -15,6 +15,7 @@ struct CommandValue {
         text, ///< anything, or one of the choices where there are any
         file,
         number, ///< a number within the limits, or one of the choices
+        phrase, ///< all that follows, as one text
         finish, ///< minutes within the limits, such as "12m", or a time of day, such as "15:30"
     };
 

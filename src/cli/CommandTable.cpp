@@ -130,6 +130,8 @@ constexpr QStringView guides[] = {u"none", u"marker", u"band"};
 constexpr QStringView bandLines[] = {u"1", u"2"};
 constexpr QStringView eyeLines[] = {u"second"};
 constexpr QStringView ends[] = {u"stand", u"stop", u"round"};
+constexpr QStringView mirrorWays[] = {u"none", u"horizontal", u"vertical", u"both"};
+constexpr QStringView fonts[] = {u"default"};
 constexpr QStringView switchStates[] = {u"on", u"off"};
 constexpr CommandValue nothing{};
 
@@ -213,6 +215,39 @@ constexpr ControlAction actions[] = {
      u"glide",
      {.name = u"on|off", .choices = switchStates},
      u"Ease jumps to headings, top and end, or not."},
+    {C::mirror,
+     u"mirror",
+     {.name = u"none|horizontal|vertical|both", .choices = mirrorWays},
+     u"Turn the text over, for glass and mirrors."},
+    {C::opacity,
+     u"opacity",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = 100.0 * ReadingOptions::leastGroundOpacity,
+      .most = 100.0},
+     u"Let the desktop through behind the text."},
+    {C::clickThrough,
+     u"click-through",
+     {.name = u"on|off", .choices = switchStates},
+     u"Let the mouse through the text, or not."},
+    {C::font,
+     u"font",
+     {.name = u"default|FAMILY", .choices = fonts, .kind = Kind::phrase},
+     u"Show the text in this font."},
+    {C::lineSpacing,
+     u"line-spacing",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = ReadingOptions::leastLineSpacing,
+      .most = ReadingOptions::mostLineSpacing},
+     u"Make lines N times as high, from 1 to 2."},
+    {C::distance,
+     u"distance",
+     {.name = u"CM",
+      .kind = Kind::number,
+      .least = ReadingOptions::leastReadingDistance,
+      .most = ReadingOptions::mostReadingDistance},
+     u"Say how far away the text is read."},
     {C::quit, u"quit", nothing, u"End the program."},
     {C::status, u"status", nothing, u"Print its state as one JSON object."},
 };
@@ -224,6 +259,9 @@ constexpr HelpEntry controlStatuses[] = {
     {u"1", u"No prompter is running, or it could not do it."},
     {u"2", u"A wrong argument. Nothing has changed then."},
 };
+
+/// Of a command to the prompter: the names of fonts have several.
+constexpr qsizetype mostWords = 20;
 
 constexpr HelpEntry controlExamples[] = {
     {u"tessaline ctl toggle", u"For a key or a foot pedal: start and stop."},
@@ -256,12 +294,13 @@ constexpr CommandSpec commands[] = {
             u"'faster' and 'slower' step what the pace is: the speed by 0.25, the words by 5,\n"
             u"the minutes by 0.5, the time by one minute.\n"
             u"\n"
-            u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n",
+            u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n"
+            u"N of 'opacity' is from 30 to 100 percent, CM is from 40 to 200.\n",
         .options = controlOptions,
         .actions = actions,
         .sections = controlSections,
         .leastOperands = 1,
-        .mostOperands = 3,
+        .mostOperands = mostWords,
     },
     {
         .name = u"render",

@@ -138,6 +138,18 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return "at the end: "_L1 + rawValue(status.atEnd);
     case ControlCommand::glide:
         return status.glide ? u"glide on"_s : u"glide off"_s;
+    case ControlCommand::mirror:
+        return "mirror "_L1 + rawValue(status.mirror);
+    case ControlCommand::opacity:
+        return u"opacity %1 percent"_s.arg(status.opacity);
+    case ControlCommand::clickThrough:
+        return status.clickThrough ? u"click-through on"_s : u"click-through off"_s;
+    case ControlCommand::font:
+        return "font "_L1 + status.font;
+    case ControlCommand::lineSpacing:
+        return u"line spacing %1"_s.arg(status.lineSpacing);
+    case ControlCommand::distance:
+        return u"reading distance %1 cm"_s.arg(status.distance);
     case ControlCommand::quit:
         return u"ending"_s;
     case ControlCommand::status:

@@ -32,6 +32,12 @@ enum class ControlCommand : std::uint8_t {
     countdown,
     atEnd,
     glide,
+    mirror,
+    opacity,
+    clickThrough,
+    font,
+    lineSpacing,
+    distance,
     quit,
     status,
 };

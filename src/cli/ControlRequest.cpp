@@ -31,6 +31,7 @@ QString allowed(const CommandValue& value) {
     for (const QStringView choice : value.choices)
         words += choice.toString();
     if (value.kind == Kind::number) words += numbersOf(value);
+    if (value.kind == Kind::phrase) words += u"a name"_s;
     const QString last = words.takeLast();
     return words.isEmpty() ? last : words.join(", "_L1) + " or "_L1 + last;
 }
@@ -56,6 +57,7 @@ std::optional<QString> checkedFinish(const CommandValue& value, const QString& t
 std::optional<QString> checked(const CommandValue& value, const QString& word) {
     const auto& choices = value.choices;
     if (std::find(choices.begin(), choices.end(), word) != choices.end()) return word;
+    if (value.kind == Kind::phrase && !word.isEmpty()) return word;
     if (value.kind == Kind::number) return checkedNumber(value, word);
     if (value.kind == Kind::finish) return checkedFinish(value, word);
     return {};
@@ -73,7 +75,7 @@ public:
             problem = u"%1 needs %2"_s.arg(before, allowed(value));
             return {};
         }
-        const QString& word = words[next++];
+        const QString word = takeText(value.kind);
         auto result = checked(value, word);
         if (!result) problem = u"%1 '%2' is not %3"_s.arg(before, word, allowed(value));
         return result;
@@ -86,6 +88,13 @@ public:
     QString problem;
 
 private:
+    QString takeText(Kind kind) {
+        if (kind != Kind::phrase) return words[next++];
+        const QString text = words.sliced(next).join(u' ').trimmed();
+        next = words.size();
+        return text;
+    }
+
     const QStringList& words;
     qsizetype next = 1; ///< behind the command's name
 };

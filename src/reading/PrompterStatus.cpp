@@ -28,6 +28,12 @@ void tellOptions(const ReadingOptions& options, QTime now, PrompterStatus& statu
     status.countdown = int(std::lround(options.countdownSeconds));
     status.atEnd = options.atEnd;
     status.glide = options.glide;
+    status.mirror = options.mirror;
+    status.opacity = int(std::lround(options.groundOpacity * 100.0));
+    status.clickThrough = options.clickThrough;
+    status.font = options.fontFamily.value_or(u"default"_s);
+    status.lineSpacing = options.lineSpacing;
+    status.distance = int(std::lround(options.readingDistance));
 }
 
 } // namespace tessaline

@@ -42,6 +42,12 @@ struct PrompterStatus {
     int countdown = 0; ///< seconds
     ScriptEnd atEnd = ScriptEnd::stand;
     bool glide = false;
+    Mirroring mirror = Mirroring::none;
+    int opacity = 100; ///< of the ground, in percent
+    bool clickThrough = false;
+    QString font; ///< "default", or the family's name
+    double lineSpacing = 1.0;
+    int distance = 0; ///< centimetres
 
     bool operator==(const PrompterStatus&) const = default;
 
@@ -75,6 +81,12 @@ struct PrompterStatus {
         visit("countdown", status.countdown);
         visit("atEnd", status.atEnd);
         visit("glide", status.glide);
+        visit("mirror", status.mirror);
+        visit("opacity", status.opacity);
+        visit("clickThrough", status.clickThrough);
+        visit("font", status.font);
+        visit("lineSpacing", status.lineSpacing);
+        visit("distance", status.distance);
     }
 };
 

@@ -39,6 +39,10 @@ QString rawValue(ScriptEnd end) {
     return rawValueIn(scriptEnds, end);
 }
 
+QString rawValue(Mirroring mirroring) {
+    return rawValueIn(mirrorings, mirroring);
+}
+
 JsonValue encode(PaceMode mode) {
     return {rawValue(mode)};
 }
@@ -51,6 +55,10 @@ JsonValue encode(ScriptEnd end) {
     return {rawValue(end)};
 }
 
+JsonValue encode(Mirroring mirroring) {
+    return {rawValue(mirroring)};
+}
+
 bool decode(const JsonValue& value, PaceMode& mode) {
     return decodeIn(paceModes, value, mode);
 }
@@ -61,6 +69,10 @@ bool decode(const JsonValue& value, ReadingGuide& guide) {
 
 bool decode(const JsonValue& value, ScriptEnd& end) {
     return decodeIn(scriptEnds, value, end);
+}
+
+bool decode(const JsonValue& value, Mirroring& mirroring) {
+    return decodeIn(mirrorings, value, mirroring);
 }
 
 } // namespace tessaline

@@ -19,6 +19,9 @@ enum class ReadingGuide { none, marker, band };
 /// or the script begins again.
 enum class ScriptEnd { stand, stop, goRound };
 
+/// How the text is turned over, for whoever reads it in a mirror or on glass.
+enum class Mirroring { none, horizontal, vertical, both };
+
 /// A choice, and the string that stands for it in files, commands and usage events.
 template <typename T>
 struct Choice {
@@ -44,19 +47,29 @@ inline constexpr std::array scriptEnds{
     Choice<ScriptEnd>{ScriptEnd::goRound, u"round"},
 };
 
+inline constexpr std::array mirrorings{
+    Choice<Mirroring>{Mirroring::none, u"none"},
+    Choice<Mirroring>{Mirroring::horizontal, u"horizontal"},
+    Choice<Mirroring>{Mirroring::vertical, u"vertical"},
+    Choice<Mirroring>{Mirroring::both, u"both"},
+};
+
 QString rawValue(PaceMode mode);
 QString rawValue(ReadingGuide guide);
 QString rawValue(ScriptEnd end);
+QString rawValue(Mirroring mirroring);
 
 /// The JSON text that stands for a choice.
 JsonValue encode(PaceMode mode);
 JsonValue encode(ReadingGuide guide);
 JsonValue encode(ScriptEnd end);
+JsonValue encode(Mirroring mirroring);
 
 /// Takes over the choice that a JSON text stands for. False, and no change, when it stands for
 /// none.
 bool decode(const JsonValue& value, PaceMode& mode);
 bool decode(const JsonValue& value, ReadingGuide& guide);
 bool decode(const JsonValue& value, ScriptEnd& end);
+bool decode(const JsonValue& value, Mirroring& mirroring);
 
 } // namespace tessaline

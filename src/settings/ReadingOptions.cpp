@@ -15,6 +15,15 @@ auto within(double least, double most, double step) {
     return [=](double& value) { value = std::clamp(std::round(value / step) * step, least, most); };
 }
 
+auto inTwentieths(double least, double most) {
+    // Divided last: 0.35 is the number that is nearest to it, and no sum of steps.
+    return [=](double& value) { value = std::clamp(std::round(value * 20.0) / 20.0, least, most); };
+}
+
+void dropEmpty(std::optional<QString>& text) {
+    if (text && text->isEmpty()) text.reset();
+}
+
 } // namespace
 
 const SettingsTable<ReadingOptions>& readingOptionsTable() {
@@ -40,6 +49,16 @@ const SettingsTable<ReadingOptions>& readingOptionsTable() {
                     within(0.0, Options::mostCountdownSeconds, 1.0)),
         settingsKey("atEnd", &Options::atEnd),
         settingsKey("glide", &Options::glide),
+        settingsKey("mirror", &Options::mirror),
+        settingsKey("groundOpacity", &Options::groundOpacity,
+                    inTwentieths(Options::leastGroundOpacity, 1.0)),
+        settingsKey("clickThrough", &Options::clickThrough),
+        settingsKey("fontFamily", &Options::fontFamily, dropEmpty),
+        settingsKey("lineSpacing", &Options::lineSpacing,
+                    inTwentieths(Options::leastLineSpacing, Options::mostLineSpacing)),
+        settingsKey("readingDistance", &Options::readingDistance,
+                    within(Options::leastReadingDistance, Options::mostReadingDistance,
+                           Options::readingDistanceStep)),
     });
     return table;
 }

@@ -3,6 +3,8 @@
 #include "settings/ReadingChoices.h"
 #include "settings/TimeOfDay.h"
 
+#include <QString>
+
 #include <optional>
 
 namespace tessaline {
@@ -22,6 +24,13 @@ struct ReadingOptions {
     static constexpr double mostEyeLine = 0.5;
     static constexpr double mostGuideLines = 2.0;
     static constexpr double mostCountdownSeconds = 10.0;
+    static constexpr double leastGroundOpacity = 0.3;
+    static constexpr double leastLineSpacing = 1.0;
+    static constexpr double mostLineSpacing = 2.0;
+    static constexpr double leastReadingDistance = 40.0;
+    static constexpr double mostReadingDistance = 200.0;
+    static constexpr double readingDistanceStep = 5.0;
+    static constexpr double twentieth = 0.05; ///< the step of the opacity and the line spacing
 
     PaceMode pace = PaceMode::speed;
     double wordsPerMinute = 150.0;
@@ -33,6 +42,12 @@ struct ReadingOptions {
     double countdownSeconds = 0.0; ///< whole
     ScriptEnd atEnd = ScriptEnd::stand;
     bool glide = false; ///< jumps are eased
+    Mirroring mirror = Mirroring::none;
+    double groundOpacity = 1.0;        ///< of the black behind the text
+    bool clickThrough = false;         ///< the mouse works on what is below the text
+    std::optional<QString> fontFamily; ///< none: the system's
+    double lineSpacing = 1.0;          ///< a line's height as a multiple of the usual one
+    double readingDistance = 60.0;     ///< centimetres from the eyes to the screen
 
     bool operator==(const ReadingOptions&) const = default;
 };

@@ -61,6 +61,21 @@ TEST_F(ReadingUsageTest, RecordsWhatHasChangedAndNothingElse) {
                             Pair(u"atEnd"_s, u"round"_s), Pair(u"glide"_s, u"true"_s)));
 }
 
+TEST_F(ReadingUsageTest, RecordsHowTheTextLooksButNotWhichFontsThereAre) {
+    settings.change([](ReadingOptions& options) {
+        options.mirror = Mirroring::horizontal;
+        options.groundOpacity = 0.7;
+        options.clickThrough = true;
+        options.fontFamily = u"My Own Hand"_s;
+        options.lineSpacing = 1.5;
+        options.readingDistance = 90;
+    });
+    EXPECT_THAT(recorded(),
+                ElementsAre(Pair(u"mirror"_s, u"horizontal"_s), Pair(u"groundOpacity"_s, u"0.7"_s),
+                            Pair(u"clickThrough"_s, u"true"_s), Pair(u"fontFamily"_s, u"true"_s),
+                            Pair(u"lineSpacing"_s, u"1.5"_s), Pair(u"readingDistance"_s, u"90"_s)));
+}
+
 TEST_F(ReadingUsageTest, KeepsTheTimeOfTheEndToItself) {
     settings.change([](ReadingOptions& options) { options.finishAt = TimeOfDay{930}; });
     EXPECT_THAT(recorded(), ElementsAre(Pair(u"finishAt"_s, u"true"_s)));

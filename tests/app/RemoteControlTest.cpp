@@ -138,6 +138,27 @@ TEST_F(RemoteControlTest, ChangesTheReadingOptions) {
     EXPECT_EQ(savedSettings().values(), delegate->currentSettings().values());
 }
 
+TEST_F(RemoteControlTest, ChangesHowTheTextLooks) {
+    launch();
+    const ReadingSettings& reading = delegate->reading();
+    EXPECT_EQ(textOf(u"mirror both"_s), u"mirror both"_s);
+    EXPECT_EQ(textOf(u"opacity 70"_s), u"opacity 70 percent"_s);
+    EXPECT_EQ(textOf(u"click-through on"_s), u"click-through on"_s);
+    EXPECT_EQ(textOf(u"font DejaVu Serif"_s), u"font DejaVu Serif"_s);
+    EXPECT_EQ(textOf(u"line-spacing 1.5"_s), u"line spacing 1.5"_s);
+    EXPECT_EQ(textOf(u"distance 83"_s), u"reading distance 85 cm"_s);
+    EXPECT_EQ(reading.values(), (ReadingOptions{.mirror = Mirroring::both,
+                                                .groundOpacity = 0.7,
+                                                .clickThrough = true,
+                                                .fontFamily = u"DejaVu Serif"_s,
+                                                .lineSpacing = 1.5,
+                                                .readingDistance = 85}));
+    for (const auto words : {"mirror none", "opacity 100", "click-through off", "font default",
+                             "line-spacing 1", "distance 60"})
+        textOf(QString::fromLatin1(words));
+    EXPECT_EQ(reading.values(), ReadingOptions());
+}
+
 TEST_F(RemoteControlTest, ShowsTheReadingOptionsWithoutTheSettings) {
     launch();
     const auto readingWindows = [] {

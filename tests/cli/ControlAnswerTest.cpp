@@ -35,7 +35,13 @@ PrompterStatus aStatus() {
             .guideLines = 2,
             .countdown = 3,
             .atEnd = ScriptEnd::goRound,
-            .glide = true};
+            .glide = true,
+            .mirror = Mirroring::vertical,
+            .opacity = 65,
+            .clickThrough = true,
+            .font = u"DejaVu Serif"_s,
+            .lineSpacing = 1.25,
+            .distance = 80};
 }
 
 PrompterStatus with(void (*change)(PrompterStatus& status)) {
@@ -101,6 +107,15 @@ TEST(ControlAnswer, TellsTheReadingOptions) {
     EXPECT_EQ(answer(ControlCommand::glide), u"glide on"_s);
 }
 
+TEST(ControlAnswer, TellsHowTheTextLooks) {
+    EXPECT_EQ(answer(ControlCommand::mirror), u"mirror vertical"_s);
+    EXPECT_EQ(answer(ControlCommand::opacity), u"opacity 65 percent"_s);
+    EXPECT_EQ(answer(ControlCommand::clickThrough), u"click-through on"_s);
+    EXPECT_EQ(answer(ControlCommand::font), u"font DejaVu Serif"_s);
+    EXPECT_EQ(answer(ControlCommand::lineSpacing), u"line spacing 1.25"_s);
+    EXPECT_EQ(answer(ControlCommand::distance), u"reading distance 80 cm"_s);
+}
+
 TEST(ControlAnswer, TellsEverythingAsJson) {
     EXPECT_EQ(answer(ControlCommand::status),
               u"{\"version\":\"1.2.3\",\"visible\":true,\"collapsed\":false,"
@@ -111,7 +126,8 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
               "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
               "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
               "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
-              "\"glide\":true}"_s);
+              "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"clickThrough\":true,"
+              "\"font\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80}"_s);
 }
 
 } // namespace

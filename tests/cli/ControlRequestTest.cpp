@@ -139,8 +139,24 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"countdown 2.5", "countdown '2.5' is not a whole number from 0 to 10"},
         Refused{"countdown 11", "countdown '11' is not a whole number from 0 to 10"},
         Refused{"at-end jump", "at-end 'jump' is not stand, stop or round"},
-        Refused{"glide", "glide needs on or off"}),
+        Refused{"glide", "glide needs on or off"},
+        Refused{"mirror left", "mirror 'left' is not none, horizontal, vertical or both"},
+        Refused{"opacity 29", "opacity '29' is not a number from 30 to 100"},
+        Refused{"font", "font needs default or a name"},
+        Refused{"font ", "font '' is not default or a name"},
+        Refused{"line-spacing 2.1", "line-spacing '2.1' is not a number from 1 to 2"},
+        Refused{"distance 201", "distance '201' is not a number from 40 to 200"}),
     byMember<&Refused::words>);
+
+TEST(ControlRequest, TakesANameOfSeveralWordsAsOne) {
+    for (const QStringList& words :
+         {QStringList{u"font"_s, u"DejaVu"_s, u"Sans"_s}, {u"font"_s, u"DejaVu Sans"_s}}) {
+        const auto request = ControlRequest::parse(words, nullptr);
+        ASSERT_TRUE(request.has_value());
+        EXPECT_EQ(request->argument, u"DejaVu Sans"_s);
+        EXPECT_EQ(ControlRequest::parse(request->words(), nullptr), request);
+    }
+}
 
 TEST(ControlRequest, ReadsTheFormsOfAMomentToFinish) {
     const auto detailOf = [](const QString& when) {
@@ -171,6 +187,7 @@ TEST(ControlRequest, OffersWhatTheReadingOptionsKnow) {
     EXPECT_EQ(choicesOf(u"pace"), rawValuesOf(paceModes));
     EXPECT_EQ(choicesOf(u"guide"), rawValuesOf(readingGuides));
     EXPECT_EQ(choicesOf(u"at-end"), rawValuesOf(scriptEnds));
+    EXPECT_EQ(choicesOf(u"mirror"), rawValuesOf(mirrorings));
 }
 
 TEST(ControlRequest, OffersWhatTheSettingsKnow) {

@@ -49,7 +49,8 @@ class RemoteControl(PrompterTestCase):
             + ["maximumScrollPosition", "speed", "rate", "autoScroll", "frameRate"]
             + ["pace", "wordsPerMinute", "wordsRead", "secondsLeft", "secondsElapsed"]
             + ["wantedWordsPerMinute", "finish", "finishTomorrow", "eyeLine", "guide"]
-            + ["guideLines", "countdown", "atEnd", "glide"],
+            + ["guideLines", "countdown", "atEnd", "glide"]
+            + ["mirror", "opacity", "clickThrough", "font", "lineSpacing", "distance"],
         )
         self.assertEqual(status["version"], self.call("--version")[1].split()[1])
         self.assertTrue(status["visible"])

@@ -54,7 +54,13 @@ ReadingOptions everythingElse() {
             .guideLines = 2,
             .countdownSeconds = 3,
             .atEnd = ScriptEnd::goRound,
-            .glide = true};
+            .glide = true,
+            .mirror = Mirroring::both,
+            .groundOpacity = 0.35,
+            .clickThrough = true,
+            .fontFamily = u"DejaVu Serif"_s,
+            .lineSpacing = 1.15,
+            .readingDistance = 85};
 }
 
 constexpr auto everythingElseWritten = R"({
@@ -67,7 +73,13 @@ constexpr auto everythingElseWritten = R"({
   "guideLines": 2.0,
   "countdownSeconds": 3.0,
   "atEnd": "round",
-  "glide": true
+  "glide": true,
+  "mirror": "both",
+  "groundOpacity": 0.35,
+  "clickThrough": true,
+  "fontFamily": "DejaVu Serif",
+  "lineSpacing": 1.15,
+  "readingDistance": 85.0
 }
 )";
 

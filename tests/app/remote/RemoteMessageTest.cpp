@@ -66,7 +66,13 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .guideLines = 2,
                                 .countdown = 3,
                                 .atEnd = ScriptEnd::stop,
-                                .glide = true};
+                                .glide = true,
+                                .mirror = Mirroring::horizontal,
+                                .opacity = 30,
+                                .clickThrough = true,
+                                .font = u"DejaVu Serif"_s,
+                                .lineSpacing = 1.05,
+                                .distance = 200};
     EXPECT_EQ(sentAndRead(RemoteAnswer(status)), RemoteAnswer(status));
     EXPECT_EQ(sentAndRead(RemoteAnswer(PrompterStatus{})), RemoteAnswer(PrompterStatus{}));
 }
