@@ -23,7 +23,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr TimerMaker::Interval flushInterval{10.0};
+constexpr TimerMaker::Interval sendInterval{10.0};
 
 QString newIdentifier() {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
@@ -46,7 +46,7 @@ TelemetryDeckClient::TelemetryDeckClient(Setup given, TelemetryOptions clientOpt
     , sessionID(newIdentifier())
     , everySignalsPayload(defaultPayload()) {
     if (options.isAllowed)
-        flushTimer = setup.platform.timers->every(flushInterval, [this] { flush(); });
+        flushTimer = setup.platform.timers->every(sendInterval, [this] { flush(); });
 }
 
 TelemetryDeckClient::~TelemetryDeckClient() = default;

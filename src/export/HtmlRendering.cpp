@@ -12,9 +12,6 @@ namespace tessaline {
 
 namespace {
 
-/// So many bytes are gathered before the sink gets them.
-constexpr qsizetype pieceSize = 1 << 16;
-
 QByteArray pageStart(const QString& title, int width, const HtmlStyles& styles) {
     return "<!DOCTYPE html>\n"
            "<html>\n"
@@ -90,7 +87,7 @@ bool writeHtml(StyledText styled, const QString& title, int width, ByteSink& sin
     QByteArray out = pageStart(title, width, styles);
     for (std::size_t index = 0; index < script.paragraphs.size(); ++index) {
         body.append(out, index);
-        if (out.size() < pieceSize) continue;
+        if (out.size() < ByteSink::pieceSize) continue;
         if (!sink.write(out)) return false;
         out.resize(0); // unlike clear(), keeps the memory
     }

@@ -9,9 +9,6 @@ namespace tessaline {
 
 namespace {
 
-/// So many bytes are gathered before the sink gets them.
-constexpr qsizetype pieceSize = 1 << 16;
-
 /// A run's members lie in the run, in the array of runs, in the document.
 constexpr int runDepth = 3;
 
@@ -120,7 +117,7 @@ bool writeJson(const StyledText& styled, qsizetype wordCount, ByteSink& sink) {
         json.number(double(run.length));
         json.members(members[std::size_t(run.style)]);
         json.endObject();
-        if (out.size() < pieceSize) continue;
+        if (out.size() < ByteSink::pieceSize) continue;
         if (!sink.write(out)) return false;
         out.resize(0); // unlike clear(), keeps the memory
     }

@@ -14,7 +14,7 @@ namespace tessaline {
 
 namespace {
 
-constexpr TimerMaker::Interval pollInterval{1.0};
+constexpr TimerMaker::Interval notePollInterval{1.0};
 
 std::optional<QString> readContent(const QString& path) {
     auto result = readContentFile(path, ByteOrderMark::drop);
@@ -50,7 +50,7 @@ void ObsidianSource::startWatching(ContentCallback onChange) {
     *isWatching = true;
     lastContent.clear();
     loadInitially();
-    fileTimer = timerMaker.every(pollInterval, [this] { checkForUpdates(); });
+    fileTimer = timerMaker.every(notePollInterval, [this] { checkForUpdates(); });
 }
 
 void ObsidianSource::stopWatching() {

@@ -46,23 +46,23 @@ TEST_P(Iso8601Readable, IsUnderstood) {
     EXPECT_EQ(fromIso8601(GetParam().text), GetParam().moment);
 }
 
-const QDateTime moment = utc(2026, 11, 20, 21, 44, 30);
+const QDateTime wholeSecond = utc(2026, 11, 20, 21, 44, 30);
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, Iso8601Readable,
-    testing::Values(Readable{"Utc", "2026-11-20T21:44:30Z", moment},
-                    Readable{"Tenths", "2026-11-20T21:44:30.5Z", moment.addMSecs(500)},
-                    Readable{"Milliseconds", "2026-11-20T21:44:30.123Z", moment.addMSecs(123)},
-                    Readable{"Nanoseconds", "2026-11-20T21:44:30.999999999Z", moment.addMSecs(999)},
-                    Readable{"Comma", "2026-11-20T21:44:30,25Z", moment.addMSecs(250)},
-                    Readable{"Ahead", "2026-11-20T22:44:30+01:00", moment},
-                    Readable{"Behind", "2026-11-20T16:14:30-05:30", moment},
-                    Readable{"WithoutColon", "2026-11-20T22:44:30+0100", moment},
-                    Readable{"HoursOnly", "2026-11-20T22:44:30+01", moment},
-                    Readable{"FractionAndOffset", "2026-11-21T06:44:30.5+09:00",
-                             moment.addMSecs(500)},
-                    Readable{"NoOffset", "2026-11-20T21:44:30-00:00", moment},
-                    Readable{"LeapDay", "2024-02-29T00:00:00Z", utc(2024, 2, 29, 0, 0, 0)}),
+    testing::Values(
+        Readable{"Utc", "2026-11-20T21:44:30Z", wholeSecond},
+        Readable{"Tenths", "2026-11-20T21:44:30.5Z", wholeSecond.addMSecs(500)},
+        Readable{"Milliseconds", "2026-11-20T21:44:30.123Z", wholeSecond.addMSecs(123)},
+        Readable{"Nanoseconds", "2026-11-20T21:44:30.999999999Z", wholeSecond.addMSecs(999)},
+        Readable{"Comma", "2026-11-20T21:44:30,25Z", wholeSecond.addMSecs(250)},
+        Readable{"Ahead", "2026-11-20T22:44:30+01:00", wholeSecond},
+        Readable{"Behind", "2026-11-20T16:14:30-05:30", wholeSecond},
+        Readable{"WithoutColon", "2026-11-20T22:44:30+0100", wholeSecond},
+        Readable{"HoursOnly", "2026-11-20T22:44:30+01", wholeSecond},
+        Readable{"FractionAndOffset", "2026-11-21T06:44:30.5+09:00", wholeSecond.addMSecs(500)},
+        Readable{"NoOffset", "2026-11-20T21:44:30-00:00", wholeSecond},
+        Readable{"LeapDay", "2024-02-29T00:00:00Z", utc(2024, 2, 29, 0, 0, 0)}),
     byMember<&Readable::name>);
 
 class Iso8601Unreadable : public testing::TestWithParam<const char*> {};

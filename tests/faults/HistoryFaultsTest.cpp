@@ -13,7 +13,7 @@ const QByteArray oldEvents = R"([
 ]
 )";
 
-const auto allFaults = faultsOf({"open", "write", "fsync", "rename", "close"});
+const auto fileFaults = faultsOf({"open", "write", "fsync", "rename", "close"});
 const auto folderFaults = faultsOf({"mkdir"});
 
 class HistoryFlushFaults : public InputOutputFaults {
@@ -59,7 +59,7 @@ TEST_P(HistoryFlushFaults, LoseNothingThatCouldNotBeUnderstood) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(, HistoryFlushFaults, testing::ValuesIn(allFaults), byValue);
+INSTANTIATE_TEST_SUITE_P(, HistoryFlushFaults, testing::ValuesIn(fileFaults), byValue);
 
 using HistoryReadFaults = InputOutputFaults;
 

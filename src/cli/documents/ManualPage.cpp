@@ -30,7 +30,7 @@ QString options(const CommandSpec& spec) {
     return text;
 }
 
-QString actions(const CommandSpec& spec) {
+QString actionEntries(const CommandSpec& spec) {
     QString text;
     for (const ControlAction& action : spec.actions)
         text += roffEntry(roffBold(action.name) + valueMarkup(action.value), action.help);
@@ -54,7 +54,7 @@ QString entries(const HelpSection& section) {
 /// Everything about a command.
 QString command(const CommandSpec& spec) {
     QString text = ".SH "_L1 + roffText(spec.name.toString().toUpper()) + u'\n';
-    text += roffParagraphs(spec.description) + actions(spec);
+    text += roffParagraphs(spec.description) + actionEntries(spec);
     text += ".SS Options of "_L1 + roffText(spec.name) + u'\n' + options(spec);
     if (!spec.notes.isEmpty()) text += ".PP\n"_L1 + roffParagraphs(spec.notes);
     for (const HelpSection& section : spec.sections)

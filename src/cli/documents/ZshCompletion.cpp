@@ -13,7 +13,7 @@ namespace {
 
 // %1: the program's options, %2: its commands, %3: the function of each command,
 // %4: the commands as a pattern.
-constexpr auto script = R"(#compdef tessaline
+constexpr auto zshScript = R"(#compdef tessaline
 
 %3
 _tessaline_first() {
@@ -37,7 +37,7 @@ _tessaline "$@"
 )";
 
 /// The help's first sentence, safe within a quoted word of the shell and a part of it.
-QString summary(QStringView help) {
+QString quotedSummary(QStringView help) {
     QString text = firstSentence(help).replace(u'\'', u"'\\''"_s);
     for (const QChar special : {u'[', u']', u':'})
         text.replace(special, u'\\' + QString(special));
@@ -54,7 +54,7 @@ QString optionArguments(const CommandSpec& spec) {
     QStringList words;
     for (const CommandOption& option : spec.options) {
         const QString name = "--"_L1 + option.name.toString();
-        QString rest = u"[%1]"_s.arg(summary(option.help));
+        QString rest = u"[%1]"_s.arg(quotedSummary(option.help));
         if (option.value.isTaken())
             rest += u":%1:%2"_s.arg(option.value.name.toString(), action(option.value));
         const QString equals = option.value.isTaken() ? u"="_s : QString();
@@ -74,7 +74,7 @@ QString optionArguments(const CommandSpec& spec) {
 QString descriptions(const auto& entries, const auto& helpOf) {
     QString text;
     for (const auto& entry : entries)
-        text += u"        '%1:%2'\n"_s.arg(entry.name.toString(), summary(helpOf(entry)));
+        text += u"        '%1:%2'\n"_s.arg(entry.name.toString(), quotedSummary(helpOf(entry)));
     return text;
 }
 
@@ -126,8 +126,8 @@ QString zshCompletion() {
     }
     const QString commands =
         descriptions(commandSpecs(), [](const auto& spec) { return spec.summary; });
-    return QString::fromUtf8(script).arg(optionArguments(programSpec()), commands,
-                                         functions.join(u'\n'), names.join(u'|'));
+    return QString::fromUtf8(zshScript).arg(optionArguments(programSpec()), commands,
+                                            functions.join(u'\n'), names.join(u'|'));
 }
 
 } // namespace tessaline

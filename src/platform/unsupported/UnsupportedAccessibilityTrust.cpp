@@ -1,16 +1,10 @@
 #include "platform/unsupported/UnsupportedAccessibilityTrust.h"
 
-#include <QLoggingCategory>
+#include "platform/PlatformLog.h"
 
 #include <utility>
 
 namespace tessaline {
-
-namespace {
-
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
-
-} // namespace
 
 bool UnsupportedAccessibilityTrust::isTrusted() const {
     return false;

@@ -1,16 +1,10 @@
 #include "platform/unsupported/UnsupportedGlobalKeyMonitor.h"
 
-#include <QLoggingCategory>
+#include "platform/PlatformLog.h"
 
 #include <utility>
 
 namespace tessaline {
-
-namespace {
-
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
-
-} // namespace
 
 std::unique_ptr<GlobalKeyMonitor::Registration>
 UnsupportedGlobalKeyMonitor::start(const Chord& /*chord*/, Handler /*handler*/) {

@@ -1,18 +1,11 @@
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/qt/WidgetFrame.h"
-
-#include <QLoggingCategory>
 
 #include <utility>
 
 namespace tessaline {
-namespace {
-
-Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
-
-} // namespace
-
 Qt::WindowFlags UnsupportedWindowTraits::creationFlags() const {
     return Qt::WindowStaysOnTopHint;
 }

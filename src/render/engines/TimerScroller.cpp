@@ -13,7 +13,7 @@ namespace {
 
 constexpr double framesPerSecond = 60.0;
 constexpr TimerMaker::Interval frameInterval{1.0 / framesPerSecond};
-constexpr double smallestScroll = 0.1;
+constexpr double leastScroll = 0.1;
 
 } // namespace
 
@@ -43,7 +43,7 @@ void TimerScroller::tick() {
     if (!(pixelsPerSecond > 0.0)) return; // nor when it is not a number
     // The frame time is fixed: how late the timer fires is not measured.
     scrollRemainder += pixelsPerSecond / framesPerSecond;
-    if (scrollRemainder < smallestScroll) return;
+    if (scrollRemainder < leastScroll) return;
 
     mainQueue.post(
         lifetime.guard([this, deltaY = -std::exchange(scrollRemainder, 0.0)] { deliver(deltaY); }));

@@ -8,7 +8,7 @@ namespace tessaline {
 
 namespace {
 
-using Kind = MarkerScanner::Kind;
+using Markers = MarkerScanner::Kind;
 
 /// Which marker characters a line holds, as a set of these bits.
 enum Marker : unsigned { none = 0, asterisk = 1, underscore = 2, backtick = 4, tilde = 8 };
@@ -67,17 +67,17 @@ void InlineFormatter::applyStyles(unsigned markers) {
         std::fill(styles.begin() + match.begin, styles.begin() + match.end, style);
     };
     if (markers & (asterisk | underscore)) {
-        forEachMatch({text, u'*', Kind::doubled}, {text, u'_', Kind::doubled},
+        forEachMatch({text, u'*', Markers::doubled}, {text, u'_', Markers::doubled},
                      [&](const auto& match) { fill(match, bold); });
         // Italic slants the font that the match begins with, over the whole match.
-        forEachMatch({text, u'*', Kind::lone}, {text, u'_', Kind::lone},
+        forEachMatch({text, u'*', Markers::lone}, {text, u'_', Markers::lone},
                      [&](const auto& match) { fill(match, styles[match.begin] | italic); });
     }
     if (markers & backtick) {
-        forEachMatch({text, u'`', Kind::code}, [&](const auto& match) { fill(match, code); });
+        forEachMatch({text, u'`', Markers::code}, [&](const auto& match) { fill(match, code); });
     }
     if (markers & tilde) {
-        forEachMatch({text, u'~', Kind::doubled}, [&](const auto& match) {
+        forEachMatch({text, u'~', Markers::doubled}, [&](const auto& match) {
             for (qsizetype i = match.begin; i < match.end; ++i)
                 styles[i] |= strikethrough;
         });
@@ -85,12 +85,12 @@ void InlineFormatter::applyStyles(unsigned markers) {
 }
 
 void InlineFormatter::removeMarkers(unsigned markers) {
-    if (markers & asterisk) removePairs(u'*', Kind::doubled);
-    if (markers & underscore) removePairs(u'_', Kind::doubled);
-    if (markers & asterisk) removePairs(u'*', Kind::lone);
-    if (markers & underscore) removePairs(u'_', Kind::lone);
-    if (markers & backtick) removePairs(u'`', Kind::code);
-    if (markers & tilde) removePairs(u'~', Kind::doubled);
+    if (markers & asterisk) removePairs(u'*', Markers::doubled);
+    if (markers & underscore) removePairs(u'_', Markers::doubled);
+    if (markers & asterisk) removePairs(u'*', Markers::lone);
+    if (markers & underscore) removePairs(u'_', Markers::lone);
+    if (markers & backtick) removePairs(u'`', Markers::code);
+    if (markers & tilde) removePairs(u'~', Markers::doubled);
 }
 
 void InlineFormatter::removePairs(char16_t marker, MarkerScanner::Kind kind) {

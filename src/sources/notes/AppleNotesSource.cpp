@@ -13,7 +13,7 @@ namespace tessaline {
 
 namespace {
 
-constexpr TimerMaker::Interval pollInterval{3.0};
+constexpr TimerMaker::Interval notesPollInterval{3.0};
 
 QString textFor(const ContentSourceError& error) {
     switch (error.kind()) {
@@ -44,7 +44,7 @@ AppleNotesSource::~AppleNotesSource() = default;
 void AppleNotesSource::startWatching(ContentCallback onChange) {
     stopWatching();
     watchCallback = std::move(onChange);
-    watchTimer = timerMaker.every(pollInterval, [this] {
+    watchTimer = timerMaker.every(notesPollInterval, [this] {
         // Scripts that are slow, or wait for the user's permission, do not pile up.
         if (checksInFlight == 0) check();
     });

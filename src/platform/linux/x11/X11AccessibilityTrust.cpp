@@ -1,16 +1,9 @@
 #include "platform/linux/x11/X11AccessibilityTrust.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/linux/x11/X11Connection.h"
 
-#include <QLoggingCategory>
-
 namespace tessaline {
-
-namespace {
-
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
-
-} // namespace
 
 X11AccessibilityTrust::X11AccessibilityTrust() : trusted(X11Connection::open() != nullptr) {}
 

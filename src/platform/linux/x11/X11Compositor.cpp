@@ -6,11 +6,6 @@
 #include <xcb/xfixes.h>
 
 namespace tessaline {
-namespace {
-
-constexpr std::uint8_t sentEventBit = 0x80;
-
-} // namespace
 
 X11Compositor::X11Compositor(xcb_connection_t* serverConnection, std::uint32_t root)
     : connection(serverConnection), selection(xcbAtom(serverConnection, "_NET_WM_CM_S0")) {
@@ -26,8 +21,7 @@ bool X11Compositor::isRunning() const {
 
 bool X11Compositor::isChange(const void* event) const {
     const auto* notice = static_cast<const xcb_xfixes_selection_notify_event_t*>(event);
-    return changeType != 0 && (notice->response_type & ~sentEventBit) == changeType &&
-           notice->selection == selection;
+    return changeType != 0 && eventType(event) == changeType && notice->selection == selection;
 }
 
 void X11Compositor::listen(std::uint32_t root) {

@@ -1,18 +1,11 @@
 #include "platform/linux/x11/X11EventTapMaker.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/linux/x11/X11EventTap.h"
-
-#include <QLoggingCategory>
 
 #include <utility>
 
 namespace tessaline {
-
-namespace {
-
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
-
-} // namespace
 
 std::unique_ptr<EventTap> X11EventTapMaker::create(EventTap::Handler handler) {
     auto tap = X11EventTap::create(std::move(handler));

@@ -1,12 +1,11 @@
 #include "platform/linux/x11/X11KeyGrab.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/linux/x11/X11CoreKeyGrab.h"
 #include "platform/linux/x11/X11Modifiers.h"
 #include "platform/linux/x11/X11PassiveGrab.h"
 #include "platform/linux/x11/XcbReply.h"
 #include "platform/linux/x11/XcbXkb.h"
-
-#include <QLoggingCategory>
 
 #include <xcb/xinput.h>
 
@@ -18,11 +17,9 @@ namespace tessaline {
 
 namespace {
 
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
-
 using namespace std::chrono_literals;
 
-constexpr auto retryInterval = 2s;
+constexpr auto grabRetryInterval = 2s;
 
 std::vector<std::uint32_t> combinationsOf(ModifierFlags modifiers) {
     return modifierCombinations(x11ModifiersFrom(modifiers), X11Modifier::ignored);
@@ -47,7 +44,7 @@ X11KeyGrab::X11KeyGrab(std::unique_ptr<X11Connection> ownConnection,
     , letters(KeyboardLetters::read(connection->xcb()))
     , notifier(connection->descriptor(), QSocketNotifier::Read) {
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [this] { readEvents(); });
-    retryTimer.setInterval(retryInterval);
+    retryTimer.setInterval(grabRetryInterval);
     QObject::connect(&retryTimer, &QTimer::timeout, &retryTimer, [this] {
         if (grabKeys()) retryTimer.stop();
         readEvents();

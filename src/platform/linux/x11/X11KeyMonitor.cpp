@@ -1,18 +1,11 @@
 #include "platform/linux/x11/X11KeyMonitor.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/linux/x11/X11KeyGrab.h"
-
-#include <QLoggingCategory>
 
 #include <utility>
 
 namespace tessaline {
-
-namespace {
-
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
-
-} // namespace
 
 std::unique_ptr<GlobalKeyMonitor::Registration> X11KeyMonitor::start(const Chord& chord,
                                                                      Handler handler) {

@@ -20,8 +20,6 @@ namespace {
 
 constexpr std::uint32_t wordsPerReply = 1U << 18U;
 constexpr qsizetype mostBytes = qsizetype{1} << 30;
-constexpr std::uint8_t sentEventBit = 0x80;
-
 struct TextTarget {
     const char* name;
     bool isUtf8;
@@ -97,7 +95,7 @@ X11SelectionReader::Outcome X11SelectionReader::convertTo(xcb_atom_t target, Pro
     xcb_convert_selection(connection.get(), window, clipboard, target, transfer, XCB_CURRENT_TIME);
     xcb_flush(connection.get());
     while (const auto event = waitForEvent()) {
-        if ((event->response_type & ~sentEventBit) != XCB_SELECTION_NOTIFY) continue;
+        if (eventType(event.get()) != XCB_SELECTION_NOTIFY) continue;
         const auto& answer = reinterpret_cast<const xcb_selection_notify_event_t&>(*event);
         if (answer.target != target) continue;
         if (answer.property == XCB_ATOM_NONE) return Outcome::refused;
@@ -112,7 +110,7 @@ X11SelectionReader::Outcome X11SelectionReader::convertTo(xcb_atom_t target, Pro
 bool X11SelectionReader::takePieces(Property* whole) {
     whole->bytes.clear();
     while (const auto event = waitForEvent()) {
-        if ((event->response_type & ~sentEventBit) != XCB_PROPERTY_NOTIFY) continue;
+        if (eventType(event.get()) != XCB_PROPERTY_NOTIFY) continue;
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(*event);
         if (change.atom != transfer || change.state != XCB_PROPERTY_NEW_VALUE) continue;
         const Property piece = takeProperty();

@@ -8,11 +8,6 @@
 #include <array>
 
 namespace tessaline {
-namespace {
-
-constexpr std::uint8_t sentEventBit = 0x80;
-
-} // namespace
 
 X11Stacking::X11Stacking(xcb_connection_t* serverConnection, XWindow rootWindow)
     : connection(serverConnection)
@@ -31,7 +26,7 @@ void X11Stacking::listen() const {
 }
 
 bool X11Stacking::isChange(const void* event) const {
-    switch (static_cast<const xcb_generic_event_t*>(event)->response_type & ~sentEventBit) {
+    switch (eventType(event)) {
     case XCB_CONFIGURE_NOTIFY:
         return static_cast<const xcb_configure_notify_event_t*>(event)->event == root;
     case XCB_MAP_NOTIFY:

@@ -1,10 +1,9 @@
 #include "platform/linux/x11/X11TapSession.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/linux/x11/X11Modifiers.h"
 #include "platform/linux/x11/XcbReply.h"
 #include "platform/linux/x11/XcbXkb.h"
-
-#include <QLoggingCategory>
 
 #include <poll.h>
 #include <xcb/xinput.h>
@@ -17,8 +16,6 @@
 namespace tessaline {
 
 namespace {
-
-Q_LOGGING_CATEGORY(inputLog, "tessaline.input")
 
 using namespace std::chrono_literals;
 

@@ -1,21 +1,15 @@
 #include "platform/linux/x11/X11WindowTraits.h"
 
+#include "platform/PlatformLog.h"
 #include "platform/linux/x11/XcbReply.h"
 #include "platform/qt/WidgetFrame.h"
 
 #include <QCoreApplication>
-#include <QLoggingCategory>
 #include <QWidget>
 
 #include <utility>
 
 namespace tessaline {
-namespace {
-
-Q_LOGGING_CATEGORY(windowLog, "tessaline.window")
-
-} // namespace
-
 X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
     : connection(serverConnection)
     , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
