@@ -50,7 +50,8 @@ class PromptCounter final : public ProcessRunner {
 public:
     explicit PromptCounter(const FakeAccessibilityTrust& watched) : trust(watched) {}
 
-    ProcessResult run(const QString& /*program*/, const QStringList& /*arguments*/) override {
+    ProcessResult run(const QString& /*program*/, const QStringList& /*arguments*/,
+                      const ProcessLimits& /*limits*/) override {
         promptsBefore.push_back(trust.prompts);
         return {};
     }

@@ -58,9 +58,10 @@ TEST_F(QtProcessRunnerTest, PutsNoShellInBetween) {
 
 TEST_F(QtProcessRunnerTest, DescribesWhyAProgramDoesNotStart) {
     EXPECT_EQ(runner.run(u"/missing/program"_s, {}),
-              (ProcessResult{{}, u"No such file or directory"_s, -1}));
+              (ProcessResult{{}, u"No such file or directory"_s, -1, false, {}}));
     const QTemporaryDir folder;
-    EXPECT_EQ(runner.run(folder.path(), {}), (ProcessResult{{}, u"Permission denied"_s, -1}));
+    EXPECT_EQ(runner.run(folder.path(), {}),
+              (ProcessResult{{}, u"Permission denied"_s, -1, false, {}}));
 }
 
 TEST_F(QtProcessRunnerTest, HasNoExitCodeOfAProgramThatWasKilled) {
@@ -94,6 +95,29 @@ TEST_F(QtProcessRunnerTest, RunsOnSeveralThreadsAtOnce) {
     for (std::thread& thread : threads)
         thread.join();
     EXPECT_EQ(successes, 20);
+}
+
+TEST_F(QtProcessRunnerTest, KillsAProgramThatTakesTooLong) {
+    using namespace std::chrono_literals;
+    const auto result = runner.run(u"/bin/sleep"_s, {u"3600"_s}, {.time = 0s});
+    EXPECT_EQ(result.exitCode, -1);
+    EXPECT_EQ(result.exceeded, ProcessLimits::Kind::time);
+    EXPECT_TRUE(result.hasStarted);
+}
+
+TEST_F(QtProcessRunnerTest, KillsAProgramThatSaysTooMuch) {
+    const auto result = runner.run(u"/usr/bin/yes"_s, {}, {.outputBytes = 1 << 20});
+    EXPECT_EQ(result.exitCode, -1);
+    EXPECT_EQ(result.exceeded, ProcessLimits::Kind::output);
+    EXPECT_EQ(runner.run(u"/bin/echo"_s, {u"out"_s}, {.outputBytes = 1 << 20}),
+              (ProcessResult{u"out"_s, {}, 0}));
+}
+
+TEST_F(QtProcessRunnerTest, RefusesAProgramMoreMemoryThanAllowed) {
+    const QString script = uR"(ulimit -v)"_s;
+    const auto result =
+        runner.run(u"/bin/sh"_s, {u"-c"_s, script}, {.memoryBytes = quint64{1} << 30});
+    EXPECT_EQ(result.output, QString::number((1 << 30) / 1024));
 }
 
 TEST_F(QtProcessRunnerTest, DoesNotWaitOnceItIsStopped) {

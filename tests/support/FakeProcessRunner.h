@@ -16,14 +16,18 @@ public:
         bool operator==(const Call&) const = default;
     };
 
-    ProcessResult run(const QString& program, const QStringList& arguments) override {
+    using ProcessRunner::run;
+    ProcessResult run(const QString& program, const QStringList& arguments,
+                      const ProcessLimits& limits) override {
         calls.push_back({program, arguments});
+        lastLimits = limits;
         return result;
     }
 
     void stop() override { isStopped = true; }
 
     ProcessResult result;
+    ProcessLimits lastLimits;
     bool isStopped = false;
     std::vector<Call> calls;
 };

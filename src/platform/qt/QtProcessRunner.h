@@ -10,7 +10,9 @@ namespace tessaline {
 /// while they run. Any thread.
 class QtProcessRunner final : public ProcessRunner {
 public:
-    ProcessResult run(const QString& program, const QStringList& arguments) override;
+    using ProcessRunner::run;
+    ProcessResult run(const QString& program, const QStringList& arguments,
+                      const ProcessLimits& limits) override;
     void stop() override { stopping = true; }
 
 private:
