@@ -2,6 +2,7 @@
 
 #include "analytics/UsageRecorder.h"
 #include "app/FirstRun.h"
+#include "app/KeyDeeds.h"
 #include "app/PrompterCutout.h"
 #include "app/ReadingPanel.h"
 #include "app/ScriptIntake.h"
@@ -154,6 +155,8 @@ void AppDelegate::connectButtons() {
     wire(&ControlStrip::pastePressed, &AppDelegate::cycleSource);
     // It hides only: the program ends from the status menu.
     wire(&ControlStrip::quitPressed, &AppDelegate::hidePrompterWindow);
+    QObject::connect(prompterWindow.get(), &PrompterWindow::keyPressed, prompterWindow.get(),
+                     [this](const PrompterKey& key) { carryOut(key, *this); });
 }
 
 void AppDelegate::setupStatusItem() {

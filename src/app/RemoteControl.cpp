@@ -1,10 +1,12 @@
 #include "app/RemoteControl.h"
 
 #include "app/AppDelegate.h"
+#include "app/KeyDeeds.h"
 #include "app/ReadingCommands.h"
 #include "app/ScriptIntake.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
+#include "prompter/covers/TextCovers.h"
 #include "prompter/view/ScriptView.h"
 #include "settings/ReadingSettings.h"
 
@@ -17,6 +19,10 @@ namespace {
 bool worksBeforeTheNormalStart(ControlCommand command) {
     return command == ControlCommand::status || command == ControlCommand::show ||
            command == ControlCommand::quit;
+}
+
+bool isSwitchedOn(const ControlRequest& request, bool isOn) {
+    return request.argument == "toggle"_L1 ? !isOn : request.argument == "on"_L1;
 }
 
 } // namespace
@@ -45,6 +51,7 @@ RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
 
 void RemoteControl::carryOut(const ControlRequest& request) {
     ScriptView& view = delegate.prompter().textView();
+    TextCovers& covers = delegate.prompter().covers();
     switch (request.command) {
     case ControlCommand::toggle:
         return delegate.toggleScroll();
@@ -53,9 +60,9 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::pause:
         return setAutoScroll(false);
     case ControlCommand::faster:
-        return stepPace(PaceStep::faster);
+        return stepPace(delegate, PaceStep::faster);
     case ControlCommand::slower:
-        return stepPace(PaceStep::slower);
+        return stepPace(delegate, PaceStep::slower);
     case ControlCommand::speed:
         return delegate.setScrollSpeed(request.number());
     case ControlCommand::rate:
@@ -74,6 +81,13 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::previousHeading:
         view.jumps().toPreviousHeading();
         return;
+    case ControlCommand::heading:
+        view.jumps().toHeadingNumber(int(request.number()));
+        return;
+    case ControlCommand::black:
+        return covers.setBlack(isSwitchedOn(request, covers.isBlack()));
+    case ControlCommand::keys:
+        return covers.setShowsKeys(isSwitchedOn(request, covers.showsKeys()));
     case ControlCommand::show:
         return delegate.reveal();
     case ControlCommand::hide:
@@ -107,17 +121,6 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::status:
         return;
     }
-}
-
-void RemoteControl::stepPace(PaceStep step) {
-    ReadingSettings& reading = delegate.reading();
-    if (reading.values().pace == PaceMode::speed) {
-        const double change = step == PaceStep::faster ? speedStep : -speedStep;
-        return delegate.setScrollSpeed(delegate.currentSettings().scrollSpeed() + change);
-    }
-    reading.change([step](ReadingOptions& options) {
-        tessaline::stepPace(options, step, QTime::currentTime());
-    });
 }
 
 void RemoteControl::setAutoScroll(bool on) {

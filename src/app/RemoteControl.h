@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/remote/RemoteRequest.h"
-#include "settings/PaceStep.h"
 
 #include <QString>
 
@@ -15,9 +14,6 @@ class AppDelegate;
 /// shortcuts take.
 class RemoteControl {
 public:
-    /// What a step of `faster` or `slower` changes while the pace goes by the speed.
-    static constexpr double speedStep = 0.25;
-
     explicit RemoteControl(AppDelegate& delegate);
 
     using Reply = std::function<void(const RemoteAnswer& answer)>;
@@ -28,7 +24,6 @@ public:
 private:
     RemoteAnswer answerTo(const ControlRequest& request);
     void carryOut(const ControlRequest& request);
-    void stepPace(PaceStep step);
     void setAutoScroll(bool on);
     void setCollapsed(bool collapsed);
     void paste(const Reply& reply);

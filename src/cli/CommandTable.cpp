@@ -1,9 +1,11 @@
 #include "cli/CommandTable.h"
 
 #include "cli/ControlRequest.h"
+#include "reading/ReaderKeys.h"
 #include "settings/ReadingOptions.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessaline {
 
@@ -53,10 +55,17 @@ constexpr HelpEntry programExamples[] = {
     {u"tessaline -- -draft-.md", u"Show a file whose name begins with a dash."},
 };
 
+constexpr auto programKeys = [] {
+    std::array<HelpEntry, readerKeys.size()> entries{};
+    std::ranges::transform(readerKeys, entries.begin(), [](const ReaderKeys& each) {
+        return HelpEntry{each.keys, each.deed};
+    });
+    return entries;
+}();
+
 constexpr HelpSection programSections[] = {
-    {u"Exit status", programStatuses},
-    {u"Environment", programEnvironment},
-    {u"Files", programFiles},
+    {u"Keys in the prompter", programKeys}, {u"Exit status", programStatuses},
+    {u"Environment", programEnvironment},   {u"Files", programFiles},
     {u"Examples", programExamples},
 };
 
@@ -133,6 +142,7 @@ constexpr QStringView ends[] = {u"stand", u"stop", u"round"};
 constexpr QStringView mirrorWays[] = {u"none", u"horizontal", u"vertical", u"both"};
 constexpr QStringView fonts[] = {u"default"};
 constexpr QStringView switchStates[] = {u"on", u"off"};
+constexpr QStringView switchings[] = {u"on", u"off", u"toggle"};
 constexpr CommandValue nothing{};
 
 constexpr ChoiceTail paceTails[] = {
@@ -176,17 +186,29 @@ constexpr ControlAction actions[] = {
     {C::top, u"top", nothing, u"Go to the start of the script."},
     {C::nextHeading, u"next-heading", nothing, u"Go to the next heading."},
     {C::previousHeading, u"previous-heading", nothing, u"Go to the heading before."},
+    {C::heading,
+     u"heading",
+     {.name = u"N", .kind = Kind::number, .least = 1.0, .most = 9999.0, .isWhole = true},
+     u"Go to the heading N, counted from the start."},
     {C::show, u"show", nothing, u"Show the prompter."},
     {C::hide, u"hide", nothing, u"Hide the prompter."},
     {C::minimize, u"minimize", nothing, u"Fold it into the strip."},
     {C::expand, u"expand", nothing, u"Unfold it."},
     {C::settings, u"settings", nothing, u"Open the settings."},
     {C::reading, u"reading", nothing, u"Open the reading options."},
+    {C::keys,
+     u"keys",
+     {.name = u"on|off|toggle", .choices = switchings},
+     u"Show the prompter's keys over the text, or not."},
     {C::paste, u"paste", nothing, u"Show the clipboard's text."},
     {C::source,
      u"source",
      {.name = u"obsidian|clipboard", .choices = sources},
      u"Show what this source has."},
+    {C::black,
+     u"black",
+     {.name = u"on|off|toggle", .choices = switchings},
+     u"Black the text out, or bring it back."},
     {C::guide,
      u"guide",
      {.name = u"none|marker|band [LINES]", .choices = guides},

@@ -112,6 +112,7 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
     case ControlCommand::top:
     case ControlCommand::nextHeading:
     case ControlCommand::previousHeading:
+    case ControlCommand::heading:
         return position(status);
     case ControlCommand::show:
         return u"shown"_s;
@@ -124,10 +125,14 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"settings shown"_s;
     case ControlCommand::reading:
         return u"reading options shown"_s;
+    case ControlCommand::keys:
+        return status.keys ? u"keys shown"_s : u"keys hidden"_s;
     case ControlCommand::paste:
         return u"pasted"_s;
     case ControlCommand::source:
         return u"source "_s + rawValue(status.source);
+    case ControlCommand::black:
+        return status.black ? u"text blacked out"_s : u"text shown"_s;
     case ControlCommand::guide:
         return guide(status);
     case ControlCommand::eyeLine:

@@ -10,17 +10,16 @@
 #include "platform/qt/FocusOnClick.h"
 #include "platform/qt/KeyTranslation.h"
 #include "prompter/ControlStrip.h"
-#include "prompter/CountdownView.h"
-#include "prompter/PaceKeys.h"
-#include "prompter/Placeholder.h"
+#include "prompter/PrompterContent.h"
 #include "prompter/PrompterGeometry.h"
+#include "prompter/PrompterKey.h"
 #include "prompter/ReadingStatistics.h"
 #include "prompter/WindowShape.h"
+#include "prompter/covers/TextCovers.h"
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ScriptView.h"
 #include "reading/ReadingConductor.h"
 #include "reading/ReadingSession.h"
-#include "render/markdown/MarkdownRenderer.h"
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
 
@@ -55,8 +54,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
     , settings(appSettings)
     , readingSettings(borrowedReading)
     , platform(borrowedPlatform)
-    , session(std::make_shared<ReadingSession>(settings.values(), readingSettings.values()))
-    , renderer(*platform.renderTasks, *platform.mainQueue) {
+    , session(std::make_shared<ReadingSession>(settings.values(), readingSettings.values())) {
     setWindowTitle(u"Tessaline"_s);
     setAttribute(Qt::WA_TranslucentBackground);
     // The keyboard is another program's most of the time.
@@ -74,7 +72,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
     setupUI();
     updateReadingFrame();
     updateFrame();
-    holdForCountdown();
+    textCovers->waitIfAsked();
     conductor = std::make_unique<ReadingConductor>(settings, readingSettings, session, platform);
     readingOptionsChanged();
     settingsObservation =
@@ -97,11 +95,10 @@ void PrompterWindow::setupUI() {
     view->setAccessibleName(u"Script"_s);
     setFocusProxy(view);
     view->setFocus();
-    countdown = new CountdownView(*platform.timers, scrollArea);
-    countdown->setObjectName(u"prompter_countdown"_s);
-    connect(countdown, &CountdownView::ended, this, [this] { session->setHeld(false); });
-    connect(countdown, &CountdownView::cancelled, this,
-            [this] { settings.setAutoScrollEnabled(false); });
+    content = std::make_unique<PrompterContent>(settings, *session, *view, *platform.renderTasks,
+                                                *platform.mainQueue, [this] { updateStats(); });
+    textCovers = new TextCovers(settings, readingSettings, *session, *platform.timers, *scrollArea);
+    textCovers->setParent(this);
     connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
 }
 
@@ -155,7 +152,7 @@ void PrompterWindow::toggleCollapsed() {
                                   : expandedFrame(settledFrame, expandedHeight);
     if (!collapsed) squareCorners = false;
     arrangeContent();
-    countDownWhileSeen();
+    textCovers->countDown(isTextSeen());
     animateTo(target);
     updateMinimizeButtonAppearance();
 }
@@ -194,10 +191,9 @@ void PrompterWindow::arrangeContent() {
     scrollArea->setGeometry(textMargin, textTop, textWidth, textHeight);
     const bool heightChanges = textHeight != view->height();
     view->resize(scrollArea->size());
-    countdown->resize(scrollArea->size());
+    textCovers->resize(scrollArea->size());
     // The hint is set for one height, and for none while nothing of it is seen.
-    if (heightChanges && textHeight > 0 && lastRawContent == placeholderContent)
-        renderPlaceholder();
+    if (heightChanges && textHeight > 0 && content->isHint()) content->render();
 }
 
 void PrompterWindow::resizeEvent(QResizeEvent*) {
@@ -210,7 +206,7 @@ void PrompterWindow::setVisible(bool visible) {
     if (changes && !visible) platform.windowTraits->release(*this);
     QWidget::setVisible(visible);
     if (changes && visible) platform.windowTraits->adopt(*this);
-    if (changes) countDownWhileSeen();
+    if (changes) textCovers->countDown(isTextSeen());
 }
 
 void PrompterWindow::showEvent(QShowEvent* event) {
@@ -231,41 +227,20 @@ void PrompterWindow::paintEvent(QPaintEvent*) {
     paintShape(*this, squareCorners);
 }
 
-void PrompterWindow::updateText(const QString& content) {
-    platform.mainQueue->post(lifetime.guard([this, content] {
-        lastRawContent = content;
+void PrompterWindow::updateText(const QString& text) {
+    platform.mainQueue->post(lifetime.guard([this, text] {
+        content->take(text);
         renderContent();
     }));
 }
 
 void PrompterWindow::rerender() {
-    if (!lastRawContent.isEmpty()) renderContent();
+    if (!content->isEmpty()) renderContent();
 }
 
 void PrompterWindow::renderContent() {
     updateReadingFrame();
-    if (lastRawContent == placeholderContent) {
-        renderPlaceholder();
-    } else {
-        renderMarkdown(lastRawContent);
-    }
-}
-
-void PrompterWindow::renderMarkdown(const QString& content) {
-    view->setFontSize(settings.fontSize());
-    renderer.render(content,
-                    [this](RenderedContent rendered) { showContent(std::move(rendered)); });
-}
-
-void PrompterWindow::renderPlaceholder() {
-    renderer.cancel();
-    showContent({std::make_shared<const Script>(placeholderText(view->height())),
-                 MarkdownRenderer::wordCount(placeholderContent)});
-}
-
-void PrompterWindow::showContent(RenderedContent content) {
-    session->setContent(std::move(content));
-    updateStats();
+    content->render();
 }
 
 void PrompterWindow::updateStats() {
@@ -284,7 +259,7 @@ void PrompterWindow::updateStats() {
 
 // What changed while the window was collapsed was counted for a view without height.
 void PrompterWindow::updateStatsOfWhatIsSeen() {
-    if (!collapsed && !lastRawContent.isEmpty()) updateStats();
+    if (!collapsed && !content->isEmpty()) updateStats();
 }
 
 PrompterStatus PrompterWindow::status() const {
@@ -296,7 +271,9 @@ PrompterStatus PrompterWindow::status() const {
                           .maximumScrollPosition = view->maximumScrollPosition(),
                           .speed = settings.scrollSpeed(),
                           .rate = settings.scrollRate(),
-                          .autoScroll = settings.autoScrollEnabled()};
+                          .autoScroll = settings.autoScrollEnabled(),
+                          .black = textCovers->isBlack(),
+                          .keys = textCovers->showsKeys()};
     session->tellProgress(status);
     return status;
 }
@@ -316,30 +293,15 @@ void PrompterWindow::settingsChanged(const PersistedSettings& before) {
     const PersistedSettings& now = settings.values();
     if (now.scrollSpeed != before.scrollSpeed) updateScrollParameters();
     if (now.autoScrollEnabled == before.autoScrollEnabled) return;
-    holdForCountdown();
+    textCovers->waitIfAsked();
     now.autoScrollEnabled ? session->start() : session->stop();
-    countDownWhileSeen();
-}
-
-/// The reader may have asked for a moment before the text starts to move.
-void PrompterWindow::holdForCountdown() {
-    session->setHeld(settings.autoScrollEnabled() &&
-                     readingSettings.values().countdownSeconds > 0.0);
-}
-
-/// Nobody can get ready by what they do not see: it begins anew once the text is in sight again.
-void PrompterWindow::countDownWhileSeen() {
-    if (session->isHeld() && isVisible() && !collapsed) {
-        countdown->start(int(readingSettings.values().countdownSeconds));
-    } else {
-        countdown->stop();
-    }
+    textCovers->countDown(isTextSeen());
 }
 
 void PrompterWindow::updateReadingFrame() {
     ReadingFrame frame = ReadingFrame::of(readingSettings.values());
     // The hint keeps its place in the middle.
-    if (lastRawContent == placeholderContent) frame.isActive = false;
+    if (content->isHint()) frame.isActive = false;
     view->setReadingFrame(frame);
 }
 
@@ -374,7 +336,11 @@ void PrompterWindow::updateMinimizeButtonAppearance() {
 }
 
 void PrompterWindow::keyPressEvent(QKeyEvent* event) {
-    if (!stepPaceByKey(*event, readingSettings)) QWidget::keyPressEvent(event);
+    if (const auto key = PrompterKey::of(*event)) {
+        Q_EMIT keyPressed(*key);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void PrompterWindow::wheelEvent(QWheelEvent* event) {

@@ -2,7 +2,6 @@
 
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
-#include "reading/ContentRenderer.h"
 #include "reading/PrompterStatus.h"
 #include "settings/AppSettings.h"
 #include "settings/ReadingSettings.h"
@@ -19,13 +18,15 @@
 namespace tessaline {
 
 class ControlStrip;
-class CountdownView;
+class PrompterContent;
 class ReadingConductor;
 class ReadingSession;
 class RepeatingTimer;
 class ScreenManager;
 class ScriptView;
+class TextCovers;
 struct Platform;
+struct PrompterKey;
 
 /// The teleprompter: a borderless black window that hangs from the top edge of a screen, with a
 /// strip of controls above the text.
@@ -66,7 +67,7 @@ public:
     bool isCollapsed() const { return collapsed; }
 
     /// Shows another text. Any thread; takes effect on the main thread later.
-    void updateText(const QString& content);
+    void updateText(const QString& text);
 
     /// Shows the last text again, with the settings as they are now.
     void rerender();
@@ -95,6 +96,10 @@ public:
     /// What it shows and does now; the version is for the program to tell.
     PrompterStatus status() const;
     ScriptView& textView() const { return *view; }
+    TextCovers& covers() const { return *textCovers; } ///< what may lie over the text
+
+Q_SIGNALS:
+    void keyPressed(const PrompterKey& key);
 
 protected:
     void setVisible(bool visible) override;
@@ -107,9 +112,6 @@ protected:
 private:
     void setupUI();
     void renderContent();
-    void renderMarkdown(const QString& content);
-    void renderPlaceholder();
-    void showContent(RenderedContent content);
     void setFrame(const Rect& target, const Screen& screen);
     void place(const QRect& target, const Screen& screen);
     void animateTo(const Rect& target);
@@ -119,8 +121,7 @@ private:
     void shape();
     void settingsChanged(const PersistedSettings& before);
     void updateReadingFrame();
-    void holdForCountdown();
-    void countDownWhileSeen();
+    bool isTextSeen() const { return isVisible() && !collapsed; }
     void readingOptionsChanged();
 
     AppSettings& settings;
@@ -135,14 +136,13 @@ private:
     ControlStrip* strip = nullptr;
     QWidget* scrollArea = nullptr; ///< what of the text is seen
     ScriptView* view = nullptr;
-    CountdownView* countdown = nullptr;
+    TextCovers* textCovers = nullptr;
     bool watchesClicks = false;
     bool collapsed = false;
     bool squareCorners = false; ///< follows `collapsed` once the window has its height
     QRegion hole;               ///< what is cut out
     double expandedHeight = 0.0;
-    QString lastRawContent;
-    ContentRenderer renderer;
+    std::unique_ptr<PrompterContent> content;
     QVariantAnimation resizing;
     Lifetime lifetime;
 };

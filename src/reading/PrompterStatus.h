@@ -49,6 +49,9 @@ struct PrompterStatus {
     double lineSpacing = 1.0;
     int distance = 0; ///< centimetres
 
+    bool black = false; ///< the text is blacked out
+    bool keys = false;  ///< the sheet of keys is shown
+
     bool operator==(const PrompterStatus&) const = default;
 
     /// Calls `visit` with the name and the value of every field of a status, in the order in which
@@ -87,6 +90,8 @@ struct PrompterStatus {
         visit("font", status.font);
         visit("lineSpacing", status.lineSpacing);
         visit("distance", status.distance);
+        visit("black", status.black);
+        visit("keys", status.keys);
     }
 };
 

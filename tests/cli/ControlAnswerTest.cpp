@@ -41,7 +41,9 @@ PrompterStatus aStatus() {
             .clickThrough = true,
             .font = u"DejaVu Serif"_s,
             .lineSpacing = 1.25,
-            .distance = 80};
+            .distance = 80,
+            .black = true,
+            .keys = true};
 }
 
 PrompterStatus with(void (*change)(PrompterStatus& status)) {
@@ -105,6 +107,11 @@ TEST(ControlAnswer, TellsTheReadingOptions) {
               u"countdown off"_s);
     EXPECT_EQ(answer(ControlCommand::atEnd), u"at the end: round"_s);
     EXPECT_EQ(answer(ControlCommand::glide), u"glide on"_s);
+    EXPECT_EQ(answer(ControlCommand::black), u"text blacked out"_s);
+    EXPECT_EQ(answer(ControlCommand::keys), u"keys shown"_s);
+    const PrompterStatus uncovered = with([](auto& status) { status.black = status.keys = false; });
+    EXPECT_EQ(controlAnswer({ControlCommand::black, {}}, uncovered), u"text shown"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::keys, {}}, uncovered), u"keys hidden"_s);
 }
 
 TEST(ControlAnswer, TellsHowTheTextLooks) {
@@ -117,17 +124,18 @@ TEST(ControlAnswer, TellsHowTheTextLooks) {
 }
 
 TEST(ControlAnswer, TellsEverythingAsJson) {
-    EXPECT_EQ(answer(ControlCommand::status),
-              u"{\"version\":\"1.2.3\",\"visible\":true,\"collapsed\":false,"
-              "\"source\":\"obsidian\",\"words\":2368,\"time\":\"12m30s\","
-              "\"scrollPosition\":12.34,\"maximumScrollPosition\":400.0,\"speed\":2.25,"
-              "\"rate\":\"fast\",\"autoScroll\":true,\"frameRate\":60,"
-              "\"pace\":\"words\",\"wordsPerMinute\":149.5,\"wordsRead\":12.25,"
-              "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
-              "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
-              "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
-              "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"clickThrough\":true,"
-              "\"font\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80}"_s);
+    EXPECT_EQ(
+        answer(ControlCommand::status),
+        u"{\"version\":\"1.2.3\",\"visible\":true,\"collapsed\":false,"
+        "\"source\":\"obsidian\",\"words\":2368,\"time\":\"12m30s\","
+        "\"scrollPosition\":12.34,\"maximumScrollPosition\":400.0,\"speed\":2.25,"
+        "\"rate\":\"fast\",\"autoScroll\":true,\"frameRate\":60,"
+        "\"pace\":\"words\",\"wordsPerMinute\":149.5,\"wordsRead\":12.25,"
+        "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
+        "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
+        "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
+        "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"clickThrough\":true,"
+        "\"font\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,\"black\":true,\"keys\":true}"_s);
 }
 
 } // namespace

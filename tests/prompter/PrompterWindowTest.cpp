@@ -308,31 +308,5 @@ TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
     EXPECT_GT(picture.pixelColor(12, 255).alpha(), 128);
 }
 
-TEST_F(PrompterWindowTest, StepsThePaceThatIsOnByTheKeysPlusAndMinus) {
-    show(u"one\ntwo"_s);
-    settings.setScrollSpeed(2);
-    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(&window().textView(), key, modifiers);
-    };
-    press(Qt::Key_Plus);
-    EXPECT_EQ(readingSettings.values(), ReadingOptions());
-
-    readingSettings.change([](ReadingOptions& options) { options.pace = PaceMode::words; });
-    press(Qt::Key_Plus, Qt::ShiftModifier);
-    EXPECT_EQ(readingSettings.values().wordsPerMinute, 155);
-    press(Qt::Key_Minus);
-    press(Qt::Key_Minus, Qt::KeypadModifier);
-    EXPECT_EQ(readingSettings.values().wordsPerMinute, 145);
-    press(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(readingSettings.values().wordsPerMinute, 145);
-
-    readingSettings.change([](ReadingOptions& options) { options.pace = PaceMode::finish; });
-    press(Qt::Key_Plus);
-    EXPECT_EQ(readingSettings.values().finishMinutes, 11.5);
-    press(Qt::Key_Minus);
-    EXPECT_EQ(readingSettings.values().finishMinutes, 12);
-    EXPECT_EQ(settings.scrollSpeed(), 2);
-}
-
 } // namespace
 } // namespace tessaline

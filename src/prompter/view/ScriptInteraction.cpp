@@ -21,11 +21,17 @@ constexpr double pointsPerKeyLine = 20.0;
 constexpr int dragIntervalMs = 16;
 constexpr double dragShare = 0.15; // of the distance to the mouse, at every interval
 
+/// Who turns another page meanwhile means the one after.
+bool turnsPage(const QKeyEvent& event) {
+    return event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+}
+
 } // namespace
 
 ScriptInteraction::ScriptInteraction(ScriptView& ownerView) : view(ownerView) {}
 
 bool ScriptInteraction::keyPress(const QKeyEvent& event) {
+    if (!event.isAutoRepeat() && !turnsPage(event)) view.jumps().stop();
     if (event.matches(QKeySequence::Copy)) {
         view.copySelection();
         return true;
@@ -40,7 +46,6 @@ bool ScriptInteraction::keyPress(const QKeyEvent& event) {
 }
 
 bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
-    const double page = view.height() - pointsPerKeyLine;
     const double position = view.scrollPosition();
     const auto isPlain = (translateModifiers(event.modifiers()) & ~Modifier::control) == 0;
     if (!isPlain) return false;
@@ -53,10 +58,10 @@ bool ScriptInteraction::scrollByKey(const QKeyEvent& event) {
         view.scrollByHand(position + pointsPerKeyLine);
         return true;
     case Qt::Key_PageUp:
-        view.scrollByHand(position - page);
+        if (!isUnderWay) view.jumps().toPreviousPage();
         return true;
     case Qt::Key_PageDown:
-        view.scrollByHand(position + page);
+        if (!isUnderWay) view.jumps().toNextPage();
         return true;
     case Qt::Key_Home:
         if (!isUnderWay) view.jumps().toTop();

@@ -13,6 +13,9 @@ namespace {
 /// Positions less than so many points apart count as the same.
 constexpr double samePlace = 0.5;
 
+/// What a page keeps of the one before, in points.
+constexpr double pageOverlap = 20.0;
+
 } // namespace
 
 ScriptJumps::ScriptJumps(ScriptView& owner)
@@ -49,24 +52,45 @@ bool ScriptJumps::toPreviousHeading() {
     return false;
 }
 
+bool ScriptJumps::toHeadingNumber(int number) {
+    const Script& script = view.script();
+    for (std::size_t i = 0; i < script.paragraphs.size(); ++i) {
+        if (script.headingLevel(i) != 0 && --number == 0) return toHeading(i), true;
+    }
+    return false;
+}
+
 void ScriptJumps::toHeading(std::size_t paragraph) {
     const qsizetype offset = view.script().paragraphs[paragraph].start;
     jump([this, offset] { return std::min(view.positionOf(offset), view.maximumScrollPosition()); },
-         [this, offset] { view.reading().moveTo(offset); });
+         [this, offset] { view.reading().moveTo(offset); }, glides);
 }
 
 void ScriptJumps::toTop() {
-    jump([] { return 0.0; }, [this] { view.scrollTo(0); });
+    jump([] { return 0.0; }, [this] { view.scrollTo(0); }, glides);
 }
 
 void ScriptJumps::toEnd() {
     jump([this] { return view.maximumScrollPosition(); },
-         [this] { view.scrollTo(view.documentHeight()); });
+         [this] { view.scrollTo(view.documentHeight()); }, glides);
 }
 
-void ScriptJumps::jump(Glide::Place newTarget, std::function<void()> arrive) {
+void ScriptJumps::toNextPage() {
+    turnPage(view.height() - pageOverlap);
+}
+
+void ScriptJumps::toPreviousPage() {
+    turnPage(pageOverlap - view.height());
+}
+
+void ScriptJumps::turnPage(double points) {
+    const double position = std::clamp(start() + points, 0.0, view.maximumScrollPosition());
+    jump([position] { return position; }, [this, position] { view.scrollTo(position); }, true);
+}
+
+void ScriptJumps::jump(Glide::Place newTarget, std::function<void()> arrive, bool gliding) {
     view.scrollByHand(view.scrollPosition()); // which ends the last jump
-    if (!glides || !view.isVisible()) return arrive();
+    if (!gliding || !view.isVisible()) return arrive();
     target = std::move(newTarget);
     glide.start(target, std::move(arrive));
 }

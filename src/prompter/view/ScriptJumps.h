@@ -22,6 +22,13 @@ public:
     bool toNextHeading();
     bool toPreviousHeading();
 
+    /// To a heading of the script, counted from 1. False when there is none.
+    bool toHeadingNumber(int number);
+
+    /// To the next page, or the one before. Always gliding, so that the eye finds its line again.
+    void toNextPage();
+    void toPreviousPage();
+
     void toTop();
     void toEnd();
 
@@ -37,7 +44,8 @@ private:
     std::size_t startParagraph() const;
     double positionOfHeading(std::size_t paragraph) const;
     void toHeading(std::size_t paragraph);
-    void jump(Glide::Place target, std::function<void()> arrive);
+    void turnPage(double points);
+    void jump(Glide::Place target, std::function<void()> arrive, bool gliding);
 
     ScriptView& view;
     bool glides = false;

@@ -377,7 +377,6 @@ void ScriptView::wheelEvent(QWheelEvent* event) {
 }
 
 void ScriptView::keyPressEvent(QKeyEvent* event) {
-    if (!event->isAutoRepeat()) scriptJumps.stop();
     if (!interaction.keyPress(*event)) QWidget::keyPressEvent(event);
 }
 

@@ -72,7 +72,9 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .clickThrough = true,
                                 .font = u"DejaVu Serif"_s,
                                 .lineSpacing = 1.05,
-                                .distance = 200};
+                                .distance = 200,
+                                .black = true,
+                                .keys = true};
     EXPECT_EQ(sentAndRead(RemoteAnswer(status)), RemoteAnswer(status));
     EXPECT_EQ(sentAndRead(RemoteAnswer(PrompterStatus{})), RemoteAnswer(PrompterStatus{}));
 }

@@ -101,6 +101,51 @@ TEST_F(ScriptJumpsTest, GlideOnUnderAKeyThatIsHeld) {
     EXPECT_EQ(position(), view.maximumScrollPosition());
 }
 
+TEST_F(ScriptJumpsTest, TurnPagesGlidingWhateverTheReaderWantsOfOthers) {
+    view.setReadingFrame({});
+    const double page = view.height() - 20;
+    key(Qt::Key_PageDown);
+    EXPECT_EQ(position(), 0) << "nothing moves at once";
+    time.pass(0.25);
+    EXPECT_NEAR(position(), page / 2, page / 20);
+    key(Qt::Key_PageDown);
+    time.pass(0.6);
+    EXPECT_EQ(position(), 2 * page) << "the second one counts from where the first one goes";
+    key(Qt::Key_PageUp);
+    time.pass(0.6);
+    EXPECT_EQ(position(), page);
+    key(Qt::Key_PageUp);
+    key(Qt::Key_PageUp);
+    time.pass(0.6);
+    EXPECT_EQ(position(), 0);
+}
+
+TEST_F(ScriptJumpsTest, TurnAPageAfterTheOtherUnderAKeyThatIsHeld) {
+    view.setReadingFrame({});
+    const double page = view.height() - 20;
+    key(Qt::Key_PageDown);
+    for (int i = 0; i < 33; ++i) {
+        time.pass(0.03);
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_PageDown, {}, {}, true);
+        QCoreApplication::sendEvent(&view, &repeat);
+    }
+    EXPECT_GE(position(), page);
+    EXPECT_LE(position(), 2 * page);
+}
+
+TEST_F(ScriptJumpsTest, GoToHeadingsByTheirNumber) {
+    view.setReadingFrame({});
+    EXPECT_TRUE(view.jumps().toHeadingNumber(3));
+    EXPECT_DOUBLE_EQ(position(), heading(u"Three"_s));
+    EXPECT_TRUE(view.jumps().toHeadingNumber(1));
+    EXPECT_EQ(position(), 0);
+    EXPECT_TRUE(view.jumps().toHeadingNumber(2));
+    EXPECT_DOUBLE_EQ(position(), heading(u"Two"_s));
+    EXPECT_FALSE(view.jumps().toHeadingNumber(4));
+    EXPECT_FALSE(view.jumps().toHeadingNumber(0));
+    EXPECT_DOUBLE_EQ(position(), heading(u"Two"_s));
+}
+
 TEST_F(ScriptJumpsTest, CountFromWhereTheLastOneGoes) {
     view.jumps().toNextHeading();
     time.pass(0.1);

@@ -56,10 +56,6 @@ TEST_F(ScriptViewInputTest, ScrollsWithTheKeys) {
     EXPECT_EQ(view.scrollPosition(), 20);
     key(Qt::Key_Up);
     EXPECT_EQ(view.scrollPosition(), 0);
-    key(Qt::Key_PageDown);
-    EXPECT_EQ(view.scrollPosition(), view.height() - 20);
-    key(Qt::Key_PageUp);
-    EXPECT_EQ(view.scrollPosition(), 0);
     key(Qt::Key_End);
     EXPECT_EQ(view.scrollPosition(), view.maximumScrollPosition());
     key(Qt::Key_Home);

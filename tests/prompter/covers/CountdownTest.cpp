@@ -1,4 +1,4 @@
-#include "prompter/Countdown.h"
+#include "prompter/covers/Countdown.h"
 
 #include "support/FakeTimerMaker.h"
 

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "prompter/Countdown.h"
-
-#include <QWidget>
+#include "prompter/covers/Countdown.h"
+#include "prompter/covers/Cover.h"
 
 namespace tessaline {
 
 /// Covers a text while its reader waits for it to move: large digits count the seconds down. Any
 /// key or click in the window cancels the wait and does nothing else; modifiers alone and keys that
 /// repeat do not count. Screen readers are told once.
-class CountdownView : public QWidget {
+class CountdownView : public Cover {
     Q_OBJECT
 
 public:

@@ -1,5 +1,5 @@
-#include "prompter/CountdownView.h"
 #include "prompter/PrompterWindowFixture.h"
+#include "prompter/covers/CountdownView.h"
 #include "support/WidgetPicture.h"
 
 #include <QAccessible>

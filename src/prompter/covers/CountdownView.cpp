@@ -1,9 +1,8 @@
-#include "prompter/CountdownView.h"
+#include "prompter/covers/CountdownView.h"
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -22,11 +21,6 @@ constexpr double coverAlpha = 0.8;
 constexpr double digitHeight = 0.5; // of the text's
 constexpr double mostWidth = 0.8;
 constexpr double outlinePoints = 100.0;
-
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-    auto* view = qobject_cast<CountdownView*>(object);
-    return view ? new QAccessibleWidget(view, QAccessible::AlertMessage) : nullptr;
-}
 
 bool isModifier(int key) {
     switch (key) {
@@ -66,11 +60,9 @@ QPainterPath outlineOf(int number, const QRectF& area) {
 } // namespace
 
 CountdownView::CountdownView(TimerMaker& timers, QWidget* parent)
-    : QWidget(parent), countdown(timers, [this] { counted(); }) {
-    QAccessible::installFactory(makeInterface);
+    : Cover(parent), countdown(timers, [this] { counted(); }) {
     setAccessibleDescription(tr("Any key or click cancels"));
     setAttribute(Qt::WA_TransparentForMouseEvents); // the wheel moves the text below
-    hide();
 }
 
 void CountdownView::start(int seconds) {
@@ -78,9 +70,7 @@ void CountdownView::start(int seconds) {
     keyIsHeld = false;
     if (seconds > 0) QCoreApplication::instance()->installEventFilter(this);
     countdown.start(seconds);
-    if (!isVisible()) return;
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce();
 }
 
 void CountdownView::stop() {
