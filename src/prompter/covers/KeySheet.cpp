@@ -2,14 +2,13 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
-#include "reading/ReaderKeys.h"
+#include "controls/KeyList.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
+#include <QLayout>
 
-#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace tessaline {
 
@@ -18,45 +17,18 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr double groundAlpha = 0.9;
-constexpr double fontPoints = 12.0;
-constexpr double quietAlpha = 0.75;
+constexpr double deedAlpha = 0.75;
+constexpr double fontPoints = 11.0;
 constexpr int margin = 12;
-constexpr int gap = 8;
-constexpr int columnGap = 20;
-constexpr int rowGap = 5;
+constexpr int rowSpacing = 5;
 
-QLabel* addLabel(QWidget& parent, QStringView text, const QFont& font, const QColor& color) {
-    auto* label = new QLabel(text.toString(), &parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    label->setPalette(palette);
-    return label;
-}
-
-/// The keys in so many columns, one below the other in each.
 std::unique_ptr<QWidget> makeList(int columns) {
-    auto list = std::make_unique<QWidget>();
-    auto* grid = new QGridLayout(list.get());
-    grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setHorizontalSpacing(gap);
-    grid->setVerticalSpacing(rowGap);
     const QColor amber = SystemPalette::amber();
-    const int rows = (int(readerKeys.size()) + columns - 1) / columns;
-    for (int i = 0; i < int(readerKeys.size()); ++i) {
-        const auto& [keys, deed] = readerKeys.at(std::size_t(i));
-        const int column = i / rows * 3; // the third one is the gap
-        grid->addWidget(addLabel(*list, keys, systemFont(fontPoints, QFont::DemiBold), amber),
-                        i % rows, column);
-        grid->addWidget(addLabel(*list, deed, systemFont(fontPoints),
-                                 SystemPalette::withAlpha(amber, quietAlpha)),
-                        i % rows, column + 1);
-        if (column > 0) grid->setColumnMinimumWidth(column - 1, columnGap - 2 * gap);
-    }
-    grid->setColumnStretch(columns * 3 - 1, 1);
-    grid->setRowStretch(rows, 1);
-    list->setAutoFillBackground(false);
+    auto list = std::make_unique<KeyList>(
+        KeyList::Look{systemFont(fontPoints, QFont::DemiBold), amber, systemFont(fontPoints),
+                      SystemPalette::withAlpha(amber, deedAlpha), rowSpacing},
+        columns);
+    list->layout()->setContentsMargins(margin, margin, margin, margin);
     return list;
 }
 

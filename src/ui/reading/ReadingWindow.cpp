@@ -1,5 +1,9 @@
 #include "ui/reading/ReadingWindow.h"
 
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "controls/KeyList.h"
+#include "controls/Labels.h"
 #include "ui/WindowLook.h"
 #include "ui/controls/Rows.h"
 #include "ui/controls/SectionTitle.h"
@@ -17,6 +21,20 @@ namespace {
 constexpr QSize leastContent{320, 200};
 constexpr int margin = 20;
 constexpr int spacing = 10;
+
+void addKeys(QVBoxLayout& column) {
+    column.addWidget(new Separator(settingsColumnWidth));
+    column.addWidget(new SectionTitle(u"Keys"_s));
+    column.addWidget(makeLabel(u"While the prompter has the keyboard:"_s, systemFont(10),
+                               SystemPalette::tertiaryLabel));
+    auto* keys = new KeyList({.keyFont = monospacedFont(11, QFont::Medium),
+                              .keyColor = SystemPalette::label,
+                              .deedFont = systemFont(11),
+                              .deedColor = SystemPalette::secondaryLabel},
+                             1);
+    keys->setObjectName(u"reading_keys"_s);
+    column.addWidget(keys);
+}
 
 } // namespace
 
@@ -41,6 +59,7 @@ QWidget* ReadingWindow::createContent(const std::function<QTime()>& now) {
     add(u"Pace"_s, new PaceSection(settings, now));
     add(u"Eye Line"_s, new EyeLineSection(settings));
     add(u"Start and End"_s, new StartEndSection(settings));
+    addKeys(*column);
     column->addStretch();
     return content;
 }

@@ -68,7 +68,7 @@ TEST_F(KeySheetTest, HasOneColumnWhereTwoHaveNoRoom) {
         return placeOf(label(readerKeys.at(i).keys)).left();
     };
     EXPECT_GT(left(readerKeys.size() - 1), left(0));
-    resize(260, 256);
+    resize(300, 256);
     EXPECT_EQ(left(readerKeys.size() - 1), left(0));
     resize(600, 256);
     EXPECT_GT(left(readerKeys.size() - 1), left(0));
