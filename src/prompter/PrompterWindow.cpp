@@ -338,6 +338,8 @@ void PrompterWindow::updateMinimizeButtonAppearance() {
 void PrompterWindow::keyPressEvent(QKeyEvent* event) {
     if (const auto key = PrompterKey::of(*event)) {
         Q_EMIT keyPressed(*key);
+    } else if (event->key() == Qt::Key_Escape) { // which nothing in the window had a use for
+        platform.windowTraits->giveKeyboardBack(winId());
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -3,6 +3,7 @@
 #include "cli/ControlAnswer.h"
 #include "cli/ControlRequest.h"
 #include "prompter/PrompterWindow.h"
+#include "prompter/covers/TextCovers.h"
 #include "prompter/view/ScriptView.h"
 #include "settings/ReadingSettings.h"
 #include "support/PrintQt.h"
@@ -279,6 +280,27 @@ TEST_F(RemoteControlTest, MovesTheText) {
     EXPECT_GT(position(), heading);
     textOf(u"previous-heading"_s);
     EXPECT_DOUBLE_EQ(position(), heading);
+    textOf(u"heading 3"_s);
+    const double third = position();
+    EXPECT_GT(third, heading);
+    EXPECT_EQ(textOf(u"heading 101"_s), textOf(u"heading 3"_s)) << "there are a hundred";
+    EXPECT_DOUBLE_EQ(position(), third);
+}
+
+TEST_F(RemoteControlTest, BlacksTheTextOutAndShowsTheKeys) {
+    launch();
+    showLongScript();
+    EXPECT_EQ(textOf(u"black on"_s), u"text blacked out"_s);
+    EXPECT_EQ(textOf(u"black on"_s), u"text blacked out"_s);
+    EXPECT_TRUE(prompter()->covers().isBlack());
+    EXPECT_EQ(textOf(u"black off"_s), u"text shown"_s);
+    EXPECT_EQ(textOf(u"black toggle"_s), u"text blacked out"_s);
+    EXPECT_EQ(textOf(u"black toggle"_s), u"text shown"_s);
+    EXPECT_FALSE(prompter()->covers().isBlack());
+    EXPECT_EQ(textOf(u"keys toggle"_s), u"keys shown"_s);
+    EXPECT_TRUE(prompter()->covers().showsKeys());
+    EXPECT_EQ(textOf(u"keys off"_s), u"keys hidden"_s);
+    EXPECT_FALSE(prompter()->covers().showsKeys());
 }
 
 TEST_F(RemoteControlTest, ShowsHidesAndFoldsThePrompter) {

@@ -308,5 +308,14 @@ TEST_F(PrompterWindowTest, IsSquareAtTheTopAndRoundAtTheBottom) {
     EXPECT_GT(picture.pixelColor(12, 255).alpha(), 128);
 }
 
+TEST_F(PrompterWindowTest, GivesTheKeyboardBackOnEscapeOnly) {
+    show(u"one\ntwo"_s);
+    traits.takeKeyboard(window().winId());
+    QTest::keyClick(window().windowHandle(), Qt::Key_A);
+    EXPECT_EQ(traits.keyboardOwner, window().winId());
+    QTest::keyClick(window().windowHandle(), Qt::Key_Escape);
+    EXPECT_NE(traits.keyboardOwner, window().winId());
+}
+
 } // namespace
 } // namespace tessaline

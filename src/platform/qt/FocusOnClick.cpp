@@ -3,7 +3,6 @@
 #include "platform/WindowTraits.h"
 
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWindow>
 
@@ -39,9 +38,6 @@ bool FocusOnClick::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::Leave:
         giveBack = QGuiApplication::mouseButtons() == Qt::NoButton && !showsPopup();
-        break;
-    case QEvent::KeyPress:
-        giveBack = static_cast<const QKeyEvent&>(*event).key() == Qt::Key_Escape;
         break;
     case QEvent::Hide:
         giveBack = true;

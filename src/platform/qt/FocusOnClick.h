@@ -10,9 +10,9 @@ namespace tessaline {
 class WindowTraits;
 
 /// Gives a window that the window manager leaves alone the keyboard when it is clicked, and returns
-/// it when the pointer leaves, when the window is hidden, and on Escape: the speaker who clicked
-/// into the prompter goes on paging the slides. A drag that leaves the window keeps the keyboard
-/// until the button is released.
+/// it when the pointer leaves and when the window is hidden: the speaker who clicked into the
+/// prompter goes on paging the slides. A drag that leaves the window keeps the keyboard until the
+/// button is released.
 class FocusOnClick final : public QObject {
 public:
     /// Watches the window, which owns this object. The traits are borrowed.

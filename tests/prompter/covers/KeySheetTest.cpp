@@ -86,8 +86,10 @@ TEST_F(KeySheetTest, ScrollsByKeysAndWheelWhereItHasNoRoom) {
 }
 
 TEST_F(KeySheetTest, EscapePutsItAwayAndGivesTheKeysBackToTheText) {
+    traits.takeKeyboard(window().winId());
     QTest::keyClick(window().windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(isShown());
+    EXPECT_EQ(traits.keyboardOwner, window().winId()) << "the prompter keeps the keyboard";
     QTest::keyClick(window().windowHandle(), Qt::Key_Down);
     EXPECT_EQ(window().textView().scrollPosition(), 20);
 }
