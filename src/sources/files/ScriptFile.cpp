@@ -1,0 +1,75 @@
+#include "sources/files/ScriptFile.h"
+
+#include "settings/FilePath.h"
+#include "settings/WholeFile.h"
+#include "sources/files/ScriptText.h"
+
+#include <QFile>
+
+#include <filesystem>
+#include <system_error>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Enough to tell what a file holds.
+constexpr qint64 beginningSize = qint64{64} << 10;
+
+bool isFolder(const QString& path) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(nativePath(path).toStdString(), ignored);
+}
+
+bool isZip(QByteArrayView beginning) {
+    return beginning.startsWith("PK\x03\x04");
+}
+
+ReadText refused(const QString& problem) {
+    return {std::nullopt, problem};
+}
+
+ReadText tooLarge(qint64 limit) {
+    return refused(u"it is larger than %1 MiB"_s.arg(limit >> 20));
+}
+
+ReadText readText(QFile& file) {
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) return refused(file.errorString());
+    auto text = decodeScript(bytes);
+    return text ? ReadText{std::move(text), {}} : refused(u"it is not text"_s);
+}
+
+} // namespace
+
+ReadText readScriptFile(const QString& path, ProcessRunner& processes, qint64 limit) {
+    if (isFolder(path)) return refused(u"it is a folder"_s);
+    QFile file;
+    QString problem;
+    if (!openRegularFile(path, file, &problem)) return refused(problem);
+    const QByteArray beginning = file.peek(beginningSize);
+    if (isDocumentName(path) && isZip(beginning)) {
+        if (file.size() > documentLimit) return tooLarge(documentLimit);
+        return readDocument(path, processes);
+    }
+    if (file.size() > limit) return tooLarge(limit);
+    if (isBinary(beginning)) return refused(u"it is not text"_s);
+    return readText(file);
+}
+
+bool isDocumentFile(const QString& path) {
+    QFile file;
+    return isDocumentName(path) && openRegularFile(path, file) && isZip(file.peek(4));
+}
+
+QStringList scriptNamePatterns() {
+    return {u"*.md"_s, u"*.markdown"_s, u"*.txt"_s, u"*.text"_s, u"*.docx"_s, u"*.odt"_s};
+}
+
+QString shownFileName(const QString& path) {
+    return path.section(u'/', -1, -1, QString::SectionSkipEmpty);
+}
+
+} // namespace tessaline

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "sources/files/DocumentText.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace tessaline {
+
+/// Larger files are not opened by hand: nobody reads so long a script, and a drop may be a mistake.
+inline constexpr qint64 scriptFileLimit = qint64{64} << 20;
+
+/// Reads a script of the user's by its path from the root: text in one of the encodings of
+/// `decodeScript`, or a document. Only regular files are opened, so that the call does not wait for
+/// anybody; one that is too large or no text is refused from its size and its beginning. Any
+/// thread.
+ReadText readScriptFile(const QString& path, ProcessRunner& processes,
+                        qint64 limit = scriptFileLimit);
+
+/// Whether the file at the path is a document that has to be turned into text, which takes a while.
+/// Opens it to look.
+bool isDocumentFile(const QString& path);
+
+/// The patterns of the names that scripts usually have.
+QStringList scriptNamePatterns();
+
+/// How messages call a file: by its name alone.
+QString shownFileName(const QString& path);
+
+} // namespace tessaline
