@@ -28,6 +28,7 @@ public:
     /// Shows the last text with the settings as they are now.
     void render();
 
+    const QString& text() const { return lastText; }
     bool isEmpty() const { return lastText.isEmpty(); }
     bool isHint() const;
 

@@ -10,6 +10,7 @@
 #include "platform/qt/FocusOnClick.h"
 #include "platform/qt/KeyTranslation.h"
 #include "prompter/ControlStrip.h"
+#include "prompter/NoticeBar.h"
 #include "prompter/PrompterContent.h"
 #include "prompter/PrompterGeometry.h"
 #include "prompter/PrompterKey.h"
@@ -96,9 +97,13 @@ void PrompterWindow::setupUI() {
     setFocusProxy(view);
     view->setFocus();
     content = std::make_unique<PrompterContent>(settings, *session, *view, *platform.renderTasks,
-                                                *platform.mainQueue, [this] { updateStats(); });
+                                                *platform.mainQueue, [this] {
+                                                    updateStats();
+                                                    Q_EMIT textShown(content->text());
+                                                });
     textCovers = new TextCovers(settings, readingSettings, *session, *platform.timers, *scrollArea);
     textCovers->setParent(this);
+    noticeBar = new NoticeBar(*platform.timers, *view);
     connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
 }
 

@@ -18,6 +18,7 @@
 namespace tessaline {
 
 class ControlStrip;
+class NoticeBar;
 class PrompterContent;
 class ReadingConductor;
 class ReadingSession;
@@ -98,8 +99,13 @@ public:
     ScriptView& textView() const { return *view; }
     TextCovers& covers() const { return *textCovers; } ///< what may lie over the text
 
+    NoticeBar& notices() const { return *noticeBar; } ///< tells what came of something
+
 Q_SIGNALS:
     void keyPressed(const PrompterKey& key);
+
+    /// A text that was handed in is on show, also when it is the same as before.
+    void textShown(const QString& text);
 
 protected:
     void setVisible(bool visible) override;
@@ -137,6 +143,7 @@ private:
     QWidget* scrollArea = nullptr; ///< what of the text is seen
     ScriptView* view = nullptr;
     TextCovers* textCovers = nullptr;
+    NoticeBar* noticeBar = nullptr;
     bool watchesClicks = false;
     bool collapsed = false;
     bool squareCorners = false; ///< follows `collapsed` once the window has its height

@@ -1,0 +1,147 @@
+#include "prompter/NoticeBar.h"
+
+#include "appearance/PointFont.h"
+#include "appearance/SystemPalette.h"
+#include "controls/Labels.h"
+#include "platform/TimerMaker.h"
+#include "prompter/controls/PressableButton.h"
+#include "prompter/view/ScriptView.h"
+
+#include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double points = 12.0;
+constexpr int sideMargin = 12;
+constexpr int margin = 6;
+constexpr int buttonPadding = 8;
+constexpr int buttonHeight = 22;
+constexpr double groundAlpha = 0.94;
+constexpr double lineAlpha = 0.22;
+constexpr double buttonAlpha = 0.22;
+constexpr double pressedAlpha = 0.4;
+constexpr double mostOfTheWidth = 0.6; // for the button
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* bar = qobject_cast<NoticeBar*>(object);
+    return bar ? new QAccessibleWidget(bar, QAccessible::AlertMessage) : nullptr;
+}
+
+} // namespace
+
+NoticeBar::NoticeBar(TimerMaker& timerMaker, ScriptView& borrowedView)
+    : QWidget(borrowedView.parentWidget())
+    , timers(timerMaker)
+    , view(borrowedView)
+    , label(makeWrappingLabel({}, systemFont(points), SystemPalette::amber()))
+    , button(new PressableButton(this)) {
+    QAccessible::installFactory(makeInterface);
+    setObjectName(u"prompter_notice"_s);
+    setAttribute(Qt::WA_NoMousePropagation);
+    setCursor(Qt::ArrowCursor);
+    label->setParent(this);
+    label->setObjectName(u"prompter_noticeText"_s);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    button->setObjectName(u"prompter_noticeButton"_s);
+    button->normalAlpha = 1.0;
+    button->normalBackgroundColor = SystemPalette::withAlpha(SystemPalette::amber(), buttonAlpha);
+    button->pressedBackgroundColor = SystemPalette::withAlpha(SystemPalette::amber(), pressedAlpha);
+    connect(button, &QAbstractButton::clicked, this, [this] {
+        const auto action = std::exchange(act, nullptr);
+        dismiss();
+        if (action) action();
+    });
+    hide();
+    view.installEventFilter(this);
+}
+
+NoticeBar::~NoticeBar() = default;
+
+void NoticeBar::tell(const QString& text) {
+    act = nullptr;
+    button->hide();
+    appear(text, tellingSeconds);
+}
+
+void NoticeBar::offer(const QString& text, const QString& title, std::function<void()> action) {
+    act = std::move(action);
+    button->setGlyph(title, points, QFont::Medium);
+    button->setAccessibleName(title);
+    button->show();
+    appear(text, offeringSeconds);
+}
+
+void NoticeBar::dismiss() {
+    ending.reset();
+    act = nullptr;
+    hide();
+}
+
+void NoticeBar::appear(const QString& text, double seconds) {
+    if (text.isEmpty()) return dismiss();
+    label->setText(text);
+    setAccessibleName(text);
+    arrange();
+    show();
+    raise();
+    ending = timers.every(TimerMaker::Interval(seconds), [this] { dismiss(); });
+    // The keyboard is the text's: Escape is seen on its way there.
+    if (QWindow* window = this->window()->windowHandle()) window->installEventFilter(this);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+/// At the lower edge, or at the upper one where that would cover the line that is read.
+void NoticeBar::arrange() {
+    const QSize room = view.size();
+    const int wanted = button->sizeHint().width() + 2 * buttonPadding;
+    const int buttonWidth =
+        button->isHidden() ? 0 : std::min(wanted, int(room.width() * mostOfTheWidth));
+    const int textWidth = room.width() - 2 * sideMargin - buttonWidth - (buttonWidth ? margin : 0);
+    const int textHeight = label->heightForWidth(std::max(textWidth, 1));
+    const int height = std::max(textHeight, buttonHeight) + 2 * margin;
+    const int lower = room.height() - height;
+    const double halfLine = view.caretRect(view.offsetAt({0, view.eyeLine()})).height() / 2;
+    const bool coversEyeLine = lower < view.eyeLine() + halfLine;
+    setGeometry(view.x(), view.y() + (coversEyeLine ? 0 : lower), room.width(), height);
+    label->setGeometry(sideMargin, (height - textHeight) / 2, textWidth, textHeight);
+    button->setGeometry(room.width() - sideMargin - buttonWidth, (height - buttonHeight) / 2,
+                        buttonWidth, buttonHeight);
+}
+
+bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
+    const bool isEscape = event->type() == QEvent::KeyPress &&
+                          static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (isEscape && watched == window()->windowHandle()) dismiss();
+    if (event->type() == QEvent::Resize && watched == &view && isVisible()) arrange();
+    return false;
+}
+
+void NoticeBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), SystemPalette::withAlpha(SystemPalette::black, groundAlpha));
+    const int y = pos().y() > view.y() ? 0 : height() - 1;
+    painter.fillRect(0, y, width(), 1, SystemPalette::withAlpha(SystemPalette::amber(), lineAlpha));
+}
+
+void NoticeBar::mousePressEvent(QMouseEvent*) {
+    dismiss();
+}
+
+void NoticeBar::wheelEvent(QWheelEvent* event) {
+    QCoreApplication::sendEvent(&view, event);
+}
+
+} // namespace tessaline
