@@ -6,6 +6,7 @@
 #include "platform/BundleInformation.h"
 #include "platform/DisplayLink.h"
 #include "platform/EventTap.h"
+#include "platform/FileChooser.h"
 #include "platform/FileIcons.h"
 #include "platform/FolderChooser.h"
 #include "platform/GlobalKeyMonitor.h"

@@ -10,6 +10,7 @@ class ApplicationLookup;
 class BundleInformation;
 class DisplayLinkMaker;
 class EventTapMaker;
+class FileChooser;
 class FileIcons;
 class FolderChooser;
 class GlobalKeyMonitor;
@@ -69,6 +70,7 @@ struct Platform {
     std::unique_ptr<ApplicationLookup> applications;
     std::unique_ptr<FileIcons> icons;
     std::unique_ptr<FolderChooser> folderChooser;
+    std::unique_ptr<FileChooser> fileChooser;
 };
 
 /// The system at hand, with the session that the program runs in. Needs the QApplication, which

@@ -7,6 +7,7 @@
 #include "support/FakeBundleInformation.h"
 #include "support/FakeDisplayLinkMaker.h"
 #include "support/FakeEventTapMaker.h"
+#include "support/FakeFileChooser.h"
 #include "support/FakeFileIcons.h"
 #include "support/FakeFolderChooser.h"
 #include "support/FakeGlobalKeyMonitor.h"
@@ -66,7 +67,8 @@ TestPlatform::TestPlatform()
     , statusArea(put<FakeStatusArea>(platform.statusArea))
     , applications(put<FakeApplicationLookup>(platform.applications))
     , icons(put<FakeFileIcons>(platform.icons))
-    , folderChooser(put<FakeFolderChooser>(platform.folderChooser)) {}
+    , folderChooser(put<FakeFolderChooser>(platform.folderChooser))
+    , fileChooser(put<FakeFileChooser>(platform.fileChooser)) {}
 
 TestPlatform::~TestPlatform() = default;
 

@@ -10,6 +10,7 @@ class FakeApplicationLookup;
 class FakeBundleInformation;
 class FakeDisplayLinkMaker;
 class FakeEventTapMaker;
+class FakeFileChooser;
 class FakeFileIcons;
 class FakeFolderChooser;
 class FakeGlobalKeyMonitor;
@@ -64,6 +65,7 @@ struct TestPlatform {
     FakeApplicationLookup& applications;
     FakeFileIcons& icons;
     FakeFolderChooser& folderChooser;
+    FakeFileChooser& fileChooser;
 };
 
 } // namespace tessaline

@@ -6,6 +6,7 @@
 #include "platform/linux/desktop/LinuxBundleInformation.h"
 #include "platform/qt/KeyTranslation.h"
 #include "platform/qt/QtAdapters.h"
+#include "platform/qt/QtFileChooser.h"
 #include "platform/qt/QtFolderChooser.h"
 #include "platform/qt/QtLocalKeyMonitor.h"
 
@@ -24,6 +25,7 @@ std::unique_ptr<Platform> makePlatform() {
         std::make_unique<DesktopApplicationLookup>(DesktopEntries::installed());
     platform->icons = std::make_unique<DesktopFileIcons>(DesktopEntries::installed());
     platform->folderChooser = std::make_unique<QtFolderChooser>();
+    platform->fileChooser = std::make_unique<QtFileChooser>();
     DisplayServer::connected()->addAdapters(*platform);
     return platform;
 }

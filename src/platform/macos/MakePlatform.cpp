@@ -16,6 +16,7 @@
 #include "platform/macos/MacAdapters.h"
 #include "platform/qt/KeyTranslation.h"
 #include "platform/qt/QtAdapters.h"
+#include "platform/qt/QtFileChooser.h"
 #include "platform/qt/QtLocalKeyMonitor.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScreens.h"
@@ -43,6 +44,7 @@ std::unique_ptr<Platform> makePlatform() {
     platform->applications = makeApplicationLookup();
     platform->icons = makeFileIcons();
     platform->folderChooser = makeFolderChooser();
+    platform->fileChooser = std::make_unique<QtFileChooser>();
     return platform;
 }
 
