@@ -30,6 +30,11 @@ public:
     void adopt(QWidget& window) override;
     void release(QWidget& window) override;
 
+    bool setInputArea(QWidget& /*window*/, const std::optional<QRect>& area) override {
+        inputArea = area;
+        return true;
+    }
+
     void takeKeyboard(NativeWindow window) override { keyboardOwner = window; }
 
     void giveKeyboardBack(NativeWindow window) override {
@@ -43,6 +48,7 @@ public:
     std::vector<NativeWindow> excluded;
     std::vector<const QWidget*> floating; ///< adopted and not released
     std::vector<std::pair<Rect, Screen>> places;
+    std::optional<QRect> inputArea;          ///< none: all of the window
     std::optional<NativeWindow> keyboardOwner; ///< none: another program has the keyboard
 };
 

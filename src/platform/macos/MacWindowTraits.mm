@@ -1,5 +1,7 @@
 #include "platform/WindowTraits.h"
 #include "platform/macos/MacAdapters.h"
+#include "platform/macos/MacInputArea.h"
+#include "platform/macos/MacWindow.h"
 #include "platform/qt/WidgetFrame.h"
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
@@ -18,11 +20,6 @@ namespace tessaline {
 namespace {
 
 Q_LOGGING_CATEGORY(windowLog, "tessaline.windows")
-
-/// Qt's native identifier of a window is its view.
-NSWindow* windowOf(WindowTraits::NativeWindow window) {
-    return ((__bridge NSView*)reinterpret_cast<void*>(window)).window;
-}
 
 class MacWindowTraits final : public WindowTraits {
 public:
@@ -64,6 +61,11 @@ public:
 
     void release(QWidget& /*window*/) override {}
 
+    bool setInputArea(QWidget& window, const std::optional<QRect>& area) override {
+        inputArea.set(window, area);
+        return true;
+    }
+
     void takeKeyboard(NativeWindow window) override {
         // The click that leads here may have made us the front application already. The menu bar
         // still belongs to the one before, since a helper has none.
@@ -85,6 +87,7 @@ public:
 
 private:
     NSRunningApplication* previous = nil;
+    MacInputArea inputArea;
     bool reported = false;
 };
 

@@ -43,6 +43,13 @@ void UnsupportedWindowTraits::adopt(QWidget& /*window*/) {
 
 void UnsupportedWindowTraits::release(QWidget& /*window*/) {}
 
+bool UnsupportedWindowTraits::setInputArea(QWidget& /*window*/,
+                                           const std::optional<QRect>& area) {
+    if (area && !std::exchange(reportedInput, true))
+        qCWarning(windowLog, "This system cannot let the mouse through a part of a window.");
+    return !area;
+}
+
 void UnsupportedWindowTraits::takeKeyboard(NativeWindow /*window*/) {}
 
 void UnsupportedWindowTraits::giveKeyboardBack(NativeWindow /*window*/) {}

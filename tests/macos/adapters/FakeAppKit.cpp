@@ -89,7 +89,7 @@ private:
     std::unique_ptr<std::max_align_t[]> memory;
 };
 
-std::unique_ptr<KeptBlock> keyHandler;
+std::unique_ptr<KeptBlock> eventHandler;
 
 void note(const QString& call) {
     fakeMac().calls += call;
@@ -130,6 +130,7 @@ void teachWindows() {
     for (const Selector number : {"setSharingType:", "setLevel:", "setCollectionBehavior:"})
         teachToNote(NSWindowClass, number);
     teachToNoteWhether(NSWindowClass, "setHasShadow:");
+    teachToNoteWhether(NSWindowClass, "setIgnoresMouseEvents:");
     teach(NSWindowClass, "isKeyWindow",
           [](Object* window, Selector) { return window == fakeMac().keyWindow; });
     teach(NSWindowClass, "makeKeyWindow", [](Object* window, Selector) {
@@ -251,21 +252,27 @@ void teachEvents() {
           [](Object*, Selector, unsigned long long mask, Block* handler) -> Object* {
               note(u"monitor %1"_s.arg(mask));
               if (!fakeMac().allowsKeyMonitors) return nullptr;
-              keyHandler = std::make_unique<KeptBlock>(*handler);
+              eventHandler = std::make_unique<KeptBlock>(*handler);
               return autoreleased(make(NSEventClass, u"monitor"_s));
           });
     teach(NSEventClass, "removeMonitor:", [](Object*, Selector, Object* monitor) {
         note(u"remove "_s + monitor->text);
-        keyHandler = nullptr;
+        eventHandler = nullptr;
     });
 }
 
 } // namespace
 
 bool pressElsewhere(const FakeMac::Key& key) {
-    if (!keyHandler) return false;
+    if (!eventHandler) return false;
     fakeMac().key = key;
-    keyHandler->call(autoreleased(make(NSEventClass, u"key"_s)));
+    eventHandler->call(autoreleased(make(NSEventClass, u"key"_s)));
+    return true;
+}
+
+bool movePointerElsewhere() {
+    if (!eventHandler) return false;
+    eventHandler->call(autoreleased(make(NSEventClass, u"movement"_s)));
     return true;
 }
 
@@ -276,7 +283,7 @@ FakeMac& fakeMac() {
 
 void startFakeMac() {
     FakeObjectiveC::reset();
-    keyHandler = nullptr;
+    eventHandler = nullptr;
     FakeMac& mac = fakeMac() = {};
     FakeMacParts::teachAppKit();
     NSApp = make(NSApplicationClass);

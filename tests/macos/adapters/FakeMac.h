@@ -95,6 +95,8 @@ Passage switchTapOff(std::uint32_t reason);
 
 /// Presses a key in another application. False when nobody listens.
 bool pressElsewhere(const FakeMac::Key& key);
+/// The same for the pointer, which is where the cursor is.
+bool movePointerElsewhere();
 
 namespace FakeMacParts {
 

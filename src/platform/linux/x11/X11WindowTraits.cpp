@@ -15,7 +15,8 @@ X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
     , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
     , stacking(serverConnection, root)
     , managerTurn(serverConnection, root)
-    , compositor(serverConnection, root) {
+    , compositor(serverConnection, root)
+    , inputArea(serverConnection) {
     // Restacking comes as a series of events, which one look at the result answers.
     raiseTimer.setSingleShot(true);
     QObject::connect(&raiseTimer, &QTimer::timeout, &raiseTimer,
@@ -66,6 +67,10 @@ void X11WindowTraits::release(QWidget& window) {
     if (floating != static_cast<XWindow>(window.winId())) return;
     floating = XCB_NONE;
     raiseTimer.stop();
+}
+
+bool X11WindowTraits::setInputArea(QWidget& window, const std::optional<QRect>& area) {
+    return inputArea.set(window, area);
 }
 
 void X11WindowTraits::takeKeyboard(NativeWindow window) {

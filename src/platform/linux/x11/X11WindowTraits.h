@@ -2,6 +2,7 @@
 
 #include "platform/WindowTraits.h"
 #include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11InputArea.h"
 #include "platform/linux/x11/X11ManagerTurn.h"
 #include "platform/linux/x11/X11Stacking.h"
 
@@ -44,6 +45,7 @@ public:
     /// Keeps one window on top; another one takes the place of the first.
     void adopt(QWidget& window) override;
     void release(QWidget& window) override;
+    bool setInputArea(QWidget& window, const std::optional<QRect>& area) override;
 
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
@@ -67,6 +69,7 @@ private:
     XWindow previousFocus = 0;
     XWindow claiming = 0; ///< takes the keyboard until the window manager has had its turn
     bool reportedCapture = false;
+    X11InputArea inputArea;
     QTimer raiseTimer;
 };
 

@@ -29,6 +29,7 @@ typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
 @property NSWindowSharingType sharingType;
 @property NSWindowCollectionBehavior collectionBehavior;
 @property BOOL hasShadow;
+@property BOOL ignoresMouseEvents;
 @property(readonly, getter=isKeyWindow) BOOL keyWindow;
 - (void)makeKeyWindow;
 @end
@@ -76,7 +77,11 @@ typedef NS_OPTIONS(NSUInteger, NSApplicationActivationOptions) {
 - (nullable NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)bundleIdentifier;
 @end
 
-typedef NS_OPTIONS(unsigned long long, NSEventMask) { NSEventMaskKeyDown = 1ULL << 10 };
+typedef NS_OPTIONS(unsigned long long, NSEventMask) {
+    NSEventMaskLeftMouseUp = 1ULL << 2,
+    NSEventMaskMouseMoved = 1ULL << 5,
+    NSEventMaskKeyDown = 1ULL << 10,
+};
 typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagCommand = 1 << 20 };
 
 @interface NSEvent : NSObject
