@@ -91,6 +91,19 @@ QString countdown(const PrompterStatus& status) {
     return status.countdown == 0 ? u"countdown off"_s : u"countdown %1 s"_s.arg(status.countdown);
 }
 
+QString opacity(const PrompterStatus& status) {
+    const QString text = u"opacity %1 percent"_s.arg(status.opacity);
+    const bool isSeen = status.opacityShown == status.opacity;
+    return isSeen ? text : text + ", which needs a compositing manager: the ground is opaque"_L1;
+}
+
+QString font(const PrompterStatus& status) {
+    const QString text = "font "_L1 + status.font;
+    return status.fontShown == status.font
+               ? text
+               : text + ", which is not installed: the default is shown"_L1;
+}
+
 } // namespace
 
 QString controlAnswer(const ControlRequest& request, const PrompterStatus& status) {
@@ -146,11 +159,11 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
     case ControlCommand::mirror:
         return "mirror "_L1 + rawValue(status.mirror);
     case ControlCommand::opacity:
-        return u"opacity %1 percent"_s.arg(status.opacity);
+        return opacity(status);
     case ControlCommand::clickThrough:
         return status.clickThrough ? u"click-through on"_s : u"click-through off"_s;
     case ControlCommand::font:
-        return "font "_L1 + status.font;
+        return font(status);
     case ControlCommand::lineSpacing:
         return u"line spacing %1"_s.arg(status.lineSpacing);
     case ControlCommand::distance:

@@ -14,6 +14,7 @@
 #include "prompter/PrompterContent.h"
 #include "prompter/PrompterGeometry.h"
 #include "prompter/PrompterKey.h"
+#include "prompter/PrompterLook.h"
 #include "prompter/ReadingStatistics.h"
 #include "prompter/WindowShape.h"
 #include "prompter/covers/TextCovers.h"
@@ -80,7 +81,10 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
         settings.observe([this](const PersistedSettings& before) { settingsChanged(before); });
     readingObservation =
         readingSettings.observe([this](const ReadingOptions&) { readingOptionsChanged(); });
-    platform.windowTraits->onTranslucencyChange(lifetime.guard([this] { shape(); }));
+    platform.windowTraits->onTranslucencyChange(lifetime.guard([this] {
+        textLook->update();
+        shape();
+    }));
 }
 
 PrompterWindow::~PrompterWindow() {
@@ -105,6 +109,9 @@ void PrompterWindow::setupUI() {
     textCovers->setParent(this);
     noticeBar = new NoticeBar(*platform.timers, *view);
     connect(view, &ScriptView::layoutCompleted, this, &PrompterWindow::updateStats);
+    textLook =
+        std::make_unique<PrompterLook>(readingSettings, *platform.windowTraits, *view, *textCovers);
+    connect(textLook.get(), &PrompterLook::changed, this, &PrompterWindow::shape);
 }
 
 void PrompterWindow::updateFrame() {
@@ -168,6 +175,9 @@ bool PrompterWindow::isResizing() const {
 
 void PrompterWindow::shape() {
     updateShape(*this, squareCorners, platform.windowTraits->showsTranslucency(), hole);
+    const bool passesClicks = textLook->isClickedThrough() && !collapsed;
+    platform.windowTraits->setInputArea(*this, passesClicks ? std::optional(strip->geometry())
+                                                            : std::nullopt);
 }
 
 void PrompterWindow::cutOut(const QRegion& part) {
@@ -229,7 +239,7 @@ void PrompterWindow::makeKeyAndOrderFront() {
 }
 
 void PrompterWindow::paintEvent(QPaintEvent*) {
-    paintShape(*this, squareCorners);
+    paintShape(*this, squareCorners, strip->height(), textLook->groundOpacity());
 }
 
 void PrompterWindow::updateText(const QString& text) {
@@ -280,6 +290,7 @@ PrompterStatus PrompterWindow::status() const {
                           .black = textCovers->isBlack(),
                           .keys = textCovers->showsKeys()};
     session->tellProgress(status);
+    textLook->tell(status);
     return status;
 }
 

@@ -20,6 +20,7 @@ namespace tessaline {
 class ControlStrip;
 class NoticeBar;
 class PrompterContent;
+class PrompterLook;
 class ReadingConductor;
 class ReadingSession;
 class RepeatingTimer;
@@ -78,9 +79,7 @@ public:
     /// Moves the text by so many points; negative is forward.
     void performScroll(double deltaY);
 
-    /// Switches auto-scroll on or off and saves the settings.
-    void toggleAutoScroll();
-
+    void toggleAutoScroll();       ///< and saves the settings
     void updateScrollParameters(); ///< takes speed and rate over from the settings
 
     void updateSourceModeIndicator(SourceMode mode);
@@ -88,8 +87,7 @@ public:
 
     void updateMinimizeButtonAppearance(); ///< it shows what it does next
 
-    /// The controls, for connecting their actions.
-    ControlStrip& controls() const { return *strip; }
+    ControlStrip& controls() const { return *strip; } ///< for connecting their actions
 
     /// What is read here, and the view that shows it.
     ReadingSession& reading() const { return *session; }
@@ -97,6 +95,7 @@ public:
     /// What it shows and does now; the version is for the program to tell.
     PrompterStatus status() const;
     ScriptView& textView() const { return *view; }
+    PrompterLook& look() const { return *textLook; }
     TextCovers& covers() const { return *textCovers; } ///< what may lie over the text
 
     NoticeBar& notices() const { return *noticeBar; } ///< tells what came of something
@@ -144,6 +143,7 @@ private:
     ScriptView* view = nullptr;
     TextCovers* textCovers = nullptr;
     NoticeBar* noticeBar = nullptr;
+    std::unique_ptr<PrompterLook> textLook;
     bool watchesClicks = false;
     bool collapsed = false;
     bool squareCorners = false; ///< follows `collapsed` once the window has its height

@@ -1,5 +1,7 @@
 #include "prompter/WindowShape.h"
 
+#include "prompter/view/FrameLook.h"
+
 #include <QBitmap>
 #include <QPainter>
 #include <QPainterPath>
@@ -45,10 +47,16 @@ void updateShape(QWidget& window, bool square, bool showsTranslucency, const QRe
     window.update();
 }
 
-void paintShape(QWidget& window, bool square) {
+void paintShape(QWidget& window, bool square, int opaqueHeight, double opacityBelow) {
+    const QPainterPath shape = shapeOf(window, square);
     QPainter painter(&window);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(shapeOf(window, square), Qt::black);
+    if (opacityBelow >= 1.0) return painter.fillPath(shape, Qt::black);
+    const QRect opaque(0, 0, window.width(), opaqueHeight);
+    painter.setClipRect(opaque);
+    painter.fillPath(shape, Qt::black);
+    painter.setClipRegion(QRegion(window.rect()) - opaque);
+    painter.fillPath(shape, QColor::fromRgba(FrameLook{.groundOpacity = opacityBelow}.ground()));
 }
 
 } // namespace tessaline

@@ -10,7 +10,8 @@ namespace tessaline {
 /// it when any of this changes.
 void updateShape(QWidget& window, bool square, bool showsTranslucency, const QRegion& cutOut);
 
-/// Fills the window's shape with black, with smooth corners. For paint events.
-void paintShape(QWidget& window, bool square);
+/// Fills the window's shape with black, with smooth corners: opaque down to a height, and from
+/// there on so that it hides a share of what is below. For paint events.
+void paintShape(QWidget& window, bool square, int opaqueHeight, double opacityBelow);
 
 } // namespace tessaline

@@ -43,9 +43,11 @@ struct PrompterStatus {
     ScriptEnd atEnd = ScriptEnd::stand;
     bool glide = false;
     Mirroring mirror = Mirroring::none;
-    int opacity = 100; ///< of the ground, in percent
+    int opacity = 100;      ///< of the ground, in percent
+    int opacityShown = 100; ///< that there is: opaque where nothing shows translucency
     bool clickThrough = false;
-    QString font; ///< "default", or the family's name
+    QString font;      ///< "default", or the family's name
+    QString fontShown; ///< that there is: the default where that family is missing
     double lineSpacing = 1.0;
     int distance = 0; ///< centimetres
 
@@ -86,8 +88,10 @@ struct PrompterStatus {
         visit("glide", status.glide);
         visit("mirror", status.mirror);
         visit("opacity", status.opacity);
+        visit("opacityShown", status.opacityShown);
         visit("clickThrough", status.clickThrough);
         visit("font", status.font);
+        visit("fontShown", status.fontShown);
         visit("lineSpacing", status.lineSpacing);
         visit("distance", status.distance);
         visit("black", status.black);

@@ -38,8 +38,10 @@ PrompterStatus aStatus() {
             .glide = true,
             .mirror = Mirroring::vertical,
             .opacity = 65,
+            .opacityShown = 65,
             .clickThrough = true,
             .font = u"DejaVu Serif"_s,
+            .fontShown = u"DejaVu Serif"_s,
             .lineSpacing = 1.25,
             .distance = 80,
             .black = true,
@@ -117,6 +119,12 @@ TEST(ControlAnswer, TellsTheReadingOptions) {
 TEST(ControlAnswer, TellsHowTheTextLooks) {
     EXPECT_EQ(answer(ControlCommand::mirror), u"mirror vertical"_s);
     EXPECT_EQ(answer(ControlCommand::opacity), u"opacity 65 percent"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::opacity, {}},
+                            with([](auto& status) { status.opacityShown = 100; })),
+              u"opacity 65 percent, which needs a compositing manager: the ground is opaque"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::font, {}},
+                            with([](auto& status) { status.fontShown = u"default"_s; })),
+              u"font DejaVu Serif, which is not installed: the default is shown"_s);
     EXPECT_EQ(answer(ControlCommand::clickThrough), u"click-through on"_s);
     EXPECT_EQ(answer(ControlCommand::font), u"font DejaVu Serif"_s);
     EXPECT_EQ(answer(ControlCommand::lineSpacing), u"line spacing 1.25"_s);
@@ -134,8 +142,9 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
         "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
         "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
         "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
-        "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"clickThrough\":true,"
-        "\"font\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,\"black\":true,\"keys\":true}"_s);
+        "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"opacityShown\":65,"
+        "\"clickThrough\":true,"
+        "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,\"black\":true,\"keys\":true}"_s);
 }
 
 } // namespace

@@ -50,7 +50,8 @@ class RemoteControl(PrompterTestCase):
             + ["pace", "wordsPerMinute", "wordsRead", "secondsLeft", "secondsElapsed"]
             + ["wantedWordsPerMinute", "finish", "finishTomorrow", "eyeLine", "guide"]
             + ["guideLines", "countdown", "atEnd", "glide"]
-            + ["mirror", "opacity", "clickThrough", "font", "lineSpacing", "distance"],
+            + ["mirror", "opacity", "opacityShown", "clickThrough"]
+            + ["font", "fontShown", "lineSpacing", "distance"],
         )
         self.assertEqual(status["version"], self.call("--version")[1].split()[1])
         self.assertTrue(status["visible"])

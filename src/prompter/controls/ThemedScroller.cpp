@@ -58,15 +58,17 @@ QRect ThemedScrollerStyle::subControlRect(ComplexControl control, const QStyleOp
 
     const QRect slot = bar->rect;
     const QRect knob = knobIn(slot, *bar);
+    const QRect above(slot.left(), slot.top(), slot.width(), knob.top() - slot.top());
+    const QRect below(slot.left(), knob.bottom() + 1, slot.width(), slot.bottom() - knob.bottom());
     switch (part) {
     case SC_ScrollBarGroove:
         return slot;
     case SC_ScrollBarSlider:
         return knob;
     case SC_ScrollBarSubPage:
-        return {slot.left(), slot.top(), slot.width(), knob.top() - slot.top()};
+        return bar->upsideDown ? below : above;
     case SC_ScrollBarAddPage:
-        return {slot.left(), knob.bottom() + 1, slot.width(), slot.bottom() - knob.bottom()};
+        return bar->upsideDown ? above : below;
     default:
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
+#include "prompter/view/Mirror.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -79,6 +80,11 @@ void CountdownView::stop() {
     if (!keyIsHeld) QCoreApplication::instance()->removeEventFilter(this);
 }
 
+void CountdownView::setMirroring(Mirroring wanted) {
+    mirroring = wanted;
+    update();
+}
+
 void CountdownView::counted() {
     setVisible(countdown.secondsLeft() > 0);
     update();
@@ -140,6 +146,7 @@ void CountdownView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), SystemPalette::withAlpha(SystemPalette::black, coverAlpha));
+    painter.setTransform(Mirror(mirroring, size()).asTransform(), true);
     painter.fillPath(outlineOf(countdown.secondsLeft(), rect()), SystemPalette::amber());
 }
 

@@ -2,6 +2,7 @@
 
 #include "prompter/covers/Countdown.h"
 #include "prompter/covers/Cover.h"
+#include "settings/ReadingChoices.h"
 
 namespace tessaline {
 
@@ -21,6 +22,9 @@ public:
     /// Ends the wait without a signal.
     void stop();
 
+    /// Turns the digits over, as the text below is.
+    void setMirroring(Mirroring wanted);
+
 Q_SIGNALS:
     void ended();
     void cancelled();
@@ -37,6 +41,7 @@ private:
     void cancel();
 
     Countdown countdown;
+    Mirroring mirroring = Mirroring::none;
     bool keyIsHeld = false; ///< the one that cancelled
 };
 

@@ -47,6 +47,10 @@ void TextCovers::countDown(bool isSeen) {
     }
 }
 
+void TextCovers::setMirroring(Mirroring mirroring) {
+    countdown->setMirroring(mirroring);
+}
+
 void TextCovers::setBlack(bool on) {
     black->setBlack(on);
     holdSession();

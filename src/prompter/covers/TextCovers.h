@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/ReadingChoices.h"
+
 #include <QObject>
 #include <QSize>
 
@@ -32,6 +34,9 @@ public:
     /// Counts down, if there is something to wait for. Nobody can get ready by what they do not
     /// see: it begins anew once the text is in sight again.
     void countDown(bool isSeen);
+
+    /// Turns over what is read there as the text is: not the keys.
+    void setMirroring(Mirroring mirroring);
 
     void setBlack(bool on);
     bool isBlack() const;

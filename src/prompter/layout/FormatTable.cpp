@@ -12,7 +12,7 @@ namespace tessaline {
 
 namespace {
 
-constexpr double defaultFontSize = 12.0;
+constexpr TextFont plainFont{TextFont::Family::system, TextFont::Weight::regular, false, 12.0};
 
 QFont::Weight resolvedWeight(TextFont::Weight weight) {
     switch (weight) {
@@ -31,18 +31,21 @@ double scaleOf(const QFont& font) {
     return drawn > 0.0 ? pointsOf(font) / drawn : 1.0;
 }
 
-double lineHeightOf(const QFont& font) {
+double lineHeightOf(const QFont& font, double lineSpacing) {
     const QFontMetricsF metrics(font);
-    return scaledLineHeight(metrics.height(), metrics.leading(), scaleOf(font));
+    const double height = scaledLineHeight(metrics.height(), metrics.leading(), scaleOf(font));
+    return height + extraLineHeight(height, lineSpacing);
 }
 
-QFont grown(TextFont font, double growth) {
+QFont grown(TextFont font, double growth, const QString& family) {
     font.size += growth;
-    return resolvedFont(font);
+    return resolvedFont(font, family);
 }
 
-FormatTable::Entry makeEntry(const TextAttributes& attributes, double growth) {
-    const QFont font = attributes.font ? grown(*attributes.font, growth) : defaultTextFont();
+FormatTable::Entry makeEntry(const TextAttributes& attributes, double growth,
+                             const Typography& typography) {
+    const QFont font = grown(attributes.font.value_or(plainFont), attributes.font ? growth : 0.0,
+                             typography.family);
     FormatTable::Entry entry;
     entry.font = font;
     entry.font.setStrikeOut(attributes.strikethrough != 0);
@@ -51,7 +54,7 @@ FormatTable::Entry makeEntry(const TextAttributes& attributes, double growth) {
     if (attributes.background) entry.background = resolvedColor(*attributes.background);
     const QFontMetricsF metrics(font);
     entry.scale = scaleOf(font);
-    entry.lineHeight = lineHeightOf(font);
+    entry.lineHeight = lineHeightOf(font, typography.lineSpacing);
     entry.averageAdvance = metrics.averageCharWidth() * entry.scale;
     return entry;
 }
@@ -75,11 +78,12 @@ QColor resolvedColor(const TextColor& color) {
     Q_UNREACHABLE();
 }
 
-QFont resolvedFont(const TextFont& font) {
+QFont resolvedFont(const TextFont& font, const QString& family) {
     const double size = std::max(font.size, 1.0);
-    QFont resolved = font.family == TextFont::Family::monospaced
-                         ? monospacedFont(size, resolvedWeight(font.weight))
-                         : systemFont(size, resolvedWeight(font.weight));
+    const bool isCode = font.family == TextFont::Family::monospaced;
+    QFont resolved = isCode ? monospacedFont(size, resolvedWeight(font.weight))
+                            : systemFont(size, resolvedWeight(font.weight));
+    if (!isCode && !family.isEmpty()) resolved.setFamilies({family});
     resolved.setItalic(font.italic);
     // Hinted glyphs sit on whole pixels; text that moves by fractions must keep its shapes.
     resolved.setHintingPreference(QFont::PreferNoHinting);
@@ -87,25 +91,31 @@ QFont resolvedFont(const TextFont& font) {
 }
 
 QFont defaultTextFont() {
-    return resolvedFont(
-        {TextFont::Family::system, TextFont::Weight::regular, false, defaultFontSize});
+    return resolvedFont(plainFont);
 }
 
 double scaledLineHeight(double height, double leading, double scale) {
     return std::ceil(height * scale) + std::max(leading, 0.0) * scale;
 }
 
-double lineHeightOf(const TextFont& font) {
-    return lineHeightOf(resolvedFont(font));
+double extraLineHeight(double height, double lineSpacing) {
+    return std::round(height * (lineSpacing - 1.0));
 }
 
-FormatTable::FormatTable() : plainEntry(makeEntry({}, 0.0)) {}
+double lineHeightOf(const TextFont& font, const Typography& typography) {
+    return lineHeightOf(resolvedFont(font, typography.family), typography.lineSpacing);
+}
 
-void FormatTable::assign(const std::vector<TextAttributes>& styles, double growth) {
+FormatTable::FormatTable() : plainEntry(makeEntry({}, 0.0, {})) {}
+
+void FormatTable::assign(const std::vector<TextAttributes>& styles, double growth,
+                         const Typography& typography) {
+    spacing = typography.lineSpacing;
+    plainEntry = makeEntry({}, 0.0, typography);
     entries.clear();
     entries.reserve(styles.size());
     for (const auto& attributes : styles)
-        entries.push_back(makeEntry(attributes, growth));
+        entries.push_back(makeEntry(attributes, growth, typography));
 }
 
 FormatTable FormatTable::ofSelected() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "prompter/layout/Typography.h"
 #include "render/TextAttributes.h"
 
 #include <QColor>
@@ -13,8 +14,9 @@ namespace tessaline {
 /// The real colour for a colour that the renderer names.
 QColor resolvedColor(const TextColor& color);
 
-/// The real font for a font that the renderer names.
-QFont resolvedFont(const TextFont& font);
+/// The real font for a font that the renderer names, in a family in place of the system's if one is
+/// named.
+QFont resolvedFont(const TextFont& font, const QString& family = {});
 
 /// The font of text without attributes.
 QFont defaultTextFont();
@@ -25,7 +27,10 @@ QFont defaultTextFont();
 double scaledLineHeight(double height, double leading, double scale);
 
 /// How high a line of nothing but this font is, in points.
-double lineHeightOf(const TextFont& font);
+double lineHeightOf(const TextFont& font, const Typography& typography = {});
+
+/// What a line of so many points gets on top with a line spacing: a whole number.
+double extraLineHeight(double height, double lineSpacing);
 
 /// What the attribute sets of a text look like in Qt's terms, resolved once for each set.
 class FormatTable {
@@ -43,7 +48,8 @@ public:
     FormatTable();
 
     /// Replaces the table by one for these sets, with every font so many points larger.
-    void assign(const std::vector<TextAttributes>& styles, double growth = 0.0);
+    void assign(const std::vector<TextAttributes>& styles, double growth = 0.0,
+                const Typography& typography = {});
 
     /// The same table for what is selected: everything in white, as colours of its own may be
     /// faint.
@@ -55,9 +61,12 @@ public:
     /// The entry of text without attributes.
     const Entry& plain() const { return plainEntry; }
 
+    double lineSpacing() const { return spacing; }
+
 private:
     std::vector<Entry> entries;
     Entry plainEntry;
+    double spacing = 1.0;
 };
 
 } // namespace tessaline

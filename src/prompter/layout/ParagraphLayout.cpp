@@ -91,7 +91,7 @@ ParagraphLayout::ParagraphLayout(const Script& script, std::size_t index,
     text->setCacheEnabled(true);
     text->setTextOption(textOption(style, rightToLeft, scale));
     setFormats(content.runs, formats);
-    breakLines(style, rightToLeft, textWidth);
+    breakLines(style, rightToLeft, textWidth, formats.lineSpacing());
 }
 
 void ParagraphLayout::setFormats(const std::vector<StyledText::Run>& runs,
@@ -108,7 +108,8 @@ void ParagraphLayout::setFormats(const std::vector<StyledText::Run>& runs,
     if (!alike) text->setFormats(ranges);
 }
 
-void ParagraphLayout::breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth) {
+void ParagraphLayout::breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth,
+                                 double lineSpacing) {
     const double tail = std::max(-style.tailIndent, 0.0);
     double y = style.spacingBefore;
     double indent = style.firstLineHeadIndent;
@@ -119,8 +120,9 @@ void ParagraphLayout::breakLines(const ParagraphStyle& style, bool rightToLeft, 
         line.setPosition({(rightToLeft ? tail : head) / scale, 0});
         const double height =
             scaledLineHeight(line.ascent() + line.descent(), line.leading(), scale);
-        lines.push_back({y, height});
-        y += height;
+        const double extra = extraLineHeight(height, lineSpacing);
+        lines.push_back({y, height + extra, std::floor(extra / 2)});
+        y += height + extra;
         indent = style.headIndent;
     }
     text->endLayout();
@@ -149,7 +151,7 @@ void ParagraphLayout::draw(QPainter& painter, double top, double bottom) const {
     const QTransform unscaled = painter.transform();
     painter.setPen(pen);
     for (std::size_t line = first; line < last; ++line) {
-        painter.translate(0, lines[line].top);
+        painter.translate(0, lines[line].top + lines[line].textTop);
         painter.scale(scale, scale);
         text->lineAt(int(line)).draw(&painter, {0, 0});
         painter.setTransform(unscaled);
@@ -179,7 +181,7 @@ std::vector<QRectF> ParagraphLayout::placesOf(int line, const TextRange& wanted)
     const int begin = textLine.textStart();
     const TextRange range = wanted.intersected({begin, begin + textLine.textLength()});
     if (range.isEmpty()) return {};
-    const auto& [top, height] = lines[std::size_t(line)];
+    const auto& [top, height, textTop] = lines[std::size_t(line)];
     std::vector<QRectF> places;
     for (const auto& [from, to] : stretches(*text, textLine, range)) {
         const double left = std::floor(from * scale);
@@ -207,7 +209,7 @@ QRectF ParagraphLayout::caretRect(qsizetype position) const {
     int cursor = int(std::clamp<qsizetype>(position, 0, text->text().size()));
     const QTextLine line = text->lineForTextPosition(cursor);
     if (!line.isValid()) return {0, 0, 0, wholeHeight};
-    const auto& [top, height] = lines[std::size_t(line.lineNumber())];
+    const auto& [top, height, textTop] = lines[std::size_t(line.lineNumber())];
     return {line.cursorToX(&cursor) * scale, top, 0, height};
 }
 

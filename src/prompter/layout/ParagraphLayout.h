@@ -50,10 +50,12 @@ public:
     QRectF caretRect(qsizetype position) const;
 
 private:
-    /// A line's place; its text begins at the left edge of the column, unscaled.
+    /// A line's place; its text begins at the left edge of the column, unscaled, and so far below
+    /// the line's top.
     struct Line {
         double top;
         double height;
+        double textTop;
     };
 
     struct Ground {
@@ -62,7 +64,8 @@ private:
     };
 
     void setFormats(const std::vector<StyledText::Run>& runs, const FormatTable& formats);
-    void breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth);
+    void breakLines(const ParagraphStyle& style, bool rightToLeft, double textWidth,
+                    double lineSpacing);
     std::pair<std::size_t, std::size_t> linesBetween(double top, double bottom) const;
     std::vector<QRectF> placesOf(int line, const TextRange& range) const;
 

@@ -30,7 +30,7 @@ void ScriptLayout::setScript(std::shared_ptr<const Script> script, const ScriptC
     const std::size_t oldCount = currentScript->paragraphs.size();
     const double oldGrowth = fontGrowth();
     currentScript = std::move(script);
-    formats.assign(currentScript->styles, fontGrowth());
+    assignFormats();
     if (fontGrowth() != oldGrowth) return estimateAll();
     keepMeasured(change, oldCount);
 }
@@ -73,8 +73,19 @@ void ScriptLayout::setTextWidth(double points) {
 void ScriptLayout::setFontSize(double points) {
     if (points == bodySize) return;
     bodySize = points;
-    formats.assign(currentScript->styles, fontGrowth());
+    assignFormats();
     estimateAll();
+}
+
+void ScriptLayout::setTypography(const Typography& wanted) {
+    if (wanted == typography) return;
+    typography = wanted;
+    assignFormats();
+    estimateAll();
+}
+
+void ScriptLayout::assignFormats() {
+    formats.assign(currentScript->styles, fontGrowth(), typography);
 }
 
 double ScriptLayout::fontGrowth() const {
@@ -85,7 +96,7 @@ double ScriptLayout::fontGrowth() const {
 double ScriptLayout::bodyLineHeight() const {
     const double size =
         currentScript->fontSize > 0.0 ? currentScript->fontSize + fontGrowth() : bodySize;
-    return size > 0.0 ? lineHeightOf({.size = size}) : formats.plain().lineHeight;
+    return size > 0.0 ? lineHeightOf({.size = size}, typography) : formats.plain().lineHeight;
 }
 
 void ScriptLayout::estimateAll() {

@@ -4,6 +4,7 @@
 #include "prompter/layout/HeightIndex.h"
 #include "prompter/layout/ParagraphLayout.h"
 #include "prompter/layout/TextRange.h"
+#include "prompter/layout/Typography.h"
 #include "reading/ReadingView.h"
 #include "reading/Script.h"
 #include "reading/ScriptChange.h"
@@ -39,6 +40,9 @@ public:
     /// Sets the size of body text in points; other text that the script sizes by it follows. Before
     /// that, and for 0, everything has the size that the script says.
     void setFontSize(double points);
+
+    /// Sets what the text is set in.
+    void setTypography(const Typography& wanted);
 
     const Script& script() const { return *currentScript; }
     double textWidth() const { return columnWidth; }
@@ -87,11 +91,13 @@ private:
     const ParagraphLayout& laidOut(std::size_t index) const;
     const ParagraphLayout& measuredLayout(std::size_t index);
     void setMeasured(std::size_t index, double height);
+    void assignFormats();
     void estimateAll();
     void forgetLayoutsOutside(std::size_t first, std::size_t last);
     void keepMeasured(const ScriptChange& change, std::size_t oldCount);
 
     std::shared_ptr<const Script> currentScript = std::make_shared<const Script>();
+    Typography typography;
     FormatTable formats;
     HeightIndex heights;
     std::vector<bool> measured;

@@ -17,17 +17,13 @@ PixelRange united(const PixelRange& one, const PixelRange& other) {
     return {std::min(one.begin, other.begin), std::max(one.end, other.end)};
 }
 
-void blacken(std::uint8_t* row, int begin, int end) {
-    auto* pixels = reinterpret_cast<QRgb*>(row);
-    if (begin < end) std::fill(pixels + begin, pixels + end, blackPixel);
-}
-
 } // namespace
 
-void FrameComposer::resize(const QSize& pixels, double devicePixelRatio) {
-    image = QImage(pixels, QImage::Format_RGB32);
+void FrameComposer::resize(const QSize& pixels, double devicePixelRatio, const FrameLook& newLook) {
+    look = newLook;
+    image = QImage(pixels, look.format());
     image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(blackPixel);
+    image.fill(look.ground());
     drawn.assign(std::size_t(std::max(image.height(), 0)), {});
 }
 
@@ -37,9 +33,14 @@ void FrameComposer::compose(StripCache& strips, double firstRow) {
     StripCache::Row upper = strips.row(index);
     for (int row = 0; row < image.height(); ++row) {
         const StripCache::Row lower = strips.row(++index);
-        composeRow(row, upper, lower, lowerWeight);
+        composeRow(look.isUpsideDown() ? image.height() - 1 - row : row, upper, lower, lowerWeight);
         upper = lower;
     }
+}
+
+void FrameComposer::clear(std::uint8_t* row, int begin, int end) const {
+    auto* pixels = reinterpret_cast<QRgb*>(row);
+    if (begin < end) std::fill(pixels + begin, pixels + end, look.ground());
 }
 
 void FrameComposer::composeRow(int row, const StripCache::Row& upper, const StripCache::Row& lower,
@@ -49,10 +50,10 @@ void FrameComposer::composeRow(int row, const StripCache::Row& upper, const Stri
     if (before.isEmpty() && range.isEmpty()) return;
     std::uint8_t* out = image.scanLine(row);
     if (range.isEmpty()) {
-        blacken(out, before.begin, before.end);
+        clear(out, before.begin, before.end);
     } else {
-        blacken(out, before.begin, std::min(before.end, range.begin));
-        blacken(out, std::max(before.begin, range.end), before.end);
+        clear(out, before.begin, std::min(before.end, range.begin));
+        clear(out, std::max(before.begin, range.end), before.end);
         const std::size_t offset = std::size_t(range.begin) * bytesPerPixel;
         blendRows(upper.pixels + offset, lower.pixels + offset, lowerWeight, out + offset,
                   std::size_t(range.end - range.begin) * bytesPerPixel);

@@ -22,7 +22,10 @@ QString HeadingAccessible::text(QAccessible::Text kind) const {
 
 QRect HeadingAccessible::rect() const {
     if (!isValid()) return {};
-    return view->paragraphRect(index).toAlignedRect().translated(view->mapToGlobal(QPoint(0, 0)));
+    return view->mirror()
+        .mirrored(view->paragraphRect(index))
+        .toAlignedRect()
+        .translated(view->mapToGlobal(QPoint(0, 0)));
 }
 
 QAccessible::State HeadingAccessible::state() const {

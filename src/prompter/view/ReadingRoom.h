@@ -17,6 +17,11 @@ struct ReadingRoom {
     double below = inset;
     double lineHeight = 0.0; ///< of body text
 
+    /// The scroll position that has a height of the column where places are measured, and the
+    /// height that a scroll position has there.
+    double positionOf(double y) const { return y + above - readingY; }
+    double columnY(double position) const { return position + readingY - above; }
+
     /// The room in a view of this height. With an eye line, the first and the last line with text
     /// can come to it and nothing goes beyond; they are measured for that.
     static ReadingRoom of(const ReadingFrame& frame, ScriptLayout& layout, double viewHeight);

@@ -117,6 +117,11 @@ qsizetype ScriptInteraction::offsetFromCaret(double points) const {
     return view.offsetAt({caret.x(), caret.center().y() + points});
 }
 
+/// Where in the text as it is written.
+QPointF ScriptInteraction::placeOf(const QMouseEvent& event) const {
+    return view.mirror().mirrored(event.position());
+}
+
 void ScriptInteraction::selectUnitAt(const QPointF& point, TextSelection::Unit unit) {
     TextSelection selection;
     selection.selectUnit(view.script(), view.offsetAt(point), unit);
@@ -127,29 +132,29 @@ void ScriptInteraction::selectUnitAt(const QPointF& point, TextSelection::Unit u
 void ScriptInteraction::mousePress(const QMouseEvent& event) {
     view.jumps().stop();
     if (event.button() != Qt::LeftButton) return;
+    const QPointF point = placeOf(event);
     const bool isNear =
-        (event.position() - doubleClickPoint).manhattanLength() < QApplication::startDragDistance();
+        (point - doubleClickPoint).manhattanLength() < QApplication::startDragDistance();
     const bool third = isNear && sinceDoubleClick.isValid() &&
                        sinceDoubleClick.elapsed() < QApplication::doubleClickInterval();
     sinceDoubleClick.invalidate();
-    if (third) return selectUnitAt(event.position(), TextSelection::Unit::paragraph);
+    if (third) return selectUnitAt(point, TextSelection::Unit::paragraph);
 
     dragUnit = TextSelection::Unit::character;
     TextSelection selection = view.selection();
-    selection.moveTo(view.offsetAt(event.position()),
-                     event.modifiers().testFlag(Qt::ShiftModifier));
+    selection.moveTo(view.offsetAt(point), event.modifiers().testFlag(Qt::ShiftModifier));
     view.setSelection(selection);
 }
 
 void ScriptInteraction::mouseDoubleClick(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) return;
-    selectUnitAt(event.position(), TextSelection::Unit::word);
+    doubleClickPoint = placeOf(event);
+    selectUnitAt(doubleClickPoint, TextSelection::Unit::word);
     sinceDoubleClick.start();
-    doubleClickPoint = event.position();
 }
 
 void ScriptInteraction::mouseMove(const QMouseEvent& event) {
-    if (event.buttons().testFlag(Qt::LeftButton)) dragTo(event.position());
+    if (event.buttons().testFlag(Qt::LeftButton)) dragTo(placeOf(event));
 }
 
 void ScriptInteraction::dragTo(const QPointF& point) {

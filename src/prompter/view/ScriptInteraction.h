@@ -38,6 +38,7 @@ private:
     bool scrollByKey(const QKeyEvent& event);
     bool selectByKey(const QKeyEvent& event);
     void extendSelectionTo(qsizetype offset);
+    QPointF placeOf(const QMouseEvent& event) const;
     void selectUnitAt(const QPointF& point, TextSelection::Unit unit);
     void dragTo(const QPointF& point);
     qsizetype offsetFromCaret(double points) const;

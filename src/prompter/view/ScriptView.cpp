@@ -1,9 +1,9 @@
 #include "prompter/view/ScriptView.h"
 
 #include "platform/qt/KeyTranslation.h"
-#include "prompter/controls/ThemedScroller.h"
 #include "prompter/view/PreciseScrolling.h"
 #include "prompter/view/ReadingGuidePainter.h"
+#include "prompter/view/ScriptScroller.h"
 #include "prompter/view/ScriptViewAccessible.h"
 #include "reading/ReadingSession.h"
 
@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace tessaline {
@@ -33,35 +34,24 @@ constexpr double unitsPerWheelStep = 120.0; // as mice report one notch
 constexpr qsizetype unitsLaidOutAtOnce = 12000;
 constexpr qsizetype unitsLaidOutPerSlice = 3000;
 
-/// The scroller counts in whole steps; so many make a point, unless the document is too long.
-constexpr double scrollerStepsPerPoint = 8.0;
-constexpr double mostScrollerSteps = 1e9;
-
-double scrollerScale(double maximum) {
-    return std::min(scrollerStepsPerPoint, mostScrollerSteps / std::max(maximum, 1.0));
-}
-
 } // namespace
 
 ScriptView::ScriptView(std::shared_ptr<ReadingSession> shown, QWidget* parent)
     : QWidget(parent)
     , session(std::move(shown))
-    , strips([this](QPainter& painter, double top, double bottom) {
+    , frames([this](QPainter& painter, double top, double bottom) {
         painter.translate(horizontalInset, room.above);
         layout.draw(painter, top - room.above, bottom - room.above, currentSelection.range());
     })
-    , scroller(new ThemedScroller(this))
+    , scroller(new ScriptScroller(this))
     , interaction(*this)
     , scriptJumps(*this) {
     installScriptViewAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
-    scroller->setCursor(Qt::ArrowCursor);
-    scroller->setAccessibleName(tr("Scroll position"));
-    connect(scroller, &QScrollBar::valueChanged, this,
-            [this](int value) { scrollTo(value / scrollerScale(maximumScrollPosition())); });
-    connect(scroller, &QScrollBar::sliderPressed, this, [this] { scriptJumps.stop(); });
+    connect(scroller, &ScriptScroller::moved, this, &ScriptView::scrollTo);
+    connect(scroller, &ScriptScroller::pressed, this, [this] { scriptJumps.stop(); });
     layout.setScript(session->script());
     updateRoom();
     session->addView(*this);
@@ -107,28 +97,28 @@ void ScriptView::setPosition(double position) {
 
 void ScriptView::tellPlace() {
     if (scrollTop == 0.0) return session->reached(*this, {});
-    const double y = columnY(scrollTop);
+    const double y = room.columnY(scrollTop);
     const std::size_t paragraph = layout.paragraphAt(y);
     const double height = std::max(layout.heightOf(paragraph), 1.0);
     session->reached(*this, {paragraph, (y - layout.topOf(paragraph)) / height});
 }
 
 double ScriptView::positionOf(const ReadingPlace& place) const {
-    return positionOfY(layout.topOf(place.paragraph) +
-                       place.fraction * layout.heightOf(place.paragraph));
+    return room.positionOf(layout.topOf(place.paragraph) +
+                           place.fraction * layout.heightOf(place.paragraph));
 }
 
 double ScriptView::positionOf(qsizetype offset) const {
     const std::size_t paragraph = script().paragraphOf(offset);
-    if (readingFrame.isActive) return positionOfY(layout.caretRect(offset).center().y());
+    if (readingFrame.isActive) return room.positionOf(layout.caretRect(offset).center().y());
     // The first one comes with the room above it, others without anything of those before them.
     if (offset == script().paragraphs[paragraph].start)
-        return paragraph == 0 ? 0.0 : positionOfY(layout.topOf(paragraph));
-    return positionOfY(layout.caretRect(offset).top());
+        return paragraph == 0 ? 0.0 : room.positionOf(layout.topOf(paragraph));
+    return room.positionOf(layout.caretRect(offset).top());
 }
 
 std::size_t ScriptView::paragraphReadAt(double position) const {
-    return layout.paragraphAt(columnY(position));
+    return layout.paragraphAt(room.columnY(position));
 }
 
 void ScriptView::setReadingFrame(const ReadingFrame& wanted) {
@@ -184,6 +174,16 @@ void ScriptView::setFontSize(double points) {
     setAnew(true);
 }
 
+void ScriptView::setLook(const ScriptLook& wanted) {
+    if (wanted == look) return;
+    const bool isSetAnew = wanted.typography != look.typography;
+    look = wanted;
+    frames.setLook(look.frame);
+    scroller->place(mirror());
+    layout.setTypography(look.typography);
+    isSetAnew ? setAnew(true) : update();
+}
+
 void ScriptView::setAnew(bool atReadersPlace) {
     if (script().length() <= unitsLaidOutAtOnce) layout.measureMore(unitsLaidOutAtOnce + 1, 0);
     updateRoom();
@@ -195,7 +195,7 @@ void ScriptView::layoutChanged() {
     scrollTop = std::clamp(scrollTop, 0.0, maximumScrollPosition());
     session->linesChanged();
     tellPlace();
-    strips.invalidate();
+    frames.invalidate();
     updateScroller();
     update();
     if (layout.isMeasured()) {
@@ -215,7 +215,7 @@ bool ScriptView::keepPlaceDuring(Action action) {
     }
     const double height = layout.height();
     const bool atEnd = scrollTop > 0.0 && scrollTop == maximumScrollPosition();
-    const std::size_t anchor = layout.paragraphAt(columnY(scrollTop));
+    const std::size_t anchor = layout.paragraphAt(room.columnY(scrollTop));
     const double before = layout.topOf(anchor);
     action();
     const double moved = layout.topOf(anchor) - before;
@@ -224,7 +224,7 @@ bool ScriptView::keepPlaceDuring(Action action) {
         if (scrollTop > 0.0) scrollTop += moved;
         const double maximum = maximumScrollPosition();
         scrollTop = atEnd ? maximum : std::clamp(scrollTop, 0.0, maximum);
-        strips.invalidate();
+        frames.invalidate();
         updateScroller();
         update();
     }
@@ -236,8 +236,7 @@ bool ScriptView::keepPlaceDuring(Action action) {
 /// Lays out all that the strips of the next frame show, so that drawing them changes no height.
 void ScriptView::measureVisible() {
     constexpr int mostPasses = 4; // each may bring unmeasured paragraphs into sight
-    const double ratio = pixelRatio();
-    const double strip = StripCache::rowsPerStrip / ratio;
+    const double strip = frames.stripHeight();
     for (int pass = 0; pass < mostPasses && !layout.isMeasured(); ++pass) {
         const double top = std::floor(scrollTop / strip) * strip - room.above;
         const double bottom = top + height() + 2 * strip;
@@ -253,24 +252,16 @@ void ScriptView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != idleTimer.timerId()) return QWidget::timerEvent(event);
     if (!layout.isMeasured()) return continueLayout();
     idleTimer.stop();
-    const auto top = qsizetype(scrollTop * devicePixelRatioF());
-    strips.prepare(top + composer.frame().height() + StripCache::rowsPerStrip / 2);
-    strips.prepare(top - StripCache::rowsPerStrip / 2);
+    frames.prepareAround(scrollTop);
 }
 
 void ScriptView::updateScroller() {
-    const double maximum = maximumScrollPosition();
-    const double scale = scrollerScale(maximum);
-    const QSignalBlocker blocker(scroller);
-    scroller->setRange(0, int(maximum * scale));
-    scroller->setPageStep(int(height() * scale));
-    scroller->setValue(int(scrollTop * scale));
+    scroller->show(scrollTop, maximumScrollPosition());
 }
 
 void ScriptView::resizeEvent(QResizeEvent*) {
-    scroller->setGeometry(width() - scroller->sizeHint().width(), 0, scroller->sizeHint().width(),
-                          height());
-    sizeFrame();
+    scroller->place(mirror());
+    frames.fit(*this);
     const double textWidth = std::max(width() - 2 * horizontalInset, 1.0);
     if (textWidth == layout.textWidth()) {
         updateRoom();
@@ -282,22 +273,14 @@ void ScriptView::resizeEvent(QResizeEvent*) {
     setAnew(true);
 }
 
-void ScriptView::sizeFrame() {
-    const double ratio = devicePixelRatioF();
-    const QSize pixels(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
-    const QImage& frame = composer.frame();
-    if (frame.size() == pixels && frame.devicePixelRatio() == ratio) return;
-    composer.resize(pixels, ratio);
-    strips.resize(pixels.width(), pixels.height(), ratio);
-}
-
 void ScriptView::paintEvent(QPaintEvent*) {
-    sizeFrame(); // the screen, and with it the pixel ratio, may be another one now
-    if (composer.frame().isNull()) return;
+    frames.fit(*this); // the screen, and with it the pixel ratio, may be another one now
+    if (frames.isEmpty()) return;
     measureVisible();
-    keepPlaceDuring([this] { composer.compose(strips, scrollTop * pixelRatio()); });
+    keepPlaceDuring([this] { frames.compose(scrollTop); });
     QPainter painter(this);
-    painter.drawImage(QPointF(0, 0), composer.frame());
+    frames.paint(painter);
+    painter.setTransform(mirror().asTransform(), true);
     paintReadingGuide(painter, readingFrame, room, width());
 }
 
@@ -323,8 +306,7 @@ void ScriptView::invalidateBetween(qsizetype offset, qsizetype other) {
     if (offset == other) return;
     const double top = caretRect(std::min(offset, other)).top() + scrollTop;
     const double bottom = caretRect(std::max(offset, other)).bottom() + scrollTop;
-    const double ratio = pixelRatio();
-    strips.invalidateRows(qsizetype(std::floor(top * ratio)), qsizetype(std::ceil(bottom * ratio)));
+    frames.invalidateBetween(top, bottom);
 }
 
 QString ScriptView::selectedText() const {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "prompter/layout/ScriptLayout.h"
-#include "prompter/view/FrameComposer.h"
+#include "prompter/view/Mirror.h"
 #include "prompter/view/ReadingFrame.h"
 #include "prompter/view/ReadingRoom.h"
+#include "prompter/view/ScriptFrames.h"
 #include "prompter/view/ScriptInteraction.h"
 #include "prompter/view/ScriptJumps.h"
-#include "prompter/view/StripCache.h"
+#include "prompter/view/ScriptLook.h"
 #include "prompter/view/TextSelection.h"
 #include "reading/ReadingView.h"
 
@@ -18,7 +19,7 @@
 namespace tessaline {
 
 class ReadingSession;
-class ThemedScroller;
+class ScriptScroller;
 
 /// Shows a session's script in a column that scrolls to fractions of a pixel, and moves the
 /// session. Read-only; text can be selected with the mouse and the keyboard and copied. Frames are
@@ -37,6 +38,11 @@ public:
     /// Sets the size of body text in points; the reader keeps their place.
     void setFontSize(double points);
 
+    /// Sets how the text looks; the reader keeps their place. What tells places in the view tells
+    /// those of a text that is not turned over: `mirror` tells where they are seen.
+    void setLook(const ScriptLook& wanted);
+    Mirror mirror() const { return {look.frame.mirroring, size()}; }
+
     /// The size that a font of the script has here, in points.
     double sizeOf(const TextFont& font) const { return font.size + layout.fontGrowth(); }
 
@@ -44,7 +50,6 @@ public:
     double scrollPosition() const { return scrollTop; }
 
     double maximumScrollPosition() const; ///< the furthest that it can be scrolled
-
     /// The document's height with its margins. In part an estimate until `isLayoutComplete`.
     double documentHeight() const;
 
@@ -68,7 +73,6 @@ public:
     ScriptJumps& jumps() { return scriptJumps; } ///< where to jump from here
 
     bool isLayoutComplete() const { return layout.isMeasured(); }
-
     void completeLayout(); ///< at once
 
     const TextSelection& selection() const { return currentSelection; }
@@ -118,8 +122,6 @@ private:
     void setPosition(double position);
     void tellPlace();
     double positionOf(const ReadingPlace& place) const;
-    double positionOfY(double y) const { return y + room.above - room.readingY; }
-    double columnY(double position) const { return position + room.readingY - room.above; }
     void updateRoom();
     void moveSelectionAcross(const ScriptChange& change, const Script& before);
     template <typename Action>
@@ -128,8 +130,6 @@ private:
     void setAnew(bool atReadersPlace);
     void layoutChanged();
     void continueLayout();
-    void sizeFrame();
-    double pixelRatio() const { return composer.frame().devicePixelRatio(); }
     void updateScroller();
     void invalidateBetween(qsizetype offset, qsizetype other);
 
@@ -137,9 +137,9 @@ private:
     ScriptLayout layout;
     ReadingFrame readingFrame;
     ReadingRoom room;
-    StripCache strips;
-    FrameComposer composer;
-    ThemedScroller* scroller;
+    ScriptLook look;
+    ScriptFrames frames;
+    ScriptScroller* scroller;
     ScriptInteraction interaction;
     ScriptJumps scriptJumps;
     TextSelection currentSelection;

@@ -187,11 +187,12 @@ QRect ScriptViewAccessible::characterRect(int offset) const {
     const bool sameLine = next.top() == here.top() && next.left() > here.left();
     const QRectF bounds(here.topLeft(),
                         QSizeF(sameLine ? next.left() - here.left() : 1.0, here.height()));
-    return bounds.toAlignedRect().translated(view().mapToGlobal(QPoint(0, 0)));
+    return view().mirror().mirrored(bounds).toAlignedRect().translated(
+        view().mapToGlobal(QPoint(0, 0)));
 }
 
 int ScriptViewAccessible::offsetAtPoint(const QPoint& point) const {
-    return int(view().offsetAt(view().mapFromGlobal(point)));
+    return int(view().offsetAt(view().mirror().mirrored(QPointF(view().mapFromGlobal(point)))));
 }
 
 void ScriptViewAccessible::scrollToSubstring(int startIndex, int endIndex) {

@@ -10,9 +10,9 @@ namespace tessaline {
 
 namespace {
 
-PixelRange seenPixels(const QImage& image, int row) {
+PixelRange seenPixels(const QImage& image, int row, QRgb ground) {
     const auto* pixels = reinterpret_cast<const QRgb*>(image.constScanLine(row));
-    const auto isSeen = [](QRgb pixel) { return pixel != blackPixel; };
+    const auto isSeen = [ground](QRgb pixel) { return pixel != ground; };
     const auto* end = pixels + image.width();
     const auto* first = std::find_if(pixels, end, isSeen);
     if (first == end) return {};
@@ -21,18 +21,26 @@ PixelRange seenPixels(const QImage& image, int row) {
     return {int(first - pixels), int(end - pixels)};
 }
 
+void turnSideways(QImage& image) {
+    for (int row = 0; row < image.height(); ++row) {
+        auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(row));
+        std::reverse(pixels, pixels + image.width());
+    }
+}
+
 } // namespace
 
 StripCache::StripCache(Draw drawColumn) : draw(std::move(drawColumn)) {}
 
-void StripCache::resize(int width, int height, double devicePixelRatio) {
+void StripCache::resize(int width, int height, double devicePixelRatio, const FrameLook& newLook) {
+    look = newLook;
     pixelRatio = devicePixelRatio;
     // A screenful that begins and ends inside a strip, the row below it, and one strip either side
     // that is drawn ahead of time.
     const int count = height / rowsPerStrip + 2 + 2;
     kept.clear();
     for (int i = 0; i < count; ++i)
-        kept.push_back({-1, QImage(std::max(width, 1), rowsPerStrip, QImage::Format_RGB32), {}});
+        kept.push_back({-1, QImage(std::max(width, 1), rowsPerStrip, look.format()), {}});
 }
 
 void StripCache::invalidate() {
@@ -82,7 +90,7 @@ StripCache::Slot& StripCache::slotOf(qsizetype strip) {
 
 void StripCache::drawStrip(Slot& slot, qsizetype strip) {
     slot.strip = strip;
-    slot.image.fill(Qt::black);
+    slot.image.fill(look.ground());
     const double top = double(strip * rowsPerStrip) / pixelRatio;
     QPainter painter(&slot.image);
     painter.setRenderHint(QPainter::TextAntialiasing);
@@ -90,8 +98,10 @@ void StripCache::drawStrip(Slot& slot, qsizetype strip) {
     painter.translate(0, -top);
     draw(painter, top, top + rowsPerStrip / pixelRatio);
     painter.end();
+    if (look.isSideways()) turnSideways(slot.image);
+    const QRgb ground = look.ground();
     for (int row = 0; row < rowsPerStrip; ++row)
-        slot.seen[std::size_t(row)] = seenPixels(slot.image, row);
+        slot.seen[std::size_t(row)] = seenPixels(slot.image, row, ground);
 }
 
 } // namespace tessaline

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "prompter/view/FrameLook.h"
+
 #include <QImage>
 
 #include <array>
@@ -10,8 +12,6 @@
 class QPainter;
 
 namespace tessaline {
-
-inline constexpr QRgb blackPixel = 0xff000000;
 
 /// A stretch of a row, in device pixels.
 struct PixelRange {
@@ -35,8 +35,9 @@ public:
     explicit StripCache(Draw draw);
 
     /// Sets the size of what is visible, in device pixels, and how many of those a
-    /// device-independent one has; forgets all strips.
-    void resize(int width, int height, double devicePixelRatio);
+    /// device-independent one has, and how strips look; forgets all strips. Turning them upside
+    /// down is left to whoever puts them together.
+    void resize(int width, int height, double devicePixelRatio, const FrameLook& look = {});
 
     /// Forgets all strips.
     void invalidate();
@@ -46,7 +47,7 @@ public:
 
     struct Row {
         const std::uint8_t* pixels;
-        PixelRange seen; ///< what is not black
+        PixelRange seen; ///< what is not ground
     };
 
     /// A row, drawn now unless it is kept. Valid until the next call that is not for a row of the
@@ -69,6 +70,7 @@ private:
 
     Draw draw;
     std::vector<Slot> kept;
+    FrameLook look;
     double pixelRatio = 1.0;
 };
 

@@ -77,7 +77,7 @@ TEST_F(FrameComposerTest, BeginsBlackAtAnotherSize) {
     EXPECT_EQ(composer.frame().devicePixelRatio(), 2);
     for (int y = 0; y < 20; ++y) {
         for (int x = 0; x < width; ++x)
-            ASSERT_EQ(composer.frame().pixel(x, y), blackPixel);
+            ASSERT_EQ(composer.frame().pixel(x, y), FrameLook().ground());
     }
 }
 
