@@ -9,6 +9,7 @@
 #include "app/SideWindowPlacer.h"
 #include "app/StatusItem.h"
 #include "app/WindowOrder.h"
+#include "app/opening/ScriptOpening.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "cli/CommandLine.h"
 #include "platform/AccessibilityTrust.h"
@@ -67,6 +68,7 @@ PrompterStatus AppDelegate::status() const {
     PrompterStatus status = prompter().status();
     status.version = CommandLine::version();
     tellOptions(readingSettings.values(), QTime::currentTime(), status);
+    opening().tell(status);
     return status;
 }
 
@@ -80,6 +82,10 @@ SourceManager& AppDelegate::sources() const {
 
 ScriptIntake& AppDelegate::scripts() const {
     return required(scriptIntake, "script intake");
+}
+
+ScriptOpening& AppDelegate::opening() const {
+    return required(scriptOpening, "script opening");
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -109,6 +115,7 @@ void AppDelegate::applicationDidFinishLaunching() {
 }
 
 void AppDelegate::applicationWillTerminate() {
+    if (scriptOpening) scriptOpening->finish();
     environment.recorder.trackAppTerminate();
 }
 
@@ -127,6 +134,8 @@ void AppDelegate::createPrompterWindow() {
     prompterWindow->setScreenManager(&screenManager);
     prompterWindow->updateFrame();
     prompterCutout = std::make_unique<PrompterCutout>(*prompterWindow);
+    scriptOpening = std::make_unique<ScriptOpening>(*scriptIntake, *prompterWindow, platform,
+                                                    weakly(&AppDelegate::reveal));
 }
 
 void AppDelegate::createConfigWindow() {

@@ -25,6 +25,7 @@ class PrompterCutout;
 class PrompterWindow;
 class ReadingPanel;
 class ScriptIntake;
+class ScriptOpening;
 class Shortcuts;
 class SourceManager;
 class StatusItem;
@@ -63,6 +64,8 @@ public:
     /// Where scripts are handed in. Before the normal start and while the first-run window is up,
     /// it keeps the last one until then.
     ScriptIntake& scripts() const;
+    /// The same for scripts in files.
+    ScriptOpening& opening() const;
 
     // Each changes one setting and no other, saves once and announces it.
     void setScrollSpeed(double speed); ///< within its limits
@@ -117,6 +120,7 @@ private:
     std::unique_ptr<ScriptIntake> scriptIntake;
     std::unique_ptr<PrompterWindow> prompterWindow;
     std::unique_ptr<PrompterCutout> prompterCutout;
+    std::unique_ptr<ScriptOpening> scriptOpening;
     std::unique_ptr<ConfigWindow> configWindow;
     std::unique_ptr<SideWindowPlacer> configPlacer;
     std::unique_ptr<ReadingPanel> readingPanel;

@@ -8,6 +8,7 @@
 #include "app/ProgramSurroundings.h"
 #include "app/RemoteCommands.h"
 #include "app/ScriptIntake.h"
+#include "app/opening/ScriptOpening.h"
 #include "app/remote/InstanceServer.h"
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
@@ -122,6 +123,18 @@ QIcon programIcon() {
     return QIcon::fromTheme(u"app.tessaline.Tessaline"_s, own);
 }
 
+void showFirst(const PrompterStart& start, AppDelegate& delegate) {
+    if (start.path.isEmpty()) {
+        if (start.text) delegate.scripts().open(*start.text);
+    } else if (!start.text) {
+        delegate.opening().open(start.path);
+    } else if (start.follow) {
+        delegate.opening().follow(start.path, *start.text);
+    } else {
+        delegate.opening().show(start.path, {start.text, {}});
+    }
+}
+
 /// Unlike closing, hiding is no choice of the user's.
 void hideEverything() {
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -158,11 +171,7 @@ int runPrompter(const PrompterStart& start) {
     };
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, recordTheEnd);
     delegate.applicationDidFinishLaunching();
-    if (!start.followed.isEmpty()) {
-        delegate.scripts().follow(start.followed, *start.text);
-    } else if (start.text) {
-        delegate.scripts().open(*start.text);
-    }
+    showFirst(start, delegate);
 
     // The toolkit exits where it is when the display server goes away.
     const AbruptExit abruptExit(recordTheEnd);

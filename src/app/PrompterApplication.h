@@ -12,7 +12,8 @@ struct PrompterStart {
     int& argc;
     char** argv;
     std::optional<QString> text; ///< shown as if it had been pasted
-    QString followed;            ///< the file that the text is of, if it is to be followed
+    QString path;                ///< the lasting file that it is of, or that has to be read first
+    bool follow = false;         ///< show that file again whenever it changes
     QString socketPath;          ///< where later command lines are heard; empty: nowhere
 };
 

@@ -6,19 +6,11 @@
 #include "platform/RunThenPost.h"
 #include "settings/TextFile.h"
 
-#include <optional>
-#include <utility>
-
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-struct FoundText {
-    std::optional<QString> text;
-    QString problem; ///< why there is none
-};
 
 Refusal unreadable(const QString& path, const QString& problem) {
     return {u"cannot read %1: %2"_s.arg(path, problem)};
@@ -43,26 +35,34 @@ void RemoteCommands::carryOut(const RemoteRequest& request, const Reply& reply) 
 void RemoteCommands::openFile(const OpenRequest& request, const Reply& reply) {
     if (!request.path.startsWith(u'/'))
         return reply(unreadable(request.path, u"Not a path from the root"_s));
-    const auto finish = lifetime.guard([this, request, reply](const FoundText& found) {
-        if (!found.text) return reply(unreadable(request.path, found.problem));
-        showFile(request, *found.text);
-        reply(delegate.status());
+    const auto finish = lifetime.guard([this, request, reply](const ReadText& found) {
+        const QString problem = show(request, found);
+        reply(problem.isEmpty() ? RemoteAnswer(delegate.status())
+                                : unreadable(request.path, problem));
     });
-    const auto read = [path = request.path] {
-        FoundText found;
-        found.text = readTextFile(path, ByteOrderMark::drop, &found.problem);
-        return found;
-    };
-    runThenPost(taskRunner, mainQueue, read, finish);
+    runThenPost(taskRunner, mainQueue, readingOf(request), finish);
 }
 
-void RemoteCommands::showFile(const OpenRequest& request, const QString& text) {
+/// Copies are ours, and followed files are looked at again and again: both are UTF-8.
+ScriptOpening::Reading RemoteCommands::readingOf(const OpenRequest& request) const {
+    if (!request.follow && !request.isCopy) return delegate.opening().readingOf(request.path);
+    return [path = request.path] {
+        ReadText read;
+        read.text = readTextFile(path, ByteOrderMark::drop, &read.problem);
+        return read;
+    };
+}
+
+QString RemoteCommands::show(const OpenRequest& request, const ReadText& read) {
+    if (!read.text || !(request.follow || request.isCopy))
+        return delegate.opening().show(request.path, read);
     if (request.follow) {
-        delegate.scripts().follow(request.path, text);
+        delegate.opening().follow(request.path, *read.text);
     } else {
-        delegate.scripts().open(text);
+        delegate.scripts().open(*read.text);
+        delegate.reveal();
     }
-    delegate.reveal();
+    return {};
 }
 
 } // namespace tessaline

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/opening/ScriptOpening.h"
 #include "app/remote/RemoteRequest.h"
 #include "platform/Lifetime.h"
 
@@ -27,7 +28,8 @@ public:
 
 private:
     void openFile(const OpenRequest& request, const Reply& reply);
-    void showFile(const OpenRequest& request, const QString& text);
+    ScriptOpening::Reading readingOf(const OpenRequest& request) const;
+    QString show(const OpenRequest& request, const ReadText& read);
 
     AppDelegate& delegate;
     TaskRunner& taskRunner;

@@ -4,6 +4,7 @@
 #include "app/KeyDeeds.h"
 #include "app/ReadingCommands.h"
 #include "app/ScriptIntake.h"
+#include "app/opening/ScriptOpening.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/covers/TextCovers.h"
@@ -33,6 +34,8 @@ void RemoteControl::carryOut(const ControlRequest& request, const Reply& reply) 
     if (!delegate.hasStarted() && !worksBeforeTheNormalStart(request.command))
         return reply(Refusal{u"the first-run window is still open"_s});
     if (request.command == ControlCommand::paste) return paste(reply);
+    if (request.command == ControlCommand::latest && request.number() > 0.0)
+        return openLatest(std::size_t(request.number()), reply);
     reply(answerTo(request));
 }
 
@@ -43,6 +46,9 @@ RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
             return Refusal{
                 u"the source '%1' is not enabled in the settings"_s.arg(request.argument)};
         }
+    } else if (request.command == ControlCommand::continueReading) {
+        if (!delegate.opening().places().continueReading())
+            return Refusal{u"there is no place further on to continue at"_s};
     } else {
         carryOut(request);
     }
@@ -116,8 +122,14 @@ void RemoteControl::carryOut(const ControlRequest& request) {
             [&request](ReadingOptions& options) { takeOver(request, options); });
     case ControlCommand::quit:
         return delegate.quitApp();
+    case ControlCommand::open:
+        return delegate.opening().choose();
+    case ControlCommand::latest:
+        if (request.argument == "clear"_L1) delegate.opening().latest().clear();
+        return;
     case ControlCommand::source:
-    case ControlCommand::paste: // both may be refused
+    case ControlCommand::continueReading:
+    case ControlCommand::paste: // which may be refused
     case ControlCommand::status:
         return;
     }
@@ -134,6 +146,18 @@ void RemoteControl::setCollapsed(bool collapsed) {
 void RemoteControl::paste(const Reply& reply) {
     delegate.scripts().paste([reply, &delegate = delegate](const QString& problem) {
         reply(problem.isEmpty() ? RemoteAnswer(delegate.status()) : Refusal{problem});
+    });
+}
+
+/// Only the one that is asked for is touched: the others may lie on drives that do not answer.
+void RemoteControl::openLatest(std::size_t number, const Reply& reply) {
+    const auto& latest = delegate.opening().latest().all();
+    if (number > latest.size())
+        return reply(Refusal{u"there are only %1 latest scripts"_s.arg(latest.size())});
+    const QString path = latest[number - 1].path;
+    delegate.opening().open(path, [reply, path, &delegate = delegate](const QString& problem) {
+        reply(problem.isEmpty() ? RemoteAnswer(delegate.status())
+                                : Refusal{u"cannot read %1: %2"_s.arg(path, problem)});
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <functional>
 
 namespace tessaline {
@@ -27,6 +28,7 @@ private:
     void setAutoScroll(bool on);
     void setCollapsed(bool collapsed);
     void paste(const Reply& reply);
+    void openLatest(std::size_t number, const Reply& reply);
 
     AppDelegate& delegate;
 };

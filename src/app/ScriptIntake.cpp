@@ -47,6 +47,10 @@ void ScriptIntake::stopFollowing() {
     followedFile.reset();
 }
 
+QString ScriptIntake::followedPath() const {
+    return followedFile ? followedFile->path() : QString();
+}
+
 void ScriptIntake::paste(std::function<void(const QString& problem)> done) {
     followedFile.reset();
     makeClipboardActive();

@@ -36,6 +36,9 @@ public:
     void follow(const QString& path, const QString& text);
     void stopFollowing();
 
+    /// Empty: no file is followed.
+    QString followedPath() const;
+
     /// Shows the clipboard's text. `done` is told why nothing was pasted, in one line, or an empty
     /// text. Not called once this is gone.
     void paste(std::function<void(const QString& problem)> done);

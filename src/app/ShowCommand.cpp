@@ -8,6 +8,8 @@
 #include "cli/ExitStatus.h"
 #include "cli/TextInput.h"
 #include "settings/FilePath.h"
+#include "settings/WholeFile.h"
+#include "sources/files/ScriptFile.h"
 
 #include <chrono>
 
@@ -18,28 +20,35 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::chrono::seconds longestWait{10};
+constexpr std::chrono::seconds longestConversion{30};
 
 int reportAnswer(const RemoteAnswer& answer) {
     const auto* refusal = std::get_if<Refusal>(&answer);
     return refusal ? reportFailure(refusal->reason) : ExitStatus::success;
 }
 
+/// Reads a file that the running program finds under the same name. A document is left for that to
+/// read, once.
+QString readLastingFile(PrompterStart& start) {
+    if (isDocumentFile(start.path)) return {};
+    const ReadText read = readTextScript(start.path, defaultFileLimit);
+    start.text = read.text;
+    return read.text ? QString() : u"cannot read %1: %2"_s.arg(start.path, read.problem);
+}
+
 /// Reads what the arguments name, if anything. Returns what is wrong with it.
 QString readScript(const CommandLine::Show& request, PrompterStart& start) {
     if (!request.input) return {};
+    const QString& input = *request.input;
+    const bool lasts = input != "-"_L1 && HandedScript::isSameForAll(input);
+    if (lasts) start.path = absolutePath(input);
+    start.follow = request.follow;
+    if (lasts && !request.follow) return readLastingFile(start);
     QString problem;
-    start.text = readTextInput(*request.input, &problem);
-    if (!start.text || !request.follow) return problem;
-    if (!HandedScript::isSameForAll(*request.input))
-        return u"cannot follow %1: Not a lasting file"_s.arg(*request.input);
-    start.followed = absolutePath(*request.input);
-    return {};
-}
-
-HandedScript handOver(const QString& input, const QString& text, const QString& folder) {
-    const bool isNamed = input != "-"_L1 && HandedScript::isSameForAll(input);
-    return isNamed ? HandedScript(absolutePath(input))
-                   : HandedScript(text, {folder, temporaryFolder()});
+    start.text = readTextInput(input, &problem);
+    if (start.text && request.follow && !lasts)
+        return u"cannot follow %1: Not a lasting file"_s.arg(input);
+    return problem;
 }
 
 int runUnheard(const PrompterStart& start, const QString& problem) {
@@ -50,7 +59,7 @@ int runUnheard(const PrompterStart& start, const QString& problem) {
 } // namespace
 
 int runShow(int argc, char** argv, const CommandLine::Show& request) {
-    PrompterStart start{.argc = argc, .argv = argv, .text = {}, .followed = {}, .socketPath = {}};
+    PrompterStart start{.argc = argc, .argv = argv, .text = {}, .path = {}, .socketPath = {}};
     QString problem = readScript(request, start);
     if (!problem.isEmpty()) {
         reportError(problem);
@@ -61,13 +70,16 @@ int runShow(int argc, char** argv, const CommandLine::Show& request) {
 
     std::optional<HandedScript> script; // until it has been read
     const auto composeRequest = [&]() -> std::optional<RemoteRequest> {
+        if (!start.path.isEmpty()) return OpenRequest{start.path, start.follow};
         if (!start.text) return ShowRequest{};
-        script.emplace(handOver(*request.input, *start.text, address->folder));
+        script.emplace(*start.text, QStringList{address->folder, temporaryFolder()});
         if (script->path().isEmpty()) return std::nullopt;
-        return OpenRequest{script->path(), request.follow};
+        return OpenRequest{script->path(), false, true};
     };
+    const bool waitsForConversion = !start.path.isEmpty() && !start.text;
+    const auto patience = waitsForConversion ? longestConversion : longestWait;
     const auto outcome =
-        SingleInstance::join(*address, composeRequest, InstanceClient::Clock::now() + longestWait);
+        SingleInstance::join(*address, composeRequest, InstanceClient::Clock::now() + patience);
     if (const auto* answer = std::get_if<RemoteAnswer>(&outcome)) return reportAnswer(*answer);
     if (const auto* failure = std::get_if<SingleInstance::NoLock>(&outcome))
         return runUnheard(start, failure->problem);

@@ -25,6 +25,7 @@ struct CommandValue {
     double least = 0.0;
     double most = 0.0;
     bool isWhole = false; ///< no fraction is allowed
+    bool isOptional = false;
 
     bool isTaken() const { return !name.isEmpty(); }
 };
@@ -47,7 +48,7 @@ struct CommandOption {
 struct ControlAction {
     ControlCommand command;
     QStringView name;
-    CommandValue value; ///< never optional
+    CommandValue value;
     QStringView help;   ///< one line
     std::span<const ChoiceTail> tails{};
 };

@@ -143,6 +143,7 @@ constexpr QStringView mirrorWays[] = {u"none", u"horizontal", u"vertical", u"bot
 constexpr QStringView fonts[] = {u"default"};
 constexpr QStringView switchStates[] = {u"on", u"off"};
 constexpr QStringView switchings[] = {u"on", u"off", u"toggle"};
+constexpr QStringView listDeeds[] = {u"clear"};
 constexpr CommandValue nothing{};
 
 constexpr ChoiceTail paceTails[] = {
@@ -270,6 +271,18 @@ constexpr ControlAction actions[] = {
       .least = ReadingOptions::leastReadingDistance,
       .most = ReadingOptions::mostReadingDistance},
      u"Say how far away the text is read."},
+    {C::open, u"open", nothing, u"Ask for a file, and show it."},
+    {C::latest,
+     u"latest",
+     {.name = u"[N|clear]",
+      .choices = listDeeds,
+      .kind = Kind::number,
+      .least = 1.0,
+      .most = 10.0,
+      .isWhole = true,
+      .isOptional = true},
+     u"List the latest scripts, or show the N-th."},
+    {C::continueReading, u"continue", nothing, u"Go on where this script was left."},
     {C::quit, u"quit", nothing, u"End the program."},
     {C::status, u"status", nothing, u"Print its state as one JSON object."},
 };

@@ -35,6 +35,13 @@ void write(JsonWriter& json, const QString& text) {
     json.string(text);
 }
 
+void write(JsonWriter& json, const QStringList& texts) {
+    json.beginArray();
+    for (const QString& text : texts)
+        json.string(text);
+    json.endArray();
+}
+
 template <typename Choice>
 requires std::is_enum_v<Choice>
 void write(JsonWriter& json, Choice choice) {
@@ -104,6 +111,15 @@ QString font(const PrompterStatus& status) {
                : text + ", which is not installed: the default is shown"_L1;
 }
 
+QString latest(const ControlRequest& request, const PrompterStatus& status) {
+    if (request.argument == "clear"_L1) return u"list cleared"_s;
+    if (!request.argument.isEmpty()) return u"opened "_s + status.file;
+    QStringList lines;
+    for (const QString& path : status.latest)
+        lines += u"%1 %2"_s.arg(lines.size() + 1).arg(path);
+    return lines.isEmpty() ? u"no latest scripts"_s : lines.join(u'\n');
+}
+
 } // namespace
 
 QString controlAnswer(const ControlRequest& request, const PrompterStatus& status) {
@@ -168,6 +184,12 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"line spacing %1"_s.arg(status.lineSpacing);
     case ControlCommand::distance:
         return u"reading distance %1 cm"_s.arg(status.distance);
+    case ControlCommand::open:
+        return u"asking for a file"_s;
+    case ControlCommand::latest:
+        return latest(request, status);
+    case ControlCommand::continueReading:
+        return u"continued, "_s + position(status);
     case ControlCommand::quit:
         return u"ending"_s;
     case ControlCommand::status:

@@ -41,6 +41,9 @@ enum class ControlCommand : std::uint8_t {
     font,
     lineSpacing,
     distance,
+    open,
+    latest,
+    continueReading,
     quit,
     status,
 };

@@ -101,7 +101,7 @@ private:
 
 /// Reads what follows the command's name into the request. False when the reader tells a problem.
 bool readArguments(const ControlAction& action, WordReader& reader, ControlRequest& request) {
-    if (!action.value.isTaken()) return true;
+    if (!action.value.isTaken() || (action.value.isOptional && reader.isAtEnd())) return true;
     const auto argument = reader.take(action.value);
     if (!argument) return false;
     request.argument = *argument;

@@ -124,7 +124,7 @@ void NoticeBar::arrange() {
 bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
     const bool isEscape = event->type() == QEvent::KeyPress &&
                           static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape;
-    if (isEscape && watched == window()->windowHandle()) dismiss();
+    if (isEscape && watched == window()->windowHandle() && isVisible()) return dismiss(), true;
     if (event->type() == QEvent::Resize && watched == &view && isVisible()) arrange();
     return false;
 }

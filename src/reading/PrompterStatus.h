@@ -5,6 +5,7 @@
 #include "settings/SourceType.h"
 
 #include <QString>
+#include <QStringList>
 #include <QTime>
 
 #include <optional>
@@ -54,6 +55,10 @@ struct PrompterStatus {
     bool black = false; ///< the text is blacked out
     bool keys = false;  ///< the sheet of keys is shown
 
+    QString file;       ///< the script's path, if it was opened from a file
+    QString continueAt; ///< where it can be gone on with, if anywhere
+    QStringList latest; ///< paths of the scripts that were opened last
+
     bool operator==(const PrompterStatus&) const = default;
 
     /// Calls `visit` with the name and the value of every field of a status, in the order in which
@@ -96,6 +101,9 @@ struct PrompterStatus {
         visit("distance", status.distance);
         visit("black", status.black);
         visit("keys", status.keys);
+        visit("file", status.file);
+        visit("continueAt", status.continueAt);
+        visit("latest", status.latest);
     }
 };
 

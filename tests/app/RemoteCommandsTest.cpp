@@ -112,11 +112,20 @@ TEST_F(RemoteCommandsTest, OpenTakesNoRelativePath) {
 
 TEST_F(RemoteCommandsTest, OpenTakesNothingThatIsNotAFile) {
     EXPECT_TRUE(refusalOf(OpenRequest{u"/dev/zero"_s}).contains(u"Not a regular file"));
-    EXPECT_TRUE(refusalOf(OpenRequest{folder.path()}).contains(u"Not a regular file"));
+    EXPECT_TRUE(refusalOf(OpenRequest{folder.path()}).contains(u"it is a folder"));
 }
 
-TEST_F(RemoteCommandsTest, OpenTakesNoOtherEncoding) {
-    EXPECT_TRUE(refusalOf(OpenRequest{write("\xff\xfe")}).contains(u"UTF-8"));
+TEST_F(RemoteCommandsTest, OpenTakesOtherEncodingsButNothingThatIsNoText) {
+    EXPECT_TRUE(refusalOf(OpenRequest{write(QByteArray("\0\1\2", 3))}).contains(u"not text"));
+    EXPECT_TRUE(refusalOf(OpenRequest{write("caf\xe9"), true}).contains(u"UTF-8"));
+    EXPECT_TRUE(isShown(answerTo(OpenRequest{write("caf\xe9")})));
+    EXPECT_EQ(keptScript(), u"café"_s);
+}
+
+TEST_F(RemoteCommandsTest, OpenOfACopyIsNoFileOfTheUsers) {
+    EXPECT_TRUE(isShown(answerTo(OpenRequest{write("# Talk"), false, true})));
+    EXPECT_EQ(keptScript(), u"# Talk"_s);
+    EXPECT_EQ(delegate->status().latest, QStringList());
 }
 
 } // namespace

@@ -45,7 +45,10 @@ PrompterStatus aStatus() {
             .lineSpacing = 1.25,
             .distance = 80,
             .black = true,
-            .keys = true};
+            .keys = true,
+            .file = u"/talks/a.md"_s,
+            .continueAt = u"Continue at 43 %"_s,
+            .latest = {u"/talks/a.md"_s, u"/talks/b.md"_s}};
 }
 
 PrompterStatus with(void (*change)(PrompterStatus& status)) {
@@ -111,6 +114,12 @@ TEST(ControlAnswer, TellsTheReadingOptions) {
     EXPECT_EQ(answer(ControlCommand::glide), u"glide on"_s);
     EXPECT_EQ(answer(ControlCommand::black), u"text blacked out"_s);
     EXPECT_EQ(answer(ControlCommand::keys), u"keys shown"_s);
+    EXPECT_EQ(answer(ControlCommand::open), u"asking for a file"_s);
+    EXPECT_EQ(answer(ControlCommand::latest), u"1 /talks/a.md\n2 /talks/b.md"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::latest, {}}, {}), u"no latest scripts"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::latest, u"1"_s}, aStatus()), u"opened /talks/a.md"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::latest, u"clear"_s}, {}), u"list cleared"_s);
+    EXPECT_EQ(answer(ControlCommand::continueReading), u"continued, position 12.3 of 400.0"_s);
     const PrompterStatus uncovered = with([](auto& status) { status.black = status.keys = false; });
     EXPECT_EQ(controlAnswer({ControlCommand::black, {}}, uncovered), u"text shown"_s);
     EXPECT_EQ(controlAnswer({ControlCommand::keys, {}}, uncovered), u"keys hidden"_s);
@@ -144,7 +153,9 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
         "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
         "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"opacityShown\":65,"
         "\"clickThrough\":true,"
-        "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,\"black\":true,\"keys\":true}"_s);
+        "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,\"black\":true,\"keys\":true,"
+        "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
+        "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"]}"_s);
 }
 
 } // namespace

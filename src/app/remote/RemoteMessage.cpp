@@ -32,8 +32,10 @@ struct RequestWriter {
     QJsonObject operator()(const ShowRequest&) const { return {{u"command"_s, u"show"_s}}; }
 
     QJsonObject operator()(const OpenRequest& request) const {
-        return {
-            {u"command"_s, u"open"_s}, {u"path"_s, request.path}, {u"follow"_s, request.follow}};
+        return {{u"command"_s, u"open"_s},
+                {u"path"_s, request.path},
+                {u"follow"_s, request.follow},
+                {u"copy"_s, request.isCopy}};
     }
 
     QJsonObject operator()(const ControlRequest& request) const {
@@ -55,6 +57,10 @@ QJsonValue written(const std::optional<double>& number) {
     return number ? QJsonValue(*number) : QJsonValue();
 }
 
+QJsonValue written(const QStringList& texts) {
+    return QJsonArray::fromStringList(texts);
+}
+
 template <typename Value>
 QJsonValue written(const Value& value) {
     if constexpr (std::is_enum_v<Value>) {
@@ -66,6 +72,12 @@ QJsonValue written(const Value& value) {
 
 void read(const QJsonValue& from, QString& text) {
     text = from.toString();
+}
+
+void read(const QJsonValue& from, QStringList& texts) {
+    texts.clear();
+    for (const auto& text : from.toArray())
+        texts += text.toString();
 }
 
 void read(const QJsonValue& from, bool& flag) {
@@ -119,7 +131,8 @@ std::variant<RemoteRequest, Refusal> decodeRequest(const QByteArray& line) {
     if (command == "show"_L1) return ShowRequest{};
     if (command == "open"_L1) {
         return OpenRequest{message->value("path"_L1).toString(),
-                           message->value("follow"_L1).toBool()};
+                           message->value("follow"_L1).toBool(),
+                           message->value("copy"_L1).toBool()};
     }
     if (command == "control"_L1) return controlRequest(message->value("words"_L1).toArray());
     return Refusal{u"there is no command '%1'"_s.arg(command)};

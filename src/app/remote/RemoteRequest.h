@@ -18,6 +18,7 @@ struct ShowRequest {
 struct OpenRequest {
     QString path;        ///< from the root
     bool follow = false; ///< show it again whenever it changes
+    bool isCopy = false; ///< made to hand a text over: no file of the user's
 
     bool operator==(const OpenRequest&) const = default;
 };

@@ -61,7 +61,10 @@ bool ScriptJumps::toHeadingNumber(int number) {
 }
 
 void ScriptJumps::toHeading(std::size_t paragraph) {
-    const qsizetype offset = view.script().paragraphs[paragraph].start;
+    toOffset(view.script().paragraphs[paragraph].start);
+}
+
+void ScriptJumps::toOffset(qsizetype offset) {
     jump([this, offset] { return std::min(view.positionOf(offset), view.maximumScrollPosition()); },
          [this, offset] { view.reading().moveTo(offset); }, glides);
 }

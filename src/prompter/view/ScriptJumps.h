@@ -32,6 +32,9 @@ public:
     void toTop();
     void toEnd();
 
+    /// To the line that an offset is in.
+    void toOffset(qsizetype offset);
+
     /// Whether jumps glide from now on.
     void setGliding(bool on) { glides = on; }
 

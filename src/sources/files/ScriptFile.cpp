@@ -45,18 +45,19 @@ ReadText readText(QFile& file) {
 } // namespace
 
 ReadText readScriptFile(const QString& path, ProcessRunner& processes, qint64 limit) {
+    if (!isDocumentFile(path)) return readTextScript(path, limit);
+    std::error_code ignored;
+    const auto size = std::filesystem::file_size(nativePath(path).toStdString(), ignored);
+    return size > quint64(documentLimit) ? tooLarge(documentLimit) : readDocument(path, processes);
+}
+
+ReadText readTextScript(const QString& path, qint64 limit) {
     if (isFolder(path)) return refused(u"it is a folder"_s);
     QFile file;
     QString problem;
     if (!openRegularFile(path, file, &problem)) return refused(problem);
-    const QByteArray beginning = file.peek(beginningSize);
-    if (isDocumentName(path) && isZip(beginning)) {
-        if (file.size() > documentLimit) return tooLarge(documentLimit);
-        return readDocument(path, processes);
-    }
     if (file.size() > limit) return tooLarge(limit);
-    if (isBinary(beginning)) return refused(u"it is not text"_s);
-    return readText(file);
+    return isBinary(file.peek(beginningSize)) ? refused(u"it is not text"_s) : readText(file);
 }
 
 bool isDocumentFile(const QString& path) {

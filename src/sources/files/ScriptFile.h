@@ -17,6 +17,9 @@ inline constexpr qint64 scriptFileLimit = qint64{64} << 20;
 ReadText readScriptFile(const QString& path, ProcessRunner& processes,
                         qint64 limit = scriptFileLimit);
 
+/// The same for text alone.
+ReadText readTextScript(const QString& path, qint64 limit);
+
 /// Whether the file at the path is a document that has to be turned into text, which takes a while.
 /// Opens it to look.
 bool isDocumentFile(const QString& path);

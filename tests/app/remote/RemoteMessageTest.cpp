@@ -32,8 +32,10 @@ RemoteAnswer sentAndRead(const RemoteAnswer& answer) {
 }
 
 TEST(RemoteMessage, CarriesEveryKindOfRequest) {
-    const RemoteRequest requests[] = {ShowRequest{}, OpenRequest{u"/talk.md"_s, true},
+    const RemoteRequest requests[] = {ShowRequest{},
+                                      OpenRequest{u"/talk.md"_s, true},
                                       OpenRequest{u"/a"_s, false},
+                                      OpenRequest{u"/tmp/b"_s, false, true},
                                       ControlRequest{ControlCommand::speed, u"2.5"_s},
                                       ControlRequest{ControlCommand::status, {}}};
     for (const auto& request : requests)
@@ -76,7 +78,10 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .lineSpacing = 1.05,
                                 .distance = 200,
                                 .black = true,
-                                .keys = true};
+                                .keys = true,
+                                .file = u"/talks/a.md"_s,
+                                .continueAt = u"Continue at 43 %"_s,
+                                .latest = {u"/talks/a.md"_s, u"/b.md"_s}};
     EXPECT_EQ(sentAndRead(RemoteAnswer(status)), RemoteAnswer(status));
     EXPECT_EQ(sentAndRead(RemoteAnswer(PrompterStatus{})), RemoteAnswer(PrompterStatus{}));
 }
