@@ -17,6 +17,7 @@
 #include "platform/ExitDeadline.h"
 #include "platform/Platform.h"
 #include "platform/ProcessRunner.h"
+#include "platform/qt/FileOpenRequests.h"
 #include "platform/qt/QuitRequests.h"
 #include "platform/qt/StopSignals.h"
 #include "settings/SupportFolder.h"
@@ -160,6 +161,9 @@ int runPrompter(const PrompterStart& start) {
     const StopSignals stopSignals([&delegate] { delegate.quitApp(); });
     QuitRequests quitRequests([&delegate] { delegate.quitApp(); });
     application.installEventFilter(&quitRequests);
+    FileOpenRequests fileRequests(
+        [&delegate](const QString& path) { delegate.opening().open(path); });
+    application.installEventFilter(&fileRequests);
     comeBackWithTheSession(application);
     bool isRecorded = false;
     const auto recordTheEnd = [&delegate, &isRecorded] {

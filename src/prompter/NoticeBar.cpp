@@ -28,7 +28,6 @@ constexpr int sideMargin = 12;
 constexpr int margin = 6;
 constexpr int buttonPadding = 8;
 constexpr int buttonHeight = 22;
-constexpr double groundAlpha = 0.94;
 constexpr double lineAlpha = 0.22;
 constexpr double buttonAlpha = 0.22;
 constexpr double pressedAlpha = 0.4;
@@ -131,7 +130,7 @@ bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
 
 void NoticeBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), SystemPalette::withAlpha(SystemPalette::black, groundAlpha));
+    painter.fillRect(rect(), SystemPalette::black);
     const int y = pos().y() > view.y() ? 0 : height() - 1;
     painter.fillRect(0, y, width(), 1, SystemPalette::withAlpha(SystemPalette::amber(), lineAlpha));
 }

@@ -42,6 +42,9 @@ def info_problems(path, version):
             yield f"Info.plist: {key} is {found.get(key)!r}, not {value!r}"
     if "Apple Notes" not in found.get("NSAppleEventsUsageDescription", ""):
         yield "Info.plist: NSAppleEventsUsageDescription does not say what for"
+    opened = {kind for entry in found.get("CFBundleDocumentTypes", []) for kind in entry["LSItemContentTypes"]}
+    if opened != {"net.daringfireball.markdown", "public.plain-text"}:
+        yield f"Info.plist: what the program opens is {opened}"
     if any("${" in value for value in found.values() if isinstance(value, str)):
         yield "Info.plist: a variable was not replaced"
 

@@ -29,6 +29,14 @@ class SoftwareCatalogue(unittest.TestCase):
             {"homepage": os.environ["TESSALINE_HOMEPAGE"], "bugtracker": os.environ["TESSALINE_ISSUES"]},
         )
 
+    def test_opens_what_the_menu_entry_says(self):
+        opened = {kind.text for kind in ENTRY.findall("provides/mediatype")}
+        entry = (ROOT / "resources/linux/app.tessaline.Tessaline.desktop").read_text()
+        (kinds,) = [line for line in entry.splitlines() if line.startswith("MimeType=")]
+        self.assertEqual(set(kinds.removeprefix("MimeType=").strip(";").split(";")), opened)
+        self.assertEqual(opened, {"text/markdown", "text/plain"})
+        self.assertIn("Exec=tessaline %f\n", entry)
+
     def test_shows_pictures_that_are_there_each_with_a_caption(self):
         pictures = ENTRY.findall("screenshots/screenshot")
         self.assertEqual([picture.get("type") for picture in pictures].count("default"), 1)
