@@ -7,6 +7,7 @@
 #include "app/ReadingPanel.h"
 #include "app/ScriptIntake.h"
 #include "app/SideWindowPlacer.h"
+#include "app/SizeAdviser.h"
 #include "app/StatusItem.h"
 #include "app/WindowOrder.h"
 #include "app/opening/ScriptOpening.h"
@@ -17,6 +18,7 @@
 #include "platform/BundleInformation.h"
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
+#include "platform/WindowTraits.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
@@ -68,6 +70,8 @@ PrompterStatus AppDelegate::status() const {
     PrompterStatus status = prompter().status();
     status.version = CommandLine::version();
     tellOptions(readingSettings.values(), QTime::currentTime(), status);
+    status.fontSize = settings.fontSize();
+    status.suggestion = SizeAdviser(prompter(), readingSettings).suggestion().text();
     opening().tell(status);
     return status;
 }
@@ -147,8 +151,10 @@ void AppDelegate::createConfigWindow() {
     configWindow->winId(); // makes the native window
     configPlacer =
         std::make_unique<SideWindowPlacer>(*configWindow, *prompterWindow, screenManager, settings);
-    readingPanel =
-        std::make_unique<ReadingPanel>(readingSettings, *prompterWindow, screenManager, settings);
+    readingPanel = std::make_unique<ReadingPanel>(
+        readingSettings, *prompterWindow, screenManager, settings,
+        LookHelp{[this] { return platform.windowTraits->showsTranslucency(); },
+                 [this] { return takeSuggestedSize(); }});
     configWindow->onSizeChanged = weakly(&AppDelegate::repositionWindows);
     new FrameMarginsWatch(*configWindow->windowHandle(), weakly(&AppDelegate::repositionWindows));
 }
@@ -313,6 +319,16 @@ void AppDelegate::settingsChanged() {
     prompter().rerender();
     prompter().updateScrollParameters();
     repositionWindows();
+}
+
+QString AppDelegate::takeSuggestedSize() {
+    const SizeSuggestion suggestion = SizeAdviser(prompter(), readingSettings).suggestion();
+    if (suggestion.points != settings.fontSize()) {
+        settings.setFontSize(suggestion.points);
+        settingsChanged();
+        environment.recorder.trackDisplaySettings(settings.values());
+    }
+    return suggestion.text();
 }
 
 void AppDelegate::repositionWindows() {

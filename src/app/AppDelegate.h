@@ -71,6 +71,7 @@ public:
     void setScrollSpeed(double speed); ///< within its limits
     void chooseScrollRate(ScrollRate rate);
     bool chooseSource(SourceType source); ///< false, and no change: it is not enabled
+    QString takeSuggestedSize();          ///< of the text; says which and why
 
     /// Whether the normal start has happened: the first-run window is done with.
     bool hasStarted() const { return shortcuts != nullptr; }

@@ -3,18 +3,24 @@
 #include "app/SideWindowPlacer.h"
 #include "app/WindowOrder.h"
 #include "platform/qt/FrameMarginsWatch.h"
+#include "prompter/PrompterLook.h"
+#include "prompter/PrompterWindow.h"
 #include "ui/reading/ReadingWindow.h"
 
 #include <QWindow>
 
+#include <utility>
+
 namespace tessaline {
 
 ReadingPanel::ReadingPanel(ReadingSettings& readingSettings, const PrompterWindow& prompterWindow,
-                           const ScreenManager& screenManager, const AppSettings& appSettings)
+                           const ScreenManager& screenManager, const AppSettings& appSettings,
+                           LookHelp lookHelp)
     : reading(readingSettings)
     , prompter(prompterWindow)
     , screens(screenManager)
-    , settings(appSettings) {}
+    , settings(appSettings)
+    , help(std::move(lookHelp)) {}
 
 ReadingPanel::~ReadingPanel() = default;
 
@@ -30,10 +36,12 @@ void ReadingPanel::place() {
 }
 
 void ReadingPanel::makeWindow() {
-    window = std::make_unique<ReadingWindow>(reading);
+    window = std::make_unique<ReadingWindow>(reading, help);
     window->winId(); // makes the native window
     placer = std::make_unique<SideWindowPlacer>(*window, prompter, screens, settings);
     window->onSizeChanged = [this] { place(); };
+    QObject::connect(&prompter.look(), &PrompterLook::changed, window.get(),
+                     &ReadingWindow::showOptions);
     new FrameMarginsWatch(*window->windowHandle(), [this] { place(); });
 }
 

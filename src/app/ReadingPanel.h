@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/reading/LookSection.h"
+
 #include <memory>
 
 namespace tessaline {
@@ -15,9 +17,9 @@ class SideWindowPlacer;
 /// prompter.
 class ReadingPanel {
 public:
-    /// Everything is borrowed.
+    /// Everything is borrowed but the help.
     ReadingPanel(ReadingSettings& reading, const PrompterWindow& prompter,
-                 const ScreenManager& screens, const AppSettings& settings);
+                 const ScreenManager& screens, const AppSettings& settings, LookHelp help);
     ~ReadingPanel();
     ReadingPanel(const ReadingPanel&) = delete;
     ReadingPanel& operator=(const ReadingPanel&) = delete;
@@ -35,6 +37,7 @@ private:
     const PrompterWindow& prompter;
     const ScreenManager& screens;
     const AppSettings& settings;
+    const LookHelp help;
     std::unique_ptr<ReadingWindow> window;
     std::unique_ptr<SideWindowPlacer> placer;
 };

@@ -120,6 +120,9 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::distance:
         return delegate.reading().change(
             [&request](ReadingOptions& options) { takeOver(request, options); });
+    case ControlCommand::suggest:
+        delegate.takeSuggestedSize();
+        return;
     case ControlCommand::quit:
         return delegate.quitApp();
     case ControlCommand::open:

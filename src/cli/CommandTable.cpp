@@ -271,6 +271,7 @@ constexpr ControlAction actions[] = {
       .least = ReadingOptions::leastReadingDistance,
       .most = ReadingOptions::mostReadingDistance},
      u"Say how far away the text is read."},
+    {C::suggest, u"suggest", nothing, u"Size the text for that distance."},
     {C::open, u"open", nothing, u"Ask for a file, and show it."},
     {C::latest,
      u"latest",

@@ -184,6 +184,8 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"line spacing %1"_s.arg(status.lineSpacing);
     case ControlCommand::distance:
         return u"reading distance %1 cm"_s.arg(status.distance);
+    case ControlCommand::suggest:
+        return status.suggestion;
     case ControlCommand::open:
         return u"asking for a file"_s;
     case ControlCommand::latest:

@@ -41,6 +41,7 @@ enum class ControlCommand : std::uint8_t {
     font,
     lineSpacing,
     distance,
+    suggest,
     open,
     latest,
     continueReading,

@@ -25,6 +25,9 @@ public:
     /// How much of the desktop the black behind the text hides.
     double groundOpacity() const { return look.frame.groundOpacity; }
 
+    /// What the text is set in; empty: the desktop's font.
+    const QString& family() const { return look.typography.family; }
+
     /// Whether the mouse is to go through the text.
     bool isClickedThrough() const { return settings.values().clickThrough; }
 

@@ -50,7 +50,9 @@ struct PrompterStatus {
     QString font;      ///< "default", or the family's name
     QString fontShown; ///< that there is: the default where that family is missing
     double lineSpacing = 1.0;
-    int distance = 0; ///< centimetres
+    int distance = 0;      ///< centimetres
+    double fontSize = 0.0; ///< of body text, in points
+    QString suggestion;    ///< which size would be right, and why
 
     bool black = false; ///< the text is blacked out
     bool keys = false;  ///< the sheet of keys is shown
@@ -99,6 +101,8 @@ struct PrompterStatus {
         visit("fontShown", status.fontShown);
         visit("lineSpacing", status.lineSpacing);
         visit("distance", status.distance);
+        visit("fontSize", status.fontSize);
+        visit("suggestion", status.suggestion);
         visit("black", status.black);
         visit("keys", status.keys);
         visit("file", status.file);

@@ -44,6 +44,8 @@ PrompterStatus aStatus() {
             .fontShown = u"DejaVu Serif"_s,
             .lineSpacing = 1.25,
             .distance = 80,
+            .fontSize = 21,
+            .suggestion = u"so many points"_s,
             .black = true,
             .keys = true,
             .file = u"/talks/a.md"_s,
@@ -138,24 +140,26 @@ TEST(ControlAnswer, TellsHowTheTextLooks) {
     EXPECT_EQ(answer(ControlCommand::font), u"font DejaVu Serif"_s);
     EXPECT_EQ(answer(ControlCommand::lineSpacing), u"line spacing 1.25"_s);
     EXPECT_EQ(answer(ControlCommand::distance), u"reading distance 80 cm"_s);
+    EXPECT_EQ(answer(ControlCommand::suggest), u"so many points"_s);
 }
 
 TEST(ControlAnswer, TellsEverythingAsJson) {
-    EXPECT_EQ(
-        answer(ControlCommand::status),
-        u"{\"version\":\"1.2.3\",\"visible\":true,\"collapsed\":false,"
-        "\"source\":\"obsidian\",\"words\":2368,\"time\":\"12m30s\","
-        "\"scrollPosition\":12.34,\"maximumScrollPosition\":400.0,\"speed\":2.25,"
-        "\"rate\":\"fast\",\"autoScroll\":true,\"frameRate\":60,"
-        "\"pace\":\"words\",\"wordsPerMinute\":149.5,\"wordsRead\":12.25,"
-        "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
-        "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
-        "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
-        "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"opacityShown\":65,"
-        "\"clickThrough\":true,"
-        "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,\"black\":true,\"keys\":true,"
-        "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
-        "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"]}"_s);
+    EXPECT_EQ(answer(ControlCommand::status),
+              u"{\"version\":\"1.2.3\",\"visible\":true,\"collapsed\":false,"
+              "\"source\":\"obsidian\",\"words\":2368,\"time\":\"12m30s\","
+              "\"scrollPosition\":12.34,\"maximumScrollPosition\":400.0,\"speed\":2.25,"
+              "\"rate\":\"fast\",\"autoScroll\":true,\"frameRate\":60,"
+              "\"pace\":\"words\",\"wordsPerMinute\":149.5,\"wordsRead\":12.25,"
+              "\"secondsLeft\":900.5,\"secondsElapsed\":5.0,\"wantedWordsPerMinute\":150.0,"
+              "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
+              "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
+              "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"opacityShown\":65,"
+              "\"clickThrough\":true,"
+              "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu "
+              "Serif\",\"lineSpacing\":1.25,\"distance\":80,\"fontSize\":21.0,\"suggestion\":\"so "
+              "many points\",\"black\":true,\"keys\":true,"
+              "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
+              "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"]}"_s);
 }
 
 } // namespace

@@ -51,7 +51,7 @@ class RemoteControl(PrompterTestCase):
             + ["wantedWordsPerMinute", "finish", "finishTomorrow", "eyeLine", "guide"]
             + ["guideLines", "countdown", "atEnd", "glide"]
             + ["mirror", "opacity", "opacityShown", "clickThrough"]
-            + ["font", "fontShown", "lineSpacing", "distance"]
+            + ["font", "fontShown", "lineSpacing", "distance", "fontSize", "suggestion"]
             + ["black", "keys", "file", "continueAt", "latest"],
         )
         self.assertEqual(status["version"], self.call("--version")[1].split()[1])

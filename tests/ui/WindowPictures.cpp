@@ -181,7 +181,10 @@ void takeOnboarding(const Camera& camera) {
 void takeReading(const Camera& camera) {
     Set set;
     ReadingSettings settings(set.folder.filePath(u"reading.json"_s));
-    ReadingWindow window(settings, [] { return QTime(12, 0); });
+    const LookHelp help{[] { return false; },
+                        [] { return u"20 minutes of arc at 60 cm on this screen: 18 points"_s; }};
+    ReadingWindow window(settings, help, [] { return QTime(12, 0); });
+    window.fitInto(5000);
     camera.take(window, u"reading-speed"_s);
     settings.change([](ReadingOptions& options) {
         options = {.pace = PaceMode::words,
@@ -200,6 +203,14 @@ void takeReading(const Camera& camera) {
     camera.take(window, u"reading-focus-minutes"_s);
     settings.change([](ReadingOptions& options) { options.finishAt = TimeOfDay{11 * 60}; });
     camera.take(window, u"reading-tomorrow"_s);
+    settings.change([](ReadingOptions& options) {
+        options = {.mirror = Mirroring::horizontal,
+                   .groundOpacity = 0.7,
+                   .fontFamily = u"A Font That Is Gone"_s,
+                   .lineSpacing = 1.25};
+    });
+    window.findChild<QPushButton*>(u"reading_suggestButton"_s)->click();
+    camera.take(window, u"reading-look"_s);
 }
 
 } // namespace

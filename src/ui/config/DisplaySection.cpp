@@ -6,6 +6,7 @@
 #include "controls/Labels.h"
 #include "platform/Screens.h"
 #include "screens/ScreenManager.h"
+#include "screens/SizeSuggestion.h"
 #include "settings/AppSettings.h"
 #include "ui/config/HorizontalPosition.h"
 #include "ui/controls/PointSlider.h"
@@ -44,7 +45,7 @@ DisplaySection::DisplaySection(AppSettings& shared, const Screens& attached,
 
     fontRow = addSliderRow(u"Font Size"_s, u"fontValueLabel"_s);
     fontSlider = addSlider(u"Font Size"_s, u"fontSlider"_s);
-    fontSlider->setLimits(10, 30);
+    fontSlider->setLimits(leastFontSize, mostFontSize);
     fontSlider->setPoints(settings.fontSize());
 
     xOffsetRow = addSliderRow(u"Position"_s, u"xOffsetLabel"_s);

@@ -38,14 +38,15 @@ void addKeys(QVBoxLayout& column) {
 
 } // namespace
 
-ReadingWindow::ReadingWindow(ReadingSettings& edited, const std::function<QTime()>& now)
+ReadingWindow::ReadingWindow(ReadingSettings& edited, const LookHelp& help,
+                             const std::function<QTime()>& now)
     : SideWindow(u"Reading"_s), settings(edited) {
-    fillWithContent(*this, createContent(now), leastContent);
+    fillWithContent(*this, createContent(help, now), leastContent);
     refresh();
     observation = settings.observe([this](const ReadingOptions&) { showOptions(); });
 }
 
-QWidget* ReadingWindow::createContent(const std::function<QTime()>& now) {
+QWidget* ReadingWindow::createContent(const LookHelp& help, const std::function<QTime()>& now) {
     auto* content = new QWidget;
     QVBoxLayout* column = layOutColumn(*content, spacing);
     column->setContentsMargins(margin, margin, margin, margin);
@@ -59,6 +60,7 @@ QWidget* ReadingWindow::createContent(const std::function<QTime()>& now) {
     add(u"Pace"_s, new PaceSection(settings, now));
     add(u"Eye Line"_s, new EyeLineSection(settings));
     add(u"Start and End"_s, new StartEndSection(settings));
+    add(u"Look"_s, new LookSection(settings, help));
     addKeys(*column);
     column->addStretch();
     return content;

@@ -2,6 +2,7 @@
 
 #include "settings/ReadingSettings.h"
 #include "ui/SideWindow.h"
+#include "ui/reading/LookSection.h"
 
 #include <QTime>
 
@@ -20,15 +21,17 @@ class ReadingWindow : public SideWindow {
 public:
     /// Builds the window; shows nothing yet. Borrows the settings; `now` tells the time on the
     /// clock.
-    explicit ReadingWindow(ReadingSettings& settings,
-                           const std::function<QTime()>& now = &QTime::currentTime);
+    ReadingWindow(ReadingSettings& settings, const LookHelp& help,
+                  const std::function<QTime()>& now = &QTime::currentTime);
 
     /// Shows what the options are now. The window has its right size afterwards.
     void refresh();
 
-private:
-    QWidget* createContent(const std::function<QTime()>& now);
+    /// The same without a look at the size.
     void showOptions();
+
+private:
+    QWidget* createContent(const LookHelp& help, const std::function<QTime()>& now);
 
     ReadingSettings& settings;
     ReadingSettings::Observation observation;

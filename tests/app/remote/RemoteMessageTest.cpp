@@ -77,6 +77,8 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .fontShown = u"default"_s,
                                 .lineSpacing = 1.05,
                                 .distance = 200,
+                                .fontSize = 18.5,
+                                .suggestion = u"18 points"_s,
                                 .black = true,
                                 .keys = true,
                                 .file = u"/talks/a.md"_s,
