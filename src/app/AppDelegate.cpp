@@ -3,6 +3,7 @@
 #include "analytics/UsageRecorder.h"
 #include "app/FirstRun.h"
 #include "app/KeyDeeds.h"
+#include "app/MediaSession.h"
 #include "app/PrompterCutout.h"
 #include "app/ReadingPanel.h"
 #include "app/ScriptIntake.h"
@@ -197,6 +198,7 @@ void AppDelegate::startApp() {
     setupShortcuts();
     sources().startWatching();
     scripts().start();
+    mediaSession = std::make_unique<MediaSession>(*this, settings, platform);
 }
 
 void AppDelegate::setupShortcuts() {

@@ -21,6 +21,7 @@ namespace tessaline {
 class ConfigWindow;
 class SideWindowPlacer;
 class FirstRun;
+class MediaSession;
 class PrompterCutout;
 class PrompterWindow;
 class ReadingPanel;
@@ -128,6 +129,7 @@ private:
     std::unique_ptr<FirstRun> firstRun; ///< where there is one
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Shortcuts> shortcuts;
+    std::unique_ptr<MediaSession> mediaSession;
     NotificationCenter::Observation sourceChangeObserver;
     Lifetime lifetime;
 };

@@ -72,6 +72,9 @@ void takeOver(const ControlRequest& request, ReadingOptions& options) {
     case ControlCommand::distance:
         options.readingDistance = request.number();
         return;
+    case ControlCommand::mediaKeys:
+        options.mediaKeys = request.argument == "on"_L1;
+        return;
     default:
         return;
     }

@@ -37,6 +37,7 @@ std::vector<Option> optionsOf(const ReadingOptions& options) {
         {u"fontFamily"_s, booleanText(options.fontFamily.has_value())},
         {u"lineSpacing"_s, QString::number(options.lineSpacing)},
         {u"readingDistance"_s, QString::number(options.readingDistance)},
+        {u"mediaKeys"_s, booleanText(options.mediaKeys)},
     };
 }
 

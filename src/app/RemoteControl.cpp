@@ -112,6 +112,7 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::countdown:
     case ControlCommand::atEnd:
     case ControlCommand::glide:
+    case ControlCommand::mediaKeys:
     case ControlCommand::mirror:
     case ControlCommand::opacity:
     case ControlCommand::clickThrough:

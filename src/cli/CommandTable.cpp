@@ -284,6 +284,10 @@ constexpr ControlAction actions[] = {
       .isOptional = true},
      u"List the latest scripts, or show the N-th."},
     {C::continueReading, u"continue", nothing, u"Go on where this script was left."},
+    {C::mediaKeys,
+     u"media-keys",
+     {.name = u"on|off", .choices = switchStates},
+     u"Let media keys and the desktop's player drive it."},
     {C::quit, u"quit", nothing, u"End the program."},
     {C::status, u"status", nothing, u"Print its state as one JSON object."},
 };

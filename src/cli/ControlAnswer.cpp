@@ -192,6 +192,8 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return latest(request, status);
     case ControlCommand::continueReading:
         return u"continued, "_s + position(status);
+    case ControlCommand::mediaKeys:
+        return status.mediaKeys ? u"media keys on"_s : u"media keys off"_s;
     case ControlCommand::quit:
         return u"ending"_s;
     case ControlCommand::status:

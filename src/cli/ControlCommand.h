@@ -45,6 +45,7 @@ enum class ControlCommand : std::uint8_t {
     open,
     latest,
     continueReading,
+    mediaKeys,
     quit,
     status,
 };

@@ -13,6 +13,7 @@
 #include "platform/HttpPoster.h"
 #include "platform/LocalKeyMonitor.h"
 #include "platform/MainQueue.h"
+#include "platform/MediaControls.h"
 #include "platform/NativeLook.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Pasteboard.h"

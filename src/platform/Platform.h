@@ -17,6 +17,7 @@ class GlobalKeyMonitor;
 class HttpPoster;
 class LocalKeyMonitor;
 class MainQueue;
+class MediaControls;
 class NativeLook;
 class NotificationCenter;
 class Pasteboard;
@@ -71,6 +72,7 @@ struct Platform {
     std::unique_ptr<FileIcons> icons;
     std::unique_ptr<FolderChooser> folderChooser;
     std::unique_ptr<FileChooser> fileChooser;
+    std::unique_ptr<MediaControls> media;
 };
 
 /// The system at hand, with the session that the program runs in. Needs the QApplication, which

@@ -253,6 +253,10 @@ void PrompterWindow::rerender() {
     if (!content->isEmpty()) renderContent();
 }
 
+bool PrompterWindow::showsScript() const {
+    return isVisible() && !content->isEmpty() && !content->isHint();
+}
+
 void PrompterWindow::renderContent() {
     updateReadingFrame();
     content->render();

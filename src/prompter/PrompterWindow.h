@@ -74,6 +74,8 @@ public:
     /// Shows the last text again, with the settings as they are now.
     void rerender();
 
+    bool showsScript() const; ///< whether a text of the user's can be seen here
+
     void updateStats(); ///< tells the words and the reading time of the text
 
     /// Moves the text by so many points; negative is forward.

@@ -34,6 +34,7 @@ void tellOptions(const ReadingOptions& options, QTime now, PrompterStatus& statu
     status.font = options.fontFamily.value_or(u"default"_s);
     status.lineSpacing = options.lineSpacing;
     status.distance = int(std::lround(options.readingDistance));
+    status.mediaKeys = options.mediaKeys;
 }
 
 } // namespace tessaline

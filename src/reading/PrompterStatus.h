@@ -53,6 +53,7 @@ struct PrompterStatus {
     int distance = 0;      ///< centimetres
     double fontSize = 0.0; ///< of body text, in points
     QString suggestion;    ///< which size would be right, and why
+    bool mediaKeys = false;
 
     bool black = false; ///< the text is blacked out
     bool keys = false;  ///< the sheet of keys is shown
@@ -103,6 +104,7 @@ struct PrompterStatus {
         visit("distance", status.distance);
         visit("fontSize", status.fontSize);
         visit("suggestion", status.suggestion);
+        visit("mediaKeys", status.mediaKeys);
         visit("black", status.black);
         visit("keys", status.keys);
         visit("file", status.file);

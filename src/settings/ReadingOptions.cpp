@@ -59,6 +59,7 @@ const SettingsTable<ReadingOptions>& readingOptionsTable() {
         settingsKey("readingDistance", &Options::readingDistance,
                     within(Options::leastReadingDistance, Options::mostReadingDistance,
                            Options::readingDistanceStep)),
+        settingsKey("mediaKeys", &Options::mediaKeys),
     });
     return table;
 }

@@ -48,6 +48,7 @@ struct ReadingOptions {
     std::optional<QString> fontFamily; ///< none: the system's
     double lineSpacing = 1.0;          ///< a line's height as a multiple of the usual one
     double readingDistance = 60.0;     ///< centimetres from the eyes to the screen
+    bool mediaKeys = false;            ///< drive the prompter
 
     bool operator==(const ReadingOptions&) const = default;
 };

@@ -69,11 +69,13 @@ TEST_F(ReadingUsageTest, RecordsHowTheTextLooksButNotWhichFontsThereAre) {
         options.fontFamily = u"My Own Hand"_s;
         options.lineSpacing = 1.5;
         options.readingDistance = 90;
+        options.mediaKeys = true;
     });
     EXPECT_THAT(recorded(),
                 ElementsAre(Pair(u"mirror"_s, u"horizontal"_s), Pair(u"groundOpacity"_s, u"0.7"_s),
                             Pair(u"clickThrough"_s, u"true"_s), Pair(u"fontFamily"_s, u"true"_s),
-                            Pair(u"lineSpacing"_s, u"1.5"_s), Pair(u"readingDistance"_s, u"90"_s)));
+                            Pair(u"lineSpacing"_s, u"1.5"_s), Pair(u"readingDistance"_s, u"90"_s),
+                            Pair(u"mediaKeys"_s, u"true"_s)));
 }
 
 TEST_F(ReadingUsageTest, KeepsTheTimeOfTheEndToItself) {

@@ -46,6 +46,7 @@ PrompterStatus aStatus() {
             .distance = 80,
             .fontSize = 21,
             .suggestion = u"so many points"_s,
+            .mediaKeys = true,
             .black = true,
             .keys = true,
             .file = u"/talks/a.md"_s,
@@ -114,6 +115,7 @@ TEST(ControlAnswer, TellsTheReadingOptions) {
               u"countdown off"_s);
     EXPECT_EQ(answer(ControlCommand::atEnd), u"at the end: round"_s);
     EXPECT_EQ(answer(ControlCommand::glide), u"glide on"_s);
+    EXPECT_EQ(answer(ControlCommand::mediaKeys), u"media keys on"_s);
     EXPECT_EQ(answer(ControlCommand::black), u"text blacked out"_s);
     EXPECT_EQ(answer(ControlCommand::keys), u"keys shown"_s);
     EXPECT_EQ(answer(ControlCommand::open), u"asking for a file"_s);
@@ -158,6 +160,8 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
               "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu "
               "Serif\",\"lineSpacing\":1.25,\"distance\":80,\"fontSize\":21.0,\"suggestion\":\"so "
               "many points\",\"black\":true,\"keys\":true,"
+              "Serif\",\"lineSpacing\":1.25,\"distance\":80,"
+              "\"mediaKeys\":true,\"black\":true,\"keys\":true,"
               "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
               "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"]}"_s);
 }

@@ -60,7 +60,8 @@ ReadingOptions everythingElse() {
             .clickThrough = true,
             .fontFamily = u"DejaVu Serif"_s,
             .lineSpacing = 1.15,
-            .readingDistance = 85};
+            .readingDistance = 85,
+            .mediaKeys = true};
 }
 
 constexpr auto everythingElseWritten = R"({
@@ -79,7 +80,8 @@ constexpr auto everythingElseWritten = R"({
   "clickThrough": true,
   "fontFamily": "DejaVu Serif",
   "lineSpacing": 1.15,
-  "readingDistance": 85.0
+  "readingDistance": 85.0,
+  "mediaKeys": true
 }
 )";
 

@@ -14,6 +14,7 @@
 #include "support/FakeHttpPoster.h"
 #include "support/FakeLocalKeyMonitor.h"
 #include "support/FakeMainQueue.h"
+#include "support/FakeMediaControls.h"
 #include "support/FakeNativeLook.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeProcessRunner.h"
@@ -68,7 +69,8 @@ TestPlatform::TestPlatform()
     , applications(put<FakeApplicationLookup>(platform.applications))
     , icons(put<FakeFileIcons>(platform.icons))
     , folderChooser(put<FakeFolderChooser>(platform.folderChooser))
-    , fileChooser(put<FakeFileChooser>(platform.fileChooser)) {}
+    , fileChooser(put<FakeFileChooser>(platform.fileChooser))
+    , media(put<FakeMediaControls>(platform.media)) {}
 
 TestPlatform::~TestPlatform() = default;
 

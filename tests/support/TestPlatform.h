@@ -17,6 +17,7 @@ class FakeGlobalKeyMonitor;
 class FakeHttpPoster;
 class FakeLocalKeyMonitor;
 class FakeMainQueue;
+class FakeMediaControls;
 class FakeNativeLook;
 class FakePasteboard;
 class FakeProcessRunner;
@@ -66,6 +67,7 @@ struct TestPlatform {
     FakeFileIcons& icons;
     FakeFolderChooser& folderChooser;
     FakeFileChooser& fileChooser;
+    FakeMediaControls& media;
 };
 
 } // namespace tessaline

@@ -4,6 +4,7 @@
 #include "platform/linux/desktop/DesktopFileIcons.h"
 #include "platform/linux/desktop/LinuxActivationPolicy.h"
 #include "platform/linux/desktop/LinuxBundleInformation.h"
+#include "platform/linux/desktop/MprisControls.h"
 #include "platform/qt/KeyTranslation.h"
 #include "platform/qt/QtAdapters.h"
 #include "platform/qt/QtFileChooser.h"
@@ -26,6 +27,7 @@ std::unique_ptr<Platform> makePlatform() {
     platform->icons = std::make_unique<DesktopFileIcons>(DesktopEntries::installed());
     platform->folderChooser = std::make_unique<QtFolderChooser>();
     platform->fileChooser = std::make_unique<QtFileChooser>();
+    platform->media = std::make_unique<MprisControls>();
     DisplayServer::connected()->addAdapters(*platform);
     return platform;
 }

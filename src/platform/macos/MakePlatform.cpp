@@ -20,6 +20,7 @@
 #include "platform/qt/QtLocalKeyMonitor.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScreens.h"
+#include "platform/unsupported/UnsupportedMediaControls.h"
 
 namespace tessaline {
 
@@ -45,6 +46,7 @@ std::unique_ptr<Platform> makePlatform() {
     platform->icons = makeFileIcons();
     platform->folderChooser = makeFolderChooser();
     platform->fileChooser = std::make_unique<QtFileChooser>();
+    platform->media = std::make_unique<UnsupportedMediaControls>();
     return platform;
 }
 

@@ -10,6 +10,7 @@
 #include "ui/controls/Separator.h"
 #include "ui/reading/EyeLineSection.h"
 #include "ui/reading/PaceSection.h"
+#include "ui/reading/RemoteSection.h"
 #include "ui/reading/StartEndSection.h"
 
 namespace tessaline {
@@ -61,6 +62,7 @@ QWidget* ReadingWindow::createContent(const LookHelp& help, const std::function<
     add(u"Eye Line"_s, new EyeLineSection(settings));
     add(u"Start and End"_s, new StartEndSection(settings));
     add(u"Look"_s, new LookSection(settings, help));
+    add(u"Remote Control"_s, new RemoteSection(settings));
     addKeys(*column);
     column->addStretch();
     return content;

@@ -79,6 +79,7 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .distance = 200,
                                 .fontSize = 18.5,
                                 .suggestion = u"18 points"_s,
+                                .mediaKeys = true,
                                 .black = true,
                                 .keys = true,
                                 .file = u"/talks/a.md"_s,

@@ -115,7 +115,7 @@ TEST_F(ReadingWindowTest, HasTheControlsOfThePaceThatIsOn) {
     EXPECT_EQ(options().eyeLine, 0.33);
     EXPECT_THAT(usableAboveTheLook(),
                 ElementsAre("pacePopup", "timeField", "eyeLinePopup", "eyeLineSlider", "guidePopup",
-                            "countdownSlider", "atEndPopup", "glideSwitch"));
+                            "countdownSlider", "atEndPopup", "glideSwitch", "mediaKeysSwitch"));
     choose("reading_pacePopup", 0);
     choose("reading_eyeLinePopup", 0);
     EXPECT_EQ(options().pace, PaceMode::speed);
@@ -196,7 +196,9 @@ TEST_F(ReadingWindowTest, OffersEveryGuideAndEnd) {
     choose("reading_atEndPopup", 2);
     EXPECT_EQ(options(), (ReadingOptions{.atEnd = ScriptEnd::goRound}));
     QTest::keyClick(&control<Switch>("reading_glideSwitch"), Qt::Key_Space);
+    QTest::keyClick(&control<Switch>("reading_mediaKeysSwitch"), Qt::Key_Space);
     EXPECT_TRUE(options().glide);
+    EXPECT_TRUE(options().mediaKeys);
 }
 
 TEST_F(ReadingWindowTest, ShowsWhatOthersChange) {
