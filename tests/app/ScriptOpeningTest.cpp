@@ -219,6 +219,10 @@ TEST_F(ScriptOpeningTest, TakesADroppedTextAndNoOtherThings) {
     address.setUrls({QUrl(u"https://example.org/talk.md"_s)});
     drop(address, *prompter());
     EXPECT_EQ(notice(), u"Only files on this computer can be opened"_s);
+    QMimeData nothing;
+    nothing.setText(QString());
+    drop(nothing, *prompter());
+    EXPECT_EQ(notice(), u"The other program gave nothing to show"_s);
     QMimeData picture;
     picture.setData(u"image/png"_s, "x");
     drop(picture, *prompter());

@@ -115,6 +115,8 @@ void ScriptOpening::take(const DroppedContent& content) {
         open(first, firstOf(first, content.paths.size() + content.others), {});
     } else if (content.others > 0) {
         prompter.notices().tell(u"Only files on this computer can be opened"_s);
+    } else if (content.text.isEmpty()) {
+        prompter.notices().tell(u"The other program gave nothing to show"_s);
     } else {
         intake.open(content.text);
     }

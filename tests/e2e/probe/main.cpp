@@ -1,3 +1,4 @@
+#include "DragSource.h"
 #include "ProbeReport.h"
 #include "ProbeWindow.h"
 
@@ -10,6 +11,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QJsonArray>
+#include <QMimeData>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -36,6 +38,15 @@ void reportScreens(const Screens& screens, const ScreenManager& manager) {
     report(u"screens"_s, {{u"all"_s, all}, {u"preferred"_s, toJson(manager.preferredScreen())}});
 }
 
+/// What can be dragged from the window: a text, or the things that addresses name.
+std::unique_ptr<QMimeData> dragged(const QString& text, const QStringList& addresses) {
+    auto data = std::make_unique<QMimeData>();
+    if (!text.isEmpty()) data->setText(text);
+    if (!addresses.isEmpty())
+        data->setData(u"text/uri-list"_s, addresses.join("\r\n"_L1).toUtf8() + "\r\n");
+    return data;
+}
+
 /// Like the prompter: at the very top, over everything.
 void showFloating(QWidget& window, WindowTraits& traits) {
     window.setWindowFlags(Qt::FramelessWindowHint | traits.creationFlags());
@@ -57,6 +68,9 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.addPositionalArgument(u"kind"_s, u"floating, normal or fullscreen"_s);
     parser.addPositionalArgument(u"color"_s, u"the colour that fills the window"_s);
+    const QCommandLineOption text(u"drag-text"_s, u"a text to be dragged from it"_s, u"text"_s);
+    const QCommandLineOption address(u"drag"_s, u"an address to be dragged"_s, u"uri"_s);
+    parser.addOptions({text, address});
     parser.process(application);
     const QString kind = parser.positionalArguments().value(0);
 
@@ -68,6 +82,8 @@ int main(int argc, char** argv) {
 
     ProbeWindow window{QColor(parser.positionalArguments().value(1))};
     window.setWindowTitle(kind);
+    const DragSource source(window,
+                            [&] { return dragged(parser.value(text), parser.values(address)); });
     if (kind == "floating"_L1) {
         showFloating(window, *platform->windowTraits);
     } else if (kind == "fullscreen"_L1) {
