@@ -156,12 +156,10 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
               "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
               "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
               "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"opacityShown\":65,"
-              "\"clickThrough\":true,"
-              "\"font\":\"DejaVu Serif\",\"fontShown\":\"DejaVu "
-              "Serif\",\"lineSpacing\":1.25,\"distance\":80,\"fontSize\":21.0,\"suggestion\":\"so "
-              "many points\",\"black\":true,\"keys\":true,"
-              "Serif\",\"lineSpacing\":1.25,\"distance\":80,"
-              "\"mediaKeys\":true,\"black\":true,\"keys\":true,"
+              "\"clickThrough\":true,\"font\":\"DejaVu Serif\","
+              "\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,"
+              "\"fontSize\":21.0,\"suggestion\":\"so many points\",\"mediaKeys\":true,"
+              "\"black\":true,\"keys\":true,"
               "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
               "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"]}"_s);
 }

@@ -115,7 +115,7 @@ TEST_F(ReadingWindowTest, HasTheControlsOfThePaceThatIsOn) {
     EXPECT_EQ(options().eyeLine, 0.33);
     EXPECT_THAT(usableAboveTheLook(),
                 ElementsAre("pacePopup", "timeField", "eyeLinePopup", "eyeLineSlider", "guidePopup",
-                            "countdownSlider", "atEndPopup", "glideSwitch", "mediaKeysSwitch"));
+                            "countdownSlider", "atEndPopup", "glideSwitch"));
     choose("reading_pacePopup", 0);
     choose("reading_eyeLinePopup", 0);
     EXPECT_EQ(options().pace, PaceMode::speed);
