@@ -4,7 +4,7 @@ import json
 import unittest
 
 from harness import wait_until
-from settings_case import HEIGHT, SettingsTestCase
+from settings_case import SettingsTestCase
 
 TITLE = "Reading"
 WINDOW = "^Reading$"
@@ -46,6 +46,10 @@ class ReadingTestCase(SettingsTestCase):
         self.click_on(self.control(PROMPTER, "text", "Script"))
         wait_until(lambda: self.desktop.focused_window() == self.window, "it has the keyboard")
 
+    def is_beside_the_prompter(self):
+        left, _, width, _ = self.prompter_area()
+        return self.open_window(TITLE).area[0] >= left + width
+
     def reading_is_open(self):
         return bool(self.desktop.windows(WINDOW, self.prompter.pid))
 
@@ -56,7 +60,7 @@ class ByMouse(ReadingTestCase):
         config = self.settings()
         self.assertEqual(self.options(), {})
         self.open_by_menu()
-        self.wait_for_top(HEIGHT)
+        wait_until(self.is_beside_the_prompter, "the window, which is high, is beside the prompter")
 
         self.choose("Speed", "Words a Minute")
         self.wait_for_option("pace", "words")
