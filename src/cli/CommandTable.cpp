@@ -29,8 +29,8 @@ constexpr CommandOption programOptions[] = {
 
 constexpr HelpEntry programStatuses[] = {
     {u"0", u"Success."},
-    {u"1", u"The program could not start, or its output could not be written."},
-    wrongUse,
+    {u"1", u"The program could not start, or pandoc could not read FILE."},
+    {u"2", u"A wrong argument, or a FILE that cannot be read as text.\nNothing has changed then."},
 };
 
 constexpr HelpEntry programEnvironment[] = {
@@ -44,6 +44,8 @@ constexpr HelpEntry programFiles[] = {
      u"The reading options, once one of them was chosen."},
     {u"~/Library/Application Support/Tessaline/clipboard-content.md",
      u"The script that was pasted or opened last."},
+    {u"~/Library/Application Support/Tessaline/latest.json",
+     u"Which files were opened last, and where they were left."},
     {u"~/Library/Application Support/Tessaline/analytics.json", u"The history of use."},
 };
 
@@ -75,7 +77,7 @@ constexpr CommandSpec program{
         u"Shows a Markdown script in the prompter, a small window under the top edge of\n"
         u"the screen. FILE is shown as if its text had been pasted; '-' reads standard\n"
         u"input. Without FILE the prompter shows what it showed last. If it runs already,\n"
-        u"that one comes to the front and shows FILE.\n",
+        u"that one comes to the front and shows FILE. A .docx or .odt is read by pandoc.\n",
     .notes = u"'--' ends the options: what follows is FILE, whatever it begins with. A FILE\n"
              u"that has the name of a command is given as ./FILE.\n",
     .options = programOptions,
@@ -335,7 +337,8 @@ constexpr CommandSpec commands[] = {
             u"the minutes by 0.5, the time by one minute.\n"
             u"\n"
             u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n"
-            u"N of 'opacity' is from 30 to 100 percent, CM is from 40 to 200.\n",
+            u"N of 'opacity' is from 30 to 100 percent, of 'latest' from 1, the very last\n"
+            u"one, to 10, CM is from 40 to 200.\n",
         .options = controlOptions,
         .actions = actions,
         .sections = controlSections,

@@ -31,7 +31,7 @@ constexpr int buttonHeight = 22;
 constexpr double lineAlpha = 0.22;
 constexpr double buttonAlpha = 0.22;
 constexpr double pressedAlpha = 0.4;
-constexpr double mostOfTheWidth = 0.6; // for the button
+constexpr double mostOfTheWidth = 0.56; // for the button
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* bar = qobject_cast<NoticeBar*>(object);
@@ -76,7 +76,6 @@ void NoticeBar::tell(const QString& text) {
 
 void NoticeBar::offer(const QString& text, const QString& title, std::function<void()> action) {
     act = std::move(action);
-    button->setGlyph(title, points, QFont::Medium);
     button->setAccessibleName(title);
     button->show();
     appear(text, offeringSeconds);
@@ -102,13 +101,25 @@ void NoticeBar::appear(const QString& text, double seconds) {
     QAccessible::updateAccessibility(&alert);
 }
 
+/// How wide the button is with its title, which is shortened where it leaves the text too little
+/// room.
+int NoticeBar::fitButton(int room) {
+    if (button->isHidden()) return 0;
+    const QString title = button->accessibleName();
+    const QFontMetrics metrics(systemFont(points, QFont::Medium));
+    const int most = int(room * mostOfTheWidth) - 2 * buttonPadding;
+    const QString fitting = metrics.elidedText(title, Qt::ElideRight, most);
+    button->setGlyph(fitting, points, QFont::Medium);
+    button->setToolTip(fitting == title ? QString() : title.toHtmlEscaped());
+    return metrics.horizontalAdvance(fitting) + 2 * buttonPadding;
+}
+
 /// At the lower edge, or at the upper one where that would cover the line that is read.
 void NoticeBar::arrange() {
     const QSize room = view.size();
-    const int wanted = button->sizeHint().width() + 2 * buttonPadding;
-    const int buttonWidth =
-        button->isHidden() ? 0 : std::min(wanted, int(room.width() * mostOfTheWidth));
-    const int textWidth = room.width() - 2 * sideMargin - buttonWidth - (buttonWidth ? margin : 0);
+    const int buttonWidth = fitButton(room.width());
+    const int right = room.width() - sideMargin;
+    const int textWidth = right - sideMargin - (buttonWidth ? buttonWidth + margin : 0);
     const int textHeight = label->heightForWidth(std::max(textWidth, 1));
     const int height = std::max(textHeight, buttonHeight) + 2 * margin;
     const int lower = room.height() - height;
@@ -116,8 +127,8 @@ void NoticeBar::arrange() {
     const bool coversEyeLine = lower < view.eyeLine() + halfLine;
     setGeometry(view.x(), view.y() + (coversEyeLine ? 0 : lower), room.width(), height);
     label->setGeometry(sideMargin, (height - textHeight) / 2, textWidth, textHeight);
-    button->setGeometry(room.width() - sideMargin - buttonWidth, (height - buttonHeight) / 2,
-                        buttonWidth, buttonHeight);
+    button->setGeometry(right - buttonWidth, (height - buttonHeight) / 2, buttonWidth,
+                        buttonHeight);
 }
 
 bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {

@@ -45,6 +45,7 @@ protected:
 
 private:
     void appear(const QString& text, double seconds);
+    int fitButton(int room);
     void arrange();
 
     TimerMaker& timers;

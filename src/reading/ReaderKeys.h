@@ -23,6 +23,7 @@ inline constexpr std::array readerKeys{
     ReaderKeys{u"B, .", u"Black out, bring back"},
     ReaderKeys{u"M", u"Mirror the text"},
     ReaderKeys{u"G", u"Change the guide"},
+    ReaderKeys{u"Ctrl+O", u"Open a script"},
     ReaderKeys{u"F1, ?", u"Show these keys"},
 };
 

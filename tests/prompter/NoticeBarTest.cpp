@@ -66,6 +66,18 @@ TEST_F(NoticeBarTest, OffersWhatAButtonDoesOnce) {
     EXPECT_FALSE(button().isVisible());
 }
 
+TEST_F(NoticeBarTest, ShortensAButtonThatLeavesTheTextTooLittleRoom) {
+    const QString title = u"Continue at “"_s + u"a rather long heading "_s.repeated(5) + u"”"_s;
+    bar().offer(u"Opened talk.md"_s, title, [] {});
+    EXPECT_TRUE(button().text().endsWith(u'…'));
+    EXPECT_EQ(button().accessibleName(), title);
+    EXPECT_EQ(button().toolTip(), title);
+    EXPECT_LT(button().width(), bar().width() * 2 / 3);
+    bar().offer(u"Opened talk.md"_s, u"Continue at 5 %"_s, [] {});
+    EXPECT_EQ(button().text(), u"Continue at 5 %"_s);
+    EXPECT_EQ(button().toolTip(), QString());
+}
+
 TEST_F(NoticeBarTest, GoesAwayByAClickThatDoesNothingElse) {
     bar().offer(u"Opened talk.md"_s, u"Continue"_s, [] { ADD_FAILURE(); });
     clickAt(bar(), {3, bar().height() / 2});

@@ -32,7 +32,7 @@ qsizetype offsetRead(const ScriptView& view) {
 
 /// The heading that an offset stands under, shortened, or its share of the text.
 QString nameOfPlace(const Script& script, qsizetype offset) {
-    constexpr qsizetype longest = 32;
+    constexpr qsizetype longest = 22;
     for (std::size_t i = script.paragraphOf(offset) + 1; i-- > 0;) {
         if (script.headingLevel(i) == 0) continue;
         const auto& paragraph = script.paragraphs[i];
@@ -109,7 +109,7 @@ void PlaceMemory::offerToContinue() {
     if (!place) return;
     title = u"Continue at "_s + nameOfPlace(script, *place);
     const QString remark =
-        current->remark.isEmpty() ? u"Opened "_s + shownFileName(current->path) : current->remark;
+        current->remark.isEmpty() ? u"Opened "_s + briefFileName(current->path) : current->remark;
     prompter.notices().offer(remark, title, lifetime.guard([this] { continueReading(); }));
 }
 

@@ -27,7 +27,7 @@ Q_LOGGING_CATEGORY(openingLog, "app.tessaline.Tessaline.opening", QtInfoMsg)
 
 QString firstOf(const QString& path, qsizetype count) {
     if (count < 2) return {};
-    return u"Opened %1, the first of %2 files"_s.arg(shownFileName(path)).arg(count);
+    return u"Opened %1, the first of %2 files"_s.arg(briefFileName(path)).arg(count);
 }
 
 } // namespace
@@ -50,7 +50,7 @@ void ScriptOpening::open(const QString& path, Done done) {
 }
 
 void ScriptOpening::open(const QString& path, const QString& remark, Done done) {
-    if (isDocumentName(path)) prompter.notices().tell(u"Opening %1 …"_s.arg(shownFileName(path)));
+    if (isDocumentName(path)) prompter.notices().tell(u"Opening %1 …"_s.arg(briefFileName(path)));
     const auto read = [path, &processes = *platform.processes] {
         return readScriptFile(path, processes);
     };
@@ -76,7 +76,7 @@ QString ScriptOpening::show(const QString& path, const ReadText& read, const QSt
     }
     reveal();
     if (read.text->isEmpty()) {
-        prompter.notices().tell(u"%1 is empty"_s.arg(shownFileName(path)));
+        prompter.notices().tell(u"%1 is empty"_s.arg(briefFileName(path)));
         return {};
     }
     prompter.notices().tell(remark);
@@ -95,7 +95,7 @@ void ScriptOpening::follow(const QString& path, const QString& text) {
 
 void ScriptOpening::tellProblem(const QString& path, const QString& problem) {
     qCWarning(openingLog, "Cannot open %ls: %ls", qUtf16Printable(path), qUtf16Printable(problem));
-    prompter.notices().tell(u"Cannot open %1: %2"_s.arg(shownFileName(path), problem));
+    prompter.notices().tell(u"Cannot open %1: %2"_s.arg(briefFileName(path), problem));
 }
 
 void ScriptOpening::choose() {

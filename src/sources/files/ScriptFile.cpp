@@ -73,4 +73,11 @@ QString shownFileName(const QString& path) {
     return path.section(u'/', -1, -1, QString::SectionSkipEmpty);
 }
 
+QString briefFileName(const QString& path) {
+    constexpr qsizetype longest = 40;
+    constexpr qsizetype half = longest / 2;
+    const QString name = shownFileName(path);
+    return name.size() <= longest ? name : name.first(half) + u'…' + name.last(half - 1);
+}
+
 } // namespace tessaline

@@ -27,7 +27,8 @@ bool isDocumentFile(const QString& path);
 /// The patterns of the names that scripts usually have.
 QStringList scriptNamePatterns();
 
-/// How messages call a file: by its name alone.
+/// A file's name alone, and as messages have it: without the middle of a very long one.
 QString shownFileName(const QString& path);
+QString briefFileName(const QString& path);
 
 } // namespace tessaline

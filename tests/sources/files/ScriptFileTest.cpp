@@ -110,6 +110,9 @@ TEST_F(ScriptFile, ThatIsADocumentSaysInOneLineWhyItCannotBeRead) {
 TEST_F(ScriptFile, IsCalledByItsNameAlone) {
     EXPECT_EQ(shownFileName(u"/home/ann/My Talk.md"_s), u"My Talk.md"_s);
     EXPECT_EQ(shownFileName(u"/home/ann/"_s), u"ann"_s);
+    EXPECT_EQ(briefFileName(u"/home/ann/talk.md"_s), u"talk.md"_s);
+    EXPECT_EQ(briefFileName(u"/"_s + u"a"_s.repeated(100) + u".md"_s),
+              u"a"_s.repeated(20) + u'…' + u"a"_s.repeated(16) + u".md"_s);
 }
 
 TEST(PlainMarkdown, HasNothingThatOnlyProgramsRead) {
