@@ -3,7 +3,9 @@ gone on with where they were left; and what cannot be opened."""
 
 import json
 import os
+import shutil
 import unittest
+import zipfile
 
 from harness import wait_until
 from harness.accessible_case import AccessibleTestCase
@@ -12,6 +14,7 @@ PROMPTER = "Tessaline"
 PANEL = "Open a Script"
 TALK = "# First Part\n\n" + "A line of it.\n\n" * 40 + "# Second Part\n\n" + "Another.\n\n" * 40
 FILM_SIZE = 2 << 30
+BOMB_MEGABYTES = 400
 PANDOC = "#!/bin/sh\necho '# From a document'\n"
 
 
@@ -200,6 +203,25 @@ class ByHand(OpeningTestCase):
         self.assertEqual(self.prompter.end(), 0)
         self.start_with(talk)
         self.wait_for_file(talk)
+
+    def test_a_document_that_swells_is_refused_and_the_text_goes_on(self):
+        pandoc = shutil.which("pandoc")
+        if not pandoc:
+            self.skipTest("not installed: pandoc")
+        talk, bomb = self.write_script(TALK), self.desktop.home / "bomb.odt"
+        with zipfile.ZipFile(bomb, "w", zipfile.ZIP_DEFLATED, compresslevel=1) as file:
+            with file.open("content.xml", "w") as content:
+                for _ in range(BOMB_MEGABYTES):
+                    content.write(b"<a>" * 350_000)
+        self.start_with(talk)
+        self.pandoc.symlink_to(pandoc)
+        self.ctl("speed", "5")
+        self.ctl("play")
+        before = self.status()["scrollPosition"]
+        self.assertIn("pandoc cannot read it", self.refusal(bomb))
+        status = self.status()
+        self.assertEqual(status["file"], str(talk))
+        self.assertGreater(status["scrollPosition"], before)
 
     def test_what_lies_elsewhere_is_not_touched_until_it_is_chosen(self):
         away = {"path": "/mnt/stick/talk.md", "hash": 1, "length": 100, "place": 50}

@@ -30,17 +30,22 @@ qsizetype offsetRead(const ScriptView& view) {
         {paragraph.left(), paragraph.top() + place.fraction * paragraph.height() + withinTheLine});
 }
 
+QString shortened(const QString& heading) {
+    constexpr qsizetype longest = 22;
+    if (heading.size() <= longest) return heading;
+    const bool splitsCharacter = heading[longest - 1].isLowSurrogate();
+    return heading.first(splitsCharacter ? longest - 2 : longest - 1) + u'…';
+}
+
 /// The heading that an offset stands under, shortened, or its share of the text.
 QString nameOfPlace(const Script& script, qsizetype offset) {
-    constexpr qsizetype longest = 22;
     for (std::size_t i = script.paragraphOf(offset) + 1; i-- > 0;) {
         if (script.headingLevel(i) == 0) continue;
         const auto& paragraph = script.paragraphs[i];
         const QString heading =
             script.text(paragraph.start, paragraph.start + paragraph.length).simplified();
         if (heading.isEmpty()) break;
-        return u"“%1”"_s.arg(heading.size() > longest ? heading.first(longest - 1) + u'…'
-                                                      : heading);
+        return u"“%1”"_s.arg(shortened(heading));
     }
     constexpr double percent = 100.0;
     return u"%1 %"_s.arg(std::lround(percent * double(offset) / double(script.length())));

@@ -77,7 +77,12 @@ QString briefFileName(const QString& path) {
     constexpr qsizetype longest = 40;
     constexpr qsizetype half = longest / 2;
     const QString name = shownFileName(path);
-    return name.size() <= longest ? name : name.first(half) + u'…' + name.last(half - 1);
+    if (name.size() <= longest) return name;
+    QString begin = name.first(half);
+    QString end = name.last(half - 1);
+    if (begin.back().isHighSurrogate()) begin.chop(1);
+    if (end.front().isLowSurrogate()) end.remove(0, 1);
+    return begin + u'…' + end;
 }
 
 } // namespace tessaline

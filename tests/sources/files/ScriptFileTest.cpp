@@ -113,6 +113,8 @@ TEST_F(ScriptFile, IsCalledByItsNameAlone) {
     EXPECT_EQ(briefFileName(u"/home/ann/talk.md"_s), u"talk.md"_s);
     EXPECT_EQ(briefFileName(u"/"_s + u"a"_s.repeated(100) + u".md"_s),
               u"a"_s.repeated(20) + u'…' + u"a"_s.repeated(16) + u".md"_s);
+    EXPECT_EQ(briefFileName(u"/a"_s + u"🕰"_s.repeated(50)),
+              u"a"_s + u"🕰"_s.repeated(9) + u'…' + u"🕰"_s.repeated(9));
 }
 
 TEST(PlainMarkdown, HasNothingThatOnlyProgramsRead) {
