@@ -7,6 +7,7 @@
 #include "platform/FileIcons.h"
 #include "platform/FolderChooser.h"
 #include "platform/GlobalKeyMonitor.h"
+#include "platform/MediaControls.h"
 #include "platform/NativeLook.h"
 #include "platform/Platform.h"
 #include "platform/ReservedEdges.h"
@@ -20,7 +21,6 @@
 #include "platform/qt/QtLocalKeyMonitor.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScreens.h"
-#include "platform/unsupported/UnsupportedMediaControls.h"
 
 namespace tessaline {
 
@@ -46,7 +46,7 @@ std::unique_ptr<Platform> makePlatform() {
     platform->icons = makeFileIcons();
     platform->folderChooser = makeFolderChooser();
     platform->fileChooser = std::make_unique<QtFileChooser>();
-    platform->media = std::make_unique<UnsupportedMediaControls>();
+    platform->media = makeMediaControls();
     return platform;
 }
 

@@ -68,7 +68,17 @@ typedef struct {
                                     count:(NSUInteger)len;
 @end
 
+@protocol NSCopying
+@end
+
+@interface NSNumber : NSObject
++ (NSNumber*)numberWithDouble:(double)value;
+@end
+
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
++ (instancetype)dictionaryWithObjects:(const id _Nonnull* _Nullable)objects
+                              forKeys:(const id _Nonnull* _Nullable)keys
+                                count:(NSUInteger)count;
 @end
 
 inline id _Nullable CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) _Nullable X) {
