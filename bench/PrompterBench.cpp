@@ -135,8 +135,10 @@ BENCHMARK(arrivalLaidOut)->Apply(tessaline::takeMedian);
 BENCHMARK(editOfOneLine)->Apply(tessaline::takeMedian);
 
 /// Scrolls through a text frame by frame and tells how long the painting of a frame takes.
-void measureFrames(qsizetype words, Verdicts& verdicts) {
+void measureFrames(qsizetype words, Verdicts& verdicts, const ScriptLook& look = {},
+                   const QString& lookName = {}) {
     ShownView shown;
+    shown.view.setLook(look);
     shown.show(talk(words));
     shown.view.completeLayout();
     std::vector<double> times;
@@ -147,8 +149,8 @@ void measureFrames(qsizetype words, Verdicts& verdicts) {
         times.push_back(threadMilliseconds() - begin);
         QCoreApplication::processEvents(); // the time between frames, in which strips are prepared
     }
-    const QString what =
-        u"A frame of 430 × 202 points, %1 words: "_s.arg(QLocale(QLocale::English).toString(words));
+    const QString what = u"A frame of 430 × 202 points, %1 words%2: "_s.arg(
+        QLocale(QLocale::English).toString(words), lookName);
     verdicts.judge(what + u"median"_s, tessaline::median(times), 0.4, "ms");
     verdicts.judge(what + u"99th percentile"_s, tessaline::percentile(times, 99), 1.0, "ms");
 }
@@ -177,5 +179,8 @@ int main(int argc, char** argv) {
                    medians.milliseconds("editOfOneLine"), 10, "ms");
     for (const qsizetype words : {1'000, 10'000, 100'000})
         measureFrames(words, verdicts);
+    measureFrames(10'000, verdicts, {.frame = {.mirroring = Mirroring::both}}, u", turned over"_s);
+    measureFrames(10'000, verdicts, {.frame = {.mirroring = Mirroring::both, .groundOpacity = 0.6}},
+                  u", turned over and seen through"_s);
     return verdicts.exitStatus();
 }

@@ -4,8 +4,8 @@
 #include "appearance/SystemPalette.h"
 #include "controls/Labels.h"
 #include "ui/controls/LabelledRow.h"
-#include "ui/controls/PopupButton.h"
 #include "ui/controls/Rows.h"
+#include "ui/reading/NamePopup.h"
 
 #include <QFontDatabase>
 #include <QSignalBlocker>
@@ -50,7 +50,7 @@ bool canBeRead(const QString& family) {
 } // namespace
 
 FontChoice::FontChoice()
-    : popup(new PopupButton(u"Font"_s, popupWidth))
+    : popup(new NamePopup(u"Font"_s, popupWidth))
     , hint(makeWrappingLabel({}, systemFont(11), SystemPalette::secondaryLabel))
     , missing(makeWrappingLabel({}, systemFont(11), SystemPalette::orange)) {
     popup->setObjectName(u"reading_fontPopup"_s);

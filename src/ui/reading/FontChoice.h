@@ -8,7 +8,7 @@ class QLabel;
 
 namespace tessaline {
 
-class PopupButton;
+class NamePopup;
 
 /// A choice among the fonts that are installed, the desktop's first. They are looked for when it is
 /// shown for the first time.
@@ -30,7 +30,7 @@ private:
     void addFamilies();
     void select(const QString& family);
 
-    PopupButton* const popup;
+    NamePopup* const popup;
     QLabel* const hint;
     QLabel* const missing;
 };

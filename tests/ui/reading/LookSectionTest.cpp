@@ -5,6 +5,7 @@
 #include "ui/controls/PopupButton.h"
 #include "ui/controls/Switch.h"
 
+#include <QAbstractItemView>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
@@ -101,13 +102,24 @@ TEST_F(LookSectionTest, OffersTheInstalledFontsByTheirNames) {
     for (int item = 1; item < popup.count(); ++item)
         EXPECT_TRUE(families.contains(popup.itemText(item)));
 
-    const QString family = popup.itemText(popup.count() - 1);
+    QString family; // the last one with several words
+    for (int item = 1; item < popup.count(); ++item)
+        if (popup.itemText(item).contains(u' ')) family = popup.itemText(item);
+    ASSERT_FALSE(family.isEmpty());
     popup.setFocus();
     QTest::keyClicks(&popup, family);
     EXPECT_EQ(options().fontFamily, family);
+    EXPECT_FALSE(popup.view()->isVisible());
     QTest::keyClick(&popup, Qt::Key_Home);
     EXPECT_EQ(options().fontFamily, std::nullopt);
     EXPECT_TRUE(control<QLabel>("reading_fontHint").text().contains(u"easy reading"_s));
+}
+
+TEST_F(LookSectionTest, PopsTheFontsUpByASpaceThatIsInNoName) {
+    auto& popup = control<PopupButton>("reading_fontPopup");
+    QTest::keyClick(&popup, Qt::Key_Space);
+    EXPECT_TRUE(popup.view()->isVisible());
+    popup.hidePopup();
 }
 
 TEST_F(LookSectionTest, KeepsAFontThatIsGoneAndSaysSo) {
