@@ -73,9 +73,21 @@ class Hands:
         self.followed = None
         self.shown = WAITING if self.note is None else self.note
 
+    def _at_rest(self):
+        """The status once a page that is being turned has been turned."""
+        statuses = []
+
+        def rests():
+            statuses.append(self._status())
+            places = [status["scrollPosition"] for status in statuses[-4:]]
+            return statuses[-1]["autoScroll"] or places == [places[0]] * 4
+
+        wait_until(rests, "the text is at rest", 3)
+        return statuses[-1]
+
     def _moves(self, delta, act):
         """Does something that scrolls by so many points, and sees whether it did."""
-        before = self._status()
+        before = self._at_rest()
         what = act()
         if before["autoScroll"] or len(self.shown) > 10000 or what == "nothing to be seen":
             return what
