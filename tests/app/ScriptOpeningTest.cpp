@@ -24,7 +24,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QUrl>
 
 #include <gmock/gmock.h>
@@ -93,13 +92,14 @@ protected:
     /// The entries of the text's menu, as it would open now.
     QStringList menuEntries() {
         QStringList entries;
-        QTimer::singleShot(0, qApp, [&entries] {
+        const auto look = [&entries] {
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(menu, nullptr);
             for (const QAction* action : menu->actions())
                 if (!action->isSeparator() && action->isVisible()) entries += action->text();
             menu->close();
-        });
+        };
+        QMetaObject::invokeMethod(qApp, look, Qt::QueuedConnection);
         QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, view().mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&view(), &event);
         return entries;

@@ -25,9 +25,10 @@ protected:
 
     static QList<QFileDialog*> panels() {
         QList<QFileDialog*> found;
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* panel = qobject_cast<QFileDialog*>(window); panel && panel->isVisible())
-                found += panel;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            auto* panel = qobject_cast<QFileDialog*>(window);
+            if (panel && panel->isVisible()) found += panel;
+        }
         return found;
     }
 

@@ -69,7 +69,7 @@ ScriptOpening::Reading ScriptOpening::readingOf(const QString& path) const {
 }
 
 QString ScriptOpening::show(const QString& path, const ReadText& read, const QString& remark) {
-    const QString problem = read.text ? QString() : read.problem;
+    QString problem = read.text ? QString() : read.problem;
     if (!problem.isEmpty()) {
         tellProblem(path, problem);
         return problem;

@@ -76,7 +76,7 @@ QString shownFileName(const QString& path) {
 QString briefFileName(const QString& path) {
     constexpr qsizetype longest = 40;
     constexpr qsizetype half = longest / 2;
-    const QString name = shownFileName(path);
+    QString name = shownFileName(path);
     if (name.size() <= longest) return name;
     QString begin = name.first(half);
     QString end = name.last(half - 1);
