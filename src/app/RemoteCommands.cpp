@@ -54,15 +54,16 @@ ScriptOpening::Reading RemoteCommands::readingOf(const OpenRequest& request) con
 }
 
 QString RemoteCommands::show(const OpenRequest& request, const ReadText& read) {
-    if (!read.text || !(request.follow || request.isCopy))
-        return delegate.opening().show(request.path, read);
-    if (request.follow) {
+    QString problem;
+    if (!read.text || !(request.follow || request.isCopy)) {
+        problem = delegate.opening().show(request.path, read);
+    } else if (request.follow) {
         delegate.opening().follow(request.path, *read.text);
     } else {
         delegate.scripts().open(*read.text);
-        delegate.reveal();
     }
-    return {};
+    if (problem.isEmpty()) delegate.reveal();
+    return problem;
 }
 
 } // namespace tessaline

@@ -92,14 +92,14 @@ protected:
     /// The entries of the text's menu, as it would open now.
     QStringList menuEntries() {
         QStringList entries;
-        const auto look = [&entries] {
+        const auto inspect = [&entries] {
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(menu, nullptr);
             for (const QAction* action : menu->actions())
                 if (!action->isSeparator() && action->isVisible()) entries += action->text();
             menu->close();
         };
-        QMetaObject::invokeMethod(qApp, look, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, inspect, Qt::QueuedConnection);
         QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, view().mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&view(), &event);
         return entries;
@@ -147,6 +147,16 @@ TEST_F(ScriptOpeningTest, ShowsAFileAsIfItHadBeenPasted) {
     EXPECT_EQ(delegate->status().file, path);
     EXPECT_EQ(delegate->status().latest, QStringList{path});
     EXPECT_TRUE(recorded(u"content_pasted"_s));
+}
+
+TEST_F(ScriptOpeningTest, BringsThePrompterToTheFrontOnlyWhereItIsHidden) {
+    openAndTell(write(u"talk.md"_s));
+    EXPECT_FALSE(recorded(u"window_shown"_s));
+    delegate->hidePrompterWindow();
+    openAndTell(folder.filePath(u"gone.md"_s));
+    EXPECT_FALSE(prompter()->isVisible());
+    openAndTell(write(u"other.md"_s, "# Other"));
+    EXPECT_TRUE(prompter()->isVisible());
 }
 
 TEST_F(ScriptOpeningTest, ReadsInTheBackground) {

@@ -57,6 +57,7 @@ void ScriptOpening::open(const QString& path, const QString& remark, Done done) 
     const auto finish =
         lifetime.guard([this, path, remark, done = std::move(done)](const ReadText& found) {
             const QString problem = show(path, found, remark);
+            if (problem.isEmpty() && !prompter.isVisible()) reveal();
             if (done) done(problem);
         });
     runThenPost(*platform.scriptTasks, *platform.mainQueue, read, finish);
@@ -74,7 +75,6 @@ QString ScriptOpening::show(const QString& path, const ReadText& read, const QSt
         tellProblem(path, problem);
         return problem;
     }
-    reveal();
     if (read.text->isEmpty()) {
         prompter.notices().tell(u"%1 is empty"_s.arg(briefFileName(path)));
         return {};
@@ -87,7 +87,6 @@ QString ScriptOpening::show(const QString& path, const ReadText& read, const QSt
 }
 
 void ScriptOpening::follow(const QString& path, const QString& text) {
-    reveal();
     placeMemory.expect(path, text, {});
     intake.follow(path, text);
     latestScripts.add(path);

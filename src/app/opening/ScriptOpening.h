@@ -33,8 +33,8 @@ public:
                   std::function<void()> reveal);
     ~ScriptOpening();
 
-    /// Reads a file and shows it. `done` is told why it was not shown, or an empty text; it is not
-    /// called once this is gone.
+    /// Reads a file and shows it; the prompter is brought to the front only if it is hidden. `done`
+    /// is told why it was not shown, or an empty text; it is not called once this is gone.
     void open(const QString& path, Done done = {});
 
     /// How to read a file whose path somebody named who knows how large it is. Any thread.
