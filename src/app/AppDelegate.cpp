@@ -1,16 +1,16 @@
 #include "app/AppDelegate.h"
 
 #include "analytics/UsageRecorder.h"
+#include "app/ConfigPanel.h"
+#include "app/ControlDeeds.h"
 #include "app/FirstRun.h"
-#include "app/KeyDeeds.h"
 #include "app/MediaSession.h"
 #include "app/PrompterCutout.h"
 #include "app/ReadingPanel.h"
 #include "app/ScriptIntake.h"
-#include "app/SideWindowPlacer.h"
+#include "app/SettingChoices.h"
 #include "app/SizeAdviser.h"
 #include "app/StatusItem.h"
-#include "app/WindowOrder.h"
 #include "app/opening/ScriptOpening.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "cli/CommandLine.h"
@@ -20,8 +20,6 @@
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "platform/WindowTraits.h"
-#include "platform/qt/FrameMarginsWatch.h"
-#include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
 #include "sources/ClipboardSource.h"
@@ -30,9 +28,6 @@
 #include "ui/ConfigWindow.h"
 #include "ui/Services.h"
 
-#include <QWindow>
-
-#include <algorithm>
 #include <utility>
 
 namespace tessaline {
@@ -71,14 +66,17 @@ PrompterStatus AppDelegate::status() const {
     PrompterStatus status = prompter().status();
     status.version = CommandLine::version();
     tellOptions(readingSettings.values(), QTime::currentTime(), status);
-    status.fontSize = settings.fontSize();
-    status.suggestion = SizeAdviser(prompter(), readingSettings).suggestion().text();
+    SizeAdviser(prompter(), readingSettings).tell(status);
     opening().tell(status);
     return status;
 }
 
+SettingChoices& AppDelegate::choices() const {
+    return required(settingChoices, "choices");
+}
+
 ConfigWindow& AppDelegate::config() const {
-    return required(configWindow, "settings window");
+    return required(configPanel, "settings window").window();
 }
 
 SourceManager& AppDelegate::sources() const {
@@ -98,8 +96,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     createSourceManager();
     screenManager.preferredDisplayID = settings.preferredDisplayID();
     createPrompterWindow();
-    createConfigWindow();
-    connectButtons();
+    createPanels();
+    connectControls(*this);
     setupStatusItem();
     screenManager.onScreenChange = weakly(&AppDelegate::screensChanged);
     sourceManager->onContentUpdate = weakly(&AppDelegate::showContent);
@@ -143,36 +141,19 @@ void AppDelegate::createPrompterWindow() {
                                                     weakly(&AppDelegate::reveal));
 }
 
-void AppDelegate::createConfigWindow() {
-    configWindow =
-        std::make_unique<ConfigWindow>(settings, sourceManager.get(), platform, services());
-    configWindow->setScreenManager(&screenManager);
-    configWindow->onSettingsChanged = weakly(&AppDelegate::settingsChanged);
-    configWindow->onSourceChanged = weakly(&AppDelegate::handleSourceChange);
-    configWindow->winId(); // makes the native window
-    configPlacer =
-        std::make_unique<SideWindowPlacer>(*configWindow, *prompterWindow, screenManager, settings);
+void AppDelegate::createPanels() {
+    settingChoices = std::make_unique<SettingChoices>(
+        settings, environment.recorder,
+        SettingChoices::Effects{weakly(&AppDelegate::settingsChanged),
+                                weakly(&AppDelegate::chooseSource)});
+    configPanel = std::make_unique<ConfigPanel>(settings, *sourceManager, *prompterWindow,
+                                                screenManager, platform, services());
+    config().onSettingsChanged = weakly(&AppDelegate::settingsChanged);
+    config().onSourceChanged = weakly(&AppDelegate::handleSourceChange);
     readingPanel = std::make_unique<ReadingPanel>(
         readingSettings, *prompterWindow, screenManager, settings,
         LookHelp{[this] { return platform.windowTraits->showsTranslucency(); },
                  [this] { return takeSuggestedSize(); }});
-    configWindow->onSizeChanged = weakly(&AppDelegate::repositionWindows);
-    new FrameMarginsWatch(*configWindow->windowHandle(), weakly(&AppDelegate::repositionWindows));
-}
-
-void AppDelegate::connectButtons() {
-    const ControlStrip& controls = prompterWindow->controls();
-    const auto wire = [&](void (ControlStrip::*pressed)(), void (AppDelegate::*action)()) {
-        QObject::connect(&controls, pressed, &controls, weakly(action));
-    };
-    wire(&ControlStrip::configPressed, &AppDelegate::showConfig);
-    wire(&ControlStrip::autoScrollPressed, &AppDelegate::toggleScroll);
-    wire(&ControlStrip::minimizePressed, &AppDelegate::toggleMinimize);
-    wire(&ControlStrip::pastePressed, &AppDelegate::cycleSource);
-    // It hides only: the program ends from the status menu.
-    wire(&ControlStrip::quitPressed, &AppDelegate::hidePrompterWindow);
-    QObject::connect(prompterWindow.get(), &PrompterWindow::keyPressed, prompterWindow.get(),
-                     [this](const PrompterKey& key) { carryOut(key, *this); });
 }
 
 void AppDelegate::setupStatusItem() {
@@ -239,10 +220,7 @@ void AppDelegate::cycleSource() {
 }
 
 void AppDelegate::showConfig() {
-    config().refreshUI();
-    repositionWindows();
-    makeKeyAndOrderFront(config());
-    config().startPeriodicRefresh();
+    required(configPanel, "settings window").show();
     platform.activationPolicy->activateIgnoringOtherApps();
     environment.recorder.record({.name = u"settings_opened"_s});
 }
@@ -268,26 +246,6 @@ void AppDelegate::pasteFromClipboard() {
     scripts().paste([](const QString& /*problem*/) {});
 }
 
-void AppDelegate::setScrollSpeed(double speed) {
-    settings.setScrollSpeed(speed);
-    environment.recorder.trackSettingChanged(u"scrollSpeed"_s,
-                                             QString::number(settings.scrollSpeed()));
-}
-
-void AppDelegate::chooseScrollRate(ScrollRate rate) {
-    settings.setScrollRate(rate);
-    settingsChanged();
-    environment.recorder.trackDisplaySettings(settings.values());
-}
-
-bool AppDelegate::chooseSource(SourceType source) {
-    const auto enabled = settings.getEnabledSources();
-    if (std::find(enabled.begin(), enabled.end(), source) == enabled.end()) return false;
-    sources().setActiveSource(source);
-    handleSourceChange(source);
-    return true;
-}
-
 void AppDelegate::performScroll(double deltaY) {
     prompter().performScroll(deltaY);
 }
@@ -301,6 +259,11 @@ void AppDelegate::screensChanged() {
     prompter().rerender();
     config().rebuildScreenPopup();
     repositionWindows();
+}
+
+void AppDelegate::chooseSource(SourceType source) {
+    sources().setActiveSource(source);
+    handleSourceChange(source);
 }
 
 void AppDelegate::handleSourceChange(SourceType source) {
@@ -325,16 +288,12 @@ void AppDelegate::settingsChanged() {
 
 QString AppDelegate::takeSuggestedSize() {
     const SizeSuggestion suggestion = SizeAdviser(prompter(), readingSettings).suggestion();
-    if (suggestion.points != settings.fontSize()) {
-        settings.setFontSize(suggestion.points);
-        settingsChanged();
-        environment.recorder.trackDisplaySettings(settings.values());
-    }
+    choices().setFontSize(suggestion.points);
     return suggestion.text();
 }
 
 void AppDelegate::repositionWindows() {
-    configPlacer->place();
+    configPanel->place();
     readingPanel->place();
 }
 

@@ -18,8 +18,8 @@
 
 namespace tessaline {
 
+class ConfigPanel;
 class ConfigWindow;
-class SideWindowPlacer;
 class FirstRun;
 class MediaSession;
 class PrompterCutout;
@@ -28,6 +28,7 @@ class ReadingPanel;
 class ScriptIntake;
 class ScriptOpening;
 class Shortcuts;
+class SettingChoices;
 class SourceManager;
 class StatusItem;
 struct Services;
@@ -68,11 +69,9 @@ public:
     /// The same for scripts in files.
     ScriptOpening& opening() const;
 
-    // Each changes one setting and no other, saves once and announces it.
-    void setScrollSpeed(double speed); ///< within its limits
-    void chooseScrollRate(ScrollRate rate);
-    bool chooseSource(SourceType source); ///< false, and no change: it is not enabled
-    QString takeSuggestedSize();          ///< of the text; says which and why
+    /// What is chosen otherwise than in the settings window.
+    SettingChoices& choices() const;
+    QString takeSuggestedSize(); ///< of the text; says which and why
 
     /// Whether the normal start has happened: the first-run window is done with.
     bool hasStarted() const { return shortcuts != nullptr; }
@@ -87,8 +86,7 @@ public:
 private:
     void createSourceManager();
     void createPrompterWindow();
-    void createConfigWindow();
-    void connectButtons();
+    void createPanels();
     void setupStatusItem();
     void configureTelemetry();
     void startApp();
@@ -96,6 +94,7 @@ private:
 
     void showContent(const QString& content);
     void screensChanged();
+    void chooseSource(SourceType source);
     void handleSourceChange(SourceType source);
     void activeSourceChanged(const Notification& change);
     void settingsChanged();
@@ -123,8 +122,8 @@ private:
     std::unique_ptr<PrompterWindow> prompterWindow;
     std::unique_ptr<PrompterCutout> prompterCutout;
     std::unique_ptr<ScriptOpening> scriptOpening;
-    std::unique_ptr<ConfigWindow> configWindow;
-    std::unique_ptr<SideWindowPlacer> configPlacer;
+    std::unique_ptr<SettingChoices> settingChoices;
+    std::unique_ptr<ConfigPanel> configPanel;
     std::unique_ptr<ReadingPanel> readingPanel;
     std::unique_ptr<FirstRun> firstRun; ///< where there is one
     std::unique_ptr<StatusItem> statusItem;

@@ -1,6 +1,7 @@
 #include "app/MediaSession.h"
 
 #include "app/AppDelegate.h"
+#include "app/SettingChoices.h"
 #include "platform/Platform.h"
 #include "platform/TimerMaker.h"
 #include "prompter/PrompterWindow.h"
@@ -129,7 +130,7 @@ double MediaSession::rate() const {
 void MediaSession::setRate(double rate) {
     switch (delegate.reading().values().pace) {
     case PaceMode::speed:
-        return delegate.setScrollSpeed(rate * usualSpeed);
+        return delegate.choices().setScrollSpeed(rate * usualSpeed);
     case PaceMode::words:
         return delegate.reading().change([rate](ReadingOptions& options) {
             options.wordsPerMinute = rate * usualWordsPerMinute;

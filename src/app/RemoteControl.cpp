@@ -1,9 +1,10 @@
 #include "app/RemoteControl.h"
 
 #include "app/AppDelegate.h"
-#include "app/KeyDeeds.h"
+#include "app/ControlDeeds.h"
 #include "app/ReadingCommands.h"
 #include "app/ScriptIntake.h"
+#include "app/SettingChoices.h"
 #include "app/opening/ScriptOpening.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
@@ -42,7 +43,7 @@ void RemoteControl::carryOut(const ControlRequest& request, const Reply& reply) 
 RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
     if (request.command == ControlCommand::source) {
         const auto source = sourceTypeFromRawValue(request.argument);
-        if (!source || !delegate.chooseSource(*source)) {
+        if (!source || !delegate.choices().setSource(*source)) {
             return Refusal{
                 u"the source '%1' is not enabled in the settings"_s.arg(request.argument)};
         }
@@ -70,10 +71,10 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::slower:
         return stepPace(delegate, PaceStep::slower);
     case ControlCommand::speed:
-        return delegate.setScrollSpeed(request.number());
+        return delegate.choices().setScrollSpeed(request.number());
     case ControlCommand::rate:
         if (const auto rate = scrollRateFromRawValue(request.argument))
-            delegate.chooseScrollRate(*rate);
+            delegate.choices().setScrollRate(*rate);
         return;
     case ControlCommand::up:
         return delegate.performScroll(Shortcuts::shortcutScrollStep);

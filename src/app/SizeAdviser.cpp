@@ -31,4 +31,8 @@ SizeSuggestion SizeAdviser::suggestion() const {
                               capitalShare(prompter.look().family()));
 }
 
+void SizeAdviser::tell(PrompterStatus& status) const {
+    status.suggestion = suggestion().text();
+}
+
 } // namespace tessaline

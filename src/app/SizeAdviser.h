@@ -6,6 +6,7 @@ namespace tessaline {
 
 class PrompterWindow;
 class ReadingSettings;
+struct PrompterStatus;
 
 /// Knows which size of the text would be right on the prompter's screen.
 class SizeAdviser {
@@ -15,6 +16,9 @@ public:
         : prompter(shownPrompter), reading(readingSettings) {}
 
     SizeSuggestion suggestion() const;
+
+    /// Tells it in a status.
+    void tell(PrompterStatus& status) const;
 
 private:
     const PrompterWindow& prompter;

@@ -291,6 +291,7 @@ PrompterStatus PrompterWindow::status() const {
                           .speed = settings.scrollSpeed(),
                           .rate = settings.scrollRate(),
                           .autoScroll = settings.autoScrollEnabled(),
+                          .fontSize = settings.fontSize(),
                           .black = textCovers->isBlack(),
                           .keys = textCovers->showsKeys()};
     session->tellProgress(status);

@@ -1,4 +1,5 @@
 #include "AppDelegateFixture.h"
+#include "app/SettingChoices.h"
 
 #include "JournalingPorts.h"
 #include "prompter/PrompterWindow.h"
@@ -149,7 +150,7 @@ TEST_F(ActionOrder, OfWhatFollowsAChangeOfTheSettings) {
     const auto noteSpeed = [&] { speeds << journal.last() + u' ' + moveForASecond(); };
     journalingTasks.onRun = noteSpeed;
     watcher.onMove = noteSpeed;
-    delegate->chooseScrollRate(ScrollRate::fast);
+    delegate->choices().setScrollRate(ScrollRate::fast);
     EXPECT_THAT(entries({u"place Tessaline"_s, u"render"_s, u"move Settings"_s}),
                 ElementsAre(u"place Tessaline"_s, u"render"_s, u"move Settings"_s));
     EXPECT_EQ(speeds, (QStringList{u"render 4.8"_s, u"move Settings 9.6"_s}));

@@ -1,4 +1,5 @@
 #include "AppDelegateFixture.h"
+#include "app/SettingChoices.h"
 
 #include "support/Part.h"
 
@@ -78,7 +79,7 @@ TEST_F(AppDelegateConnections, ScrollAtTheRateThatIsChosen) {
         settings.scrollSpeed = 2.5;
     });
     launchWith(u"line\n"_s.repeated(100));
-    delegate->chooseScrollRate(ScrollRate::fast);
+    delegate->choices().setScrollRate(ScrollRate::fast);
     displayLinks.refresh(1);
     mainQueue.runAll();
     EXPECT_NEAR(prompter()->textView().scrollPosition(), 0.16, 1e-9);
@@ -141,13 +142,13 @@ TEST_F(AppDelegateConnections, WatchTheSourceThatIsChosenInTheSettings) {
     enableBothSources();
     launch();
     recorder.events.clear();
-    ASSERT_TRUE(delegate->chooseSource(SourceType::obsidian));
+    ASSERT_TRUE(delegate->choices().setSource(SourceType::obsidian));
     EXPECT_EQ(shownSource(), u"OBSIDIAN"_s);
     EXPECT_THAT(timers.liveIntervals(), Contains(1.0)); // how often the file is read
     ASSERT_THAT(recordedNames(), ElementsAre(u"source_changed"_s));
     EXPECT_EQ(recorder.events[0].properties.value(u"source_type"_s), u"obsidian"_s);
     recorder.events.clear();
-    ASSERT_TRUE(delegate->chooseSource(SourceType::clipboard));
+    ASSERT_TRUE(delegate->choices().setSource(SourceType::clipboard));
     EXPECT_EQ(shownSource(), u"CLIPBOARD"_s);
     EXPECT_THAT(recordedNames(), ElementsAre(u"content_loaded"_s, u"source_changed"_s));
 }

@@ -1,5 +1,6 @@
 #include "app/MediaSession.h"
 #include "AppDelegateFixture.h"
+#include "app/SettingChoices.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/view/ScriptView.h"
 #include "settings/ReadingSettings.h"
@@ -116,7 +117,7 @@ TEST_F(MediaSessionTest, TheRateIsTheSpeed) {
     media.press(Deed::setRate, 1.5);
     EXPECT_DOUBLE_EQ(settings().scrollSpeed(), 3);
     EXPECT_DOUBLE_EQ(shown().rate, 1.5);
-    delegate->setScrollSpeed(0);
+    delegate->choices().setScrollSpeed(0);
     EXPECT_DOUBLE_EQ(shown().rate, 1.5) << "what it will be, as a rate of 0 means nothing";
 }
 

@@ -1,6 +1,8 @@
-#include "app/KeyDeeds.h"
+#include "app/ControlDeeds.h"
 
 #include "app/AppDelegate.h"
+#include "app/SettingChoices.h"
+#include "prompter/ControlStrip.h"
 #include "prompter/PrompterKey.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/covers/TextCovers.h"
@@ -22,18 +24,6 @@ ReadingGuide guideAfter(ReadingGuide guide) {
         break;
     }
     return ReadingGuide::none;
-}
-
-} // namespace
-
-void stepPace(AppDelegate& delegate, PaceStep step) {
-    ReadingSettings& reading = delegate.reading();
-    if (reading.values().pace == PaceMode::speed) {
-        const double change = step == PaceStep::faster ? speedStep : -speedStep;
-        return delegate.setScrollSpeed(delegate.currentSettings().scrollSpeed() + change);
-    }
-    reading.change(
-        [step](ReadingOptions& options) { stepPace(options, step, QTime::currentTime()); });
 }
 
 void carryOut(const PrompterKey& key, AppDelegate& delegate) {
@@ -63,6 +53,34 @@ void carryOut(const PrompterKey& key, AppDelegate& delegate) {
     case Deed::keys:
         return covers.setShowsKeys(!covers.showsKeys());
     }
+}
+
+} // namespace
+
+void stepPace(AppDelegate& delegate, PaceStep step) {
+    ReadingSettings& reading = delegate.reading();
+    if (reading.values().pace == PaceMode::speed) {
+        const double change = step == PaceStep::faster ? speedStep : -speedStep;
+        return delegate.choices().setScrollSpeed(delegate.currentSettings().scrollSpeed() + change);
+    }
+    reading.change(
+        [step](ReadingOptions& options) { stepPace(options, step, QTime::currentTime()); });
+}
+
+void connectControls(AppDelegate& delegate) {
+    const PrompterWindow& prompter = delegate.prompter();
+    const ControlStrip& strip = prompter.controls();
+    const auto wire = [&](void (ControlStrip::*pressed)(), void (AppDelegate::*action)()) {
+        QObject::connect(&strip, pressed, &strip, [&delegate, action] { (delegate.*action)(); });
+    };
+    wire(&ControlStrip::configPressed, &AppDelegate::showConfig);
+    wire(&ControlStrip::autoScrollPressed, &AppDelegate::toggleScroll);
+    wire(&ControlStrip::minimizePressed, &AppDelegate::toggleMinimize);
+    wire(&ControlStrip::pastePressed, &AppDelegate::cycleSource);
+    // It hides only: the program ends from the status menu.
+    wire(&ControlStrip::quitPressed, &AppDelegate::hidePrompterWindow);
+    QObject::connect(&prompter, &PrompterWindow::keyPressed, &prompter,
+                     [&delegate](const PrompterKey& key) { carryOut(key, delegate); });
 }
 
 } // namespace tessaline

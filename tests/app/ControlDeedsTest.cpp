@@ -1,4 +1,4 @@
-#include "app/KeyDeeds.h"
+#include "app/ControlDeeds.h"
 #include "AppDelegateFixture.h"
 #include "prompter/PrompterKey.h"
 #include "prompter/PrompterWindow.h"
@@ -15,9 +15,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// The running program; keys are pressed in its prompter's text.
-class KeyDeedsTest : public AppDelegateFixture {
+class ControlDeedsTest : public AppDelegateFixture {
 protected:
-    KeyDeedsTest() {
+    ControlDeedsTest() {
         configure([](PersistedSettings& saved) {
             saved.hasCompletedOnboarding = true;
             saved.scrollSpeed = 2;
@@ -37,7 +37,7 @@ protected:
     void press(Qt::Key key) { QTest::keyClick(&view(), key); }
 };
 
-TEST_F(KeyDeedsTest, SpaceAndF5StartAndStopAsTheButtonDoes) {
+TEST_F(ControlDeedsTest, SpaceAndF5StartAndStopAsTheButtonDoes) {
     press(Qt::Key_Space);
     EXPECT_TRUE(settings().autoScrollEnabled());
     EXPECT_TRUE(recorded(u"auto_scroll_toggled"_s));
@@ -45,7 +45,7 @@ TEST_F(KeyDeedsTest, SpaceAndF5StartAndStopAsTheButtonDoes) {
     EXPECT_FALSE(settings().autoScrollEnabled());
 }
 
-TEST_F(KeyDeedsTest, PlusAndMinusStepWhateverThePaceGoesBy) {
+TEST_F(ControlDeedsTest, PlusAndMinusStepWhateverThePaceGoesBy) {
     press(Qt::Key_Plus);
     EXPECT_EQ(settings().scrollSpeed(), 2.25);
     press(Qt::Key_Minus);
@@ -68,7 +68,7 @@ TEST_F(KeyDeedsTest, PlusAndMinusStepWhateverThePaceGoesBy) {
     EXPECT_EQ(settings().scrollSpeed(), 1.75);
 }
 
-TEST_F(KeyDeedsTest, DigitsGoToHeadings) {
+TEST_F(ControlDeedsTest, DigitsGoToHeadings) {
     const auto heading = [this](const QString& name) {
         return view().positionOf(view().script().text().indexOf(name));
     };
@@ -82,14 +82,14 @@ TEST_F(KeyDeedsTest, DigitsGoToHeadings) {
     EXPECT_EQ(view().scrollPosition(), 0);
 }
 
-TEST_F(KeyDeedsTest, BAndThePeriodBlackTheTextOutAndBringItBack) {
+TEST_F(ControlDeedsTest, BAndThePeriodBlackTheTextOutAndBringItBack) {
     press(Qt::Key_B);
     EXPECT_TRUE(covers().isBlack());
     press(Qt::Key_Period);
     EXPECT_FALSE(covers().isBlack());
 }
 
-TEST_F(KeyDeedsTest, MMirrorsTheTextAndEndsAnyMirroring) {
+TEST_F(ControlDeedsTest, MMirrorsTheTextAndEndsAnyMirroring) {
     press(Qt::Key_M);
     EXPECT_EQ(options().mirror, Mirroring::horizontal);
     press(Qt::Key_M);
@@ -99,7 +99,7 @@ TEST_F(KeyDeedsTest, MMirrorsTheTextAndEndsAnyMirroring) {
     EXPECT_EQ(options().mirror, Mirroring::none);
 }
 
-TEST_F(KeyDeedsTest, GGoesRoundTheGuides) {
+TEST_F(ControlDeedsTest, GGoesRoundTheGuides) {
     std::vector<ReadingGuide> guides;
     for (int i = 0; i < 3; ++i) {
         press(Qt::Key_G);
@@ -108,7 +108,7 @@ TEST_F(KeyDeedsTest, GGoesRoundTheGuides) {
     EXPECT_EQ(guides, (std::vector{ReadingGuide::marker, ReadingGuide::band, ReadingGuide::none}));
 }
 
-TEST_F(KeyDeedsTest, F1AndTheQuestionMarkShowTheKeysAndPutThemAway) {
+TEST_F(ControlDeedsTest, F1AndTheQuestionMarkShowTheKeysAndPutThemAway) {
     press(Qt::Key_F1);
     EXPECT_TRUE(covers().showsKeys());
     press(Qt::Key_Question);

@@ -5,10 +5,9 @@
 namespace tessaline {
 
 class AppDelegate;
-struct PrompterKey;
 
-/// Does what a key of the prompter's asks for.
-void carryOut(const PrompterKey& key, AppDelegate& delegate);
+/// Lets the prompter's buttons and keys do what they say.
+void connectControls(AppDelegate& delegate);
 
 /// What a step changes while the pace goes by the speed.
 inline constexpr double speedStep = 0.25;
