@@ -153,6 +153,7 @@ void AppDelegate::createPanels() {
     readingPanel = std::make_unique<ReadingPanel>(
         readingSettings, *prompterWindow, screenManager, settings,
         LookHelp{[this] { return platform.windowTraits->showsTranslucency(); },
+                 [this] { return platform.windowTraits->canSetInputArea(); },
                  [this] { return takeSuggestedSize(); }});
 }
 

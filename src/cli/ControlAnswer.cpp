@@ -104,6 +104,13 @@ QString opacity(const PrompterStatus& status) {
     return isSeen ? text : text + ", which needs a compositing manager: the ground is opaque"_L1;
 }
 
+QString clickThrough(const PrompterStatus& status) {
+    if (!status.clickThrough) return u"click-through off"_s;
+    return status.clickedThrough
+               ? u"click-through on"_s
+               : u"click-through on, which this display server cannot do: the text keeps the mouse"_s;
+}
+
 QString font(const PrompterStatus& status) {
     const QString text = "font "_L1 + status.font;
     return status.fontShown == status.font
@@ -177,7 +184,7 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
     case ControlCommand::opacity:
         return opacity(status);
     case ControlCommand::clickThrough:
-        return status.clickThrough ? u"click-through on"_s : u"click-through off"_s;
+        return clickThrough(status);
     case ControlCommand::font:
         return font(status);
     case ControlCommand::lineSpacing:

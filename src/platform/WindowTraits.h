@@ -57,11 +57,13 @@ public:
     /// Ends what `adopt` began. Call it before the window is hidden or destroyed.
     virtual void release(QWidget& window) = 0;
 
+    /// Whether `setInputArea` can do its work here.
+    virtual bool canSetInputArea() const = 0;
+
     /// Has the window take the mouse only where the area says, in its own coordinates, and let it
     /// through to the windows below elsewhere; without one, wherever it is seen. Call it again once
-    /// the window was shown or has another size. False where the system cannot do that; this is
-    /// logged once, and the window takes the mouse everywhere.
-    virtual bool setInputArea(QWidget& window, const std::optional<QRect>& area) = 0;
+    /// the window was shown or has another size.
+    virtual void setInputArea(QWidget& window, const std::optional<QRect>& area) = 0;
 
     /// Directs the keyboard to the shown window and remembers who had it. Does nothing when the
     /// window has it already.

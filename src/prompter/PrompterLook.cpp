@@ -55,8 +55,13 @@ QString PrompterLook::installedFamily() {
     return {};
 }
 
+bool PrompterLook::isClickedThrough() const {
+    return settings.values().clickThrough && traits.canSetInputArea();
+}
+
 void PrompterLook::tell(PrompterStatus& status) const {
     status.opacityShown = int(std::lround(groundOpacity() * 100.0));
+    status.clickedThrough = isClickedThrough();
     status.fontShown = look.typography.family.isEmpty() ? u"default"_s : look.typography.family;
 }
 

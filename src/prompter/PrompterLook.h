@@ -29,7 +29,7 @@ public:
     const QString& family() const { return look.typography.family; }
 
     /// Whether the mouse is to go through the text.
-    bool isClickedThrough() const { return settings.values().clickThrough; }
+    bool isClickedThrough() const;
 
     /// Looks after what the system can do now.
     void update();

@@ -47,8 +47,9 @@ struct PrompterStatus {
     int opacity = 100;      ///< of the ground, in percent
     int opacityShown = 100; ///< that there is: opaque where nothing shows translucency
     bool clickThrough = false;
-    QString font;      ///< "default", or the family's name
-    QString fontShown; ///< that there is: the default where that family is missing
+    bool clickedThrough = false; ///< which there is, unless the system cannot do that
+    QString font;                ///< "default", or the family's name
+    QString fontShown;           ///< that there is: the default where that family is missing
     double lineSpacing = 1.0;
     int distance = 0;      ///< centimetres
     double fontSize = 0.0; ///< of body text, in points
@@ -98,6 +99,7 @@ struct PrompterStatus {
         visit("opacity", status.opacity);
         visit("opacityShown", status.opacityShown);
         visit("clickThrough", status.clickThrough);
+        visit("clickedThrough", status.clickedThrough);
         visit("font", status.font);
         visit("fontShown", status.fontShown);
         visit("lineSpacing", status.lineSpacing);

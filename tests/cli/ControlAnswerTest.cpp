@@ -40,6 +40,7 @@ PrompterStatus aStatus() {
             .opacity = 65,
             .opacityShown = 65,
             .clickThrough = true,
+            .clickedThrough = true,
             .font = u"DejaVu Serif"_s,
             .fontShown = u"DejaVu Serif"_s,
             .lineSpacing = 1.25,
@@ -139,6 +140,9 @@ TEST(ControlAnswer, TellsHowTheTextLooks) {
                             with([](auto& status) { status.fontShown = u"default"_s; })),
               u"font DejaVu Serif, which is not installed: the default is shown"_s);
     EXPECT_EQ(answer(ControlCommand::clickThrough), u"click-through on"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::clickThrough, {}},
+                            with([](auto& status) { status.clickedThrough = false; })),
+              u"click-through on, which this display server cannot do: the text keeps the mouse"_s);
     EXPECT_EQ(answer(ControlCommand::font), u"font DejaVu Serif"_s);
     EXPECT_EQ(answer(ControlCommand::lineSpacing), u"line spacing 1.25"_s);
     EXPECT_EQ(answer(ControlCommand::distance), u"reading distance 80 cm"_s);
@@ -156,7 +160,7 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
               "\"finish\":\"12.5m\",\"finishTomorrow\":false,\"eyeLine\":\"second\","
               "\"guide\":\"band\",\"guideLines\":2,\"countdown\":3,\"atEnd\":\"round\","
               "\"glide\":true,\"mirror\":\"vertical\",\"opacity\":65,\"opacityShown\":65,"
-              "\"clickThrough\":true,\"font\":\"DejaVu Serif\","
+              "\"clickThrough\":true,\"clickedThrough\":true,\"font\":\"DejaVu Serif\","
               "\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,"
               "\"fontSize\":21.0,\"suggestion\":\"so many points\",\"mediaKeys\":true,"
               "\"black\":true,\"keys\":true,"

@@ -50,7 +50,7 @@ class RemoteControl(PrompterTestCase):
             + ["pace", "wordsPerMinute", "wordsRead", "secondsLeft", "secondsElapsed"]
             + ["wantedWordsPerMinute", "finish", "finishTomorrow", "eyeLine", "guide"]
             + ["guideLines", "countdown", "atEnd", "glide"]
-            + ["mirror", "opacity", "opacityShown", "clickThrough"]
+            + ["mirror", "opacity", "opacityShown", "clickThrough", "clickedThrough"]
             + ["font", "fontShown", "lineSpacing", "distance", "fontSize", "suggestion"]
             + ["black", "keys", "file", "continueAt", "latest"],
         )

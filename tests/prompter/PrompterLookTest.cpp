@@ -52,6 +52,15 @@ TEST_F(PrompterLookTest, HasTheWindowTakeTheMouseInItsStripAlone) {
     EXPECT_EQ(traits.inputArea, std::nullopt);
 }
 
+TEST_F(PrompterLookTest, TellsWhereTheMouseCannotGoThrough) {
+    traits.letsMouseThrough = false;
+    choose([](auto& options) { options.clickThrough = true; });
+    EXPECT_EQ(traits.inputArea, std::nullopt);
+    EXPECT_FALSE(window().status().clickedThrough);
+    traits.letsMouseThrough = true;
+    EXPECT_TRUE(window().status().clickedThrough);
+}
+
 TEST_F(PrompterLookTest, LetsBeSeenThroughTheGroundBelowTheStrip) {
     show(u"text"_s);
     EXPECT_EQ(alphaOfText(), 255);

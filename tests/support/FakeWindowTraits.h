@@ -30,9 +30,9 @@ public:
     void adopt(QWidget& window) override;
     void release(QWidget& window) override;
 
-    bool setInputArea(QWidget& /*window*/, const std::optional<QRect>& area) override {
+    bool canSetInputArea() const override { return letsMouseThrough; }
+    void setInputArea(QWidget& /*window*/, const std::optional<QRect>& area) override {
         inputArea = area;
-        return true;
     }
 
     void takeKeyboard(NativeWindow window) override { keyboardOwner = window; }
@@ -45,10 +45,11 @@ public:
     bool translucency = true;
     std::function<void()> translucencyChanged;
     bool canExclude = true;
+    bool letsMouseThrough = true;
     std::vector<NativeWindow> excluded;
     std::vector<const QWidget*> floating; ///< adopted and not released
     std::vector<std::pair<Rect, Screen>> places;
-    std::optional<QRect> inputArea;          ///< none: all of the window
+    std::optional<QRect> inputArea;            ///< none: all of the window
     std::optional<NativeWindow> keyboardOwner; ///< none: another program has the keyboard
 };
 

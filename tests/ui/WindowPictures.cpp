@@ -181,7 +181,7 @@ void takeOnboarding(const Camera& camera) {
 void takeReading(const Camera& camera) {
     Set set;
     ReadingSettings settings(set.folder.filePath(u"reading.json"_s));
-    const LookHelp help{[] { return false; },
+    const LookHelp help{[] { return false; }, [] { return true; },
                         [] { return u"20 minutes of arc at 60 cm on this screen: 18 points"_s; }};
     ReadingWindow window(settings, help, [] { return QTime(12, 0); });
     window.fitInto(5000);

@@ -61,9 +61,10 @@ public:
 
     void release(QWidget& /*window*/) override {}
 
-    bool setInputArea(QWidget& window, const std::optional<QRect>& area) override {
+    bool canSetInputArea() const override { return true; }
+
+    void setInputArea(QWidget& window, const std::optional<QRect>& area) override {
         inputArea.set(window, area);
-        return true;
     }
 
     void takeKeyboard(NativeWindow window) override {

@@ -43,12 +43,12 @@ void UnsupportedWindowTraits::adopt(QWidget& /*window*/) {
 
 void UnsupportedWindowTraits::release(QWidget& /*window*/) {}
 
-bool UnsupportedWindowTraits::setInputArea(QWidget& /*window*/,
-                                           const std::optional<QRect>& area) {
-    if (area && !std::exchange(reportedInput, true))
-        qCWarning(windowLog, "This system cannot let the mouse through a part of a window.");
-    return !area;
+bool UnsupportedWindowTraits::canSetInputArea() const {
+    return false;
 }
+
+void UnsupportedWindowTraits::setInputArea(QWidget& /*window*/,
+                                           const std::optional<QRect>& /*area*/) {}
 
 void UnsupportedWindowTraits::takeKeyboard(NativeWindow /*window*/) {}
 

@@ -17,14 +17,14 @@ public:
     Rect frame(const QWidget& window) const override;
     void adopt(QWidget& window) override;
     void release(QWidget& window) override;
-    bool setInputArea(QWidget& window, const std::optional<QRect>& area) override;
+    bool canSetInputArea() const override;
+    void setInputArea(QWidget& window, const std::optional<QRect>& area) override;
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
 
 private:
     bool reportedCapture = false;
     bool reportedLevel = false;
-    bool reportedInput = false;
 };
 
 } // namespace tessaline

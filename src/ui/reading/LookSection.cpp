@@ -68,6 +68,8 @@ void LookSection::addClickThrough() {
         change([on](ReadingOptions& options) { options.clickThrough = on; });
     });
     addPart(new LabelledRow(u"Click Through the Text"_s, clickThroughSwitch));
+    mouseHint =
+        addHint(u"mouse"_s, u"This display server cannot do that: the text keeps the mouse."_s);
 }
 
 void LookSection::addFont() {
@@ -119,6 +121,7 @@ void LookSection::showOptions(const ReadingOptions& options) {
     opacitySlider->show(opacity, u"%1 %"_s.arg(std::lround(opacity)));
     compositorHint->setVisible(options.groundOpacity < 1.0 && !help.showsTranslucency());
     clickThroughSwitch->setChecked(options.clickThrough);
+    mouseHint->setVisible(options.clickThrough && !help.letsMouseThrough());
     fontChoice->show(options.fontFamily);
     spacingSlider->show(percent * options.lineSpacing, QString::number(options.lineSpacing));
     distanceSlider->show(options.readingDistance, u"%1 cm"_s.arg(options.readingDistance));

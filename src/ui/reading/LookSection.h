@@ -13,6 +13,8 @@ class Switch;
 struct LookHelp {
     /// Whether something is seen through a ground that is not opaque.
     std::function<bool()> showsTranslucency;
+    /// Whether the mouse can go through the text.
+    std::function<bool()> letsMouseThrough;
     /// Gives the text the size that is right for the reading distance, and says which.
     std::function<QString()> takeSuggestedSize;
 };
@@ -36,6 +38,7 @@ private:
     OptionSlider* opacitySlider = nullptr;
     QLabel* compositorHint = nullptr;
     Switch* clickThroughSwitch = nullptr;
+    QLabel* mouseHint = nullptr;
     FontChoice* fontChoice = nullptr;
     OptionSlider* spacingSlider = nullptr;
     OptionSlider* distanceSlider = nullptr;

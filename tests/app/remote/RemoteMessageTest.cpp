@@ -73,6 +73,7 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .opacity = 30,
                                 .opacityShown = 100,
                                 .clickThrough = true,
+                                .clickedThrough = true,
                                 .font = u"DejaVu Serif"_s,
                                 .fontShown = u"default"_s,
                                 .lineSpacing = 1.05,

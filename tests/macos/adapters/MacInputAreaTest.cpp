@@ -22,7 +22,7 @@ protected:
         QCursor::setPos(150, 110);
     }
 
-    bool setArea(const std::optional<QRect>& area) { return traits->setInputArea(window, area); }
+    void setArea(const std::optional<QRect>& area) { traits->setInputArea(window, area); }
 
     static constexpr QRect strip{0, 0, 300, 40};
     QWidget window;
@@ -30,12 +30,13 @@ protected:
 };
 
 TEST_F(MacInputAreaTest, AsksForNothingUnlessSomebodyWantsIt) {
-    EXPECT_TRUE(setArea(std::nullopt));
+    EXPECT_TRUE(traits->canSetInputArea());
+    setArea(std::nullopt);
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
 TEST_F(MacInputAreaTest, LetsTheMouseThroughWhileItIsOutsideOfTheArea) {
-    EXPECT_TRUE(setArea(strip));
+    setArea(strip);
     EXPECT_THAT(takeCalls(), ElementsAre(u"monitor 36"_s, u"setIgnoresMouseEvents:0"_s));
     QCursor::setPos(150, 250);
     QMouseEvent overOurs(QEvent::MouseMove, {50, 150}, {150, 250}, Qt::NoButton, Qt::NoButton,

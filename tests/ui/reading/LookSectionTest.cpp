@@ -41,9 +41,10 @@ protected:
     QTemporaryDir folder;
     ReadingSettings settings{folder.filePath(u"reading.json"_s)};
     bool translucency = true;
+    bool letsMouseThrough = true;
     int suggestions = 0;
     LookSection section{settings,
-                        {[this] { return translucency; },
+                        {[this] { return translucency; }, [this] { return letsMouseThrough; },
                          [this] {
                              ++suggestions;
                              return u"20 minutes of arc: 21 points"_s;
@@ -93,6 +94,17 @@ TEST_F(LookSectionTest, SaysThatAGroundIsSeenThroughByACompositingManagerOnly) {
     translucency = true;
     section.showOptions(options());
     EXPECT_FALSE(isSeen("reading_compositorHint"));
+}
+
+TEST_F(LookSectionTest, SaysWhereTheMouseCannotGoThrough) {
+    letsMouseThrough = false;
+    section.showOptions(options());
+    EXPECT_FALSE(isSeen("reading_mouseHint"));
+    settings.change([](ReadingOptions& values) { values.clickThrough = true; });
+    EXPECT_TRUE(isSeen("reading_mouseHint"));
+    letsMouseThrough = true;
+    section.showOptions(options());
+    EXPECT_FALSE(isSeen("reading_mouseHint"));
 }
 
 TEST_F(LookSectionTest, OffersTheInstalledFontsByTheirNames) {

@@ -74,7 +74,7 @@ protected:
     bool translucency = true;
     int suggestions = 0;
     ReadingWindow window{settings,
-                         {[this] { return translucency; },
+                         {[this] { return translucency; }, [] { return true; },
                           [this] {
                               ++suggestions;
                               return u"20 minutes of arc: 21 points"_s;

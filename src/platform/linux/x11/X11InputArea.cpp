@@ -21,9 +21,9 @@ xcb_rectangle_t pixelsOf(const QRect& area, double ratio) {
 
 } // namespace
 
-bool X11InputArea::set(const QWidget& window, const std::optional<QRect>& area) {
+void X11InputArea::set(const QWidget& window, const std::optional<QRect>& area) {
     const QWindow* native = window.windowHandle();
-    if (!native || (!area && !isSet)) return true;
+    if (!native || (!area && !isSet)) return;
     isSet = area.has_value();
     xcb_xfixes_region_t region = XCB_NONE; // which takes the shape away
     if (area) {
@@ -35,7 +35,6 @@ bool X11InputArea::set(const QWidget& window, const std::optional<QRect>& area) 
                                        XCB_SHAPE_SK_INPUT, 0, 0, region);
     if (region != XCB_NONE) xcb_xfixes_destroy_region(connection, region);
     xcb_flush(connection);
-    return true;
 }
 
 } // namespace tessaline

@@ -17,7 +17,7 @@ public:
     explicit X11InputArea(xcb_connection_t* serverConnection) : connection(serverConnection) {}
 
     /// As `WindowTraits::setInputArea` says.
-    bool set(const QWidget& window, const std::optional<QRect>& area);
+    void set(const QWidget& window, const std::optional<QRect>& area);
 
 private:
     xcb_connection_t* connection;

@@ -69,8 +69,8 @@ void X11WindowTraits::release(QWidget& window) {
     raiseTimer.stop();
 }
 
-bool X11WindowTraits::setInputArea(QWidget& window, const std::optional<QRect>& area) {
-    return inputArea.set(window, area);
+void X11WindowTraits::setInputArea(QWidget& window, const std::optional<QRect>& area) {
+    inputArea.set(window, area);
 }
 
 void X11WindowTraits::takeKeyboard(NativeWindow window) {

@@ -45,7 +45,8 @@ public:
     /// Keeps one window on top; another one takes the place of the first.
     void adopt(QWidget& window) override;
     void release(QWidget& window) override;
-    bool setInputArea(QWidget& window, const std::optional<QRect>& area) override;
+    bool canSetInputArea() const override { return true; }
+    void setInputArea(QWidget& window, const std::optional<QRect>& area) override;
 
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
