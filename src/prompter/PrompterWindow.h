@@ -48,16 +48,13 @@ public:
     /// Shows the window above all others and directs the keyboard to it.
     void makeKeyAndOrderFront();
 
-    /// Places and sizes the window as the settings say.
-    void updateFrame();
+    void updateFrame(); ///< places and sizes the window as the settings say
 
     /// Leaves a part of the window out, in its own coordinates, so that what lies below is seen and
     /// clicked there.
     void cutOut(const QRegion& part);
 
-    /// Where the window is, in points.
-    Rect frame() const;
-
+    Rect frame() const; ///< where the window is, in points
     /// The screen that most of the window is on, or should be while it is on none.
     std::optional<Screen> currentScreen() const;
 
@@ -73,10 +70,8 @@ public:
 
     /// Shows the last text again, with the settings as they are now.
     void rerender();
-
     bool showsScript() const; ///< whether a text of the user's can be seen here
-
-    void updateStats(); ///< tells the words and the reading time of the text
+    void updateStats();       ///< tells the words and the reading time of the text
 
     /// Moves the text by so many points; negative is forward.
     void performScroll(double deltaY);
@@ -86,25 +81,20 @@ public:
 
     void updateSourceModeIndicator(SourceMode mode);
     void updateSourceIndicator(SourceType source);
-
     void updateMinimizeButtonAppearance(); ///< it shows what it does next
-
-    ControlStrip& controls() const { return *strip; } ///< for connecting their actions
-
-    /// What is read here, and the view that shows it.
-    ReadingSession& reading() const { return *session; }
 
     /// What it shows and does now; the version is for the program to tell.
     PrompterStatus status() const;
-    ScriptView& textView() const { return *view; }
-    PrompterLook& look() const { return *textLook; }
-    TextCovers& covers() const { return *textCovers; } ///< what may lie over the text
 
-    NoticeBar& notices() const { return *noticeBar; } ///< tells what came of something
+    ControlStrip& controls() const { return *strip; }    ///< for connecting their actions
+    ReadingSession& reading() const { return *session; } ///< what is read here
+    ScriptView& textView() const { return *view; }       ///< and shown by this
+    PrompterLook& look() const { return *textLook; }     ///< how it looks
+    TextCovers& covers() const { return *textCovers; }   ///< what may lie over the text
+    NoticeBar& notices() const { return *noticeBar; }    ///< tells what came of something
 
 Q_SIGNALS:
     void keyPressed(const PrompterKey& key);
-
     /// A text that was handed in is on show, also when it is the same as before.
     void textShown(const QString& text);
 
