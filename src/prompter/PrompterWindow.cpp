@@ -25,7 +25,6 @@
 #include "screens/ScreenManager.h"
 #include "settings/AppSettings.h"
 
-#include <QEasingCurve>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -44,10 +43,6 @@ constexpr int textTop = 44;
 constexpr double pointsPerWheelLine = 80.0;
 constexpr double unitsPerWheelStep = 120.0;
 
-/// The desktop's standard resize animation takes this long for every so many points.
-constexpr double resizeMilliseconds = 200.0;
-constexpr double resizePoints = 150.0;
-
 } // namespace
 
 PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrowedReading,
@@ -61,12 +56,9 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
     setAttribute(Qt::WA_TranslucentBackground);
     // The keyboard is another program's most of the time.
     setAttribute(Qt::WA_AlwaysShowToolTips);
-    resizing.setEasingCurve(QEasingCurve::InOutSine);
-    connect(&resizing, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        // It also tells values while it is being set up.
-        if (isResizing()) place(value.toRect(), currentScreen().value_or(Screen{}));
-    });
-    connect(&resizing, &QVariantAnimation::finished, this, [this] {
+    connect(&resizing, &ResizeAnimation::reached, this,
+            [this](const QRect& reached) { place(reached, currentScreen().value_or(Screen{})); });
+    connect(&resizing, &ResizeAnimation::finished, this, [this] {
         squareCorners = collapsed;
         shape();
         updateStatsOfWhatIsSeen();
@@ -157,7 +149,7 @@ double PrompterWindow::menuBarHeight() const {
 
 void PrompterWindow::toggleCollapsed() {
     const Rect settledFrame =
-        isResizing() ? fromQtCoordinates(resizing.endValue().toRect(), primaryGeometry()) : frame();
+        resizing.isRunning() ? fromQtCoordinates(resizing.target(), primaryGeometry()) : frame();
     if (!collapsed) expandedHeight = settledFrame.height;
     collapsed = !collapsed;
     const Rect target = collapsed ? collapsedFrame(settledFrame, menuBarHeight())
@@ -165,12 +157,9 @@ void PrompterWindow::toggleCollapsed() {
     if (!collapsed) squareCorners = false;
     arrangeContent();
     textCovers->countDown(isTextSeen());
-    animateTo(target);
+    resizing.run(toQtCoordinates(frame(), primaryGeometry()),
+                 toQtCoordinates(target, primaryGeometry()));
     updateMinimizeButtonAppearance();
-}
-
-bool PrompterWindow::isResizing() const {
-    return resizing.state() == QAbstractAnimation::Running;
 }
 
 void PrompterWindow::shape() {
@@ -184,17 +173,6 @@ void PrompterWindow::cutOut(const QRegion& part) {
     if (part == hole) return;
     hole = part;
     shape();
-}
-
-void PrompterWindow::animateTo(const Rect& target) {
-    const QRect start = toQtCoordinates(frame(), primaryGeometry());
-    const QRect end = toQtCoordinates(target, primaryGeometry());
-    const double distance = std::abs(end.height() - start.height());
-    resizing.stop();
-    resizing.setStartValue(start);
-    resizing.setEndValue(end);
-    resizing.setDuration(int(distance / resizePoints * resizeMilliseconds));
-    resizing.start();
 }
 
 void PrompterWindow::arrangeContent() {

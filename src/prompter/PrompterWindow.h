@@ -2,6 +2,7 @@
 
 #include "platform/Lifetime.h"
 #include "platform/Screen.h"
+#include "prompter/ResizeAnimation.h"
 #include "reading/PrompterStatus.h"
 #include "settings/AppSettings.h"
 #include "settings/ReadingSettings.h"
@@ -9,7 +10,6 @@
 #include "settings/SourceType.h"
 
 #include <QRegion>
-#include <QVariantAnimation>
 #include <QWidget>
 
 #include <memory>
@@ -41,8 +41,7 @@ public:
     PrompterWindow(AppSettings& settings, ReadingSettings& reading, const Platform& platform);
     ~PrompterWindow() override;
 
-    /// Places the window on the manager's preferred screen from the next `updateFrame` on.
-    /// Borrowed.
+    /// Places the window on its preferred screen from the next `updateFrame` on. Borrowed.
     void setScreenManager(const ScreenManager* manager) { screenManager = manager; }
 
     /// Shows the window above all others and directs the keyboard to it.
@@ -55,6 +54,7 @@ public:
     void cutOut(const QRegion& part);
 
     Rect frame() const; ///< where the window is, in points
+
     /// The screen that most of the window is on, or should be while it is on none.
     std::optional<Screen> currentScreen() const;
 
@@ -111,8 +111,6 @@ private:
     void renderContent();
     void setFrame(const Rect& target, const Screen& screen);
     void place(const QRect& target, const Screen& screen);
-    void animateTo(const Rect& target);
-    bool isResizing() const;
     void arrangeContent();
     void updateStatsOfWhatIsSeen();
     void shape();
@@ -142,7 +140,7 @@ private:
     QRegion hole;               ///< what is cut out
     double expandedHeight = 0.0;
     std::unique_ptr<PrompterContent> content;
-    QVariantAnimation resizing;
+    ResizeAnimation resizing;
     Lifetime lifetime;
 };
 

@@ -107,7 +107,7 @@ TEST_F(ScriptJumpsTest, TurnPagesGlidingWhateverTheReaderWantsOfOthers) {
     key(Qt::Key_PageDown);
     EXPECT_EQ(position(), 0) << "nothing moves at once";
     time.pass(0.25);
-    EXPECT_NEAR(position(), page / 2, page / 20);
+    EXPECT_NEAR(position(), page / 2, page / 8);
     key(Qt::Key_PageDown);
     time.pass(0.6);
     EXPECT_EQ(position(), 2 * page) << "the second one counts from where the first one goes";
