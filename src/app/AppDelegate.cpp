@@ -231,10 +231,6 @@ void AppDelegate::showReading() {
     platform.activationPolicy->activateIgnoringOtherApps();
 }
 
-void AppDelegate::quitApp() {
-    environment.terminate();
-}
-
 void AppDelegate::reveal() {
     if (firstRun && firstRun->isUp()) {
         firstRun->reveal();

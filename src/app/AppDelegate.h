@@ -58,7 +58,7 @@ public:
     void cycleSource();
     void showConfig();
     void showReading();
-    void quitApp();
+    void quitApp() { environment.terminate(); }
 
     // What the shortcuts and remote control do besides.
     void performScroll(double deltaY);
