@@ -156,6 +156,7 @@ class ByHand(OpeningTestCase):
         wait_until(lambda: self.desktop.focused_window() == self.window, "it has the keyboard")
         self.desktop.key("ctrl+o")
         panel = self.desktop.wait_for_window(f"^{PANEL}$", self.prompter.pid)
+        self.desktop.activate(panel)
         self.desktop.wait_for_keyboard(panel)
         self.desktop.type("second.txt")
         self.desktop.key("Return")
@@ -242,8 +243,11 @@ class SmallScreen(OpeningTestCase):
 
     def test_has_the_panel_above_the_prompter(self):
         self.start_with(self.write("talk.md", TALK))
+        # It takes the keyboard when it appears, and must not take it from the panel afterwards.
+        wait_until(lambda: self.desktop.focused_window() == self.window, "it has the keyboard")
         self.assertEqual(self.ctl("open"), "asking for a file")
         panel = self.desktop.wait_for_window(f"^{PANEL}$", self.prompter.pid)
+        self.desktop.activate(panel)  # as the user does who works with it
         self.desktop.wait_for_keyboard(panel)
         x, y, width, height = self.desktop.geometry(panel)
         self.assertTrue(x >= 0 and y >= 0 and x + width <= 640 and y + height <= 480)
