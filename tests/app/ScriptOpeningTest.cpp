@@ -315,6 +315,9 @@ TEST_F(ScriptOpeningTest, OffersItAfterTheNextStartToo) {
     restart();
     EXPECT_EQ(offer().text(), u"Continue at “Second Part”"_s);
     EXPECT_EQ(view().scrollPosition(), 0);
+    view().scrollTo(view().height() / 2.0);
+    restart();
+    EXPECT_EQ(offer().text(), u"Continue at “Second Part”"_s) << "they only looked";
     view().scrollTo(view().maximumScrollPosition() / 4);
     restart();
     EXPECT_EQ(offer().text(), u"Continue at “First Part”"_s) << "where they were later";
