@@ -8,8 +8,11 @@ target_compile_definitions(
             QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_WARN_DEPRECATED_UP_TO=0x060400)
 # Designated initialisers leave the other members to their defaults, on purpose.
 target_compile_options(
-  tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                              -Woverloaded-virtual -Wno-missing-field-initializers)
+  tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
+                              -Wno-missing-field-initializers)
+# Of sources that are compiled together, one may well shadow a name of another one's own.
+target_compile_options(
+  tessaline_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>)
 if(TESSALINE_SANITIZE)
   target_compile_options(
     tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer
@@ -97,7 +100,8 @@ if(TESSALINE_BUILD_TESTS)
 endif()
 
 # tessaline_test(NAME [OPTIMISED] SOURCES ... LIBRARIES ... [LABELS ...])
-# declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case. The target
+# declares a GoogleTest program; every case becomes a CTest test named NAME.Suite.Case, or the whole
+# program one named NAME with the label "program" where a sanitizer watches. The target
 # threaded_tests builds all those with the label "threads"; "clock" is for those that watch the real one.
 # Tests are compiled more often than they run, so only what they test is optimised, unless they
 # compute much themselves: OPTIMISED.
@@ -115,18 +119,24 @@ function(tessaline_test name)
     endif()
     target_precompile_headers(test_${name} REUSE_FROM tessaline_precompiled_${precompiled})
   endif()
-  set(properties TIMEOUT 120)
-  if(ARG_LABELS)
-    # Discovery takes a list for further properties unless its separators are escaped.
-    string(REPLACE ";" "\\;" labels "${ARG_LABELS}")
-    list(APPEND properties LABELS "${labels}")
+  if(TESSALINE_SANITIZE)
+    # What a sanitizer watches takes long to start: all cases in one go.
+    add_test(NAME ${name} COMMAND test_${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1800 LABELS "program;${ARG_LABELS}")
+  else()
+    set(properties TIMEOUT 120)
+    if(ARG_LABELS)
+      # Discovery takes a list for further properties unless its separators are escaped.
+      string(REPLACE ";" "\\;" labels "${ARG_LABELS}")
+      list(APPEND properties LABELS "${labels}")
+    endif()
+    gtest_discover_tests(
+      test_${name}
+      TEST_PREFIX "${name}."
+      DISCOVERY_MODE PRE_TEST
+      NO_PRETTY_VALUES
+      PROPERTIES ${properties})
   endif()
-  gtest_discover_tests(
-    test_${name}
-    TEST_PREFIX "${name}."
-    DISCOVERY_MODE PRE_TEST
-    NO_PRETTY_VALUES
-    PROPERTIES ${properties})
   if("threads" IN_LIST ARG_LABELS)
     add_dependencies(threaded_tests test_${name})
   endif()

@@ -8,6 +8,7 @@
 #include "app/ProgramSurroundings.h"
 #include "app/RemoteCommands.h"
 #include "app/ScriptIntake.h"
+#include "app/ShellLog.h"
 #include "app/opening/ScriptOpening.h"
 #include "app/remote/InstanceServer.h"
 #include "cli/Console.h"
@@ -26,7 +27,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLoggingCategory>
 #include <QSessionManager>
 #include <QWidget>
 
@@ -38,8 +38,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
 
 /// What is built directly upon the platform. In the order of need: whoever is destroyed first may
 /// still use those above.

@@ -1,23 +1,16 @@
 #include "app/ScriptIntake.h"
 
 #include "analytics/UsageRecorder.h"
+#include "app/ShellLog.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "settings/AppSettings.h"
 #include "sources/FollowedFile.h"
 #include "sources/SourceManager.h"
 
-#include <QLoggingCategory>
-
 #include <utility>
 
 namespace tessaline {
-
-namespace {
-
-Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
-
-} // namespace
 
 ScriptIntake::ScriptIntake(SourceManager& manager, const AppSettings& shared,
                            const Platform& system, UsageRecorder& usageRecorder)

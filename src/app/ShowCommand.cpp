@@ -19,7 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds longestWait{10};
+constexpr std::chrono::seconds longestAnswer{10};
 constexpr std::chrono::seconds longestConversion{30};
 
 int reportAnswer(const RemoteAnswer& answer) {
@@ -77,7 +77,7 @@ int runShow(int argc, char** argv, const CommandLine::Show& request) {
         return OpenRequest{script->path(), false, true};
     };
     const bool waitsForConversion = !start.path.isEmpty() && !start.text;
-    const auto patience = waitsForConversion ? longestConversion : longestWait;
+    const auto patience = waitsForConversion ? longestConversion : longestAnswer;
     const auto outcome =
         SingleInstance::join(*address, composeRequest, InstanceClient::Clock::now() + patience);
     if (const auto* answer = std::get_if<RemoteAnswer>(&outcome)) return reportAnswer(*answer);

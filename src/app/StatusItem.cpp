@@ -1,11 +1,11 @@
 #include "app/StatusItem.h"
 
+#include "app/ShellLog.h"
 #include "app/StatusIcon.h"
 #include "platform/StatusArea.h"
 #include "platform/TimerMaker.h"
 
 #include <QKeySequence>
-#include <QLoggingCategory>
 
 #include <utility>
 
@@ -14,8 +14,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Q_LOGGING_CATEGORY(shellLog, "app.tessaline.Tessaline.shell", QtInfoMsg)
 
 constexpr TimerMaker::Interval areaPollInterval{2.0};
 

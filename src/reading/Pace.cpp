@@ -15,7 +15,7 @@ namespace {
 constexpr double speedOfFactor = 2.5;
 
 constexpr double secondsPerStep = 5.0;
-constexpr qint64 secondsPerMinute = 60;
+constexpr qint64 wholeMinute = 60;
 
 } // namespace
 
@@ -35,9 +35,9 @@ QString timeText(double seconds) {
 
 QString exactTimeText(double seconds) {
     const auto shown = qint64(seconds);
-    if (shown < secondsPerMinute) return u"%1s"_s.arg(shown);
-    const qint64 minutes = shown / secondsPerMinute;
-    const qint64 rest = shown % secondsPerMinute;
+    if (shown < wholeMinute) return u"%1s"_s.arg(shown);
+    const qint64 minutes = shown / wholeMinute;
+    const qint64 rest = shown % wholeMinute;
     return rest == 0 ? u"%1m"_s.arg(minutes) : u"%1m%2s"_s.arg(minutes).arg(rest);
 }
 

@@ -1,5 +1,6 @@
 #include "settings/AppSettings.h"
 
+#include "settings/PrintedLine.h"
 #include "settings/SettingsCodec.h"
 #include "settings/SettingsFile.h"
 #include "settings/SupportFolder.h"
@@ -14,15 +15,6 @@
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-void printLine(const QString& line) {
-    std::fputs((line + u'\n').toUtf8().constData(), stdout);
-    std::fflush(stdout);
-}
-
-} // namespace
 
 AppSettings::AppSettings(const std::optional<QString>& configPath)
     : testConfigURL(configPath)

@@ -1,5 +1,6 @@
 #include "settings/ReadingSettings.h"
 
+#include "settings/PrintedLine.h"
 #include "settings/SettingsFile.h"
 #include "settings/SupportFolder.h"
 
@@ -13,11 +14,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-void printLine(const QString& line) {
-    std::fputs((line + u'\n').toUtf8().constData(), stdout);
-    std::fflush(stdout);
-}
 
 QString standardPath() {
     // Where this fails, writing the file fails next and says so.

@@ -32,15 +32,15 @@ QString randomDigits() {
     return u"%1"_s.arg(QRandomGenerator::system()->generate(), digits, 16, QChar(u'0'));
 }
 
-bool isDigit(QChar c) {
+bool isHexDigit(QChar c) {
     return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
 }
 
 bool isStale(const QFileInfo& file, const QString& stem, const QDateTime& now) {
     const QString name = file.fileName();
     return name.size() == stem.size() + digits && name.startsWith(stem) &&
-           std::all_of(name.end() - digits, name.end(), isDigit) && file.ownerId() == ::geteuid() &&
-           file.lastModified().addDuration(longestSave) < now;
+           std::all_of(name.end() - digits, name.end(), isHexDigit) &&
+           file.ownerId() == ::geteuid() && file.lastModified().addDuration(longestSave) < now;
 }
 
 void removeStaleFilesBeside(const QString& target) {

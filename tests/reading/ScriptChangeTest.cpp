@@ -1,6 +1,6 @@
 #include "reading/ScriptChange.h"
 
-#include "reading/MarkdownScript.h"
+#include "ScriptOf.h"
 #include "support/CaseName.h"
 
 #include <gtest/gtest.h>
@@ -10,10 +10,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Script scriptOf(const QString& markdown) {
-    return markdownScript(markdown, 16);
-}
 
 struct Case {
     QString before;

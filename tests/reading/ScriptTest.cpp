@@ -1,6 +1,6 @@
 #include "reading/Script.h"
 
-#include "reading/MarkdownScript.h"
+#include "ScriptOf.h"
 #include "reading/ParagraphCutter.h"
 #include "render/markdown/MarkdownRenderer.h"
 #include "render/markdown/StyledTextBuilder.h"
@@ -14,10 +14,6 @@ namespace tessaline {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Script scriptOf(const QString& markdown) {
-    return markdownScript(markdown, 16);
-}
 
 QStringList linesOf(const Script& script) {
     QStringList lines;

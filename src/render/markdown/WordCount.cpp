@@ -62,20 +62,20 @@ private:
     qsizetype found = -1;
 };
 
-constexpr qsizetype stretch = 32;
+constexpr qsizetype lineStretch = 32;
 
-/// Whether one of the next `stretch` characters ends a line. The loop has a fixed length and no
+/// Whether one of the next `lineStretch` characters ends a line. The loop has a fixed length and no
 /// exit, so that the compiler vectorises it.
 bool stretchEndsLine(const char16_t* characters) {
     std::uint16_t found = 0; // as wide as the characters, for the same reason
-    for (qsizetype i = 0; i < stretch; ++i)
+    for (qsizetype i = 0; i < lineStretch; ++i)
         found |= std::uint16_t(isLineTerminator(characters[i]));
     return found != 0;
 }
 
 qsizetype nextLineStart(QStringView text, qsizetype position) {
-    while (position + stretch <= text.size() && !stretchEndsLine(text.utf16() + position))
-        position += stretch;
+    while (position + lineStretch <= text.size() && !stretchEndsLine(text.utf16() + position))
+        position += lineStretch;
     while (position < text.size() && !isLineTerminator(text[position].unicode()))
         ++position;
     return position + 1;

@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-std::filesystem::path nativePath(const QString& path) {
+std::filesystem::path fileSystemPath(const QString& path) {
     return QFile::encodeName(path).toStdString();
 }
 
@@ -33,7 +33,7 @@ bool succeeded(const std::error_code& code, const QString& path, QString* error)
 
 bool createFolders(const QString& path, QString* error) {
     std::error_code code;
-    std::filesystem::create_directories(nativePath(path), code);
+    std::filesystem::create_directories(fileSystemPath(path), code);
     return succeeded(code, path, error);
 }
 
@@ -47,7 +47,7 @@ bool replaceWithCopy(const QString& source, const QString& target, QString* erro
     const QString copy = workshop.filePath(u"copy"_s);
     if (!writeWholeFile(copy, *bytes, &reason)) return fail(target, reason, error);
     std::error_code code;
-    std::filesystem::rename(nativePath(copy), nativePath(target), code);
+    std::filesystem::rename(fileSystemPath(copy), fileSystemPath(target), code);
     return succeeded(code, target, error);
 }
 

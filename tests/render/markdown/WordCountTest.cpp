@@ -26,7 +26,7 @@ void PrintTo(const CountCase& count, std::ostream* out) {
 
 class WordCount : public testing::TestWithParam<CountCase> {};
 
-const CountCase cases[] = {
+const CountCase countCases[] = {
     {"Empty", u""_s, 0},
     {"Null", QString(), 0},
     {"BlankLines", u"\n \n\t\n"_s, 0},
@@ -83,7 +83,7 @@ TEST_P(WordCount, CountsWordsWithoutSyntax) {
     EXPECT_EQ(MarkdownRenderer::wordCount(GetParam().text), GetParam().words);
 }
 
-INSTANTIATE_TEST_SUITE_P(MarkdownRenderer, WordCount, testing::ValuesIn(cases),
+INSTANTIATE_TEST_SUITE_P(MarkdownRenderer, WordCount, testing::ValuesIn(countCases),
                          byMember<&CountCase::name>);
 
 } // namespace tessaline
