@@ -2,7 +2,7 @@
 
 #include "AppDelegateFixture.h"
 #include "platform/ProcessRunner.h"
-#include "prompter/NoticeBar.h"
+#include "prompter/covers/NoticeBar.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/view/ScriptView.h"

@@ -14,7 +14,9 @@ BlackCover::BlackCover(QWidget* parent) : Cover(parent) {
 
 void BlackCover::setBlack(bool on) {
     setVisible(on);
-    if (on) announce();
+    if (!on) return;
+    raise();
+    announce();
 }
 
 void BlackCover::paintEvent(QPaintEvent*) {

@@ -62,6 +62,7 @@ bool TextCovers::isBlack() const {
 
 void TextCovers::setShowsKeys(bool on) {
     keys->setVisible(on);
+    keys->raise();
     on ? keys->setFocus() : keys->window()->setFocus();
 }
 

@@ -2,6 +2,7 @@
 #include "prompter/PrompterWindowFixture.h"
 #include "prompter/covers/BlackCover.h"
 #include "prompter/covers/CountdownView.h"
+#include "prompter/covers/NoticeBar.h"
 #include "support/WidgetPicture.h"
 
 #include <QAccessible>
@@ -59,6 +60,12 @@ TEST_F(TextCoversTest, BlackCoversTheTextAtEverySize) {
     EXPECT_EQ(brightest(textArea()), 0);
     show(u"# Another text"_s);
     EXPECT_EQ(brightest(textArea()), 0) << "another text brings nothing back";
+}
+
+TEST_F(TextCoversTest, BlackCoversANoticeThatIsUp) {
+    window().notices().tell(u"Something came of it"_s);
+    covers().setBlack(true);
+    EXPECT_EQ(brightest(textArea()), 0);
 }
 
 TEST_F(TextCoversTest, TheTextStandsWhileItIsBlackedOut) {

@@ -1,4 +1,4 @@
-#include "prompter/NoticeBar.h"
+#include "prompter/covers/NoticeBar.h"
 
 #include "appearance/PointFont.h"
 #include "appearance/SystemPalette.h"
@@ -7,7 +7,6 @@
 #include "prompter/controls/PressableButton.h"
 #include "prompter/view/ScriptView.h"
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -33,20 +32,14 @@ constexpr double buttonAlpha = 0.22;
 constexpr double pressedAlpha = 0.4;
 constexpr double mostOfTheWidth = 0.56; // for the button
 
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-    auto* bar = qobject_cast<NoticeBar*>(object);
-    return bar ? new QAccessibleWidget(bar, QAccessible::AlertMessage) : nullptr;
-}
-
 } // namespace
 
 NoticeBar::NoticeBar(TimerMaker& timerMaker, ScriptView& borrowedView)
-    : QWidget(borrowedView.parentWidget())
+    : Cover(borrowedView.parentWidget())
     , timers(timerMaker)
     , view(borrowedView)
     , label(makeWrappingLabel({}, systemFont(points), SystemPalette::amber()))
     , button(new PressableButton(this)) {
-    QAccessible::installFactory(makeInterface);
     setObjectName(u"prompter_notice"_s);
     setAttribute(Qt::WA_NoMousePropagation);
     setCursor(Qt::ArrowCursor);
@@ -62,7 +55,6 @@ NoticeBar::NoticeBar(TimerMaker& timerMaker, ScriptView& borrowedView)
         dismiss();
         if (action) action();
     });
-    hide();
     view.installEventFilter(this);
 }
 
@@ -97,8 +89,7 @@ void NoticeBar::appear(const QString& text, double seconds) {
     ending = timers.every(TimerMaker::Interval(seconds), [this] { dismiss(); });
     // The keyboard is the text's: Escape is seen on its way there.
     if (QWindow* window = this->window()->windowHandle()) window->installEventFilter(this);
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce();
 }
 
 /// How wide the button is with its title, which is shortened where it leaves the text too little

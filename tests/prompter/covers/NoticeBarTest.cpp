@@ -1,4 +1,4 @@
-#include "prompter/NoticeBar.h"
+#include "prompter/covers/NoticeBar.h"
 
 #include "prompter/PrompterWindowFixture.h"
 #include "prompter/controls/PressableButton.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "prompter/covers/Cover.h"
 
 #include <functional>
 #include <memory>
@@ -17,7 +17,7 @@ class TimerMaker;
 /// A quiet line over the lower part of a text that tells what came of something, and may have a
 /// button for what to do about it. It goes away by itself, by Escape and by a click; it takes no
 /// keyboard, stops nothing, and is never over the eye line. Screen readers are told once.
-class NoticeBar : public QWidget {
+class NoticeBar : public Cover {
     Q_OBJECT
 
 public:
