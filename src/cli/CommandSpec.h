@@ -49,7 +49,7 @@ struct ControlAction {
     ControlCommand command;
     QStringView name;
     CommandValue value;
-    QStringView help;   ///< one line
+    QStringView help; ///< one line
     std::span<const ChoiceTail> tails{};
 };
 

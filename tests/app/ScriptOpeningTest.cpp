@@ -2,9 +2,9 @@
 
 #include "AppDelegateFixture.h"
 #include "platform/ProcessRunner.h"
-#include "prompter/covers/NoticeBar.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/controls/PressableButton.h"
+#include "prompter/covers/NoticeBar.h"
 #include "prompter/view/ScriptView.h"
 #include "reading/ReadingSession.h"
 #include "settings/ReadingSettings.h"

@@ -10,9 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 RemoteSection::RemoteSection(ReadingSettings& shared)
     : ReadingSection(shared), mediaKeysSwitch(new Switch(u"Media Keys"_s)) {
     mediaKeysSwitch->setObjectName(u"reading_mediaKeysSwitch"_s);
-    connect(mediaKeysSwitch, &Switch::clicked, this, [this](bool on) {
-        change([on](ReadingOptions& options) { options.mediaKeys = on; });
-    });
+    connect(mediaKeysSwitch, &Switch::clicked, this,
+            [this](bool on) { change([on](ReadingOptions& options) { options.mediaKeys = on; }); });
     addPart(new LabelledRow(u"Media Keys"_s, mediaKeysSwitch));
 }
 
