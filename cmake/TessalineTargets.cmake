@@ -10,9 +10,12 @@ target_compile_definitions(
 target_compile_options(
   tessaline_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
                               -Wno-missing-field-initializers)
-# Of sources that are compiled together, one may well shadow a name of another one's own.
+# Of sources that are compiled together, one may well shadow a name of another one's own, and all look
+# like headers.
 target_compile_options(
-  tessaline_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>)
+  tessaline_options
+  INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>
+            $<$<AND:$<COMPILE_LANG_AND_ID:CXX,GNU>,$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wno-subobject-linkage>)
 if(TESSALINE_SANITIZE)
   target_compile_options(
     tessaline_options INTERFACE -fsanitize=${TESSALINE_SANITIZE} -fno-omit-frame-pointer
