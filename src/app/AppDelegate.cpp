@@ -142,10 +142,11 @@ void AppDelegate::createPrompterWindow() {
 }
 
 void AppDelegate::createPanels() {
-    settingChoices = std::make_unique<SettingChoices>(
-        settings, environment.recorder,
-        SettingChoices::Effects{weakly(&AppDelegate::settingsChanged),
-                                weakly(&AppDelegate::chooseSource)});
+    SettingChoices::Effects effects;
+    effects.looksChanged = weakly(&AppDelegate::settingsChanged);
+    effects.sourceChosen = weakly(&AppDelegate::chooseSource);
+    settingChoices =
+        std::make_unique<SettingChoices>(settings, environment.recorder, std::move(effects));
     configPanel = std::make_unique<ConfigPanel>(settings, *sourceManager, *prompterWindow,
                                                 screenManager, platform, services());
     config().onSettingsChanged = weakly(&AppDelegate::settingsChanged);

@@ -90,7 +90,7 @@ public:
 private:
     QString takeText(Kind kind) {
         if (kind != Kind::phrase) return words[next++];
-        const QString text = words.sliced(next).join(u' ').trimmed();
+        QString text = words.sliced(next).join(u' ').trimmed();
         next = words.size();
         return text;
     }

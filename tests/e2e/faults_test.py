@@ -153,7 +153,8 @@ class FullDisk(FaultsTestCase):
         self.assert_quits()
         events = self.event_names()
         self.start(self.write_script("kept"))
-        wait_until((self.support_folder() / "clipboard-content.md").exists, "the script is kept")
+        for name in ("clipboard-content.md", "latest.json"):
+            wait_until((self.support_folder() / name).exists, f"{name} is kept")
         self.disk.fill()
 
         self.assert_goes_on()
@@ -169,12 +170,12 @@ class FullDisk(FaultsTestCase):
         self.assert_quits()
         self.assertIn(FLUSH_FAILED + "No space left on device", self.prompter.stderr())
         self.assertEqual(self.event_names(), events)
-        expected = ["analytics.json", "clipboard-content.md", "config.json", "filler"]
+        expected = ["analytics.json", "clipboard-content.md", "config.json", "filler", "latest.json"]
         self.assertEqual(self.files(), expected)
 
 
 class Killed(FaultsTestCase):
-    KEPT = ("analytics.json", "clipboard-content.md", "config.json")
+    KEPT = ("analytics.json", "clipboard-content.md", "config.json", "latest.json")
     LEFT_BEHIND = re.compile(f"({'|'.join(map(re.escape, KEPT))})\\.tessaline-[0-9a-f]{{8}}")
     LONGEST_SAVE_SECONDS = 600
 

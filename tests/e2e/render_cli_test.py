@@ -158,16 +158,17 @@ class Mistakes(CommandLineCase):
                 self.assert_fails(2, message, *arguments)
 
     def test_file_that_cannot_be_read(self):
-        (self.folder / "latin1.md").write_bytes(b"caf\xe9")
+        (self.folder / "film.md").write_bytes(bytes(range(256)))
         for file, reason in (
             ("missing.md", "No such file or directory"),
             ("home", "Is a directory"),
             ("talk.md/below", "Not a directory"),
-            ("latin1.md", "Not valid UTF-8 text"),
         ):
             for command in ([], ["render"]):
                 with self.subTest(command=command, file=file):
                     self.assert_fails(2, f"cannot read {file}: {reason}", *command, file)
+        self.assert_fails(2, f"cannot read {self.folder}/film.md: it is not text", "film.md")
+        self.assert_fails(2, "cannot read film.md: Not valid UTF-8 text", "render", "film.md")
 
     @unittest.skipIf(os.geteuid() == 0, "root may read everything")
     def test_file_without_permission(self):

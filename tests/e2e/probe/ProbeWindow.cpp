@@ -18,6 +18,7 @@ void ProbeWindow::paintEvent(QPaintEvent* /*event*/) {
 
 void ProbeWindow::keyPressEvent(QKeyEvent* event) {
     report(u"key"_s, {{u"text"_s, event->text()}, {u"code"_s, event->key()}});
+    if (event->key() == Qt::Key_Escape && onEscape) onEscape();
 }
 
 void ProbeWindow::changeEvent(QEvent* event) {

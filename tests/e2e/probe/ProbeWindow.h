@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QWidget>
 
+#include <functional>
+
 namespace tessaline {
 
 /// A window of one colour that reports the keys and the keyboard focus it receives, a line each, on
@@ -10,6 +12,8 @@ namespace tessaline {
 class ProbeWindow final : public QWidget {
 public:
     explicit ProbeWindow(const QColor& color);
+
+    std::function<void()> onEscape; ///< may be empty
 
 protected:
     void paintEvent(QPaintEvent* event) override;

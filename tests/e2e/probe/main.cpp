@@ -13,6 +13,9 @@
 #include <QJsonArray>
 #include <QMimeData>
 
+#include <memory>
+#include <optional>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace tessaline {
@@ -48,11 +51,12 @@ std::unique_ptr<QMimeData> dragged(const QString& text, const QStringList& addre
 }
 
 /// Like the prompter: at the very top, over everything.
-void showFloating(QWidget& window, WindowTraits& traits) {
+void showFloating(ProbeWindow& window, WindowTraits& traits) {
     window.setWindowFlags(Qt::FramelessWindowHint | traits.creationFlags());
     window.setGeometry(400, 0, 300, 120);
     report(u"capture"_s, {{u"excluded"_s, traits.excludeFromCapture(window.winId())}});
     new FocusOnClick(*window.windowHandle(), traits);
+    window.onEscape = [&] { traits.giveKeyboardBack(window.winId()); };
     window.show();
     traits.adopt(window);
 }
@@ -82,8 +86,10 @@ int main(int argc, char** argv) {
 
     ProbeWindow window{QColor(parser.positionalArguments().value(1))};
     window.setWindowTitle(kind);
-    const DragSource source(window,
-                            [&] { return dragged(parser.value(text), parser.values(address)); });
+    std::optional<DragSource> source;
+    if (parser.isSet(text) || parser.isSet(address)) {
+        source.emplace(window, [&] { return dragged(parser.value(text), parser.values(address)); });
+    }
     if (kind == "floating"_L1) {
         showFloating(window, *platform->windowTraits);
     } else if (kind == "fullscreen"_L1) {
