@@ -139,7 +139,7 @@ QString replaceFile(const QString& path, const FilePieces& pieces) {
 QString createFile(const QString& path, const FilePieces& pieces, const QFileInfo& model) {
     QFile file(path);
     if (!openNew(file, model)) return file.errorString();
-    const QString problem = writeAll(file, pieces) ? synchronise(file) : file.errorString();
+    QString problem = writeAll(file, pieces) ? synchronise(file) : file.errorString();
     if (!problem.isEmpty()) file.remove();
     return problem;
 }

@@ -75,9 +75,11 @@ protected:
     /// The entries from the last one of this name on that the test is about.
     std::vector<QString> entries(const QStringList& concerned, const QString& start = {}) const {
         std::vector<QString> found;
-        for (const QString& entry : journal.mid(std::max<qsizetype>(journal.lastIndexOf(start), 0)))
+        const auto begin = std::max<qsizetype>(journal.lastIndexOf(start), 0);
+        for (const QString& entry : journal.mid(begin)) {
             if (concerned.contains(entry) && (found.empty() || found.back() != entry))
                 found.push_back(entry);
+        }
         return found;
     }
 

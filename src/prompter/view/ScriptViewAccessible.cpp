@@ -5,6 +5,7 @@
 #include "reading/ReadingSession.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace tessaline {
 
@@ -90,8 +91,8 @@ QAccessibleInterface* ScriptViewAccessible::child(int index) const {
     if (place >= int(headings.size())) return nullptr;
     Heading& heading = headings[std::size_t(place)];
     if (heading.id == 0) {
-        heading.id = QAccessible::registerAccessibleInterface(
-            new HeadingAccessible(view(), heading.paragraph));
+        auto made = std::make_unique<HeadingAccessible>(view(), heading.paragraph);
+        heading.id = QAccessible::registerAccessibleInterface(made.release());
     }
     return QAccessible::accessibleInterface(heading.id);
 }
