@@ -23,7 +23,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The default fonts have neither the prompter's shapes nor emoji; a window on Wayland is placed
 # through XWayland; documents of word processors are read by pandoc.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-noto-color-emoji")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-noto-color-emoji, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "pandoc, xwayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <memory>
 
 namespace tessaline {
@@ -38,6 +40,8 @@ struct Platform {
     ~Platform();
     Platform(const Platform&) = delete;
     Platform& operator=(const Platform&) = delete;
+
+    QString windowSystem; ///< what shows the windows: "x11", "xwayland", "wayland" or "macos"
 
     std::unique_ptr<MainQueue> mainQueue;
     std::unique_ptr<TimerMaker> timers;

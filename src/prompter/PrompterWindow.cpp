@@ -271,7 +271,8 @@ PrompterStatus PrompterWindow::status() const {
                           .autoScroll = settings.autoScrollEnabled(),
                           .fontSize = settings.fontSize(),
                           .black = textCovers->isBlack(),
-                          .keys = textCovers->showsKeys()};
+                          .keys = textCovers->showsKeys(),
+                          .platform = platform.windowSystem};
     session->tellProgress(status);
     textLook->tell(status);
     return status;

@@ -63,6 +63,8 @@ struct PrompterStatus {
     QString continueAt; ///< where it can be gone on with, if anywhere
     QStringList latest; ///< paths of the scripts that were opened last
 
+    QString platform; ///< what shows the windows: "x11", "xwayland", "wayland" or "macos"
+
     bool operator==(const PrompterStatus&) const = default;
 
     /// Calls `visit` with the name and the value of every field of a status, in the order in which
@@ -112,6 +114,7 @@ struct PrompterStatus {
         visit("file", status.file);
         visit("continueAt", status.continueAt);
         visit("latest", status.latest);
+        visit("platform", status.platform);
     }
 };
 

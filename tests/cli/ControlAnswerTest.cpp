@@ -52,7 +52,8 @@ PrompterStatus aStatus() {
             .keys = true,
             .file = u"/talks/a.md"_s,
             .continueAt = u"Continue at 43 %"_s,
-            .latest = {u"/talks/a.md"_s, u"/talks/b.md"_s}};
+            .latest = {u"/talks/a.md"_s, u"/talks/b.md"_s},
+            .platform = u"wayland"_s};
 }
 
 PrompterStatus with(void (*change)(PrompterStatus& status)) {
@@ -165,7 +166,7 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
               "\"fontSize\":21.0,\"suggestion\":\"so many points\",\"mediaKeys\":true,"
               "\"black\":true,\"keys\":true,"
               "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
-              "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"]}"_s);
+              "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"],\"platform\":\"wayland\"}"_s);
 }
 
 } // namespace

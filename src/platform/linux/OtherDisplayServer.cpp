@@ -13,9 +13,12 @@
 #include "platform/unsupported/UnsupportedNativeLook.h"
 #include "platform/unsupported/UnsupportedWindowTraits.h"
 
+#include <QGuiApplication>
+
 namespace tessaline {
 
 void OtherDisplayServer::addAdapters(Platform& platform) const {
+    platform.windowSystem = QGuiApplication::platformName();
     platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,
                                                    identifyByConnector, nullptr);
     platform.displayLinks = std::make_unique<ClockDisplayLinkMaker>();

@@ -16,9 +16,12 @@
 
 namespace tessaline {
 
+using namespace Qt::Literals::StringLiterals;
+
 X11DisplayServer::X11DisplayServer(xcb_connection_t* qtConnection) : connection(qtConnection) {}
 
 void X11DisplayServer::addAdapters(Platform& platform) const {
+    platform.windowSystem = u"x11"_s;
     platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,
                                                    identifyByConnector, X11ReservedEdges::open());
     platform.displayLinks = std::make_unique<ClockDisplayLinkMaker>();

@@ -27,6 +27,7 @@ namespace tessaline {
 std::unique_ptr<Platform> makePlatform() {
     auto platform = std::make_unique<Platform>();
     addQtAdapters(*platform);
+    platform->windowSystem = QStringLiteral("macos");
     platform->defaults = makeUserDefaults();
     platform->bundle = makeBundleInformation();
     // The system tells Qt the visible frame of every screen.

@@ -85,7 +85,8 @@ TEST(RemoteMessage, CarriesEveryFieldOfAStatus) {
                                 .keys = true,
                                 .file = u"/talks/a.md"_s,
                                 .continueAt = u"Continue at 43 %"_s,
-                                .latest = {u"/talks/a.md"_s, u"/b.md"_s}};
+                                .latest = {u"/talks/a.md"_s, u"/b.md"_s},
+                                .platform = u"xwayland"_s};
     EXPECT_EQ(sentAndRead(RemoteAnswer(status)), RemoteAnswer(status));
     EXPECT_EQ(sentAndRead(RemoteAnswer(PrompterStatus{})), RemoteAnswer(PrompterStatus{}));
 }

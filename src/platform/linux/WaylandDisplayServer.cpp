@@ -1,0 +1,47 @@
+#include "platform/linux/WaylandDisplayServer.h"
+
+#include "platform/Platform.h"
+#include "platform/ReservedEdges.h"
+#include "platform/linux/desktop/ConnectorIdentity.h"
+#include "platform/linux/desktop/DesktopStatusArea.h"
+#include "platform/linux/wayland/FrameDisplayLinkMaker.h"
+#include "platform/linux/wayland/LayerShellOffer.h"
+#include "platform/linux/wayland/LayerWindowTraits.h"
+#include "platform/linux/wayland/SurfaceFrames.h"
+#include "platform/linux/wayland/SurfaceRoles.h"
+#include "platform/qt/QtPasteboard.h"
+#include "platform/qt/QtScreens.h"
+#include "platform/unsupported/UnsupportedAccessibilityTrust.h"
+#include "platform/unsupported/UnsupportedEventTapMaker.h"
+#include "platform/unsupported/UnsupportedGlobalKeyMonitor.h"
+#include "platform/unsupported/UnsupportedNativeLook.h"
+
+#include <QGuiApplication>
+
+namespace tessaline {
+
+using namespace Qt::Literals::StringLiterals;
+
+std::unique_ptr<WaylandDisplayServer> WaylandDisplayServer::connected() {
+    if (!QGuiApplication::platformName().startsWith("wayland"_L1)) return nullptr;
+    if (!areRolesLeftToUs()) return nullptr;
+    return std::make_unique<WaylandDisplayServer>();
+}
+
+void WaylandDisplayServer::addAdapters(Platform& platform) const {
+    platform.windowSystem = u"wayland"_s;
+    const auto frames = std::make_shared<SurfaceFrames>();
+    platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,
+                                                   identifyByConnector, nullptr);
+    platform.displayLinks = std::make_unique<FrameDisplayLinkMaker>(frames);
+    platform.windowTraits =
+        std::make_unique<LayerWindowTraits>(std::make_unique<SurfaceRoles>(), frames);
+    platform.pasteboard = std::make_unique<QtPasteboard>();
+    platform.trust = std::make_unique<UnsupportedAccessibilityTrust>();
+    platform.globalKeys = std::make_unique<UnsupportedGlobalKeyMonitor>();
+    platform.eventTaps = std::make_unique<UnsupportedEventTapMaker>();
+    platform.look = std::make_unique<UnsupportedNativeLook>();
+    platform.statusArea = std::make_unique<DesktopStatusArea>([] { return false; });
+}
+
+} // namespace tessaline

@@ -1,0 +1,51 @@
+#include "platform/linux/wayland/LayerShellOffer.h"
+
+#include "layer-shell-client.h"
+
+#include <QtGlobal>
+
+#include <wayland-client.h>
+
+#include <cstring>
+#include <memory>
+
+namespace tessaline {
+
+namespace {
+
+constexpr const char* noRoleVariable = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
+
+void note(void* found, wl_registry* /*registry*/, std::uint32_t /*name*/, const char* interface,
+          std::uint32_t /*version*/) {
+    if (std::strcmp(interface, zwlr_layer_shell_v1_interface.name) == 0)
+        *static_cast<bool*>(found) = true;
+}
+
+constexpr wl_registry_listener listener{
+    .global = note,
+    .global_remove = [](void* /*found*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}};
+
+} // namespace
+
+std::optional<bool> compositorOffersLayers() {
+    const std::unique_ptr<wl_display, decltype(&wl_display_disconnect)> display(
+        wl_display_connect(nullptr), wl_display_disconnect);
+    if (!display) return std::nullopt;
+    const std::unique_ptr<wl_registry, decltype(&wl_registry_destroy)> registry(
+        wl_display_get_registry(display.get()), wl_registry_destroy);
+    bool found = false;
+    wl_registry_add_listener(registry.get(), &listener, &found);
+    if (wl_display_roundtrip(display.get()) < 0) return std::nullopt;
+    return found;
+}
+
+void leaveRolesToUs() {
+    qputenv(noRoleVariable, "1");
+    qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+}
+
+bool areRolesLeftToUs() {
+    return qEnvironmentVariableIsSet(noRoleVariable);
+}
+
+} // namespace tessaline

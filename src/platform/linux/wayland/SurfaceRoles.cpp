@@ -1,0 +1,197 @@
+#include "platform/linux/wayland/SurfaceRoles.h"
+
+#include "platform/linux/wayland/PopupSurface.h"
+#include "platform/linux/wayland/QtWaylandObjects.h"
+
+#include <QGuiApplication>
+#include <QPlatformSurfaceEvent>
+#include <QScreen>
+#include <QWindow>
+
+namespace tessaline {
+
+namespace {
+
+bool needsRole(const QWindow& window) {
+    // What is dragged is shown by the compositor as part of the pointer.
+    return !window.parent() && !window.inherits("QShapedPixmapWindow");
+}
+
+bool isPopup(const QWindow& window) {
+    return window.type() == Qt::Popup || window.type() == Qt::ToolTip;
+}
+
+int area(const QRect& rect) {
+    return rect.isEmpty() ? 0 : rect.width() * rect.height();
+}
+
+/// The screen that most of a window is on.
+QScreen* screenOf(const QWindow& window) {
+    QScreen* best = QGuiApplication::primaryScreen();
+    if (!best) return nullptr;
+    const auto screens = QGuiApplication::screens();
+    const auto shared = [&window](const QScreen* screen) {
+        return area(screen->geometry() & window.geometry());
+    };
+    for (QScreen* screen : screens)
+        if (shared(screen) > shared(best)) best = screen;
+    return best;
+}
+
+LayerSurface::Place placeOf(const QWindow& window, const QScreen& screen) {
+    return {window.position() - screen.geometry().topLeft(), window.size()};
+}
+
+} // namespace
+
+SurfaceRoles::SurfaceRoles() : globals(waylandDisplay()) {
+    qGuiApp->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &SurfaceRoles::showHomeless);
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &SurfaceRoles::showHomeless);
+}
+
+SurfaceRoles::~SurfaceRoles() = default;
+
+bool SurfaceRoles::eventFilter(QObject* object, QEvent* event) {
+    if (!object->isWindowType()) return false;
+    auto& window = static_cast<QWindow&>(*object);
+    if (!needsRole(window)) return false;
+    switch (event->type()) {
+    case QEvent::PlatformSurface:
+        if (static_cast<const QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
+            QPlatformSurfaceEvent::SurfaceCreated) {
+            watch(window);
+        } else {
+            end(window);
+        }
+        break;
+    case QEvent::Expose:
+        if (window.isExposed()) give(window);
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        follow(window);
+        break;
+    case QEvent::Enter:
+        entered = &window;
+        break;
+    case QEvent::Leave:
+        if (entered == &window) entered = nullptr;
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void SurfaceRoles::watch(QWindow& window) {
+    if (!watched.insert(&window).second) return;
+    window.setFlag(Qt::BypassWindowManagerHint);
+    // Told before Qt makes or destroys the surface, unlike the events.
+    connect(&window, &QWindow::visibleChanged, this, [this, &window](bool visible) {
+        if (visible) {
+            window.setFlag(Qt::BypassWindowManagerHint);
+        } else {
+            end(window);
+        }
+    });
+    connect(&window, &QObject::destroyed, this, [this, &window] { watched.erase(&window); });
+}
+
+void SurfaceRoles::give(QWindow& window) {
+    if (roleOf(&window) || homeless.contains(&window)) return;
+    if (!isPopup(window)) return hang(window);
+    if (SurfaceRole* parent = roleOf(parentOf(window))) popUp(window, *parent);
+}
+
+void SurfaceRoles::hang(QWindow& window) {
+    QScreen* screen = screenOf(window);
+    wl_surface* surface = waylandSurface(window);
+    if (!screen || !surface) return;
+    wl_output* output = waylandOutput(*screen);
+    if (!output) return lose(window);
+    hung[&window] = {std::make_unique<LayerSurface>(
+                         globals, surface, output, placeOf(window, *screen), firstKeyboard(window),
+                         [this, &window] {
+                             QMetaObject::invokeMethod(
+                                 &window, [this, &window] { lose(window); }, Qt::QueuedConnection);
+                         }),
+                     screen};
+    if (&window == prompter && onPrompterSurface) onPrompterSurface(surface);
+}
+
+void SurfaceRoles::popUp(QWindow& window, SurfaceRole& parent) {
+    const QWindow* below = parentOf(window);
+    const QRect frame = window.geometry().translated(-below->position());
+    popups[&window] = std::make_unique<PopupSurface>(
+        globals, waylandSurface(window), parent, frame, window.type() == Qt::Popup,
+        [&window] { QMetaObject::invokeMethod(&window, &QWindow::close, Qt::QueuedConnection); });
+}
+
+void SurfaceRoles::end(QWindow& window) {
+    homeless.erase(&window);
+    popups.erase(&window);
+    if (!hung.contains(&window)) return;
+    if (&window == prompter && onPrompterSurface) onPrompterSurface(nullptr);
+    hung.erase(&window);
+}
+
+/// Windows go where their geometry is, also from one output to another.
+void SurfaceRoles::follow(QWindow& window) {
+    const auto found = hung.find(&window);
+    if (found == hung.end()) return;
+    QScreen* screen = screenOf(window);
+    if (!screen) return;
+    if (screen == found->second.screen)
+        return found->second.surface->place(placeOf(window, *screen));
+    QMetaObject::invokeMethod(
+        &window, [this, &window] { showAgain(window); }, Qt::QueuedConnection);
+}
+
+/// The compositor has taken a role back, mostly because the output has gone.
+void SurfaceRoles::lose(QWindow& window) {
+    end(window);
+    if (!window.isVisible()) return;
+    homeless.insert(&window);
+    QMetaObject::invokeMethod(this, &SurfaceRoles::showHomeless, Qt::QueuedConnection);
+}
+
+void SurfaceRoles::showHomeless() {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen || !waylandOutput(*screen)) return;
+    for (QWindow* window : std::exchange(homeless, {}))
+        showAgain(*window);
+}
+
+void SurfaceRoles::showAgain(QWindow& window) {
+    if (!window.isVisible()) return;
+    window.setVisible(false);
+    window.setVisible(true);
+}
+
+void SurfaceRoles::setKeyboard(QWindow& window, LayerSurface::Keyboard keyboard) {
+    const auto found = hung.find(&window);
+    if (found != hung.end()) found->second.surface->setKeyboard(keyboard);
+}
+
+SurfaceRole* SurfaceRoles::roleOf(const QWindow* window) const {
+    if (const auto layer = hung.find(window); layer != hung.end())
+        return layer->second.surface.get();
+    const auto popup = popups.find(window);
+    return popup == popups.end() ? nullptr : popup->second.get();
+}
+
+/// Menus of nobody's go to the window that was clicked.
+QWindow* SurfaceRoles::parentOf(const QWindow& popup) const {
+    if (QWindow* parent = popup.transientParent(); roleOf(parent)) return parent;
+    if (roleOf(entered)) return entered;
+    return prompter;
+}
+
+LayerSurface::Keyboard SurfaceRoles::firstKeyboard(const QWindow& window) const {
+    if (&window == prompter) return LayerSurface::Keyboard::none;
+    return globals.offersKeyboardOnDemand() ? LayerSurface::Keyboard::onDemand
+                                            : LayerSurface::Keyboard::exclusive;
+}
+
+} // namespace tessaline
