@@ -38,6 +38,12 @@ QScreen* screenOf(const QWindow& window) {
     return best;
 }
 
+/// In the event loop's next turn, if the window still is.
+template <typename Deed>
+void later(QWindow& window, Deed deed) {
+    QMetaObject::invokeMethod(&window, deed, Qt::QueuedConnection);
+}
+
 LayerSurface::Place placeOf(const QWindow& window, const QScreen& screen) {
     return {window.position() - screen.geometry().topLeft(), window.size()};
 }
@@ -112,10 +118,7 @@ void SurfaceRoles::hang(QWindow& window) {
     if (!output) return lose(window);
     hung[&window] = {std::make_unique<LayerSurface>(
                          globals, surface, output, placeOf(window, *screen), firstKeyboard(window),
-                         [this, &window] {
-                             QMetaObject::invokeMethod(
-                                 &window, [this, &window] { lose(window); }, Qt::QueuedConnection);
-                         }),
+                         [this, &window] { later(window, [this, &window] { lose(window); }); }),
                      screen};
     if (&window == prompter && onPrompterSurface) onPrompterSurface(surface);
 }
@@ -125,7 +128,7 @@ void SurfaceRoles::popUp(QWindow& window, SurfaceRole& parent) {
     const QRect frame = window.geometry().translated(-below->position());
     popups[&window] = std::make_unique<PopupSurface>(
         globals, waylandSurface(window), parent, frame, window.type() == Qt::Popup,
-        [&window] { QMetaObject::invokeMethod(&window, &QWindow::close, Qt::QueuedConnection); });
+        [&window] { later(window, [&window] { window.close(); }); });
 }
 
 void SurfaceRoles::end(QWindow& window) {
@@ -144,8 +147,7 @@ void SurfaceRoles::follow(QWindow& window) {
     if (!screen) return;
     if (screen == found->second.screen)
         return found->second.surface->place(placeOf(window, *screen));
-    QMetaObject::invokeMethod(
-        &window, [this, &window] { showAgain(window); }, Qt::QueuedConnection);
+    later(window, [this, &window] { showAgain(window); });
 }
 
 /// The compositor has taken a role back, mostly because the output has gone.
