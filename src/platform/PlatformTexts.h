@@ -20,6 +20,10 @@ struct PlatformTexts {
     QString obsidianInvitation;
     QString pluginInstalled; ///< what to do in Obsidian now
 
+    /// What drives the prompter where a click does not bring it the keyboard; empty: it always
+    /// does.
+    QString keyboardRefused;
+
     QString pasteHint; ///< the keys that paste, as the empty prompter shows them
     // The same and others, as the list of shortcuts shows them.
     QString pasteKeys;

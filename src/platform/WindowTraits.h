@@ -41,6 +41,10 @@ public:
     /// cannot do that; this is logged once, and the window stays as it is.
     virtual bool excludeFromCapture(NativeWindow window) = 0;
 
+    /// Tells the display server what it has to know of the window before it sees it. Call it when
+    /// the native window is there, right before it is shown.
+    virtual void prepare(QWidget& /*window*/) {}
+
     /// Puts the window into its place on a screen, shown or not: `frame` in points. On a display
     /// server that lets no window choose where it is, what counts is its size and how far it is
     /// from the screen's edges. Where there is no screen, an empty one is handed in.
@@ -72,6 +76,10 @@ public:
     /// Returns the keyboard to who had it before `takeKeyboard`, unless somebody else took it
     /// since.
     virtual void giveKeyboardBack(NativeWindow window) = 0;
+
+    /// Calls back each time that `takeKeyboard` could not do its work, maybe a while later: some
+    /// display servers leave the keyboard where it is. A later call replaces the callback.
+    virtual void onKeyboardRefused(std::function<void()> /*refused*/) {}
 };
 
 } // namespace tessaline

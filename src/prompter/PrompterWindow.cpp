@@ -3,6 +3,7 @@
 #include "platform/DisplayLink.h"
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
+#include "platform/PlatformTexts.h"
 #include "platform/ScreenCoordinates.h"
 #include "platform/Screens.h"
 #include "platform/TimerMaker.h"
@@ -77,6 +78,7 @@ PrompterWindow::PrompterWindow(AppSettings& appSettings, ReadingSettings& borrow
         textLook->update();
         shape();
     }));
+    platform.windowTraits->onKeyboardRefused(lifetime.guard([this] { keyboardRefused(); }));
 }
 
 PrompterWindow::~PrompterWindow() {
@@ -204,6 +206,7 @@ void PrompterWindow::setVisible(bool visible) {
 
 void PrompterWindow::showEvent(QShowEvent* event) {
     platform.windowTraits->excludeFromCapture(winId());
+    platform.windowTraits->prepare(*this);
     if (!std::exchange(watchesClicks, true))
         new FocusOnClick(*windowHandle(), *platform.windowTraits);
     shape();
@@ -214,6 +217,12 @@ void PrompterWindow::makeKeyAndOrderFront() {
     show();
     raise();
     platform.windowTraits->takeKeyboard(winId());
+}
+
+/// Of use to somebody who clicks the window to type, once.
+void PrompterWindow::keyboardRefused() {
+    if (underMouse() && !collapsed && !std::exchange(toldOfKeyboard, true))
+        noticeBar->tell(platformTexts().keyboardRefused);
 }
 
 void PrompterWindow::paintEvent(QPaintEvent*) {

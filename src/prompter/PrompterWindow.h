@@ -118,6 +118,7 @@ private:
     void updateReadingFrame();
     bool isTextSeen() const { return isVisible() && !collapsed; }
     void readingOptionsChanged();
+    void keyboardRefused();
 
     AppSettings& settings;
     AppSettings::Observation settingsObservation;
@@ -135,6 +136,7 @@ private:
     NoticeBar* noticeBar = nullptr;
     std::unique_ptr<PrompterLook> textLook;
     bool watchesClicks = false;
+    bool toldOfKeyboard = false;
     bool collapsed = false;
     bool squareCorners = false; ///< follows `collapsed` once the window has its height
     QRegion hole;               ///< what is cut out

@@ -1,14 +1,17 @@
 #include "prompter/PrompterWindow.h"
 
 #include "support/Part.h"
+#include "support/PointerEvents.h"
 
 #include "appearance/SystemPalette.h"
 #include "controls/ElidingLabel.h"
 #include "controls/IconImage.h"
+#include "platform/PlatformTexts.h"
 #include "prompter/ControlStrip.h"
 #include "prompter/PrompterWindowFixture.h"
 #include "prompter/controls/PressableButton.h"
 #include "prompter/controls/TrafficLightCloseButton.h"
+#include "prompter/covers/NoticeBar.h"
 #include "prompter/view/ScriptView.h"
 
 #include <QAbstractButton>
@@ -315,6 +318,20 @@ TEST_F(PrompterWindowTest, GivesTheKeyboardBackOnEscapeOnly) {
     EXPECT_EQ(traits.keyboardOwner, window().winId());
     QTest::keyClick(window().windowHandle(), Qt::Key_Escape);
     EXPECT_NE(traits.keyboardOwner, window().winId());
+}
+
+TEST_F(PrompterWindowTest, SaysOnceWhatDrivesItWhereAClickBringsNoKeyboard) {
+    show(u"one\ntwo"_s);
+    traits.keyboardRefused();
+    EXPECT_FALSE(window().notices().isVisible()) << "nobody clicked";
+    pointerEnters(window());
+    traits.keyboardRefused();
+    EXPECT_TRUE(window().notices().isVisible());
+    EXPECT_EQ(part<QLabel>(window(), "prompter_noticeText")->text(),
+              platformTexts().keyboardRefused);
+    window().notices().dismiss();
+    traits.keyboardRefused();
+    EXPECT_FALSE(window().notices().isVisible());
 }
 
 } // namespace

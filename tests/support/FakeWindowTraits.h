@@ -41,9 +41,14 @@ public:
         if (keyboardOwner == window) keyboardOwner.reset();
     }
 
+    void onKeyboardRefused(std::function<void()> refused) override {
+        keyboardRefused = std::move(refused);
+    }
+
     Qt::WindowFlags flags = Qt::BypassWindowManagerHint;
     bool translucency = true;
     std::function<void()> translucencyChanged;
+    std::function<void()> keyboardRefused;
     bool canExclude = true;
     bool letsMouseThrough = true;
     std::vector<NativeWindow> excluded;

@@ -12,6 +12,7 @@
 #include "platform/linux/x11/X11ReservedEdges.h"
 #include "platform/linux/x11/X11Tray.h"
 #include "platform/linux/x11/X11WindowTraits.h"
+#include "platform/linux/x11/XWayland.h"
 #include "platform/qt/QtScreens.h"
 
 namespace tessaline {
@@ -21,11 +22,14 @@ using namespace Qt::Literals::StringLiterals;
 X11DisplayServer::X11DisplayServer(xcb_connection_t* qtConnection) : connection(qtConnection) {}
 
 void X11DisplayServer::addAdapters(Platform& platform) const {
-    platform.windowSystem = u"x11"_s;
+    const bool xWayland = isXWayland(connection);
+    platform.windowSystem = xWayland ? u"xwayland"_s : u"x11"_s;
     platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,
                                                    identifyByConnector, X11ReservedEdges::open());
     platform.displayLinks = std::make_unique<ClockDisplayLinkMaker>();
-    platform.windowTraits = std::make_unique<X11WindowTraits>(connection);
+    platform.windowTraits =
+        std::make_unique<X11WindowTraits>(connection, xWayland ? X11WindowTraits::Server::xWayland
+                                                               : X11WindowTraits::Server::ordinary);
     platform.pasteboard =
         std::make_unique<X11Pasteboard>(*platform.mainQueue, *platform.pasteTasks);
     platform.trust = std::make_unique<X11AccessibilityTrust>();

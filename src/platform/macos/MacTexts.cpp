@@ -18,6 +18,7 @@ const PlatformTexts& platformTexts() {
         .obsidianInvitation = u"Send notes from Obsidian straight into the notch"_s,
         .pluginInstalled =
             u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press ⌘P and type \"tessaline\"."_s,
+        .keyboardRefused = {},
         .pasteHint = u"⌘V"_s,
         .pasteKeys = u"⌘ + V"_s,
         .scrollKeys = u"⌃ + Scroll"_s,

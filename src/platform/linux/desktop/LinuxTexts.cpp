@@ -19,6 +19,8 @@ const PlatformTexts& platformTexts() {
         .obsidianInvitation = u"Send notes from Obsidian straight into the prompter"_s,
         .pluginInstalled =
             u"Restart Obsidian to activate.\n\nIn Obsidian, you'll find a \"Send to Tessaline\" icon in the sidebar, or press Ctrl+P and type \"tessaline\"."_s,
+        .keyboardRefused =
+            u"This desktop leaves the keyboard to the other window. Use the wheel and the buttons, or bind keys to “tessaline ctl toggle”."_s,
         .pasteHint = u"Ctrl+V"_s,
         .pasteKeys = u"Ctrl + V"_s,
         .scrollKeys = u"Ctrl + Scroll"_s,

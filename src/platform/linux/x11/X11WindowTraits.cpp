@@ -1,7 +1,9 @@
 #include "platform/linux/x11/X11WindowTraits.h"
 
 #include "platform/PlatformLog.h"
+#include "platform/linux/x11/XcbAtom.h"
 #include "platform/linux/x11/XcbReply.h"
+#include "platform/linux/x11/XcbWindows.h"
 #include "platform/qt/WidgetFrame.h"
 
 #include <QCoreApplication>
@@ -10,9 +12,12 @@
 #include <utility>
 
 namespace tessaline {
-X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection)
+
+X11WindowTraits::X11WindowTraits(xcb_connection_t* serverConnection, Server kindOfServer)
     : connection(serverConnection)
+    , server(kindOfServer)
     , root(xcb_setup_roots_iterator(xcb_get_setup(serverConnection)).data->root)
+    , activeWindow(xcbAtom(serverConnection, "_NET_ACTIVE_WINDOW"))
     , stacking(serverConnection, root)
     , managerTurn(serverConnection, root)
     , compositor(serverConnection, root)
@@ -49,6 +54,10 @@ bool X11WindowTraits::excludeFromCapture(NativeWindow /*window*/) {
     return false;
 }
 
+void X11WindowTraits::prepare(QWidget& window) {
+    if (server == Server::xWayland) window.setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
+}
+
 void X11WindowTraits::place(QWidget& window, const Rect& frame, const Screen& /*screen*/) {
     setFrame(window, frame);
 }
@@ -74,6 +83,7 @@ void X11WindowTraits::setInputArea(QWidget& window, const std::optional<QRect>& 
 }
 
 void X11WindowTraits::takeKeyboard(NativeWindow window) {
+    if (isKeyboardOutOfReach()) return refuseKeyboard();
     claiming = static_cast<XWindow>(window);
     claimKeyboard();
     managerTurn.await();
@@ -104,7 +114,9 @@ bool X11WindowTraits::nativeEventFilter(const QByteArray& type, void* message,
     if (claiming != XCB_NONE && managerTurn.isAnswer(message)) {
         // Another window of ours that has the keyboard by now has it because somebody asked for it.
         const auto current = focusedWindow();
-        if (current && !isOurs(*current)) claimKeyboard();
+        if (current && !isOurs(*current)) {
+            server == Server::xWayland ? refuseKeyboard() : claimKeyboard();
+        }
         claiming = XCB_NONE;
     }
     if (translucencyChanged && compositor.isChange(message)) translucencyChanged();
@@ -116,6 +128,21 @@ std::optional<X11WindowTraits::XWindow> X11WindowTraits::focusedWindow() const {
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     if (!reply) return std::nullopt;
     return reply->focus;
+}
+
+void X11WindowTraits::onKeyboardRefused(std::function<void()> refused) {
+    keyboardRefused = std::move(refused);
+}
+
+void X11WindowTraits::refuseKeyboard() const {
+    if (keyboardRefused) keyboardRefused();
+}
+
+/// While a Wayland window has the keyboard, compositors name no X window as the active one.
+bool X11WindowTraits::isKeyboardOutOfReach() const {
+    if (server == Server::ordinary) return false;
+    const auto active = windowsListedIn(connection, root, activeWindow);
+    return active.empty() || active.front() == XCB_NONE;
 }
 
 /// Windows carry the number of the connection that made them.

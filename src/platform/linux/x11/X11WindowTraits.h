@@ -26,10 +26,16 @@ namespace tessaline {
 /// - it directs the keyboard elsewhere when one of our other windows goes, and that only after we
 ///   have taken it: so it is taken once more when the window manager has had its turn.
 /// X11 has no way to keep a window out of captures.
+///
+/// Under XWayland the keyboard is the compositor's to give, and goes to nobody at all when a window
+/// like ours asks for it while a Wayland window has it. So there the window is a notification, to
+/// which no compositor gives the keyboard, and it asks only while another X window has it.
 class X11WindowTraits final : public WindowTraits, private QAbstractNativeEventFilter {
 public:
+    enum class Server { ordinary, xWayland };
+
     /// Borrows Qt's connection, which must outlive the traits. Needs a QGuiApplication.
-    explicit X11WindowTraits(xcb_connection_t* connection);
+    X11WindowTraits(xcb_connection_t* connection, Server server);
     ~X11WindowTraits() override;
 
     Qt::WindowFlags creationFlags() const override;
@@ -39,6 +45,7 @@ public:
     bool canExcludeFromCapture() const override;
     bool excludeFromCapture(NativeWindow window) override;
 
+    void prepare(QWidget& window) override;
     void place(QWidget& window, const Rect& frame, const Screen& screen) override;
     Rect frame(const QWidget& window) const override;
 
@@ -50,6 +57,7 @@ public:
 
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
+    void onKeyboardRefused(std::function<void()> refused) override;
 
 private:
     using XWindow = std::uint32_t;
@@ -57,15 +65,20 @@ private:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
     std::optional<XWindow> focusedWindow() const;
     bool isOurs(XWindow window) const;
+    bool isKeyboardOutOfReach() const;
+    void refuseKeyboard() const;
     bool focus(XWindow window) const;
     void claimKeyboard();
 
     xcb_connection_t* connection;
+    const Server server;
     XWindow root;
+    XWindow activeWindow; ///< the atom under which the root window tells it
     X11Stacking stacking;
     X11ManagerTurn managerTurn;
     X11Compositor compositor;
     std::function<void()> translucencyChanged;
+    std::function<void()> keyboardRefused;
     XWindow floating = 0;
     XWindow previousFocus = 0;
     XWindow claiming = 0; ///< takes the keyboard until the window manager has had its turn
