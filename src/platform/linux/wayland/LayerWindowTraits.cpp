@@ -2,6 +2,7 @@
 
 #include "platform/PlatformLog.h"
 #include "platform/linux/wayland/QtWaylandObjects.h"
+#include "platform/linux/wayland/SurfaceHole.h"
 #include "platform/qt/WidgetFrame.h"
 
 #include <QGuiApplication>
@@ -82,6 +83,9 @@ void LayerWindowTraits::follow(wl_surface* surface) {
 }
 
 void LayerWindowTraits::setInputArea(QWidget& window, const std::optional<QRect>& area) {
+    // It was given its shape just now.
+    if (!hole) hole = new SurfaceHole(window);
+    hole->update();
     const bool changes = inputArea != area;
     inputArea = area;
     if (!area && !changes) return;

@@ -1,12 +1,17 @@
 #include "platform/linux/wayland/SurfaceRoles.h"
 
+#include "platform/linux/wayland/LayerTitleBar.h"
 #include "platform/linux/wayland/PopupSurface.h"
 #include "platform/linux/wayland/QtWaylandObjects.h"
 
 #include <QGuiApplication>
 #include <QPlatformSurfaceEvent>
 #include <QScreen>
+#include <QWidget>
 #include <QWindow>
+
+#include <algorithm>
+#include <utility>
 
 namespace tessaline {
 
@@ -59,6 +64,8 @@ SurfaceRoles::SurfaceRoles() : globals(waylandDisplay()) {
 SurfaceRoles::~SurfaceRoles() = default;
 
 bool SurfaceRoles::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::ZOrderChange && object->isWidgetType())
+        raise(static_cast<const QWidget&>(*object));
     if (!object->isWindowType()) return false;
     auto& window = static_cast<QWindow&>(*object);
     if (!needsRole(window)) return false;
@@ -92,6 +99,7 @@ bool SurfaceRoles::eventFilter(QObject* object, QEvent* event) {
 
 void SurfaceRoles::watch(QWindow& window) {
     if (!watched.insert(&window).second) return;
+    LayerTitleBar::addTo(window);
     window.setFlag(Qt::BypassWindowManagerHint);
     // Told before Qt makes or destroys the surface, unlike the events.
     connect(&window, &QWindow::visibleChanged, this, [this, &window](bool visible) {
@@ -105,7 +113,7 @@ void SurfaceRoles::watch(QWindow& window) {
 }
 
 void SurfaceRoles::give(QWindow& window) {
-    if (roleOf(&window) || homeless.contains(&window)) return;
+    if (roleOf(&window) || homeless.contains(&window) || covered.contains(&window)) return;
     if (!isPopup(window)) return hang(window);
     if (SurfaceRole* parent = roleOf(parentOf(window))) popUp(window, *parent);
 }
@@ -120,7 +128,8 @@ void SurfaceRoles::hang(QWindow& window) {
                          globals, surface, output, placeOf(window, *screen), firstKeyboard(window),
                          [this, &window] { later(window, [this, &window] { lose(window); }); }),
                      screen};
-    if (&window == prompter && onPrompterSurface) onPrompterSurface(surface);
+    if (&window != prompter) return cover(window);
+    if (onPrompterSurface) onPrompterSurface(surface);
 }
 
 void SurfaceRoles::popUp(QWindow& window, SurfaceRole& parent) {
@@ -133,10 +142,43 @@ void SurfaceRoles::popUp(QWindow& window, SurfaceRole& parent) {
 
 void SurfaceRoles::end(QWindow& window) {
     homeless.erase(&window);
+    covered.erase(&window);
     popups.erase(&window);
     if (!hung.contains(&window)) return;
     if (&window == prompter && onPrompterSurface) onPrompterSurface(nullptr);
     hung.erase(&window);
+    uncover();
+}
+
+bool SurfaceRoles::isCovered(const QWindow& lower, const QWindow& upper) const {
+    return &lower != &upper && &lower != prompter && &upper != prompter &&
+           lower.geometry().intersects(upper.geometry());
+}
+
+void SurfaceRoles::cover(const QWindow& upper) {
+    for (auto each = hung.begin(); each != hung.end();) {
+        QWindow* window = each->first;
+        if (isCovered(*window, upper)) {
+            covered.insert(window);
+            each = hung.erase(each);
+        } else {
+            ++each;
+        }
+    }
+}
+
+void SurfaceRoles::uncover() {
+    for (QWindow* window : covered) {
+        const bool isStillCovered = std::any_of(hung.begin(), hung.end(), [&](const auto& upper) {
+            return isCovered(*window, *upper.first);
+        });
+        if (!isStillCovered) later(*window, [this, window] { showAgain(*window); });
+    }
+}
+
+void SurfaceRoles::raise(const QWidget& widget) {
+    QWindow* window = widget.isWindow() ? widget.windowHandle() : nullptr;
+    if (covered.contains(window)) later(*window, [this, window] { showAgain(*window); });
 }
 
 /// Windows go where their geometry is, also from one output to another.
@@ -176,7 +218,7 @@ void SurfaceRoles::setKeyboard(QWindow& window, LayerSurface::Keyboard keyboard)
     if (found != hung.end()) found->second.surface->setKeyboard(keyboard);
 }
 
-SurfaceRole* SurfaceRoles::roleOf(const QWindow* window) const {
+SurfaceRole* SurfaceRoles::roleOf(QWindow* window) const {
     if (const auto layer = hung.find(window); layer != hung.end())
         return layer->second.surface.get();
     const auto popup = popups.find(window);

@@ -12,6 +12,7 @@
 #include <set>
 
 class QScreen;
+class QWidget;
 class QWindow;
 struct wl_surface;
 
@@ -19,8 +20,10 @@ namespace tessaline {
 
 /// Gives the program's windows their roles in place of Qt, to which a window is one among others:
 /// all of them hang over the desktop where their geometry says, menus and tool tips as popups of
-/// theirs. So they stay above panels and full-screen windows, on each workspace, and the later one
-/// above the earlier one.
+/// theirs. So they stay above panels and full-screen windows, on each workspace.
+///
+/// Some compositors put the later surface above the earlier one, others below. So of windows that
+/// would cover each other only the last one is shown; the prompter is left to be cut out.
 ///
 /// Needs `leaveRolesToUs` to have been called before the QGuiApplication was made.
 class SurfaceRoles final : public QObject {
@@ -63,17 +66,22 @@ private:
     void follow(QWindow& window);
     void lose(QWindow& window);
     void showHomeless();
+    void raise(const QWidget& widget);
+    void cover(const QWindow& upper);
+    void uncover();
+    bool isCovered(const QWindow& lower, const QWindow& upper) const;
     QWindow* parentOf(const QWindow& popup) const;
-    SurfaceRole* roleOf(const QWindow* window) const;
+    SurfaceRole* roleOf(QWindow* window) const;
     LayerSurface::Keyboard firstKeyboard(const QWindow& window) const;
 
     WaylandGlobals globals;
     QPointer<QWindow> prompter;
     QPointer<QWindow> entered;
-    std::map<const QWindow*, Hung> hung;
-    std::map<const QWindow*, std::unique_ptr<SurfaceRole>> popups;
+    std::map<QWindow*, Hung> hung;
+    std::map<QWindow*, std::unique_ptr<SurfaceRole>> popups;
     std::set<const QWindow*> watched;
     std::set<QWindow*> homeless; ///< lost their output
+    std::set<QWindow*> covered;  ///< by later windows
 };
 
 } // namespace tessaline
