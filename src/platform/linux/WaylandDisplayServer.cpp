@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/ReservedEdges.h"
+#include "platform/linux/ForeignPasteboard.h"
 #include "platform/linux/desktop/ConnectorIdentity.h"
 #include "platform/linux/desktop/DesktopStatusArea.h"
 #include "platform/linux/wayland/FrameDisplayLinkMaker.h"
@@ -9,6 +10,7 @@
 #include "platform/linux/wayland/LayerWindowTraits.h"
 #include "platform/linux/wayland/SurfaceFrames.h"
 #include "platform/linux/wayland/SurfaceRoles.h"
+#include "platform/linux/wayland/WaylandSelectionReader.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/unsupported/UnsupportedAccessibilityTrust.h"
@@ -21,6 +23,18 @@
 namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// To Qt a clipboard is empty while no window of ours has the keyboard.
+std::unique_ptr<Pasteboard> makePasteboard(const Platform& platform) {
+    if (!WaylandSelectionReader::isOffered()) return std::make_unique<QtPasteboard>();
+    return std::make_unique<ForeignPasteboard>(
+        *platform.mainQueue, *platform.pasteTasks,
+        [](QString* problem) { return WaylandSelectionReader().readText(problem); });
+}
+
+} // namespace
 
 std::unique_ptr<WaylandDisplayServer> WaylandDisplayServer::connected() {
     if (!QGuiApplication::platformName().startsWith("wayland"_L1)) return nullptr;
@@ -36,7 +50,7 @@ void WaylandDisplayServer::addAdapters(Platform& platform) const {
     platform.displayLinks = std::make_unique<FrameDisplayLinkMaker>(frames);
     platform.windowTraits =
         std::make_unique<LayerWindowTraits>(std::make_unique<SurfaceRoles>(), frames);
-    platform.pasteboard = std::make_unique<QtPasteboard>();
+    platform.pasteboard = makePasteboard(platform);
     platform.trust = std::make_unique<UnsupportedAccessibilityTrust>();
     platform.globalKeys = std::make_unique<UnsupportedGlobalKeyMonitor>();
     platform.eventTaps = std::make_unique<UnsupportedEventTapMaker>();

@@ -2,14 +2,15 @@
 
 #include "platform/Platform.h"
 #include "platform/linux/ClockDisplayLinkMaker.h"
+#include "platform/linux/ForeignPasteboard.h"
 #include "platform/linux/desktop/ConnectorIdentity.h"
 #include "platform/linux/desktop/DesktopStatusArea.h"
 #include "platform/linux/x11/X11AccessibilityTrust.h"
 #include "platform/linux/x11/X11DarkTitleBars.h"
 #include "platform/linux/x11/X11EventTapMaker.h"
 #include "platform/linux/x11/X11KeyMonitor.h"
-#include "platform/linux/x11/X11Pasteboard.h"
 #include "platform/linux/x11/X11ReservedEdges.h"
+#include "platform/linux/x11/X11SelectionReader.h"
 #include "platform/linux/x11/X11Tray.h"
 #include "platform/linux/x11/X11WindowTraits.h"
 #include "platform/linux/x11/XWayland.h"
@@ -30,8 +31,9 @@ void X11DisplayServer::addAdapters(Platform& platform) const {
     platform.windowTraits =
         std::make_unique<X11WindowTraits>(connection, xWayland ? X11WindowTraits::Server::xWayland
                                                                : X11WindowTraits::Server::ordinary);
-    platform.pasteboard =
-        std::make_unique<X11Pasteboard>(*platform.mainQueue, *platform.pasteTasks);
+    platform.pasteboard = std::make_unique<ForeignPasteboard>(
+        *platform.mainQueue, *platform.pasteTasks,
+        [](QString* problem) { return X11SelectionReader().readText(problem); });
     platform.trust = std::make_unique<X11AccessibilityTrust>();
     platform.globalKeys = std::make_unique<X11KeyMonitor>();
     platform.eventTaps = std::make_unique<X11EventTapMaker>();

@@ -9,6 +9,9 @@ namespace tessaline {
 /// object.
 std::optional<bool> compositorOffersLayers();
 
+/// The same about any interface of the protocol.
+std::optional<bool> compositorOffers(const char* interface);
+
 /// Has Qt give the program's windows no role of their own, and leave them where they are put.
 /// Before the QGuiApplication is made, and only where the compositor offers layers.
 void leaveRolesToUs();

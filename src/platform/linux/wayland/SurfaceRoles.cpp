@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QPlatformSurfaceEvent>
+#include <QPointerEvent>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
@@ -82,11 +83,16 @@ bool SurfaceRoles::eventFilter(QObject* object, QEvent* event) {
         if (window.isExposed()) give(window);
         break;
     case QEvent::Move:
-    case QEvent::Resize:
         follow(window);
         break;
+    case QEvent::Resize:
+        follow(window);
+        leaveIfOutside(window);
+        break;
     case QEvent::Enter:
+    case QEvent::MouseMove:
         entered = &window;
+        pointer = static_cast<const QSinglePointEvent*>(event)->position();
         break;
     case QEvent::Leave:
         if (entered == &window) entered = nullptr;
@@ -190,6 +196,13 @@ void SurfaceRoles::follow(QWindow& window) {
     if (screen == found->second.screen)
         return found->second.surface->place(placeOf(window, *screen));
     later(window, [this, &window] { showAgain(window); });
+}
+
+/// Where a surface shrinks under a resting pointer, some compositors say nothing.
+void SurfaceRoles::leaveIfOutside(QWindow& window) {
+    if (entered != &window || QRectF({}, window.size()).contains(pointer)) return;
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&window, &leave);
 }
 
 /// The compositor has taken a role back, mostly because the output has gone.

@@ -64,6 +64,7 @@ private:
     void hang(QWindow& window);
     void popUp(QWindow& window, SurfaceRole& parent);
     void follow(QWindow& window);
+    void leaveIfOutside(QWindow& window);
     void lose(QWindow& window);
     void showHomeless();
     void raise(const QWidget& widget);
@@ -77,6 +78,7 @@ private:
     WaylandGlobals globals;
     QPointer<QWindow> prompter;
     QPointer<QWindow> entered;
+    QPointF pointer; ///< where it was last, in the window that it is in
     std::map<QWindow*, Hung> hung;
     std::map<QWindow*, std::unique_ptr<SurfaceRole>> popups;
     std::set<const QWindow*> watched;
