@@ -3,6 +3,7 @@
 #include "analytics/Analytics.h"
 #include "analytics/SharedInstance.h"
 #include "analytics/TelemetryDeckClient.h"
+#include "app/ActionKeys.h"
 #include "app/AppDelegate.h"
 #include "app/DarkAppearance.h"
 #include "app/ProgramSurroundings.h"
@@ -98,6 +99,7 @@ int runUntilStopped(AppDelegate& delegate, const Platform& platform, const QStri
         commands.carryOut(request, reply);
     });
     listenToLaterStarts(server, socketPath);
+    const ActionKeys keys(delegate, commands, *platform.globalKeys);
     return QApplication::exec();
 }
 

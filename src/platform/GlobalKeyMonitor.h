@@ -18,6 +18,9 @@ public:
         QString characters; ///< one lower-case letter
     };
 
+    /// What the user may give keys to in the desktop's own settings, besides a chord.
+    enum class Action { faster, slower, nextHeading, previousHeading, showOrHide };
+
     /// Listens for as long as it lives.
     class Registration {
     public:
@@ -30,6 +33,10 @@ public:
     /// up to the system. Null where that is not possible now, for instance because another program
     /// holds the chord; this is logged.
     virtual std::unique_ptr<Registration> start(const Chord& chord, Handler handler) = 0;
+
+    /// Calls back for each press of such a key, where the desktop has settings of that kind. A
+    /// later call replaces the callback.
+    virtual void onAction(std::function<void(Action action)> /*act*/) {}
 };
 
 } // namespace tessaline

@@ -16,6 +16,8 @@ struct PlatformTexts {
     QString notGranted;
     QString permissionAlternative; ///< what to do where nobody can grant it; empty: ask for it
 
+    QString reachOfGestures; ///< above the list of those that use the wheel and the buttons
+
     QString obsidianNotDetected;
     QString obsidianInvitation;
     QString pluginInstalled; ///< what to do in Obsidian now

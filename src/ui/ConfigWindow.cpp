@@ -1,7 +1,7 @@
 #include "ui/ConfigWindow.h"
 
 #include "analytics/UsageRecorder.h"
-#include "platform/AccessibilityTrust.h"
+#include "permissions/PermissionReport.h"
 #include "platform/Platform.h"
 #include "settings/AppSettings.h"
 #include "sources/ObsidianIntegration.h"
@@ -66,6 +66,7 @@ QWidget* ConfigWindow::createContent() {
     display = new DisplaySection(settings, *platform.screens, services.recorder);
     connect(display, &DisplaySection::settingsChanged, this, &ConfigWindow::announceSettings);
     connect(display, &DisplaySection::sliderReleased, this, &ConfigWindow::announceSize);
+    shortcuts = new ShortcutsGrid;
     accessibility = new AccessibilityRow;
     connect(accessibility, &AccessibilityRow::fixPressed, this, &ConfigWindow::fixAccessibility);
 
@@ -76,7 +77,7 @@ QWidget* ConfigWindow::createContent() {
              new SectionTitle(u"Enabled Integrations"_s), integrations,
              new Separator(settingsColumnWidth), sources, new Separator(settingsColumnWidth),
              new SectionTitle(u"Display"_s), display, new Separator(settingsColumnWidth),
-             new SectionTitle(u"Shortcuts"_s), new ShortcutsGrid, accessibility})
+             new SectionTitle(u"Shortcuts"_s), shortcuts, accessibility})
         column->addWidget(part);
     column->addStretch();
     return content;
@@ -121,7 +122,9 @@ void ConfigWindow::rebuildScreenPopup() {
 }
 
 void ConfigWindow::updateAccessibilityStatus() {
-    accessibility->updateStatus(platform.trust->isTrusted());
+    const auto report = permissionReport(*platform.trust);
+    accessibility->updateStatus(report);
+    shortcuts->showReach(report);
 }
 
 void ConfigWindow::obsidianToggleChanged(bool on) {

@@ -16,6 +16,7 @@ class DisplaySection;
 class IntegrationsSection;
 class ScreenManager;
 class SourceManager;
+class ShortcutsGrid;
 class SourceSection;
 
 /// The settings window. Edits the shared settings live: every change is saved and announced at
@@ -75,6 +76,7 @@ private:
     IntegrationsSection* integrations = nullptr;
     SourceSection* sources = nullptr;
     DisplaySection* display = nullptr;
+    ShortcutsGrid* shortcuts = nullptr;
     AccessibilityRow* accessibility = nullptr;
 };
 

@@ -5,6 +5,7 @@
 #include "appearance/SystemPalette.h"
 #include "controls/Labels.h"
 #include "permissions/PermissionManager.h"
+#include "permissions/PermissionReport.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/Platform.h"
 #include "platform/PlatformTexts.h"
@@ -134,7 +135,7 @@ PermissionStatusView* OnboardingWindow::createAccessibilityStatusView() {
     auto* view = new PermissionStatusView(
         platformTexts().permissionTitle,
         u"Lets you pause/resume auto-scroll and scroll through text even when Tessaline is not focused."_s,
-        platform.trust->isTrusted());
+        permissionReport(*platform.trust));
     view->setObjectName(u"accessibilityStatusView"_s);
     view->onGrantButtonClicked = [this] { permissionManager.resetAndRequestAccessibility(); };
     return view;
@@ -193,7 +194,7 @@ void OnboardingWindow::setupPermissionObserver() {
 }
 
 void OnboardingWindow::updatePermissionStatus() {
-    accessibilityStatusView->updateStatus(platform.trust->isTrusted());
+    accessibilityStatusView->updateStatus(permissionReport(*platform.trust));
 }
 
 void OnboardingWindow::toggleObsidian(bool enabled) {

@@ -9,9 +9,11 @@ class FakeAccessibilityTrust final : public AccessibilityTrust {
 public:
     bool isTrusted() const override { return trusted; }
     void requestWithPrompt() override { ++prompts; }
+    std::optional<Report> report() const override { return told; }
 
     bool trusted = false;
     int prompts = 0;
+    std::optional<Report> told; ///< none: yes or no says it all
 };
 
 } // namespace tessaline

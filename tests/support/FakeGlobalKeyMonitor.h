@@ -16,11 +16,14 @@ public:
         return std::make_unique<Registration>();
     }
 
+    void onAction(std::function<void(Action)> newAct) override { act = std::move(newAct); }
+
     void press(const KeyEvent& key) { handler(key); }
 
     bool allowed = true;
     std::vector<Chord> chords; ///< of every attempt
     Handler handler;
+    std::function<void(Action)> act;
 };
 
 } // namespace tessaline

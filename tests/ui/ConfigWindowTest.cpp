@@ -17,9 +17,12 @@ namespace tessaline {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
+using testing::IsSupersetOf;
+using testing::Not;
 using testing::Pair;
 using testing::UnorderedElementsAre;
 
@@ -236,7 +239,7 @@ TEST_F(ConfigWindowTest, ShowsThatThePermissionIsMissing) {
     EXPECT_EQ(dot().color(), SystemPalette::orange);
     EXPECT_EQ(dot().accessibleName(), u"Not available"_s);
     EXPECT_FALSE(fixButton().isVisible()) << "there is nobody to ask";
-    const auto& alternative = control<QLabel>("accessibilityAlternative");
+    const auto& alternative = control<QLabel>("accessibilityNote");
     EXPECT_TRUE(alternative.isVisible());
     EXPECT_EQ(
         alternative.text(),
@@ -250,8 +253,29 @@ TEST_F(ConfigWindowTest, ShowsThatThePermissionIsGranted) {
     EXPECT_EQ(dot().color(), SystemPalette::green);
     EXPECT_EQ(dot().accessibleName(), u"Available"_s);
     EXPECT_FALSE(fixButton().isVisible());
-    EXPECT_FALSE(control<QLabel>("accessibilityAlternative").isVisible());
+    EXPECT_FALSE(control<QLabel>("accessibilityNote").isVisible());
     EXPECT_EQ(control<QLabel>("accessibilityLabel").text(), u"Shortcuts in Any Application"_s);
+}
+
+TEST_F(ConfigWindowTest, TellsWhatThereIsOfThePermissionBetweenYesAndNo) {
+    stage.trust.trusted = true;
+    stage.trust.told = {.isWhole = false,
+                        .canBeGranted = true,
+                        .state = u"Here and there"_s,
+                        .note = u"Ask for more"_s,
+                        .reachOfGestures = u"Works over some windows:"_s};
+    shown();
+    EXPECT_EQ(dot().color(), SystemPalette::orange);
+    EXPECT_EQ(dot().accessibleName(), u"Here and there"_s);
+    EXPECT_TRUE(fixButton().isVisible());
+    EXPECT_EQ(control<QLabel>("accessibilityNote").text(), u"Ask for more"_s);
+    EXPECT_THAT(texts(), IsSupersetOf({u"Works over some windows:"_s, u"Ctrl + Scroll click"_s}));
+    stage.trust.told->gesturesAreSeen = false;
+    stage.trust.told->reachOfGestures = u"Works over the prompter:"_s;
+    window().refreshUI();
+    EXPECT_THAT(texts(), Contains(u"Works over the prompter:"_s));
+    EXPECT_THAT(texts(), Contains(u"Ctrl + Scroll"_s));
+    EXPECT_THAT(texts(), Not(Contains(u"Ctrl + Scroll click"_s)));
 }
 
 TEST_F(ConfigWindowTest, LooksAtThePermissionWhenItBecomesActive) {

@@ -116,6 +116,7 @@ void Shortcuts::toggleScroll(const KeyEvent& key) {
 }
 
 void Shortcuts::setupGlobalScrollEventTap() {
+    if (const auto report = platform.trust->report(); report && !report->gesturesAreSeen) return;
     const bool isRefused = scrollEventTap.makeIfNeeded(now()) == EventTapLife::Attempt::refused;
     if (!isRefused || std::exchange(tapFailureReported, true)) return;
     std::cout << "Failed to create scroll event tap" << std::endl;

@@ -5,6 +5,7 @@
 #include "platform/linux/ForeignPasteboard.h"
 #include "platform/linux/desktop/ConnectorIdentity.h"
 #include "platform/linux/desktop/DesktopStatusArea.h"
+#include "platform/linux/desktop/portal/AddShortcutsPortal.h"
 #include "platform/linux/wayland/FrameDisplayLinkMaker.h"
 #include "platform/linux/wayland/LayerShellOffer.h"
 #include "platform/linux/wayland/LayerWindowTraits.h"
@@ -15,7 +16,6 @@
 #include "platform/qt/QtScreens.h"
 #include "platform/unsupported/UnsupportedAccessibilityTrust.h"
 #include "platform/unsupported/UnsupportedEventTapMaker.h"
-#include "platform/unsupported/UnsupportedGlobalKeyMonitor.h"
 #include "platform/unsupported/UnsupportedNativeLook.h"
 
 #include <QGuiApplication>
@@ -52,10 +52,10 @@ void WaylandDisplayServer::addAdapters(Platform& platform) const {
         std::make_unique<LayerWindowTraits>(std::make_unique<SurfaceRoles>(), frames);
     platform.pasteboard = makePasteboard(platform);
     platform.trust = std::make_unique<UnsupportedAccessibilityTrust>();
-    platform.globalKeys = std::make_unique<UnsupportedGlobalKeyMonitor>();
     platform.eventTaps = std::make_unique<UnsupportedEventTapMaker>();
     platform.look = std::make_unique<UnsupportedNativeLook>();
     platform.statusArea = std::make_unique<DesktopStatusArea>([] { return false; });
+    addShortcutsPortal(platform, GestureReach::none);
 }
 
 } // namespace tessaline

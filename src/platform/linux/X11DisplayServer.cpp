@@ -5,6 +5,7 @@
 #include "platform/linux/ForeignPasteboard.h"
 #include "platform/linux/desktop/ConnectorIdentity.h"
 #include "platform/linux/desktop/DesktopStatusArea.h"
+#include "platform/linux/desktop/portal/AddShortcutsPortal.h"
 #include "platform/linux/x11/X11AccessibilityTrust.h"
 #include "platform/linux/x11/X11DarkTitleBars.h"
 #include "platform/linux/x11/X11EventTapMaker.h"
@@ -40,6 +41,7 @@ void X11DisplayServer::addAdapters(Platform& platform) const {
     platform.look = std::make_unique<X11DarkTitleBars>(connection);
     platform.statusArea =
         std::make_unique<DesktopStatusArea>([server = connection] { return hasX11Tray(server); });
+    if (xWayland) addShortcutsPortal(platform, GestureReach::xWindows);
 }
 
 } // namespace tessaline

@@ -14,6 +14,7 @@ const PlatformTexts& platformTexts() {
         .granted = u"Granted"_s,
         .notGranted = u"Not granted"_s,
         .permissionAlternative = {},
+        .reachOfGestures = u"Works from any app:"_s,
         .obsidianNotDetected = u"Obsidian not detected on this Mac"_s,
         .obsidianInvitation = u"Send notes from Obsidian straight into the notch"_s,
         .pluginInstalled =

@@ -18,14 +18,13 @@ AccessibilityRow::AccessibilityRow(QWidget* parent)
     , accessibilityLabel(
           makeLabel(platformTexts().permissionLabel, systemFont(13), SystemPalette::label))
     , accessibilityFixButton(new BezelButton(u"Grant Access"_s, 11))
-    , alternativeLabel(makeWrappingLabel(platformTexts().permissionAlternative, systemFont(11),
-                                         SystemPalette::secondaryLabel)) {
+    , noteLabel(makeWrappingLabel({}, systemFont(11), SystemPalette::secondaryLabel)) {
     setFixedWidth(settingsColumnWidth);
     accessibilityDot->setObjectName(u"accessibilityDot"_s);
     accessibilityLabel->setObjectName(u"accessibilityLabel"_s);
     accessibilityFixButton->setObjectName(u"accessibilityFixButton"_s);
     accessibilityFixButton->setAccessibleName(u"Grant Access for Accessibility"_s);
-    alternativeLabel->setObjectName(u"accessibilityAlternative"_s);
+    noteLabel->setObjectName(u"accessibilityNote"_s);
     connect(accessibilityFixButton, &QPushButton::clicked, this, &AccessibilityRow::fixPressed);
     auto* row = new QHBoxLayout;
     row->setSpacing(6);
@@ -37,16 +36,15 @@ AccessibilityRow::AccessibilityRow(QWidget* parent)
     row->addStrut(accessibilityFixButton->sizeHint().height());
     QVBoxLayout* column = layOutColumn(*this, 4);
     column->addLayout(row);
-    column->addWidget(alternativeLabel);
+    column->addWidget(noteLabel);
 }
 
-void AccessibilityRow::updateStatus(bool trusted) {
-    const PlatformTexts& texts = platformTexts();
-    accessibilityDot->setStatus(trusted ? SystemPalette::green : SystemPalette::orange,
-                                trusted ? texts.granted : texts.notGranted);
-    const bool canBeGranted = texts.permissionAlternative.isEmpty();
-    accessibilityFixButton->setVisible(!trusted && canBeGranted);
-    alternativeLabel->setVisible(!trusted && !canBeGranted);
+void AccessibilityRow::updateStatus(const AccessibilityTrust::Report& report) {
+    accessibilityDot->setStatus(report.isWhole ? SystemPalette::green : SystemPalette::orange,
+                                report.state);
+    accessibilityFixButton->setVisible(report.canBeGranted);
+    noteLabel->setText(report.note);
+    noteLabel->setVisible(!report.note.isEmpty());
 }
 
 } // namespace tessaline

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/AccessibilityTrust.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -9,8 +11,8 @@ namespace tessaline {
 
 class StatusDot;
 
-/// Tells whether the Accessibility permission is granted. While it is not, a button asks for it, or
-/// a text says what to do where nobody can grant it.
+/// Tells whether the Accessibility permission is granted. While it is not, a button asks for it
+/// where somebody can grant it; a text says what else there is to know or to do.
 class AccessibilityRow : public QWidget {
     Q_OBJECT
 
@@ -18,7 +20,7 @@ public:
     explicit AccessibilityRow(QWidget* parent = nullptr);
 
     /// Shows the state.
-    void updateStatus(bool trusted);
+    void updateStatus(const AccessibilityTrust::Report& report);
 
 Q_SIGNALS:
     /// The user asks for the permission.
@@ -28,7 +30,7 @@ private:
     StatusDot* accessibilityDot = nullptr;
     QLabel* accessibilityLabel = nullptr;
     QPushButton* accessibilityFixButton = nullptr;
-    QLabel* alternativeLabel = nullptr;
+    QLabel* noteLabel = nullptr;
 };
 
 } // namespace tessaline

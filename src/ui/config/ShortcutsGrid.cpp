@@ -7,6 +7,10 @@
 #include "ui/controls/Rows.h"
 
 #include <QGridLayout>
+#include <QLabel>
+
+#include <algorithm>
+#include <iterator>
 
 namespace tessaline {
 
@@ -20,7 +24,10 @@ constexpr int spacerHeight = 6;
 
 } // namespace
 
-ShortcutsGrid::ShortcutsGrid(QWidget* parent) : QWidget(parent) {
+ShortcutsGrid::ShortcutsGrid(QWidget* parent)
+    : QWidget(parent)
+    , reachLabel(makeLabel(platformTexts().reachOfGestures, systemFont(10),
+                           SystemPalette::tertiaryLabel)) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins({});
     grid->setVerticalSpacing(4);
@@ -31,16 +38,22 @@ ShortcutsGrid::ShortcutsGrid(QWidget* parent) : QWidget(parent) {
     auto* spacer = new QWidget;
     spacer->setFixedHeight(spacerHeight);
     grid->addWidget(spacer, grid->rowCount(), 0, 1, columns);
-    grid->addWidget(
-        makeLabel(u"Works from any app:"_s, systemFont(10), SystemPalette::tertiaryLabel),
-        grid->rowCount(), 0, 1, columns, Qt::AlignLeading);
+    grid->addWidget(reachLabel, grid->rowCount(), 0, 1, columns, Qt::AlignLeading);
     makeRow(*grid, texts.scrollKeys, u"Scroll up or down"_s);
-    makeRow(*grid, texts.scrollClickKeys, u"Toggle auto-scroll"_s);
-    makeRow(*grid, texts.twoFingerTapKeys, u"Toggle auto-scroll"_s);
+    for (const QString& keys : {texts.scrollClickKeys, texts.twoFingerTapKeys})
+        std::ranges::copy(makeRow(*grid, keys, u"Toggle auto-scroll"_s),
+                          std::back_inserter(clickRows));
     setColumnWidths(*grid);
 }
 
-void ShortcutsGrid::makeRow(QGridLayout& grid, const QString& key, const QString& desc) {
+void ShortcutsGrid::showReach(const AccessibilityTrust::Report& report) {
+    reachLabel->setText(report.reachOfGestures);
+    for (QWidget* part : clickRows)
+        part->setVisible(report.gesturesAreSeen);
+}
+
+std::vector<QWidget*> ShortcutsGrid::makeRow(QGridLayout& grid, const QString& key,
+                                             const QString& desc) {
     const int row = grid.rowCount();
     QLabel* keyLabel = makeLabel(key, monospacedFont(11, QFont::Medium), SystemPalette::label);
     QLabel* arrow = makeLabel(u"→"_s, systemFont(11), SystemPalette::tertiaryLabel);
@@ -48,6 +61,7 @@ void ShortcutsGrid::makeRow(QGridLayout& grid, const QString& key, const QString
     grid.addWidget(keyLabel, row, 0, Qt::AlignLeading);
     grid.addWidget(arrow, row, 1, Qt::AlignLeading);
     grid.addWidget(description, row, 2, Qt::AlignLeading);
+    return {keyLabel, arrow, description};
 }
 
 /// The keys' column gives way to the descriptions where fonts run wide.

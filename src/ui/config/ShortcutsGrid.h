@@ -1,8 +1,13 @@
 #pragma once
 
+#include "platform/AccessibilityTrust.h"
+
 #include <QWidget>
 
+#include <vector>
+
 class QGridLayout;
+class QLabel;
 
 namespace tessaline {
 
@@ -13,9 +18,15 @@ class ShortcutsGrid : public QWidget {
 public:
     explicit ShortcutsGrid(QWidget* parent = nullptr);
 
+    /// Says over which windows those of the wheel and the buttons work, and lists those that do.
+    void showReach(const AccessibilityTrust::Report& report);
+
 private:
-    void makeRow(QGridLayout& grid, const QString& key, const QString& desc);
+    std::vector<QWidget*> makeRow(QGridLayout& grid, const QString& key, const QString& desc);
     void setColumnWidths(QGridLayout& grid);
+
+    QLabel* reachLabel;
+    std::vector<QWidget*> clickRows;
 };
 
 } // namespace tessaline

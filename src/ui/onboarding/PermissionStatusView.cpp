@@ -21,7 +21,8 @@ constexpr int leastButtonWidth = 100;
 } // namespace
 
 PermissionStatusView::PermissionStatusView(const QString& title, const QString& description,
-                                           bool isGranted, QWidget* parent)
+                                           const AccessibilityTrust::Report& report,
+                                           QWidget* parent)
     : Card(parent)
     , statusIndicator(new StatusDot(12))
     , titleLabel(makeLabel(title, systemFont(14, QFont::DemiBold), SystemPalette::label))
@@ -46,19 +47,16 @@ PermissionStatusView::PermissionStatusView(const QString& title, const QString& 
     row->addWidget(statusIndicator);
     row->addLayout(texts, 1);
     row->addWidget(grantButton);
-    updateStatus(isGranted);
+    updateStatus(report);
 }
 
-void PermissionStatusView::updateStatus(bool isGranted) {
-    const PlatformTexts& texts = platformTexts();
-    statusIndicator->setStatus(isGranted ? SystemPalette::green : SystemPalette::orange,
-                               isGranted ? texts.granted : texts.notGranted);
-    grantButton->setText(isGranted ? texts.permissionGranted : u"Grant Access"_s);
-    grantButton->setEnabled(!isGranted);
-    const bool isOutOfReach = !isGranted && !texts.permissionAlternative.isEmpty();
-    grantButton->setVisible(!isOutOfReach);
-    descriptionLabel->setText(isOutOfReach ? purpose + u'\n' + texts.permissionAlternative
-                                           : purpose);
+void PermissionStatusView::updateStatus(const AccessibilityTrust::Report& report) {
+    statusIndicator->setStatus(report.isWhole ? SystemPalette::green : SystemPalette::orange,
+                               report.state);
+    grantButton->setText(report.isWhole ? platformTexts().permissionGranted : u"Grant Access"_s);
+    grantButton->setEnabled(!report.isWhole);
+    grantButton->setVisible(report.isWhole || report.canBeGranted);
+    descriptionLabel->setText(report.note.isEmpty() ? purpose : purpose + u'\n' + report.note);
 }
 
 void PermissionStatusView::grantButtonClicked() {

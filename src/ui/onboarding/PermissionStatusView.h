@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/AccessibilityTrust.h"
 #include "ui/onboarding/Card.h"
 
 #include <QString>
@@ -18,12 +19,12 @@ class PermissionStatusView : public Card {
     Q_OBJECT
 
 public:
-    PermissionStatusView(const QString& title, const QString& description, bool isGranted,
-                         QWidget* parent = nullptr);
+    PermissionStatusView(const QString& title, const QString& description,
+                         const AccessibilityTrust::Report& report, QWidget* parent = nullptr);
 
     /// Shows the state. Granted, the button says so and cannot be pressed. Where nobody can grant
-    /// it, there is no button; the description then says what to do instead.
-    void updateStatus(bool isGranted);
+    /// it, there is no button. What else there is to know or to do stands below the description.
+    void updateStatus(const AccessibilityTrust::Report& report);
 
     /// Called when the user asks for the permission.
     std::function<void()> onGrantButtonClicked;

@@ -179,6 +179,13 @@ TEST_F(ShortcutsPermission, ThePollEndsWithTheShortcuts) {
     EXPECT_EQ(eventTaps.liveTaps, 0);
 }
 
+TEST_F(ShortcutsPermission, AsksForNoTapWhereGesturesAreNotSeen) {
+    trust.told = AccessibilityTrust::Report{.isWhole = true, .gesturesAreSeen = false};
+    setUpTrusted();
+    EXPECT_EQ(globalKeys.chords.size(), 1U);
+    EXPECT_EQ(eventTaps.attempts, 0);
+}
+
 } // namespace
 
 } // namespace tessaline

@@ -15,6 +15,7 @@ const PlatformTexts& platformTexts() {
         .notGranted = u"Not available"_s,
         .permissionAlternative =
             u"Not available on this desktop: in its keyboard settings, bind a key to “tessaline ctl toggle” instead."_s,
+        .reachOfGestures = u"Works from any app:"_s,
         .obsidianNotDetected = u"Obsidian not detected on this computer"_s,
         .obsidianInvitation = u"Send notes from Obsidian straight into the prompter"_s,
         .pluginInstalled =
