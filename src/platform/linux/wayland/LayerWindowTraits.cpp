@@ -2,10 +2,11 @@
 
 #include "platform/PlatformLog.h"
 #include "platform/linux/wayland/QtWaylandObjects.h"
-#include "platform/linux/wayland/SurfaceHole.h"
 #include "platform/qt/WidgetFrame.h"
 
+#include <QBackingStore>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QWidget>
 #include <QWindow>
 
@@ -31,6 +32,23 @@ void restrictInput(wl_surface* surface, const std::optional<QRect>& area) {
     wl_surface_set_input_region(surface, region);
     if (region) wl_region_destroy(region);
     wl_surface_commit(surface);
+}
+
+/// To a compositor a mask is about the mouse alone, and Qt leaves there what was painted before.
+void clearWhatIsMasked(const QWidget& window) {
+    QBackingStore* store = window.backingStore();
+    const QRegion hole = QRegion(window.rect()) - window.mask();
+    if (window.mask().isEmpty() || hole.isEmpty() || !store || !window.windowHandle()->isExposed())
+        return;
+    store->beginPaint(hole);
+    {
+        QPainter painter(store->paintDevice());
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        for (const QRect& part : hole)
+            painter.fillRect(part, Qt::black);
+    }
+    store->endPaint();
+    store->flush(hole, window.windowHandle());
 }
 
 } // namespace
@@ -83,9 +101,7 @@ void LayerWindowTraits::follow(wl_surface* surface) {
 }
 
 void LayerWindowTraits::setInputArea(QWidget& window, const std::optional<QRect>& area) {
-    // It was given its shape just now.
-    if (!hole) hole = new SurfaceHole(window);
-    hole->update();
+    clearWhatIsMasked(window); // it was given its shape just now
     const bool changes = inputArea != area;
     inputArea = area;
     if (!area && !changes) return;

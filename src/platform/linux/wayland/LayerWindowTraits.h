@@ -12,8 +12,6 @@
 
 namespace tessaline {
 
-class SurfaceHole;
-
 /// Traits by means of the compositor's layers: the prompter hangs over everything where it is put.
 ///
 /// The keyboard comes only to who clicks into the prompter: while it is here, the compositor gives
@@ -47,7 +45,6 @@ private:
     std::unique_ptr<SurfaceRoles> roles;
     std::shared_ptr<SurfaceFrames> frames;
     QPointer<QWindow> prompter;
-    QPointer<SurfaceHole> hole; ///< a part of the prompter
     std::optional<QRect> inputArea;
     bool reportedCapture = false;
     QTimer insisting;

@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include <qpa/qplatformnativeinterface.h>
+#include <qpa/qplatformwindow.h>
 
 namespace tessaline {
 
@@ -37,6 +38,10 @@ wl_output* waylandOutput(QScreen& screen) {
     if (screen.name().isEmpty()) return nullptr;
     return static_cast<wl_output*>(
         QGuiApplication::platformNativeInterface()->nativeResourceForScreen("output", &screen));
+}
+
+void withdrawSurface(QWindow& window) {
+    if (QPlatformWindow* handle = window.handle()) handle->setVisible(false);
 }
 
 std::uint32_t waylandInputSerial() {

@@ -25,4 +25,8 @@ wl_output* waylandOutput(QScreen& screen);   ///< null for the stand-in of a mis
 /// The serial number of the user's last press.
 std::uint32_t waylandInputSerial();
 
+/// Takes a window's surface away without its being hidden: nothing is painted until it was hidden
+/// and is shown again.
+void withdrawSurface(QWindow& window);
+
 } // namespace tessaline

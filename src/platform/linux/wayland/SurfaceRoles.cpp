@@ -167,6 +167,7 @@ void SurfaceRoles::cover(const QWindow& upper) {
         if (isCovered(*window, upper)) {
             covered.insert(window);
             each = hung.erase(each);
+            withdrawSurface(*window);
         } else {
             ++each;
         }
@@ -210,6 +211,7 @@ void SurfaceRoles::lose(QWindow& window) {
     end(window);
     if (!window.isVisible()) return;
     homeless.insert(&window);
+    withdrawSurface(window);
     QMetaObject::invokeMethod(this, &SurfaceRoles::showHomeless, Qt::QueuedConnection);
 }
 
