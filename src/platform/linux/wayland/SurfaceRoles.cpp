@@ -94,8 +94,12 @@ bool SurfaceRoles::eventFilter(QObject* object, QEvent* event) {
         entered = &window;
         pointer = static_cast<const QSinglePointEvent*>(event)->position();
         break;
+    case QEvent::MouseButtonPress:
+        takeKeyboard(window);
+        break;
     case QEvent::Leave:
         if (entered == &window) entered = nullptr;
+        giveKeyboardBack(window);
         break;
     default:
         break;
@@ -245,6 +249,17 @@ QWindow* SurfaceRoles::parentOf(const QWindow& popup) const {
     if (QWindow* parent = popup.transientParent(); roleOf(parent)) return parent;
     if (roleOf(entered)) return entered;
     return prompter;
+}
+
+/// Where the compositor gives it to nobody else until it is given back, whatever is clicked.
+void SurfaceRoles::giveKeyboardBack(QWindow& window) {
+    if (&window == prompter || globals.offersKeyboardOnDemand()) return;
+    if (popups.empty() && QGuiApplication::mouseButtons() == Qt::NoButton)
+        setKeyboard(window, LayerSurface::Keyboard::none);
+}
+
+void SurfaceRoles::takeKeyboard(QWindow& window) {
+    if (&window != prompter) setKeyboard(window, firstKeyboard(window));
 }
 
 LayerSurface::Keyboard SurfaceRoles::firstKeyboard(const QWindow& window) const {

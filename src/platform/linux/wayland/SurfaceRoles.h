@@ -73,6 +73,8 @@ private:
     bool isCovered(const QWindow& lower, const QWindow& upper) const;
     QWindow* parentOf(const QWindow& popup) const;
     SurfaceRole* roleOf(QWindow* window) const;
+    void takeKeyboard(QWindow& window);
+    void giveKeyboardBack(QWindow& window);
     LayerSurface::Keyboard firstKeyboard(const QWindow& window) const;
 
     WaylandGlobals globals;

@@ -13,6 +13,8 @@ namespace tessaline {
 namespace {
 
 constexpr std::uint32_t newestLayerShell = 4;
+/// Came into compositors with the keyboard on demand as it is meant.
+constexpr const char* signOfRecency = "wp_single_pixel_buffer_manager_v1";
 
 constexpr xdg_wm_base_listener pings{
     .ping = [](void* /*data*/, xdg_wm_base* base, std::uint32_t serial) {
@@ -53,8 +55,9 @@ WaylandGlobals::~WaylandGlobals() {
 }
 
 bool WaylandGlobals::offersKeyboardOnDemand() const {
-    return layers && zwlr_layer_shell_v1_get_version(layers) >=
-                         ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND_SINCE_VERSION;
+    return isRecent && layers &&
+           zwlr_layer_shell_v1_get_version(layers) >=
+               ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND_SINCE_VERSION;
 }
 
 void WaylandGlobals::bind(wl_registry* registry, std::uint32_t name, const char* interface,
@@ -65,6 +68,8 @@ void WaylandGlobals::bind(wl_registry* registry, std::uint32_t name, const char*
     } else if (std::strcmp(interface, xdg_wm_base_interface.name) == 0) {
         windows = bound<xdg_wm_base>(registry, name, xdg_wm_base_interface, 1);
         xdg_wm_base_add_listener(windows, &pings, nullptr);
+    } else if (std::strcmp(interface, signOfRecency) == 0) {
+        isRecent = true;
     }
 }
 

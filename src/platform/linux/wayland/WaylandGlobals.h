@@ -22,7 +22,8 @@ public:
     zwlr_layer_shell_v1* layerShell() const { return layers; } ///< null where it is not offered
     xdg_wm_base* windowBase() const { return windows; }        ///< for popups
 
-    /// Whether a surface can take part in who has the keyboard as windows do.
+    /// Whether a surface can take part in who has the keyboard as windows do. Compositors of the
+    /// time when that was new say so and keep the keyboard here.
     bool offersKeyboardOnDemand() const;
 
 private:
@@ -32,6 +33,7 @@ private:
     wl_display* waylandDisplay;
     zwlr_layer_shell_v1* layers = nullptr;
     xdg_wm_base* windows = nullptr;
+    bool isRecent = false;
 };
 
 } // namespace tessaline
