@@ -15,7 +15,10 @@
 #include "platform/linux/x11/X11Tray.h"
 #include "platform/linux/x11/X11WindowTraits.h"
 #include "platform/linux/x11/XWayland.h"
+#include "platform/linux/x11/XWaylandWheel.h"
 #include "platform/qt/QtScreens.h"
+
+#include <QGuiApplication>
 
 namespace tessaline {
 
@@ -41,7 +44,9 @@ void X11DisplayServer::addAdapters(Platform& platform) const {
     platform.look = std::make_unique<X11DarkTitleBars>(connection);
     platform.statusArea =
         std::make_unique<DesktopStatusArea>([server = connection] { return hasX11Tray(server); });
-    if (xWayland) addShortcutsPortal(platform, GestureReach::xWindows);
+    if (!xWayland) return;
+    addShortcutsPortal(platform, GestureReach::xWindows);
+    new XWaylandWheel(*qGuiApp);
 }
 
 } // namespace tessaline

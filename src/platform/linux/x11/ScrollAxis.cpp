@@ -13,17 +13,25 @@ constexpr double wholeLineTolerance = 1e-4; // positions come as fixed-point num
 
 } // namespace
 
-ScrollAxis::ScrollAxis(double axisIncrement) : increment(axisIncrement) {}
+ScrollAxis::ScrollAxis(double axisIncrement, Source axisSource)
+    : increment(axisIncrement), source(axisSource) {}
 
 void ScrollAxis::restartAt(double position) {
     value = position;
 }
 
-ScrollAxis::Delta ScrollAxis::moveTo(double position) {
+ScrollAxis::Delta ScrollAxis::moveTo(double position, std::uint32_t time) {
     const double lines = (value - position) / increment;
     value = position;
+    if (source == Source::xWayland) return byXWayland(lines, time);
     if (std::abs(lines - std::round(lines)) > wholeLineTolerance) isSmooth = true;
     if (isSmooth) return {.isPrecise = true, .amount = lines * pointsPerIncrement};
+    return {.isPrecise = false, .amount = std::round(lines)};
+}
+
+ScrollAxis::Delta ScrollAxis::byXWayland(double lines, std::uint32_t time) {
+    if (fingers.moved(lines, time))
+        return {.isPrecise = true, .amount = lines * XWaylandFingers::pointsPerNotch};
     return {.isPrecise = false, .amount = std::round(lines)};
 }
 

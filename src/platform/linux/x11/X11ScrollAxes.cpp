@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string_view>
 
 namespace tessaline {
 
@@ -37,6 +38,14 @@ std::optional<double> valuatorValue(const xcb_input_button_press_event_t& event,
     for (unsigned bit = 0; bit < valuator; ++bit)
         index += isSet(mask, bit) ? 1 : 0;
     return toDouble(xcb_input_button_press_axisvalues(&event)[index]);
+}
+
+/// XWayland names its devices after itself.
+ScrollAxis::Source sourceOf(const xcb_input_xi_device_info_t& device) {
+    const std::string_view name(xcb_input_xi_device_info_name(&device),
+                                std::size_t(xcb_input_xi_device_info_name_length(&device)));
+    return name.starts_with("xwayland-") ? ScrollAxis::Source::xWayland
+                                         : ScrollAxis::Source::device;
 }
 
 struct VerticalAxis {
@@ -83,9 +92,10 @@ void X11ScrollAxes::refresh(const X11Connection& connection) {
         const auto vertical = verticalAxisOf(*i.data);
         if (!vertical) continue;
         const auto known = devices.find(i.data->deviceid);
-        Device device = known != devices.end() && known->second.valuator == vertical->valuator
-                            ? known->second
-                            : Device{vertical->valuator, ScrollAxis(vertical->increment)};
+        Device device =
+            known != devices.end() && known->second.valuator == vertical->valuator
+                ? known->second
+                : Device{vertical->valuator, ScrollAxis(vertical->increment, sourceOf(*i.data))};
         device.axis.restartAt(vertical->position);
         present.emplace(i.data->deviceid, device);
     }
@@ -98,7 +108,7 @@ X11ScrollAxes::scrolledBy(const xcb_input_button_press_event_t& motion) {
     if (device == devices.end()) return std::nullopt;
     const auto position = valuatorValue(motion, device->second.valuator);
     if (!position) return std::nullopt;
-    return device->second.axis.moveTo(*position);
+    return device->second.axis.moveTo(*position, motion.time);
 }
 
 } // namespace tessaline
