@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 
 namespace tessaline {
@@ -8,6 +10,7 @@ namespace tessaline {
 struct ScreenIdentity {
     std::uint32_t id = 0; ///< as in `Screen`
     bool builtIn = false;
+    QString name{}; ///< empty: as the toolkit calls it
 };
 
 } // namespace tessaline

@@ -52,6 +52,14 @@ protected:
         });
 };
 
+TEST_F(QtScreensTest, CallsScreensAsTheSystemDoesWhereQtKnowsNoBetter) {
+    const QtScreens screens(
+        notifications, queue,
+        [](const QScreen&) { return ScreenIdentity{.id = 7, .name = QStringLiteral("eDP-1")}; },
+        nullptr);
+    EXPECT_EQ(screens.all().front().name, QStringLiteral("eDP-1"));
+}
+
 TEST_F(QtScreensTest, DescribesEveryScreen) {
     const auto screens = makeScreens();
     const auto all = screens->all();

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "platform/linux/ClockDisplayLinkMaker.h"
 #include "platform/linux/ForeignPasteboard.h"
+#include "platform/linux/XWaylandScreens.h"
 #include "platform/linux/desktop/ConnectorIdentity.h"
 #include "platform/linux/desktop/DesktopStatusArea.h"
 #include "platform/linux/desktop/portal/AddShortcutsPortal.h"
@@ -29,8 +30,9 @@ X11DisplayServer::X11DisplayServer(xcb_connection_t* qtConnection) : connection(
 void X11DisplayServer::addAdapters(Platform& platform) const {
     const bool xWayland = isXWayland(connection);
     platform.windowSystem = xWayland ? u"xwayland"_s : u"x11"_s;
-    platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,
-                                                   identifyByConnector, X11ReservedEdges::open());
+    platform.screens = std::make_unique<QtScreens>(
+        *platform.notifications, *platform.mainQueue,
+        xWayland ? identifyByCompositor(platform) : identifyByConnector, X11ReservedEdges::open());
     platform.displayLinks = std::make_unique<ClockDisplayLinkMaker>();
     platform.windowTraits =
         std::make_unique<X11WindowTraits>(connection, xWayland ? X11WindowTraits::Server::xWayland

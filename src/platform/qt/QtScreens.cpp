@@ -69,13 +69,13 @@ std::optional<Screen> QtScreens::mainScreen() const {
 
 Screen QtScreens::describe(const QScreen& screen) const {
     const QRect primary = QGuiApplication::primaryScreen()->geometry();
-    const auto [id, builtIn] = identify(screen);
+    const ScreenIdentity identity = identify(screen);
     const Rect frame = fromQtCoordinates(screen.geometry(), primary);
-    return {.id = id,
-            .name = screen.name(),
+    return {.id = identity.id,
+            .name = identity.name.isEmpty() ? screen.name() : identity.name,
             .frame = frame,
             .visibleFrame = visiblePartOf(frame, screen, primary),
-            .builtIn = builtIn,
+            .builtIn = identity.builtIn,
             .refreshRate = screen.refreshRate()};
 }
 
