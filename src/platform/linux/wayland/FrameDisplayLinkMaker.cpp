@@ -42,4 +42,8 @@ std::unique_ptr<DisplayLink> FrameDisplayLinkMaker::make(DisplayLink::Callback c
     return std::make_unique<FrameDisplayLink>(frames, std::move(callback));
 }
 
+void FrameDisplayLinkMaker::setRefreshRate(double hertz) {
+    frames->setRefreshRate(hertz);
+}
+
 } // namespace tessaline

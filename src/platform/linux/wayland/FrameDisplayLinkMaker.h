@@ -16,7 +16,7 @@ public:
     explicit FrameDisplayLinkMaker(std::shared_ptr<SurfaceFrames> frames);
 
     std::unique_ptr<DisplayLink> make(DisplayLink::Callback callback) override;
-    void setRefreshRate(double /*hertz*/) override {}
+    void setRefreshRate(double hertz) override;
 
 private:
     std::shared_ptr<SurfaceFrames> frames;

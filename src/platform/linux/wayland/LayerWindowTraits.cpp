@@ -64,7 +64,7 @@ LayerWindowTraits::LayerWindowTraits(std::unique_ptr<SurfaceRoles> surfaceRoles,
 
 LayerWindowTraits::~LayerWindowTraits() {
     roles->onPrompterSurface = {};
-    frames->setSurface(nullptr);
+    frames->setSurface(nullptr, nullptr);
 }
 
 Qt::WindowFlags LayerWindowTraits::creationFlags() const {
@@ -86,6 +86,7 @@ Rect LayerWindowTraits::frame(const QWidget& window) const {
 }
 
 void LayerWindowTraits::adopt(QWidget& window) {
+    prompterWidget = &window;
     prompter = window.windowHandle();
     roles->setPrompter(prompter);
 }
@@ -95,7 +96,7 @@ void LayerWindowTraits::release(QWidget& window) {
 }
 
 void LayerWindowTraits::follow(wl_surface* surface) {
-    frames->setSurface(surface);
+    frames->setSurface(surface, prompterWidget);
     // A new surface takes input everywhere.
     if (surface && inputArea) restrictInput(surface, inputArea);
 }

@@ -44,6 +44,7 @@ private:
 
     std::unique_ptr<SurfaceRoles> roles;
     std::shared_ptr<SurfaceFrames> frames;
+    QPointer<QWidget> prompterWidget;
     QPointer<QWindow> prompter;
     std::optional<QRect> inputArea;
     bool reportedCapture = false;

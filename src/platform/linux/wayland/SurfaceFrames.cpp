@@ -1,5 +1,10 @@
 #include "platform/linux/wayland/SurfaceFrames.h"
 
+#include "platform/linux/RefreshSchedule.h"
+
+#include <QEvent>
+#include <QWidget>
+
 #include <wayland-client.h>
 
 #include <algorithm>
@@ -12,6 +17,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr std::chrono::milliseconds longestWait = 1s;
+
 std::uint64_t monotonicNow() {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return std::uint64_t(std::chrono::nanoseconds(now).count());
@@ -20,36 +27,57 @@ std::uint64_t monotonicNow() {
 } // namespace
 
 SurfaceFrames::SurfaceFrames() {
-    withoutFrames.setInterval(1s);
-    connect(&withoutFrames, &QTimer::timeout, this,
-            [this] { tell(clock.timeWithoutFrame(monotonicNow())); });
+    setRefreshRate(0.0);
+    withoutFrame.setSingleShot(true);
+    withoutFrame.setTimerType(Qt::PreciseTimer);
+    connect(&withoutFrame, &QTimer::timeout, this, &SurfaceFrames::tellWithoutFrame);
 }
 
 SurfaceFrames::~SurfaceFrames() {
     forget();
 }
 
-void SurfaceFrames::setSurface(wl_surface* surface) {
+void SurfaceFrames::setSurface(wl_surface* surface, QWidget* window) {
     if (followed == surface) return;
     forget();
+    if (painted) painted->removeEventFilter(this);
     followed = surface;
-    if (!listeners.empty()) request();
+    painted = window;
+    if (painted) painted->installEventFilter(this);
+    if (listeners.empty()) return;
+    request();
+    waitForFrame();
+}
+
+void SurfaceFrames::setRefreshRate(double hertz) {
+    const auto period = std::chrono::duration<double>(1.0 / usableRefreshRate(hertz));
+    refreshPeriod = std::chrono::ceil<std::chrono::milliseconds>(period);
 }
 
 void SurfaceFrames::add(const void* key, Listener listener) {
     listeners.push_back({key, std::move(listener)});
     if (listeners.size() > 1) return;
-    withoutFrames.start();
     request();
+    waitForFrame();
 }
 
 void SurfaceFrames::remove(const void* key) {
     std::erase_if(listeners, [key](const Listening& each) { return each.key == key; });
     if (!listeners.empty()) return;
-    withoutFrames.stop();
+    withoutFrame.stop();
     forget();
 }
 
+/// The window is about to be painted, and that to be committed.
+bool SurfaceFrames::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::UpdateRequest && awaited) {
+        isComing = true;
+        waitForFrame();
+    }
+    return false;
+}
+
+/// It is a part of the next commit, which is Qt's.
 void SurfaceFrames::request() {
     if (!followed || awaited) return;
     static constexpr wl_callback_listener listener{
@@ -58,19 +86,29 @@ void SurfaceFrames::request() {
         }};
     awaited = wl_surface_frame(followed);
     wl_callback_add_listener(awaited, &listener, this);
-    // The next frame may have nothing new to show, and be none of Qt's.
-    wl_surface_commit(followed);
+    isComing = false;
 }
 
 void SurfaceFrames::forget() {
     if (awaited) wl_callback_destroy(std::exchange(awaited, nullptr));
+    isComing = false;
 }
 
 void SurfaceFrames::arrive(std::uint32_t milliseconds) {
     forget();
-    withoutFrames.start();
     request();
+    waitForFrame();
     tell(clock.timeOfFrame(milliseconds, monotonicNow()));
+}
+
+void SurfaceFrames::tellWithoutFrame() {
+    waitForFrame();
+    tell(clock.timeWithoutFrame(monotonicNow()));
+}
+
+void SurfaceFrames::waitForFrame() {
+    const bool mayBeShown = awaited && !isComing;
+    withoutFrame.start(mayBeShown ? refreshPeriod : longestWait);
 }
 
 void SurfaceFrames::tell(std::uint64_t time) {
