@@ -17,17 +17,20 @@ class DesktopTestCase(unittest.TestCase):
     """Gives a scenario its desktop, and shows logs and a screenshot when it fails. Screenshots go to
     the folder that TESSALINE_ARTIFACTS names, if any."""
 
+    desktop_class = Desktop
     desktop_options = {}
     accessible = False
 
     def setUp(self):
-        self.desktop = pool.take(**self.desktop_options, accessible=self.accessible)
+        self.desktop = pool.take(
+            self.desktop_class, **self.desktop_options, accessible=self.accessible
+        )
         self.addCleanup(self._give_back, self.desktop)
         self.addCleanup(self._report_failure, self.desktop)
 
     def start_desktop(self, **options):
         """One more desktop."""
-        desktop = Desktop(**options)
+        desktop = self.desktop_class(**options)
         self.addCleanup(desktop.close)
         self.addCleanup(self._report_failure, desktop)
         return desktop

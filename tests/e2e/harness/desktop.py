@@ -1,30 +1,22 @@
 """A desktop with its user: what runs on it, what is seen, and what mouse and keys do."""
 
-import pathlib
 import re
 import shutil
-import subprocess
 import sys
-import tempfile
 
 from . import session
 from .accessibility import Accessibility
 from .picture import Picture
-from .process import Process
+from .user_session import UserSession, new_folder
 from .waiting import holds_for, wait_until
 from .x_connection import XConnection
 
-TOOL_SECONDS = 20
 OUTPUT = "screen"  # as Xvfb calls its only one
 TRIES = 5
 A_MOMENT = 2
 
 
-def new_folder():
-    return pathlib.Path(tempfile.mkdtemp(prefix="tessaline-e2e-"))
-
-
-class Desktop:
+class Desktop(UserSession):
     """Starts everything on construction; close() ends it. Use it as a context manager. The panel has
     a tray if this is the colour to paint it with, such as "#202020". Programs on an accessible desktop
     can be read as screen readers do.
@@ -43,10 +35,10 @@ class Desktop:
         accessible=False,
     ):
         session.require("stdbuf", "xdotool", "xprop", "xrandr")
+        super().__init__()
+        self.session_folder = self.folder
         self.size = size
         self.first_monitors = monitors
-        self.folder = self.session_folder = new_folder()
-        self.processes = []
         self.x_connection = None
         self.is_used_up = False
         try:
@@ -71,17 +63,10 @@ class Desktop:
             self.close()
             raise
 
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        self.close()
-
     def close(self):
         if self.x_connection:
             self.x_connection.close()
-        while self.processes:
-            self.processes.pop().end()
+        self.end_programs()
         for folder in self.folder, self.session_folder:
             shutil.rmtree(folder, ignore_errors=True)
 
@@ -134,57 +119,11 @@ class Desktop:
             self.x_connection = XConnection(self.env["DISPLAY"])
         return self.x_connection
 
-    @property
-    def home(self):
-        return pathlib.Path(self.env["HOME"])
-
-    def logs(self):
-        """All that the programs printed, for the report of a failure."""
-        parts = []
-        for process in self.processes:
-            for kind, text in (("stdout", process.stdout()), ("stderr", process.stderr())):
-                if text.strip():
-                    parts.append(f"--- {process.name}, {kind}\n{text.rstrip()}")
-        return "\n".join(parts)
-
-    # Programs
-
-    def start(self, name, command, pass_fds=(), answers=False, **env):
-        """Starts a program on this desktop. Other keyword arguments are added to its environment."""
-        process = Process(name, command, {**self.env, **env}, self.folder, pass_fds, answers)
-        self.processes.append(process)
-        return process
-
-    def process(self, name):
-        """The program that was started last under this name."""
-        return next(process for process in reversed(self.processes) if process.name == name)
-
-    def run(self, *command, check=True):
-        """Runs a tool to its end and returns what it printed."""
-        result = subprocess.run(
-            [str(part) for part in command],
-            env=self.env,
-            cwd=self.home,
-            stdin=subprocess.DEVNULL,
-            capture_output=True,
-            text=True,
-            timeout=TOOL_SECONDS,
-            check=False,
-        )
-        if check and result.returncode != 0:
-            raise AssertionError(f"{command} failed: {result.stdout}{result.stderr}")
-        return result.stdout.strip()
-
     # Windows, named by their X identifiers
 
     def windows(self, title=None, pid=None):
         """The visible windows with a title (a regular expression) or of a process."""
         return self.x.windows(title, pid)
-
-    def wait_for_window(self, title=None, pid=None):
-        return wait_until(
-            lambda: self.windows(title, pid), f"a window with title {title} of process {pid}"
-        )[0]
 
     def geometry(self, window):
         """(x, y, width, height) on the screen, without the window manager's frame."""
@@ -280,12 +219,6 @@ class Desktop:
         """The rows of pixels of a part of the screen, as bytes that can be compared."""
         image = self.x.image(self.x.root, x, y, width, height)
         return Picture(width, height, image).region(0, 0, width, height)
-
-    def pixel(self, x, y):
-        return tuple(self.region(x, y, 1, 1)[0])
-
-    def wait_for_pixel(self, x, y, color):
-        wait_until(lambda: self.pixel(x, y) == color, f"pixel ({x}, {y}) is {color}")
 
     # Mouse and keys
 

@@ -1,21 +1,20 @@
 """Desktops that one test after another has: to start one takes longer than most tests."""
 
-from .desktop import Desktop
-
 
 class DesktopPool:
     def __init__(self):
         self.desktops = {}  # those that nobody has, by their options
         self.options = {}  # of those that somebody has
 
-    def take(self, **options):
-        """A desktop with these options that is as good as new, for a user who has never been there."""
-        key = repr(sorted(options.items()))
+    def take(self, make, **options):
+        """A desktop that `make` makes with these options or has made, as good as new, for a user who has
+        never been there."""
+        key = repr((make, sorted(options.items())))
         if key in self.desktops:
             desktop = self.desktops.pop(key)
             desktop.welcome()
         else:
-            desktop = Desktop(**options)
+            desktop = make(**options)
         self.options[desktop] = key
         return desktop
 

@@ -87,7 +87,9 @@ class TessalineTestCase(DesktopTestCase):
 
     def socket_path(self):
         """Where the running program hears other calls."""
-        return self.desktop.folder / "runtime/tessaline" / (self.desktop.env["DISPLAY"] + ".socket")
+        env = self.desktop.env
+        session = env.get("DISPLAY") or env["WAYLAND_DISPLAY"]
+        return self.desktop.folder / "runtime/tessaline" / (session + ".socket")
 
     def status(self):
         """What the running program tells of itself, once it hears other calls."""
