@@ -21,8 +21,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE "${TESSALINE_DEBIAN_REVISION}")
 set(CPACK_DEBIAN_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The default fonts have neither the prompter's shapes nor emoji; a window on Wayland is placed
-# through XWayland; documents of word processors are read by pandoc.
+# The default fonts have neither the prompter's shapes nor emoji; Qt reaches Wayland by a package of
+# its own, and where a compositor places no windows, XWayland does; documents of word processors are
+# read by pandoc.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-noto-color-emoji, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "pandoc, xwayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

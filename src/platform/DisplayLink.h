@@ -8,7 +8,7 @@ namespace tessaline {
 
 /// Calls back once per refresh of a display while it is started. Destroying it stops it. Main
 /// thread only, except where a function says otherwise; the callback runs on a thread of the link's
-/// own.
+/// own, or on the main thread where the system tells of refreshes there.
 class DisplayLink {
 public:
     /// Receives the time of the frame in ticks of the host clock. Never goes back between `start`

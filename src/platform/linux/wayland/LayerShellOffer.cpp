@@ -51,6 +51,8 @@ std::optional<bool> compositorOffers(const char* interface) {
 void leaveRolesToUs() {
     qputenv(noRoleVariable, "1");
     qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+    // Nothing here is drawn by a graphics card, whose drivers take their time and memory.
+    qputenv("QT_WAYLAND_DISABLE_HW_INTEGRATION", "1");
 }
 
 bool areRolesLeftToUs() {
