@@ -29,8 +29,7 @@ AccessibilityRow::AccessibilityRow(QWidget* parent)
     auto* row = new QHBoxLayout;
     row->setSpacing(6);
     row->addWidget(accessibilityDot);
-    row->addWidget(accessibilityLabel);
-    row->addStretch();
+    row->addWidget(accessibilityLabel, 1);
     row->addWidget(accessibilityFixButton);
     // As high without the button as with it, so that the window keeps its size.
     row->addStrut(accessibilityFixButton->sizeHint().height());
@@ -43,6 +42,7 @@ void AccessibilityRow::updateStatus(const AccessibilityTrust::Report& report) {
     accessibilityDot->setStatus(report.isWhole ? SystemPalette::green : SystemPalette::orange,
                                 report.state);
     accessibilityFixButton->setVisible(report.canBeGranted);
+    accessibilityLabel->setWordWrap(report.canBeGranted); // where fonts run wide, beside the button
     noteLabel->setText(report.note);
     noteLabel->setVisible(!report.note.isEmpty());
 }

@@ -2,8 +2,8 @@
 global shortcuts, as the portal asks it. The first argument is what the user says when they are asked:
 "yes" or "no". Each line that comes in is carried out and answered with one: "press ID", "set ID KEY"
 (no KEY: the shortcut has none any more) and "forget", as a user does in the desktop's settings; "yes"
-and "no", for later questions. The answer is how often the user was asked and, the last time, for
-which shortcuts with which keys. Needs the distribution's own Python, which the bindings are installed
+and "no", for later questions; anything else does nothing. The answer is how often the user was asked
+and, the last time, for which shortcuts with which keys. Needs the distribution's own Python, which the bindings are installed
 for."""
 
 import sys
@@ -123,7 +123,7 @@ class Backend:
                 self.keys = {}
             listed = GLib.Variant.new_tuple(GLib.Variant("o", self.session), self.listed())
             self.signal("ShortcutsChanged", listed)
-        else:
+        elif word in ("yes", "no"):
             self.user_says = word
         print(self.questions, self.last_question, flush=True)
 

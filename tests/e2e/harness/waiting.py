@@ -4,6 +4,7 @@ import time
 
 DEADLINE = 20.0
 PAUSE = 0.01
+A_MOMENT = 0.7
 
 
 def wait_until(condition, what, seconds=DEADLINE):
@@ -26,3 +27,14 @@ def holds_for(condition, seconds):
             return False
         time.sleep(PAUSE)
     return True
+
+
+def repeat_until(act, condition, what):
+    """Acts until condition() is true, each time only after a moment without an effect. For what comes
+    to nothing where it is too early."""
+
+    def works():
+        act()
+        return not holds_for(lambda: not condition(), A_MOMENT)
+
+    wait_until(works, what)
