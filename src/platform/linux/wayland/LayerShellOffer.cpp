@@ -2,7 +2,7 @@
 
 #include "layer-shell-client.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 #include <wayland-client.h>
 

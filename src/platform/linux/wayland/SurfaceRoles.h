@@ -5,15 +5,15 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QScreen>
+#include <QWindow>
 
 #include <functional>
 #include <map>
 #include <memory>
 #include <set>
 
-class QScreen;
 class QWidget;
-class QWindow;
 struct wl_surface;
 
 namespace tessaline {

@@ -53,17 +53,17 @@ std::optional<QByteArray> readAll(int pipe) {
 } // namespace
 
 struct WaylandSelectionReader::Listeners {
-    static constexpr wl_registry_listener globals{
+    static constexpr wl_registry_listener registrations{
         .global =
-            [](void* data, wl_registry* registry, std::uint32_t name, const char* interface,
+            [](void* data, wl_registry* globals, std::uint32_t name, const char* interface,
                std::uint32_t /*version*/) {
                 auto& self = *static_cast<WaylandSelectionReader*>(data);
                 if (std::strcmp(interface, zwlr_data_control_manager_v1_interface.name) == 0) {
                     self.manager = static_cast<zwlr_data_control_manager_v1*>(wl_registry_bind(
-                        registry, name, &zwlr_data_control_manager_v1_interface, 1));
+                        globals, name, &zwlr_data_control_manager_v1_interface, 1));
                 } else if (std::strcmp(interface, wl_seat_interface.name) == 0 && !self.seat) {
                     self.seat = static_cast<wl_seat*>(
-                        wl_registry_bind(registry, name, &wl_seat_interface, 1));
+                        wl_registry_bind(globals, name, &wl_seat_interface, 1));
                 }
             },
         .global_remove = [](void* /*data*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}};
@@ -96,7 +96,7 @@ WaylandSelectionReader::WaylandSelectionReader()
     : display(wl_display_connect(nullptr), wl_display_disconnect) {
     if (!display) return;
     registry = wl_display_get_registry(display.get());
-    wl_registry_add_listener(registry, &Listeners::globals, this);
+    wl_registry_add_listener(registry, &Listeners::registrations, this);
     wl_display_roundtrip(display.get());
     if (!manager || !seat) return;
     device = zwlr_data_control_manager_v1_get_data_device(manager, seat);
