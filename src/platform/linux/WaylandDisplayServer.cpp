@@ -6,7 +6,6 @@
 #include "platform/linux/desktop/ConnectorIdentity.h"
 #include "platform/linux/desktop/DesktopStatusArea.h"
 #include "platform/linux/desktop/portal/AddShortcutsPortal.h"
-#include "platform/linux/wayland/ConnectionLoss.h"
 #include "platform/linux/wayland/FrameDisplayLinkMaker.h"
 #include "platform/linux/wayland/LayerShellOffer.h"
 #include "platform/linux/wayland/LayerWindowTraits.h"
@@ -44,7 +43,6 @@ std::unique_ptr<WaylandDisplayServer> WaylandDisplayServer::connected() {
 }
 
 void WaylandDisplayServer::addAdapters(Platform& platform) const {
-    exitWhenConnectionBreaks();
     platform.windowSystem = u"wayland"_s;
     const auto frames = std::make_shared<SurfaceFrames>();
     platform.screens = std::make_unique<QtScreens>(*platform.notifications, *platform.mainQueue,

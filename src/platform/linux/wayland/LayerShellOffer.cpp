@@ -1,5 +1,7 @@
 #include "platform/linux/wayland/LayerShellOffer.h"
 
+#include "platform/linux/wayland/QtWaylandMessages.h"
+
 #include "layer-shell-client.h"
 
 #include <QByteArray>
@@ -53,6 +55,8 @@ void leaveRolesToUs() {
     qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
     // Nothing here is drawn by a graphics card, whose drivers take their time and memory.
     qputenv("QT_WAYLAND_DISABLE_HW_INTEGRATION", "1");
+    qputenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
+    handleQtWaylandMessages();
 }
 
 bool areRolesLeftToUs() {

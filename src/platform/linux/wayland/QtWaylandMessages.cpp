@@ -1,7 +1,7 @@
-#include "platform/linux/wayland/ConnectionLoss.h"
+#include "platform/linux/wayland/QtWaylandMessages.h"
 
+#include <QLatin1StringView>
 #include <QString>
-#include <QtGlobal>
 
 #include <cstdlib>
 
@@ -16,17 +16,18 @@ QtMessageHandler& nextHandler() {
     return handler;
 }
 
-/// What Qt says right before it ends the program is all the notice that it gives.
-void watch(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+void handle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (message.contains("client buffer integration"_L1)) return;
     nextHandler()(type, context, message);
+    // What Qt says right before it ends the program is all the notice that it gives.
     if (type == QtWarningMsg && message.startsWith("The Wayland connection "_L1))
         std::exit(EXIT_FAILURE);
 }
 
 } // namespace
 
-void exitWhenConnectionBreaks() {
-    nextHandler() = qInstallMessageHandler(watch);
+void handleQtWaylandMessages() {
+    nextHandler() = qInstallMessageHandler(handle);
 }
 
 } // namespace tessaline
