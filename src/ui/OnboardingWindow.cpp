@@ -191,6 +191,10 @@ void OnboardingWindow::setupPermissionObserver() {
     permissionObserver =
         platform.notifications->observe(PermissionManager::permissionStatusDidChangeNotification(),
                                         [this](const Notification&) { updatePermissionStatus(); });
+    // What there is between yes and no changes without a word.
+    if (platform.trust->report())
+        reportTimer = platform.timers->every(TimerMaker::Interval(pollInterval),
+                                             [this] { updatePermissionStatus(); });
 }
 
 void OnboardingWindow::updatePermissionStatus() {

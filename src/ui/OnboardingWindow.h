@@ -2,6 +2,7 @@
 
 #include "platform/Lifetime.h"
 #include "platform/NotificationCenter.h"
+#include "platform/TimerMaker.h"
 #include "settings/SourceType.h"
 #include "ui/Services.h"
 
@@ -9,6 +10,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 
 class QLabel;
 class QPushButton;
@@ -79,6 +81,7 @@ private:
     PermissionStatusView* accessibilityStatusView = nullptr;
     std::map<SourceType, IntegrationToggleView*> integrationToggles;
     QPushButton* continueButton = nullptr;
+    std::unique_ptr<RepeatingTimer> reportTimer;
     NotificationCenter::Observation permissionObserver;
     bool finished = false; ///< finished, or closed without
     Lifetime lifetime;

@@ -197,6 +197,17 @@ TEST_F(OnboardingWindowTest, NoticesTheGrantWithinASecond) {
     EXPECT_FALSE(part<QPushButton>(permission(), "grantButton")->isEnabled());
 }
 
+TEST_F(OnboardingWindowTest, FollowsWhatThereIsOfThePermissionBetweenYesAndNo) {
+    stage.trust.told = {.isWhole = false, .state = u"Not yet"_s};
+    const auto& note = *part<QLabel>(permission(), "descriptionLabel");
+    const QString before = note.text();
+    stage.trust.told->canBeGranted = true;
+    stage.trust.told->note = u"Somebody can be asked"_s;
+    stage.timers.advance(1.0);
+    EXPECT_EQ(note.text(), before + u"\nSomebody can be asked"_s);
+    EXPECT_FALSE(part<QPushButton>(permission(), "grantButton")->isHidden());
+}
+
 TEST_F(OnboardingWindowTest, NoticesTheGrantWhenItBecomesActive) {
     window();
     stage.trust.trusted = true;
