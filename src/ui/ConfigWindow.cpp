@@ -20,6 +20,7 @@
 #include <QPushButton>
 
 #include <initializer_list>
+#include <utility>
 
 namespace tessaline {
 
@@ -113,7 +114,8 @@ void ConfigWindow::startPeriodicRefresh() {
     refreshTimer.reset();
     refreshTimer = platform.timers->every(refreshInterval, [this] {
         integrations->refreshObsidianStatus();
-        updateAccessibilityStatus();
+        const bool isOther = updateAccessibilityStatus();
+        if (isOther) fitToContent(*this);
     });
 }
 
@@ -121,10 +123,11 @@ void ConfigWindow::rebuildScreenPopup() {
     display->rebuildScreenPopup();
 }
 
-void ConfigWindow::updateAccessibilityStatus() {
+bool ConfigWindow::updateAccessibilityStatus() {
     const auto report = permissionReport(*platform.trust);
     accessibility->updateStatus(report);
     shortcuts->showReach(report);
+    return std::exchange(shownReport, report) != report;
 }
 
 void ConfigWindow::obsidianToggleChanged(bool on) {

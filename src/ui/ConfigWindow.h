@@ -1,6 +1,7 @@
 #pragma once
 
 #include "permissions/PermissionManager.h"
+#include "platform/AccessibilityTrust.h"
 #include "settings/AppSettings.h"
 #include "settings/SourceType.h"
 #include "ui/Services.h"
@@ -43,8 +44,9 @@ public:
     /// Lists the displays that are attached now.
     void rebuildScreenPopup();
 
-    /// Shows whether the Accessibility permission is granted.
-    void updateAccessibilityStatus();
+    /// Shows whether the Accessibility permission is granted. True where that is something else than
+    /// it showed before.
+    bool updateAccessibilityStatus();
 
     /// Called after every change by a control of this window, once it is saved and shown.
     std::function<void()> onSettingsChanged;
@@ -78,6 +80,7 @@ private:
     DisplaySection* display = nullptr;
     ShortcutsGrid* shortcuts = nullptr;
     AccessibilityRow* accessibility = nullptr;
+    AccessibilityTrust::Report shownReport;
 };
 
 } // namespace tessaline

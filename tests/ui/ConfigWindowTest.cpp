@@ -278,6 +278,21 @@ TEST_F(ConfigWindowTest, TellsWhatThereIsOfThePermissionBetweenYesAndNo) {
     EXPECT_THAT(texts(), Not(Contains(u"Ctrl + Scroll click"_s)));
 }
 
+TEST_F(ConfigWindowTest, MakesRoomForWhatThereIsToSayOfThePermission) {
+    stage.trust.told = {.isWhole = true, .state = u"Here"_s};
+    shown().fitInto(1600);
+    window().startPeriodicRefresh();
+    const int before = window().height();
+    stage.trust.told->note = u"A line"_s;
+    stage.timers.advance(2.0);
+    QTest::qWait(0);
+    EXPECT_GT(window().height(), before);
+    stage.trust.told->note.clear();
+    stage.timers.advance(2.0);
+    QTest::qWait(0);
+    EXPECT_EQ(window().height(), before);
+}
+
 TEST_F(ConfigWindowTest, LooksAtThePermissionWhenItBecomesActive) {
     window();
     stage.trust.trusted = true;
