@@ -10,11 +10,11 @@ class OtherApplication:
     """One window that fills its part of the screen with a colour. Started on construction, and on show
     then."""
 
-    def __init__(self, desktop, kind, color):
+    def __init__(self, desktop, kind, color, *arguments):
         self.desktop = desktop
         self.process = desktop.start(
             f"other-{color.lstrip('#')}",
-            [os.environ["TESSALINE_PROBE"], kind, color],
+            [os.environ["TESSALINE_PROBE"], kind, color, *arguments],
             QT_QPA_PLATFORM="wayland",
         )
         self.window = desktop.wait_for_window(pid=self.process.pid)

@@ -54,7 +54,8 @@ class Sway(UserSession):
             self.env = session.clean_environment(self.folder)
             # Programs find out for themselves where they are.
             del self.env["QT_QPA_PLATFORM"]
-            session.start_bus(self.start, self.env)
+            # The portals of this machine belong to another desktop.
+            session.start_bus(self.start, self.env, has_services=False)
             self.accessibility = Accessibility(self) if accessible else None
             self._start_compositor(outputs, xwayland, panel, nested_in)
             probe = os.environ["TESSALINE_WAYLAND_HANDS"]
