@@ -58,8 +58,14 @@ LayerSurface::Place placeOf(const QWindow& window, const QScreen& screen) {
 
 SurfaceRoles::SurfaceRoles() : globals(waylandDisplay()) {
     qGuiApp->installEventFilter(this);
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, &SurfaceRoles::showHomeless);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
+        watch(*screen);
+        showHomeless();
+    });
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &SurfaceRoles::showHomeless);
+    const auto screens = QGuiApplication::screens();
+    for (QScreen* screen : screens)
+        watch(*screen);
 }
 
 SurfaceRoles::~SurfaceRoles() = default;
@@ -137,7 +143,7 @@ void SurfaceRoles::hang(QWindow& window) {
     hung[&window] = {std::make_unique<LayerSurface>(
                          globals, surface, output, placeOf(window, *screen), firstKeyboard(window),
                          [this, &window] { later(window, [this, &window] { lose(window); }); }),
-                     screen};
+                     screen, screen->devicePixelRatio()};
     if (&window != prompter) return cover(window);
     if (onPrompterSurface) onPrompterSurface(surface);
 }
@@ -201,6 +207,17 @@ void SurfaceRoles::follow(QWindow& window) {
     if (screen == found->second.screen)
         return found->second.surface->place(placeOf(window, *screen));
     later(window, [this, &window] { showAgain(window); });
+}
+
+/// Its size in points changes with its scale. What Qt has drawn for one scale it shows at any
+/// other.
+void SurfaceRoles::watch(QScreen& screen) {
+    connect(&screen, &QScreen::geometryChanged, this, [this, &screen] {
+        for (const auto& [window, role] : hung) {
+            if (role.screen != &screen || role.scale == screen.devicePixelRatio()) continue;
+            later(*window, [this, window = window] { showAgain(*window); });
+        }
+    });
 }
 
 /// Where a surface shrinks under a resting pointer, some compositors say nothing.

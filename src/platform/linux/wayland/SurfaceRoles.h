@@ -57,9 +57,11 @@ private:
     struct Hung {
         std::unique_ptr<LayerSurface> surface;
         QPointer<QScreen> screen;
+        qreal scale = 1; ///< of the screen
     };
 
     void watch(QWindow& window);
+    void watch(QScreen& screen);
     void give(QWindow& window);
     void hang(QWindow& window);
     void popUp(QWindow& window, SurfaceRole& parent);
