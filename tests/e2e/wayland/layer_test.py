@@ -1,40 +1,16 @@
 """The prompter as a surface over the desktop: where it hangs, and what it hangs over."""
 
 from harness import wait_until
-from harness.wayland import WaylandTestCase, main
+from harness.wayland import main
 from harness.wayland.case import HEIGHT, RED, WIDTH
 from harness.wayland.sway import PANEL_COLOR
+from layer_case import LEFT, PLACE, LayerTestCase
 
-SCREEN = (1280, 800)
-LEFT = (SCREEN[0] - WIDTH) // 2
-PLACE = (LEFT, 0, WIDTH, HEIGHT)
-TEXT = (LEFT + 25, 54, 400, 150)
-MIDDLE = (640, 150)
 FOLDED = 24
-ELSEWHERE = (100, 700)
-TALK = "A line of a talk\n\n" * 100
 
 
-class Layer(WaylandTestCase):
+class Layer(LayerTestCase):
     desktop_options = {"panel": True}
-
-    def setUp(self):
-        super().setUp()
-        self.other = self.start_other()
-        self.desktop.move_mouse(*ELSEWHERE)
-
-    def start(self, *arguments):
-        super().start(*(arguments or [self.write_script(TALK)]))
-        self.assertEqual(self.status()["platform"], "wayland")
-
-    def ctl(self, *words):
-        self.assertEqual(self.call("ctl", *words)[::2], (0, ""), words)
-
-    def text(self):
-        return self.desktop.region(*TEXT)
-
-    def position(self):
-        return self.status()["scrollPosition"]
 
     def test_hangs_at_the_top_centre_over_panel_full_screen_and_workspaces(self):
         self.start()

@@ -51,8 +51,8 @@ void VirtualPointer::turn(int right, int down) {
         zwlr_virtual_pointer_v1_axis_discrete(pointer, WaylandSeat::now(), axis,
                                               wl_fixed_from_double(notches * pointsOfANotch),
                                               notches);
+        nameSource(WL_POINTER_AXIS_SOURCE_WHEEL);
     };
-    zwlr_virtual_pointer_v1_axis_source(pointer, WL_POINTER_AXIS_SOURCE_WHEEL);
     send(WL_POINTER_AXIS_HORIZONTAL_SCROLL, right);
     send(WL_POINTER_AXIS_VERTICAL_SCROLL, down);
     zwlr_virtual_pointer_v1_frame(pointer);
@@ -63,18 +63,24 @@ void VirtualPointer::slide(double right, double down) {
         if (points == 0) return;
         zwlr_virtual_pointer_v1_axis(pointer, WaylandSeat::now(), axis,
                                      wl_fixed_from_double(points));
+        nameSource(WL_POINTER_AXIS_SOURCE_FINGER);
     };
-    zwlr_virtual_pointer_v1_axis_source(pointer, WL_POINTER_AXIS_SOURCE_FINGER);
     send(WL_POINTER_AXIS_HORIZONTAL_SCROLL, right);
     send(WL_POINTER_AXIS_VERTICAL_SCROLL, down);
     zwlr_virtual_pointer_v1_frame(pointer);
 }
 
 void VirtualPointer::lift() {
-    zwlr_virtual_pointer_v1_axis_source(pointer, WL_POINTER_AXIS_SOURCE_FINGER);
-    for (const auto axis : {WL_POINTER_AXIS_HORIZONTAL_SCROLL, WL_POINTER_AXIS_VERTICAL_SCROLL})
+    for (const auto axis : {WL_POINTER_AXIS_HORIZONTAL_SCROLL, WL_POINTER_AXIS_VERTICAL_SCROLL}) {
         zwlr_virtual_pointer_v1_axis_stop(pointer, WaylandSeat::now(), axis);
+        nameSource(WL_POINTER_AXIS_SOURCE_FINGER);
+    }
     zwlr_virtual_pointer_v1_frame(pointer);
+}
+
+/// Some compositors take it for that of the axis named last, and give up when two differ.
+void VirtualPointer::nameSource(std::uint32_t source) {
+    zwlr_virtual_pointer_v1_axis_source(pointer, source);
 }
 
 void VirtualPointer::sendButton(int button, std::uint32_t state) {

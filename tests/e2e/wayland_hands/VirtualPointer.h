@@ -34,6 +34,7 @@ public:
     void lift();
 
 private:
+    void nameSource(std::uint32_t source);
     void sendButton(int button, std::uint32_t state);
 
     zwlr_virtual_pointer_v1* pointer;
