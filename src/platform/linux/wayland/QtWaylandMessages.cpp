@@ -1,13 +1,14 @@
 #include "platform/linux/wayland/QtWaylandMessages.h"
 
+#include <QCoreApplication>
 #include <QLatin1StringView>
 #include <QString>
-
-#include <atomic>
-#include <cstdlib>
-#include <thread>
+#include <QThread>
 
 #include <unistd.h>
+
+#include <cstdlib>
+#include <utility>
 
 namespace tessaline {
 
@@ -20,14 +21,16 @@ QtMessageHandler& nextHandler() {
     return handler;
 }
 
-/// Several of Qt's threads notice it, and one would end the program while another one's exit still
-/// saves.
-void exitOnce() {
-    static std::atomic<std::thread::id> exiting;
-    const std::thread::id here = std::this_thread::get_id();
-    std::thread::id nobody;
-    if (exiting.compare_exchange_strong(nobody, here)) std::exit(EXIT_FAILURE);
-    while (exiting != here)
+/// Whichever of Qt's threads notices it: what is saved belongs to the main thread, and none of the
+/// others may end the program meanwhile.
+void exitOnMainThread() {
+    static bool isExiting = false;
+    const auto exitOnce = [] {
+        if (!std::exchange(isExiting, true)) std::exit(EXIT_FAILURE);
+    };
+    if (QThread::currentThread() == qApp->thread()) return exitOnce();
+    QMetaObject::invokeMethod(qApp, exitOnce, Qt::QueuedConnection);
+    for (;;)
         ::pause();
 }
 
@@ -35,7 +38,8 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& me
     if (message.contains("client buffer integration"_L1)) return;
     nextHandler()(type, context, message);
     // What Qt says right before it ends the program is all the notice that it gives.
-    if (type == QtWarningMsg && message.startsWith("The Wayland connection "_L1)) exitOnce();
+    if (type == QtWarningMsg && message.startsWith("The Wayland connection "_L1))
+        exitOnMainThread();
 }
 
 } // namespace
