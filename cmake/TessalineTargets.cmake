@@ -86,8 +86,13 @@ if(TESSALINE_BUILD_TESTS)
 
   tessaline_precompiled(tests Tests.h LIBRARIES GTest::gmock)
   tessaline_precompiled(widget_tests WidgetTests.h LIBRARIES GTest::gmock tessaline_qt_test)
-  target_compile_options(tessaline_precompiled_tests PRIVATE -O0)
-  target_compile_options(tessaline_precompiled_widget_tests PRIVATE -O0)
+  # What a test does itself is plain enough; what it tests is watched for undefined behaviour.
+  set(TESSALINE_TEST_OPTIONS -O0)
+  if(TESSALINE_SANITIZE MATCHES "undefined")
+    list(APPEND TESSALINE_TEST_OPTIONS -fno-sanitize=undefined)
+  endif()
+  target_compile_options(tessaline_precompiled_tests PRIVATE ${TESSALINE_TEST_OPTIONS})
+  target_compile_options(tessaline_precompiled_widget_tests PRIVATE ${TESSALINE_TEST_OPTIONS})
 
   # After a change of one source most of the time goes into linking the tests: quicker linkers, where
   # there is one, take a third of it. What is shipped has the system's own.
@@ -115,7 +120,7 @@ function(tessaline_test name)
   target_link_libraries(test_${name} PRIVATE tessaline_options GTest::gmock ${ARG_LIBRARIES})
   target_link_options(test_${name} PRIVATE ${TESSALINE_TEST_LINKER})
   if(NOT ARG_OPTIMISED)
-    target_compile_options(test_${name} PRIVATE -O0)
+    target_compile_options(test_${name} PRIVATE ${TESSALINE_TEST_OPTIONS})
     set(precompiled tests)
     if("tessaline::widget_test_support" IN_LIST ARG_LIBRARIES)
       set(precompiled widget_tests)
