@@ -36,7 +36,7 @@ public:
 
     /// Calls back for each press of such a key, where the desktop has settings of that kind. A
     /// later call replaces the callback.
-    virtual void onAction(std::function<void(Action action)> /*act*/) {}
+    virtual void onAction(const std::function<void(Action action)>& /*act*/) {}
 };
 
 } // namespace tessaline

@@ -16,7 +16,7 @@ public:
         return std::make_unique<Registration>();
     }
 
-    void onAction(std::function<void(Action)> newAct) override { act = std::move(newAct); }
+    void onAction(const std::function<void(Action)>& newAct) override { act = newAct; }
 
     void press(const KeyEvent& key) { handler(key); }
 

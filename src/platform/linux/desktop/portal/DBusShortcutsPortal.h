@@ -25,13 +25,12 @@ public:
     void open(Answered answered) override;
     void bind(const std::vector<Shortcut>& shortcuts, Answered answered) override;
 
-private Q_SLOTS:
-    void responded(uint code, const QVariantMap& results, const QDBusMessage& message);
-    void activated(const QDBusMessage& message);
-    void shortcutsChanged(const QDBusMessage& message);
-    void sessionClosed(const QDBusMessage& message);
-
 private:
+    Q_SLOT void responded(uint code, const QVariantMap& results, const QDBusMessage& message);
+    Q_SLOT void activated(const QDBusMessage& message);
+    Q_SLOT void shortcutsChanged(const QDBusMessage& message);
+    Q_SLOT void sessionClosed(const QDBusMessage& message);
+
     /// What a portal says of a request when it is done with it.
     using Response = std::function<void(uint code, const QVariantMap& results)>;
 

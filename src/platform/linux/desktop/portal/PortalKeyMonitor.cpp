@@ -34,8 +34,8 @@ std::unique_ptr<GlobalKeyMonitor::Registration> PortalKeyMonitor::start(const Ch
     return std::make_unique<PortalRegistration>(shortcuts, std::move(ofServer));
 }
 
-void PortalKeyMonitor::onAction(std::function<void(Action)> act) {
-    shortcuts->onAction = std::move(act);
+void PortalKeyMonitor::onAction(const std::function<void(Action)>& act) {
+    shortcuts->onAction = act;
 }
 
 } // namespace tessaline

@@ -17,7 +17,7 @@ public:
                      std::unique_ptr<GlobalKeyMonitor> server);
 
     std::unique_ptr<Registration> start(const Chord& chord, Handler handler) override;
-    void onAction(std::function<void(Action)> act) override;
+    void onAction(const std::function<void(Action)>& act) override;
 
 private:
     std::shared_ptr<PortalShortcuts> shortcuts;
