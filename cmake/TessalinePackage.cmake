@@ -21,10 +21,11 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE "${TESSALINE_DEBIAN_REVISION}")
 set(CPACK_DEBIAN_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The default fonts have neither the prompter's shapes nor emoji; Qt reaches Wayland by a package of
-# its own, and where a compositor places no windows, XWayland does; documents of word processors are
-# read by pandoc.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-noto-color-emoji, qt6-wayland")
+# Qt reaches Wayland by a plug-in, which no library asks for.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-wayland")
+# The default fonts have neither the prompter's shapes nor emoji; where a Wayland compositor places no
+# windows, XWayland does; documents of word processors are read by pandoc.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-noto-color-emoji")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "pandoc, xwayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
