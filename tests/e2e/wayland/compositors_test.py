@@ -27,6 +27,7 @@ class CompositorTestCase(TessalineTestCase):
         if not shutil.which(self.compositor.program):
             self.skipTest(f"{self.compositor.program} is not installed")
         outer = self.desktop
+        outer.use_up()
         self.steps = 0
         self.desktop = self.compositor(outer)
         self.addCleanup(self.desktop.close)
@@ -76,12 +77,12 @@ class CompositorTestCase(TessalineTestCase):
         )
 
     def scroll_by_the_wheel(self):
-        def turn():
-            self.steps += 1
-            self.desktop.move_mouse(MIDDLE[0] + self.steps % 2, MIDDLE[1])
-            self.desktop.hands("click", 5)
-
-        repeat_until(turn, lambda: self.status()["scrollPosition"] > 0, "the wheel scrolls")
+        self.desktop.enter_mouse(*MIDDLE)
+        repeat_until(
+            lambda: self.desktop.hands("click", 5),
+            lambda: self.status()["scrollPosition"] > 0,
+            "the wheel scrolls",
+        )
 
     def check_keyboard_is_never_lost(self):
         self.assert_keys_go_to_other()

@@ -34,8 +34,6 @@ class Nested(UserSession):
             self.env["DISPLAY"] = wait_until(self._find_x11_display, "X11 programs find a server")
             for key in (self.folder / "runtime").glob(".mutter-Xwaylandauth.*"):
                 self.env["XAUTHORITY"] = str(key)
-            # Who has not seen the mouse come in counts its moves from elsewhere.
-            outer.move_mouse(1, 1)
         except BaseException:
             print(self.logs(), file=sys.stderr)
             self.close()
@@ -64,6 +62,9 @@ class Nested(UserSession):
     def move_mouse(self, x, y):
         left, top = self.outer.geometry(self.window)[:2]
         self.outer.move_mouse(left + x, top + y)
+
+    def enter_mouse(self, x, y):
+        self.move_mouse(x, y)
 
     def hands(self, *words):
         self.outer.hands(*words)
@@ -113,3 +114,8 @@ class Weston(Nested):
         size = [f"--width={SIZE[0]}", f"--height={SIZE[1]}"]
         return [self.program, "--backend=x11-backend.so", "--use-pixman", *size, "--xwayland",
                 "--no-config", f"--socket={SOCKET}"]  # fmt: skip
+
+    def enter_mouse(self, x, y):
+        """From outside: who has not seen the mouse come in counts its moves from elsewhere."""
+        self.outer.move_mouse(1, 1)
+        self.move_mouse(x, y)
