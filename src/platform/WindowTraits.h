@@ -79,7 +79,7 @@ public:
 
     /// Calls back each time that `takeKeyboard` could not do its work, maybe a while later: some
     /// display servers leave the keyboard where it is. A later call replaces the callback.
-    virtual void onKeyboardRefused(std::function<void()> /*refused*/) {}
+    virtual void onKeyboardRefused(const std::function<void()>& /*refused*/) {}
 };
 
 } // namespace tessaline

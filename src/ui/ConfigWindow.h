@@ -44,8 +44,8 @@ public:
     /// Lists the displays that are attached now.
     void rebuildScreenPopup();
 
-    /// Shows whether the Accessibility permission is granted. True where that is something else than
-    /// it showed before.
+    /// Shows whether the Accessibility permission is granted. True where that is something else
+    /// than it showed before.
     bool updateAccessibilityStatus();
 
     /// Called after every change by a control of this window, once it is saved and shown.

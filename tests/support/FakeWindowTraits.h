@@ -41,8 +41,8 @@ public:
         if (keyboardOwner == window) keyboardOwner.reset();
     }
 
-    void onKeyboardRefused(std::function<void()> refused) override {
-        keyboardRefused = std::move(refused);
+    void onKeyboardRefused(const std::function<void()>& refused) override {
+        keyboardRefused = refused;
     }
 
     Qt::WindowFlags flags = Qt::BypassWindowManagerHint;

@@ -233,7 +233,8 @@ void SurfaceRoles::lose(QWindow& window) {
     if (!window.isVisible()) return;
     homeless.insert(&window);
     withdrawSurface(window);
-    QMetaObject::invokeMethod(this, &SurfaceRoles::showHomeless, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { showHomeless(); }, Qt::QueuedConnection);
 }
 
 void SurfaceRoles::showHomeless() {

@@ -130,8 +130,8 @@ std::optional<X11WindowTraits::XWindow> X11WindowTraits::focusedWindow() const {
     return reply->focus;
 }
 
-void X11WindowTraits::onKeyboardRefused(std::function<void()> refused) {
-    keyboardRefused = std::move(refused);
+void X11WindowTraits::onKeyboardRefused(const std::function<void()>& refused) {
+    keyboardRefused = refused;
 }
 
 void X11WindowTraits::refuseKeyboard() const {

@@ -57,7 +57,7 @@ public:
 
     void takeKeyboard(NativeWindow window) override;
     void giveKeyboardBack(NativeWindow window) override;
-    void onKeyboardRefused(std::function<void()> refused) override;
+    void onKeyboardRefused(const std::function<void()>& refused) override;
 
 private:
     using XWindow = std::uint32_t;

@@ -32,7 +32,8 @@ TEST(LayerTitleBar, StandsAboveTheContentWithTheWindowsTitle) {
     window.show();
     ASSERT_NE(window.bar(), nullptr);
     EXPECT_EQ(window.bar()->geometry().topLeft(), QPoint(0, 0));
-    EXPECT_GE(window.findChild<QLabel*>({}, Qt::FindDirectChildrenOnly)->y(), window.bar()->height());
+    EXPECT_GE(window.findChild<QLabel*>({}, Qt::FindDirectChildrenOnly)->y(),
+              window.bar()->height());
     const auto* title = window.bar()->findChild<QLabel*>();
     EXPECT_EQ(title->text(), u"Settings"_s);
     window.setWindowTitle(u"Reading"_s);
