@@ -3,6 +3,7 @@
 import signal
 
 from harness import wait_until
+from harness.status_area import StatusArea
 from harness.wayland import main
 from harness.wayland.case import BLUE, HEIGHT, WIDTH
 from harness.wayland.sway import PANEL_COLOR
@@ -93,6 +94,24 @@ class End(LayerTestCase):
         self.desktop.compositor.send(signal.SIGKILL)
         status = self.prompter.wait(10)
         self.assertGreaterEqual(status, 0, "it ended by itself")
+        self.assertIn("app_terminate", self.event_names())
+
+
+class Session(LayerTestCase):
+    def test_has_a_tray_icon_later_starts_and_a_clean_stop(self):
+        area = StatusArea(self.desktop)
+        area.wait_until_ready()
+        self.start()
+        item = area.wait_for_item()
+        self.ctl("hide")
+        self.wait_for_prompter(shown=False)
+        item.choose("Show Tessaline")
+        self.wait_for_prompter()
+        other = self.desktop.home / "other.md"
+        other.write_text("Three new words")
+        self.assertEqual(self.call(other)[0], 0)
+        wait_until(lambda: self.status()["words"] == 3, "the later start's file is shown")
+        self.assertEqual(self.prompter.end(), 0)
         self.assertIn("app_terminate", self.event_names())
 
 
