@@ -28,8 +28,8 @@ void exitOnMainThread() {
     const auto exitOnce = [] {
         if (!std::exchange(isExiting, true)) std::exit(EXIT_FAILURE);
     };
-    if (QThread::currentThread() == qApp->thread()) return exitOnce();
-    QMetaObject::invokeMethod(qApp, exitOnce, Qt::QueuedConnection);
+    if (QThread::currentThread() == QCoreApplication::instance()->thread()) return exitOnce();
+    QMetaObject::invokeMethod(QCoreApplication::instance(), exitOnce, Qt::QueuedConnection);
     for (;;)
         ::pause();
 }

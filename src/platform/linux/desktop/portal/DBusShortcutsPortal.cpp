@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString connectionName() {
+QString shortcutsConnection() {
     return u"tessaline-shortcuts"_s;
 }
 
@@ -37,7 +37,7 @@ QString sessionInterface() {
 } // namespace
 
 DBusShortcutsPortal::DBusShortcutsPortal()
-    : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName()))
+    : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, shortcutsConnection()))
     , watcher(service(), bus) {
     registerPortalTypes();
     connect(&watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -55,7 +55,7 @@ DBusShortcutsPortal::DBusShortcutsPortal()
 }
 
 DBusShortcutsPortal::~DBusShortcutsPortal() {
-    QDBusConnection::disconnectFromBus(connectionName());
+    QDBusConnection::disconnectFromBus(shortcutsConnection());
 }
 
 void DBusShortcutsPortal::listen(Events listener) {
