@@ -48,8 +48,12 @@ class UnpluggedOutputs(LayerTestCase):
         wait_until(lambda: output not in self.desktop.outputs(), f"{output} is unplugged")
 
     def wait_for_prompter_on(self, output):
+        """The outer session makes what is left of its windows as wide as itself, but not at once."""
+        wait_until(lambda: self.hangs_on(output), f"the prompter hangs on {output}")
+
+    def hangs_on(self, output):
         width = self.desktop.outputs()[output][2]
-        self.wait_for_area((width - WIDTH) // 2, 0, WIDTH, HEIGHT, output=output)
+        return self.prompter_area(output) == ((width - WIDTH) // 2, 0, WIDTH, HEIGHT)
 
     def test_send_the_prompter_to_the_one_that_is_left(self):
         self.start()
