@@ -13,7 +13,9 @@ LayerSurface::LayerSurface(const WaylandGlobals& globals, wl_surface* borrowedSu
                            wl_output* output, const Place& place, Keyboard keyboard,
                            std::function<void()> closed)
     : surface(borrowedSurface)
+    , display(globals.display())
     , current(place)
+    , cornerSettled(place.corner)
     , keyboardWanted(keyboard)
     , onClosed(std::move(closed)) {
     const WaylandQueue queue(globals.display());
@@ -53,6 +55,14 @@ void LayerSurface::place(const Place& place) {
     current = place;
     requestPlace();
     wl_surface_commit(surface);
+    awaitPlace();
+}
+
+void LayerSurface::awaitPlace() {
+    placings.push_back(std::make_unique<WaylandTurn>(display, [this, corner = current.corner] {
+        cornerSettled = corner;
+        placings.pop_front();
+    }));
 }
 
 void LayerSurface::setKeyboard(Keyboard keyboard) {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include "platform/linux/wayland/SurfaceRole.h"
+#include "platform/linux/wayland/WaylandTurn.h"
 
 #include <QPoint>
 #include <QSize>
 
+#include <deque>
 #include <functional>
+#include <memory>
 
+struct wl_display;
 struct wl_output;
 struct wl_surface;
 struct zwlr_layer_surface_v1;
@@ -37,18 +41,27 @@ public:
     ~LayerSurface() override;
 
     void place(const Place& place);
+
+    /// The corner that the pointer's places which are handed out now count from: the compositor may
+    /// have sent them before it heard of a later place.
+    QPoint cornerOfPointer() const { return cornerSettled; }
+
     void setKeyboard(Keyboard keyboard);
     void addPopup(xdg_popup* popup) override;
 
 private:
     void requestPlace();
+    void awaitPlace();
     void requestKeyboard();
     void configure(std::uint32_t serial);
     void close();
 
     wl_surface* surface;
     zwlr_layer_surface_v1* layer = nullptr;
+    wl_display* display;
     Place current;
+    QPoint cornerSettled;
+    std::deque<std::unique_ptr<WaylandTurn>> placings; ///< that the compositor has not come to yet
     Keyboard keyboardWanted;
     std::function<void()> onClosed;
     bool isConfigured = false;

@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace tessaline {
 
@@ -40,7 +41,8 @@ bool isFramedByDesktops(const QWindow& window) {
 
 } // namespace
 
-LayerTitleBar::LayerTitleBar(QWidget& window) : QWidget(&window) {
+LayerTitleBar::LayerTitleBar(QWidget& window, CornerOfMouse corner)
+    : QWidget(&window), cornerOfMouse(std::move(corner)) {
     setFixedHeight(barHeight);
     auto* title = new QLabel(window.windowTitle(), this);
     title->setAlignment(Qt::AlignCenter);
@@ -61,11 +63,11 @@ LayerTitleBar::LayerTitleBar(QWidget& window) : QWidget(&window) {
     row->addWidget(close);
 }
 
-void LayerTitleBar::addTo(const QWindow& window) {
+void LayerTitleBar::addTo(const QWindow& window, const CornerOfMouse& corner) {
     if (!isFramedByDesktops(window)) return;
     QWidget* widget = widgetOf(window);
     if (!widget || !widget->layout() || widget->layout()->menuBar()) return;
-    widget->layout()->setMenuBar(new LayerTitleBar(*widget));
+    widget->layout()->setMenuBar(new LayerTitleBar(*widget, corner));
 }
 
 void LayerTitleBar::mousePressEvent(QMouseEvent* event) {
@@ -73,7 +75,7 @@ void LayerTitleBar::mousePressEvent(QMouseEvent* event) {
 }
 
 void LayerTitleBar::mouseMoveEvent(QMouseEvent* event) {
-    if (grip) window()->move(window()->pos() + event->position().toPoint() - *grip);
+    if (grip) window()->move(cornerOfMouse() + event->position().toPoint() - *grip);
 }
 
 void LayerTitleBar::mouseReleaseEvent(QMouseEvent* /*event*/) {

@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 class QWindow;
@@ -13,10 +14,13 @@ namespace tessaline {
 /// a place to drag the window by, and a button that closes it.
 class LayerTitleBar final : public QWidget {
 public:
-    explicit LayerTitleBar(QWidget& window);
+    /// Tells where the window was for whoever said where the mouse is.
+    using CornerOfMouse = std::function<QPoint()>;
+
+    LayerTitleBar(QWidget& window, CornerOfMouse cornerOfMouse);
 
     /// Puts one into the window above its content, if it is one that desktops put one around.
-    static void addTo(const QWindow& window);
+    static void addTo(const QWindow& window, const CornerOfMouse& cornerOfMouse);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -24,6 +28,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    CornerOfMouse cornerOfMouse;
     std::optional<QPoint> grip; ///< where it is dragged by
 };
 

@@ -6,6 +6,7 @@
 
 #include <qpa/qplatformnativeinterface.h>
 #include <qpa/qplatformwindow.h>
+#include <qpa/qwindowsysteminterface.h>
 
 namespace tessaline {
 
@@ -38,6 +39,10 @@ wl_output* waylandOutput(QScreen& screen) {
     if (screen.name().isEmpty()) return nullptr;
     return static_cast<wl_output*>(
         QGuiApplication::platformNativeInterface()->nativeResourceForScreen("output", &screen));
+}
+
+void handOutWaylandInput() {
+    QWindowSystemInterface::flushWindowSystemEvents();
 }
 
 void withdrawSurface(QWindow& window) {

@@ -25,6 +25,9 @@ wl_output* waylandOutput(QScreen& screen);   ///< null for the stand-in of a mis
 /// The serial number of the user's last press.
 std::uint32_t waylandInputSerial();
 
+/// Has Qt hand out the input that it has read so far, before it reads on.
+void handOutWaylandInput();
+
 /// Takes a window's surface away without its being hidden: nothing is painted until it was hidden
 /// and is shown again.
 void withdrawSurface(QWindow& window);

@@ -115,7 +115,7 @@ bool SurfaceRoles::eventFilter(QObject* object, QEvent* event) {
 
 void SurfaceRoles::watch(QWindow& window) {
     if (!watched.insert(&window).second) return;
-    LayerTitleBar::addTo(window);
+    LayerTitleBar::addTo(window, [this, &window] { return cornerOfPointer(window); });
     window.setFlag(Qt::BypassWindowManagerHint);
     // Told before Qt makes or destroys the surface, unlike the events.
     connect(&window, &QWindow::visibleChanged, this, [this, &window](bool visible) {
@@ -207,6 +207,12 @@ void SurfaceRoles::follow(QWindow& window) {
     if (screen == found->second.screen)
         return found->second.surface->place(placeOf(window, *screen));
     later(window, [this, &window] { showAgain(window); });
+}
+
+QPoint SurfaceRoles::cornerOfPointer(QWindow& window) const {
+    const auto found = hung.find(&window);
+    if (found == hung.end() || !found->second.screen) return window.position();
+    return found->second.screen->geometry().topLeft() + found->second.surface->cornerOfPointer();
 }
 
 /// Its size in points changes with its scale. What Qt has drawn for one scale it shows at any

@@ -66,6 +66,7 @@ private:
     void hang(QWindow& window);
     void popUp(QWindow& window, SurfaceRole& parent);
     void follow(QWindow& window);
+    QPoint cornerOfPointer(QWindow& window) const;
     void leaveIfOutside(QWindow& window);
     void lose(QWindow& window);
     void showHomeless();
