@@ -1,7 +1,10 @@
 #pragma once
 
-#include "prompter/view/FrameComposer.h"
+#include "prompter/view/FrameLook.h"
 #include "prompter/view/StripCache.h"
+
+#include <QImage>
+#include <QSize>
 
 #include <utility>
 
@@ -21,10 +24,10 @@ public:
     /// Makes frames as large as the view, in the pixels of its screen. Costs nothing when they are.
     void fit(const QWidget& view);
 
-    bool isEmpty() const { return composer.frame().isNull(); }
+    bool isEmpty() const { return size.isEmpty(); }
 
     /// How high the pieces are that are drawn at once, in points.
-    double stripHeight() const { return StripCache::rowsPerStrip / pixelRatio(); }
+    double stripHeight() const { return StripCache::rowsPerStrip / pixelRatio; }
 
     /// Has everything, or what lies between two heights, drawn anew.
     void invalidate() { strips.invalidate(); }
@@ -33,16 +36,18 @@ public:
     /// Draws ahead of time what lies close to the frame at a scroll position.
     void prepareAround(double position);
 
-    void compose(double position) { composer.compose(strips, position * pixelRatio()); }
-
-    /// Paints the frame that was composed last into a view, in place of what was there.
-    void paint(QPainter& painter) const;
+    /// Paints the frame at a scroll position, in place of what was there: everywhere, or only where
+    /// the painter is clipped to.
+    void paint(QPainter& painter, double position, bool everywhere);
 
 private:
-    double pixelRatio() const { return composer.frame().devicePixelRatio(); }
+    void paintPicture(QPainter& painter, double firstRow);
 
     StripCache strips;
-    FrameComposer composer;
+    QImage picture; ///< of the frame, once it could not be written to where it is seen
+    QSize size;     ///< of a frame, in pixels
+    double pixelRatio = 1.0;
+    bool hasWholePixels = true; ///< the view ends where pixels do
     FrameLook look;
     FrameLook fittedLook;
 };

@@ -273,13 +273,13 @@ void ScriptView::resizeEvent(QResizeEvent*) {
     setAnew(true);
 }
 
-void ScriptView::paintEvent(QPaintEvent*) {
+void ScriptView::paintEvent(QPaintEvent* event) {
     frames.fit(*this); // the screen, and with it the pixel ratio, may be another one now
     if (frames.isEmpty()) return;
     measureVisible();
-    keepPlaceDuring([this] { frames.compose(scrollTop); });
     QPainter painter(this);
-    frames.paint(painter);
+    const bool everywhere = event->region() == QRegion(rect());
+    keepPlaceDuring([&] { frames.paint(painter, scrollTop, everywhere); });
     painter.setTransform(mirror().asTransform(), true);
     paintReadingGuide(painter, readingFrame, room, width());
 }

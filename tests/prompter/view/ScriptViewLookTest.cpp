@@ -15,8 +15,8 @@ namespace {
 class ScriptViewLookTest : public ScriptViewFixture {
 protected:
     /// What the view paints over a red window.
-    QImage overRed() {
-        QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
+    QImage overRed(QImage::Format format = QImage::Format_ARGB32_Premultiplied) {
+        QImage image(view.size(), format);
         image.fill(Qt::red);
         view.render(&image, {}, {}, {});
         return image;
@@ -38,6 +38,21 @@ TEST_F(ScriptViewLookTest, LetsBeSeenWhatIsBelowTheGroundButNotBelowTheText) {
     view.scrollTo(view.maximumScrollPosition());
     view.setLook({});
     EXPECT_EQ(overRed().pixel(ground), qRgb(0, 0, 0));
+}
+
+TEST_F(ScriptViewLookTest, IsTheSameWhetherAFrameIsWrittenInPlaceOrCopiedThere) {
+    constexpr auto foreign = QImage::Format_RGBA8888_Premultiplied; // takes no row as it is
+    show(lines(100));
+    for (const double opacity : {1.0, 0.5}) {
+        for (const Mirroring mirroring : {Mirroring::none, Mirroring::vertical}) {
+            view.setLook({.frame = {mirroring, opacity}});
+            for (const double position : {0.0, 20.5, 33.3}) {
+                view.scrollTo(position);
+                const QImage inPlace = overRed();
+                EXPECT_EQ(inPlace, overRed(foreign).convertToFormat(inPlace.format())) << position;
+            }
+        }
+    }
 }
 
 TEST_F(ScriptViewLookTest, MixesRowsOfAGroundThatIsSeenThrough) {

@@ -1,4 +1,4 @@
-#include "prompter/view/FrameComposer.h"
+#include "prompter/view/FrameComposition.h"
 
 #include "prompter/view/RowBlending.h"
 
@@ -42,42 +42,52 @@ QImage mixed(StripCache& strips, double firstRow) {
     return frame;
 }
 
-class FrameComposerTest : public testing::Test {
+class FrameComposition : public testing::Test {
 protected:
-    FrameComposerTest() {
+    FrameComposition() {
         strips.resize(width, height, 1);
         reference.resize(width, height, 1);
-        composer.resize({width, height}, 1);
+        surroundings.fill(Qt::red);
     }
+
+    /// Composed into the middle of an image.
+    QImage composed(double firstRow) {
+        composeFrame(strips, firstRow, {},
+                     {.first = surroundings.scanLine(margin) + margin * 4,
+                      .bytesPerRow = surroundings.bytesPerLine(),
+                      .width = width,
+                      .height = height});
+        return surroundings.copy(margin, margin, width, height);
+    }
+
+    static constexpr int margin = 3;
+    QImage surroundings = QImage(width + 2 * margin, height + 2 * margin, QImage::Format_RGB32);
 
     StripCache strips{drawBars};
     StripCache reference{drawBars};
-    FrameComposer composer;
 };
 
-TEST_F(FrameComposerTest, MixesWhatIsSeenAsIfItMixedEverything) {
+TEST_F(FrameComposition, MixesWhatIsSeenAsIfItMixedEverything) {
     std::mt19937 random(5);
     for (int frame = 0; frame < 300; ++frame) {
         const double firstRow = double(random() % 100'000) / 37.0;
-        composer.compose(strips, firstRow);
-        ASSERT_EQ(composer.frame(), mixed(reference, firstRow)) << firstRow;
+        ASSERT_EQ(composed(firstRow), mixed(reference, firstRow)) << firstRow;
     }
 }
 
-TEST_F(FrameComposerTest, LeavesNothingOfTheFrameBefore) {
+TEST_F(FrameComposition, LeavesNothingOfTheFrameBefore) {
     for (double firstRow = 0; firstRow < 400; firstRow += 0.7) {
-        composer.compose(strips, firstRow);
-        ASSERT_EQ(composer.frame(), mixed(reference, firstRow)) << firstRow;
+        ASSERT_EQ(composed(firstRow), mixed(reference, firstRow)) << firstRow;
     }
 }
 
-TEST_F(FrameComposerTest, BeginsBlackAtAnotherSize) {
-    composer.compose(strips, 20);
-    composer.resize({width, 20}, 2);
-    EXPECT_EQ(composer.frame().devicePixelRatio(), 2);
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 0; x < width; ++x)
-            ASSERT_EQ(composer.frame().pixel(x, y), FrameLook().ground());
+TEST_F(FrameComposition, LeavesAloneWhatIsAroundTheFrame) {
+    composed(20);
+    for (int y = 0; y < surroundings.height(); ++y) {
+        for (int x = 0; x < surroundings.width(); ++x) {
+            const bool isInside = QRect(margin, margin, width, height).contains(x, y);
+            ASSERT_TRUE(isInside || surroundings.pixelColor(x, y) == Qt::red) << x << ", " << y;
+        }
     }
 }
 
