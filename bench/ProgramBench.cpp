@@ -91,18 +91,40 @@ void measurePause(Verdicts& verdicts) {
                    "");
 }
 
-void measureScrolling(qsizetype words, Verdicts& verdicts) {
+/// What a prompter that scrolls at medium rate and speed 2 takes.
+struct Scrolling {
+    double shareOfACore;
+    double mebibytes;
+};
+
+/// `size` are members of the JSON object of the settings.
+Scrolling scrolling(qsizetype words, const QByteArray& size = {}, double scale = 1) {
     const PrompterHome home(
-        words, R"("autoScrollEnabled": true, "scrollSpeed": 2.0, "scrollRate": "medium")");
+        words, R"("autoScrollEnabled": true, "scrollSpeed": 2.0, "scrollRate": "medium")" + size,
+        scale);
     const RunningProgram program(home);
     QThread::msleep(settleMs);
     WatchedScreen screen;
     screen.takeDamage();
     const double share = shareOfACore(program);
     if (screen.takeDamage() < watchedSeconds) qFatal("The text does not scroll");
+    return {share, program.residentMebibytes()};
+}
+
+void measureScrolling(qsizetype words, Verdicts& verdicts) {
     verdicts.judge(u"Scrolling %1 words, medium rate, speed 2"_s.arg(
                        QLocale(QLocale::English).toString(words)),
-                   share, 3, "% of a core");
+                   scrolling(words).shareOfACore, 1.3, "% of a core");
+}
+
+void measureLargeWindows(Verdicts& verdicts) {
+    const QByteArray large = R"(, "width": 800, "height": 800)";
+    verdicts.judge(u"The same with 10,000 words, 800 × 800 points"_s,
+                   scrolling(10'000, large).shareOfACore, 3, "% of a core");
+    const Scrolling dense = scrolling(10'000, large, 2);
+    verdicts.judge(u"The same with 10,000 words, 800 × 800 points at scale 2"_s, dense.shareOfACore,
+                   9, "% of a core");
+    verdicts.judge(u"Resident memory of that"_s, dense.mebibytes, 70, "MiB");
 }
 
 void measureCommands(Verdicts& verdicts) {
@@ -152,6 +174,7 @@ int main(int argc, char** argv) {
     measurePause(verdicts);
     measureScrolling(1'000, verdicts);
     measureScrolling(100'000, verdicts);
+    measureLargeWindows(verdicts);
     measureCommands(verdicts);
     measureNotes(verdicts);
     return verdicts.exitStatus();

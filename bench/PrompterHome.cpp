@@ -9,7 +9,8 @@ namespace tessaline {
 
 using namespace Qt::Literals::StringLiterals;
 
-PrompterHome::PrompterHome(qsizetype words, const QByteArray& settings) {
+PrompterHome::PrompterHome(qsizetype words, const QByteArray& settings, double pixelsPerPoint)
+    : scale(pixelsPerPoint) {
     QDir().mkpath(folder);
     write(script(), SampleTalk().write(words).toUtf8());
     write(folder + u"/config.json"_s, "{\"hasCompletedOnboarding\": true, " + settings + '}');
@@ -25,6 +26,7 @@ QProcessEnvironment PrompterHome::environment() const {
     environment.insert(u"XDG_RUNTIME_DIR"_s, home.path());
     environment.insert(u"DO_NOT_TRACK"_s, u"1"_s);
     environment.insert(u"QT_LOGGING_RULES"_s, u"*.info=false"_s);
+    environment.insert(u"QT_SCALE_FACTOR"_s, QString::number(scale));
     return environment;
 }
 

@@ -9,8 +9,9 @@ namespace tessaline {
 /// A home folder of its own, in which the prompter finds a script and settings.
 class PrompterHome {
 public:
-    /// `settings` are members of the JSON object that config.json holds.
-    PrompterHome(qsizetype words, const QByteArray& settings);
+    /// `settings` are members of the JSON object that config.json holds; `scale` is how many pixels
+    /// a point has.
+    PrompterHome(qsizetype words, const QByteArray& settings, double scale = 1);
 
     /// The file with the script.
     QString script() const;
@@ -21,6 +22,7 @@ public:
 private:
     static void write(const QString& name, const QByteArray& bytes);
 
+    double scale;
     QTemporaryDir home;
     QString folder = home.filePath(QStringLiteral("Library/Application Support/Tessaline"));
 };
