@@ -21,10 +21,16 @@ public:
         setWindowTitle(u"Settings"_s);
         (new QVBoxLayout(this))->addWidget(new QLabel(u"content"_s));
         winId();
-        LayerTitleBar::addTo(*windowHandle());
+        addBar();
+    }
+
+    void addBar() {
+        LayerTitleBar::addTo(*windowHandle(), [this] { return whereMouseCountsFrom; });
     }
 
     QWidget* bar() const { return layout()->menuBar(); }
+
+    QPoint whereMouseCountsFrom;
 };
 
 TEST(LayerTitleBar, StandsAboveTheContentWithTheWindowsTitle) {
@@ -52,6 +58,7 @@ TEST(LayerTitleBar, ClosesTheWindow) {
 TEST(LayerTitleBar, MovesTheWindowWhileItIsDragged) {
     FramedWindow window;
     window.move(100, 50);
+    window.whereMouseCountsFrom = {100, 50};
     window.show();
     QWidget* bar = window.bar();
     QTest::mousePress(bar, Qt::LeftButton, {}, {40, 10});
@@ -62,6 +69,19 @@ TEST(LayerTitleBar, MovesTheWindowWhileItIsDragged) {
     EXPECT_EQ(window.pos(), QPoint(120, 65));
 }
 
+TEST(LayerTitleBar, CountsTheMouseFromWhereTheWindowWasForIt) {
+    FramedWindow window;
+    window.whereMouseCountsFrom = {100, 50};
+    window.show();
+    QTest::mousePress(window.bar(), Qt::LeftButton, {}, {40, 10});
+    QTest::mouseMove(window.bar(), {60, 25});
+    QTest::mouseMove(window.bar(), {70, 35});
+    EXPECT_EQ(window.pos(), QPoint(130, 75)) << "not twice as far";
+    window.whereMouseCountsFrom = window.pos();
+    QTest::mouseMove(window.bar(), {41, 10});
+    EXPECT_EQ(window.pos(), QPoint(131, 75));
+}
+
 TEST(LayerTitleBar, IsNoPartOfWindowsThatDesktopsDoNotFrame) {
     EXPECT_EQ(FramedWindow(Qt::FramelessWindowHint).bar(), nullptr);
     EXPECT_EQ(FramedWindow(Qt::Popup).bar(), nullptr);
@@ -70,7 +90,7 @@ TEST(LayerTitleBar, IsNoPartOfWindowsThatDesktopsDoNotFrame) {
 
 TEST(LayerTitleBar, IsOneOnly) {
     FramedWindow window;
-    LayerTitleBar::addTo(*window.windowHandle());
+    window.addBar();
     EXPECT_EQ(window.findChildren<QToolButton*>().size(), 1);
 }
 
