@@ -15,6 +15,7 @@ namespace tessaline {
 namespace {
 
 constexpr int width = 90;
+constexpr std::size_t rowBytes = std::size_t{width} * 4;
 constexpr int height = 150;
 
 /// Bars, dots and gaps at random places of a column that is as good as endless.
@@ -35,9 +36,9 @@ QImage mixed(StripCache& strips, double firstRow) {
     const auto weight = unsigned(std::lround((firstRow - double(index)) * wholeRow));
     for (int row = 0; row < height; ++row, ++index) {
         const std::vector<std::uint8_t> upper(strips.row(index).pixels,
-                                              strips.row(index).pixels + width * 4);
+                                              strips.row(index).pixels + rowBytes);
         blendRows(upper.data(), strips.row(index + 1).pixels, weight, frame.scanLine(row),
-                  width * 4);
+                  rowBytes);
     }
     return frame;
 }
@@ -53,7 +54,7 @@ protected:
     /// Composed into the middle of an image.
     QImage composed(double firstRow) {
         composeFrame(strips, firstRow, {},
-                     {.first = surroundings.scanLine(margin) + margin * 4,
+                     {.first = surroundings.scanLine(margin) + std::ptrdiff_t{margin} * 4,
                       .bytesPerRow = surroundings.bytesPerLine(),
                       .width = width,
                       .height = height});
@@ -76,7 +77,8 @@ TEST_F(FrameComposition, MixesWhatIsSeenAsIfItMixedEverything) {
 }
 
 TEST_F(FrameComposition, LeavesNothingOfTheFrameBefore) {
-    for (double firstRow = 0; firstRow < 400; firstRow += 0.7) {
+    for (int frame = 0; frame < 600; ++frame) {
+        const double firstRow = 0.7 * frame;
         ASSERT_EQ(composed(firstRow), mixed(reference, firstRow)) << firstRow;
     }
 }

@@ -15,6 +15,10 @@ constexpr auto opaque = QImage::Format_RGB32;
 constexpr auto translucent = QImage::Format_ARGB32_Premultiplied;
 
 struct PixelsUnderPainter : testing::Test {
+    const std::uint8_t* place(int x, int y) const {
+        return image.constScanLine(y) + std::ptrdiff_t{x} * 4;
+    }
+
     QImage image = QImage(100, 80, translucent);
     QPainter painter{&image};
 };
@@ -23,8 +27,8 @@ TEST_F(PixelsUnderPainter, AreWhereAPictureWouldBePut) {
     painter.translate(7, 5);
     const auto rows = pixelsUnder(painter, size, 1, translucent);
     ASSERT_TRUE(rows);
-    EXPECT_EQ(rows->first, std::as_const(image).constScanLine(5) + 7 * 4);
-    EXPECT_EQ(rows->row(1), std::as_const(image).constScanLine(6) + 7 * 4);
+    EXPECT_EQ(rows->first, place(7, 5));
+    EXPECT_EQ(rows->row(1), place(7, 6));
     EXPECT_EQ(QSize(rows->width, rows->height), size);
 }
 
@@ -33,7 +37,7 @@ TEST_F(PixelsUnderPainter, AreThoseOfADenseScreen) {
     painter.translate(7, 5);
     const auto rows = pixelsUnder(painter, size, 2, translucent);
     ASSERT_TRUE(rows);
-    EXPECT_EQ(rows->first, std::as_const(image).constScanLine(10) + 14 * 4);
+    EXPECT_EQ(rows->first, place(14, 10));
 }
 
 TEST_F(PixelsUnderPainter, AreThereForOpaquePicturesOnATranslucentGround) {
