@@ -80,6 +80,8 @@ void RemoteControl::carryOut(const ControlRequest& request) {
         return delegate.performScroll(Shortcuts::shortcutScrollStep);
     case ControlCommand::down:
         return delegate.performScroll(-Shortcuts::shortcutScrollStep);
+    case ControlCommand::scroll:
+        return delegate.performScroll(-request.number());
     case ControlCommand::top:
         return view.jumps().toTop();
     case ControlCommand::nextHeading:
@@ -91,6 +93,8 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::heading:
         view.jumps().toHeadingNumber(int(request.number()));
         return;
+    case ControlCommand::paragraph:
+        return view.jumps().toParagraphNumber(std::size_t(request.number()));
     case ControlCommand::black:
         return covers.setBlack(isSwitchedOn(request, covers.isBlack()));
     case ControlCommand::keys:

@@ -186,6 +186,13 @@ constexpr ControlAction actions[] = {
      paceTails},
     {C::up, u"up", nothing, u"Scroll towards the start by one step."},
     {C::down, u"down", nothing, u"Scroll towards the end by one step."},
+    {C::scroll,
+     u"scroll",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = -ControlRequest::mostPoints,
+      .most = ControlRequest::mostPoints},
+     u"Scroll towards the end by N points."},
     {C::top, u"top", nothing, u"Go to the start of the script."},
     {C::nextHeading, u"next-heading", nothing, u"Go to the next heading."},
     {C::previousHeading, u"previous-heading", nothing, u"Go to the heading before."},
@@ -193,6 +200,10 @@ constexpr ControlAction actions[] = {
      u"heading",
      {.name = u"N", .kind = Kind::number, .least = 1.0, .most = 9999.0, .isWhole = true},
      u"Go to the heading N, counted from the start."},
+    {C::paragraph,
+     u"paragraph",
+     {.name = u"N", .kind = Kind::number, .least = 1.0, .most = 9999999.0, .isWhole = true},
+     u"Go to the paragraph N, counted from the start."},
     {C::show, u"show", nothing, u"Show the prompter."},
     {C::hide, u"hide", nothing, u"Hide the prompter."},
     {C::minimize, u"minimize", nothing, u"Fold it into the strip."},
@@ -336,6 +347,8 @@ constexpr CommandSpec commands[] = {
             u"'faster' and 'slower' step what the pace is: the speed by 0.25, the words by 5,\n"
             u"the minutes by 0.5, the time by one minute.\n"
             u"\n"
+            u"N of 'scroll' is from -10000 to 10000, negative towards the start. Blank lines\n"
+            u"count as paragraphs.\n"
             u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n"
             u"N of 'opacity' is from 30 to 100 percent, of 'latest' from 1, the very last\n"
             u"one, to 10, CM is from 40 to 200.\n",

@@ -145,10 +145,12 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"rate "_s + rawValue(status.rate);
     case ControlCommand::up:
     case ControlCommand::down:
+    case ControlCommand::scroll:
     case ControlCommand::top:
     case ControlCommand::nextHeading:
     case ControlCommand::previousHeading:
     case ControlCommand::heading:
+    case ControlCommand::paragraph:
         return position(status);
     case ControlCommand::show:
         return u"shown"_s;
