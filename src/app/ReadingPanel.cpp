@@ -1,7 +1,10 @@
 #include "app/ReadingPanel.h"
 
+#include "app/AppDelegate.h"
 #include "app/SideWindowPlacer.h"
 #include "app/WindowOrder.h"
+#include "platform/Platform.h"
+#include "platform/WindowTraits.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/PrompterLook.h"
 #include "prompter/PrompterWindow.h"
@@ -9,18 +12,11 @@
 
 #include <QWindow>
 
-#include <utility>
-
 namespace tessaline {
 
-ReadingPanel::ReadingPanel(ReadingSettings& readingSettings, const PrompterWindow& prompterWindow,
-                           const ScreenManager& screenManager, const AppSettings& appSettings,
-                           LookHelp lookHelp)
-    : reading(readingSettings)
-    , prompter(prompterWindow)
-    , screens(screenManager)
-    , settings(appSettings)
-    , help(std::move(lookHelp)) {}
+ReadingPanel::ReadingPanel(AppDelegate& owner, const ScreenManager& screenManager,
+                           const AppSettings& appSettings, const Platform& thePlatform)
+    : delegate(owner), screens(screenManager), settings(appSettings), platform(thePlatform) {}
 
 ReadingPanel::~ReadingPanel() = default;
 
@@ -31,12 +27,23 @@ void ReadingPanel::show() {
     makeKeyAndOrderFront(*window);
 }
 
+void ReadingPanel::showOptions() {
+    if (window) window->showOptions();
+}
+
 void ReadingPanel::place() {
     if (placer) placer->place();
 }
 
+LookHelp ReadingPanel::lookHelp() const {
+    return {[this] { return platform.windowTraits->showsTranslucency(); },
+            [this] { return platform.windowTraits->canSetInputArea(); },
+            [this] { return delegate.takeSuggestedSize(); }};
+}
+
 void ReadingPanel::makeWindow() {
-    window = std::make_unique<ReadingWindow>(reading, help);
+    const PrompterWindow& prompter = delegate.prompter();
+    window = std::make_unique<ReadingWindow>(delegate.reading(), lookHelp());
     window->winId(); // makes the native window
     placer = std::make_unique<SideWindowPlacer>(*window, prompter, screens, settings);
     window->onSizeChanged = [this] { place(); };

@@ -6,6 +6,7 @@
 #include "app/ScriptIntake.h"
 #include "app/SettingChoices.h"
 #include "app/opening/ScriptOpening.h"
+#include "app/page/RemotePage.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/covers/TextCovers.h"
@@ -47,6 +48,8 @@ RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
             return Refusal{
                 u"the source '%1' is not enabled in the settings"_s.arg(request.argument)};
         }
+    } else if (request.command == ControlCommand::remote) {
+        return delegate.remotePage().carryOut(request);
     } else if (request.command == ControlCommand::continueReading) {
         if (!delegate.opening().places().continueReading())
             return Refusal{u"there is no place further on to continue at"_s};
@@ -138,6 +141,7 @@ void RemoteControl::carryOut(const ControlRequest& request) {
         return;
     case ControlCommand::source:
     case ControlCommand::continueReading:
+    case ControlCommand::remote:
     case ControlCommand::paste: // which may be refused
     case ControlCommand::status:
         return;

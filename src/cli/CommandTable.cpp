@@ -146,6 +146,8 @@ constexpr QStringView fonts[] = {u"default"};
 constexpr QStringView switchStates[] = {u"on", u"off"};
 constexpr QStringView switchings[] = {u"on", u"off", u"toggle"};
 constexpr QStringView listDeeds[] = {u"clear"};
+constexpr QStringView remoteDeeds[] = {u"on",    u"off",     u"status", u"code",
+                                       u"local", u"devices", u"port",   u"renew"};
 constexpr CommandValue nothing{};
 
 constexpr ChoiceTail paceTails[] = {
@@ -159,6 +161,16 @@ constexpr ChoiceTail paceTails[] = {
       .kind = Kind::finish,
       .least = ReadingOptions::leastFinishMinutes,
       .most = ReadingOptions::mostFinishMinutes}},
+};
+
+constexpr ChoiceTail remoteTails[] = {
+    {u"devices", {.name = u"ADDRESS", .kind = Kind::phrase}},
+    {u"port",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = ReadingOptions::leastPort,
+      .most = ReadingOptions::mostPort,
+      .isWhole = true}},
 };
 
 constexpr ChoiceTail guideTails[] = {{u"band", {.name = u"LINES", .choices = bandLines}}};
@@ -301,6 +313,11 @@ constexpr ControlAction actions[] = {
      u"media-keys",
      {.name = u"on|off", .choices = switchStates},
      u"Let media keys and the desktop's player drive it."},
+    {C::remote,
+     u"remote",
+     {.name = u"DEED", .choices = remoteDeeds},
+     u"Let phones drive it by a page; see below.",
+     remoteTails},
     {C::quit, u"quit", nothing, u"End the program."},
     {C::status, u"status", nothing, u"Print its state as one JSON object."},
 };
@@ -351,7 +368,12 @@ constexpr CommandSpec commands[] = {
             u"count as paragraphs.\n"
             u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n"
             u"N of 'opacity' is from 30 to 100 percent, of 'latest' from 1, the very last\n"
-            u"one, to 10, CM is from 40 to 200.\n",
+            u"one, to 10, CM is from 40 to 200.\n"
+            u"\n"
+            u"DEED of 'remote' is 'on' or 'off'; 'status'; 'code', which prints the address\n"
+            u"with the secret that lets a phone in; 'renew', which disconnects all and makes\n"
+            u"another secret; 'local', for browsers of this computer only, or 'devices\n"
+            u"[ADDRESS]', for all that reach its address ADDRESS; 'port N', from 1024.\n",
         .options = controlOptions,
         .actions = actions,
         .sections = controlSections,

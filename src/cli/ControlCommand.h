@@ -48,6 +48,7 @@ enum class ControlCommand : std::uint8_t {
     latest,
     continueReading,
     mediaKeys,
+    remote,
     quit,
     status,
 };

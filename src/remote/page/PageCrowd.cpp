@@ -8,6 +8,14 @@ void PageCrowd::add(Client client, Time now) {
     members[client] = {messagesAtOnce, now};
 }
 
+std::vector<PageCrowd::Client> PageCrowd::all() const {
+    std::vector<Client> clients;
+    clients.reserve(members.size());
+    for (const auto& [client, budget] : members)
+        clients.push_back(client);
+    return clients;
+}
+
 bool PageCrowd::mayTell(Client client, Time now) {
     const auto member = members.find(client);
     if (member == members.end()) return false;

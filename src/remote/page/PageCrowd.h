@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstddef>
 #include <map>
+#include <vector>
 
 namespace tessaline {
 
@@ -27,11 +28,7 @@ public:
     /// Counts a message; false when that was one too many.
     bool mayTell(Client client, Time now);
 
-    template <typename Action>
-    void forEach(Action action) const {
-        for (const auto& [client, budget] : members)
-            action(client);
-    }
+    std::vector<Client> all() const;
 
 private:
     struct Budget {
