@@ -61,7 +61,10 @@ export class Script {
 
   moveTo(place) {
     this.place = place;
-    const paragraph = this.area.children[place.paragraph];
+    let paragraph = this.area.children[place.paragraph];
+    // A blank line shows nothing: the one before was read last.
+    while (paragraph?.classList.contains("blank") && paragraph.previousSibling)
+      paragraph = paragraph.previousSibling;
     if (this.current !== paragraph) {
       this.current?.removeAttribute("aria-current");
       paragraph?.setAttribute("aria-current", "true");

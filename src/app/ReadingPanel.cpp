@@ -3,7 +3,9 @@
 #include "app/AppDelegate.h"
 #include "app/SideWindowPlacer.h"
 #include "app/WindowOrder.h"
+#include "app/page/RemotePage.h"
 #include "platform/Platform.h"
+#include "platform/WebServer.h"
 #include "platform/WindowTraits.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/PrompterLook.h"
@@ -11,6 +13,8 @@
 #include "ui/reading/ReadingWindow.h"
 
 #include <QWindow>
+
+#include <functional>
 
 namespace tessaline {
 
@@ -41,9 +45,23 @@ LookHelp ReadingPanel::lookHelp() const {
             [this] { return delegate.takeSuggestedSize(); }};
 }
 
+/// The window may be there before the page is.
+PageHelp ReadingPanel::pageHelp() const {
+    const auto asking = [this](auto question) {
+        return [this, question] {
+            using Answer = decltype(std::invoke(question, delegate.remotePage()));
+            if (delegate.hasStarted()) return std::invoke(question, delegate.remotePage());
+            return Answer();
+        };
+    };
+    return {asking(&RemotePage::code), asking(&RemotePage::problem), asking(&RemotePage::pages),
+            [this] { return platform.web->networkAddresses(); },
+            asking(&RemotePage::disconnectAll)};
+}
+
 void ReadingPanel::makeWindow() {
     const PrompterWindow& prompter = delegate.prompter();
-    window = std::make_unique<ReadingWindow>(delegate.reading(), lookHelp());
+    window = std::make_unique<ReadingWindow>(delegate.reading(), lookHelp(), pageHelp());
     window->winId(); // makes the native window
     placer = std::make_unique<SideWindowPlacer>(*window, prompter, screens, settings);
     window->onSizeChanged = [this] { place(); };

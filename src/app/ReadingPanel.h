@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/reading/LookSection.h"
+#include "ui/reading/PageSection.h"
 
 #include <memory>
 
@@ -36,6 +37,7 @@ public:
 private:
     void makeWindow();
     LookHelp lookHelp() const;
+    PageHelp pageHelp() const;
 
     AppDelegate& delegate;
     const ScreenManager& screens;

@@ -63,10 +63,10 @@ void RemotePage::optionsChanged() {
 
 void RemotePage::open() {
     const PageOrigin origin{wanted->address.toLatin1(), wanted->port};
-    problem.clear();
+    whyNot.clear();
     feed = std::make_unique<PageFeed>(delegate);
     gate = std::make_unique<PageGate>(origin, content(), systemRandomBytes);
-    service = server.serve(*wanted, *this, &problem);
+    service = server.serve(*wanted, *this, &whyNot);
     if (!service) gate.reset();
     announce();
 }
@@ -78,7 +78,7 @@ void RemotePage::close() {
     gate.reset();
     feed.reset();
     crowd = {};
-    problem.clear();
+    whyNot.clear();
 }
 
 PageGate::Content RemotePage::content() const {
@@ -103,8 +103,8 @@ QString RemotePage::code() const {
 void RemotePage::tell(PrompterStatus& status) const {
     status.remote = !wanted ? u"off"_s : service ? u"on"_s : u"failed"_s;
     status.remoteAddress = address();
-    status.remoteProblem = problem;
-    status.remotePages = int(crowd.size());
+    status.remoteProblem = whyNot;
+    status.remotePages = pages();
 }
 
 void RemotePage::disconnectAll() {

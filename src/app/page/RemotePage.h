@@ -35,6 +35,11 @@ public:
     /// The page's address with the secret; empty while it is not served.
     QString code() const;
 
+    /// Why it is not served though it is wanted, in one line; else empty.
+    QString problem() const { return whyNot; }
+
+    int pages() const { return int(crowd.size()); } ///< that are connected
+
     /// Ends all sessions; from now on another secret lets phones in.
     void disconnectAll();
 
@@ -63,7 +68,7 @@ private:
     TimerMaker& timers;
     const Clocks clocks;
     std::optional<WebServer::Place> wanted;
-    QString problem; ///< why it is not served
+    QString whyNot;
     std::unique_ptr<PageFeed> feed;
     std::unique_ptr<PageGate> gate;
     std::unique_ptr<WebServer::Service> service;
