@@ -8,7 +8,7 @@ namespace tessaline {
 
 namespace {
 
-constexpr int side = 200;
+constexpr int pointsPerSquare = 5;
 constexpr int quietSquares = 4; // that cameras need around it
 
 } // namespace
@@ -19,6 +19,7 @@ CodeView::CodeView(const QString& accessibleName) {
 }
 
 QSize CodeView::sizeHint() const {
+    const int side = (code.size + 2 * quietSquares) * pointsPerSquare;
     return {side, side};
 }
 
@@ -26,6 +27,7 @@ void CodeView::show(const QString& text) {
     if (text == shown) return;
     shown = text;
     code = QrCode::of(text);
+    updateGeometry();
     update();
 }
 
@@ -35,8 +37,8 @@ void CodeView::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), Qt::white);
     // Squares of whole pixels of the screen have sharp edges.
     const qreal ratio = devicePixelRatioF();
-    const qreal square = std::floor(side * ratio / (code.size + 2 * quietSquares)) / ratio;
-    const qreal start = std::round((side - square * code.size) / 2 * ratio) / ratio;
+    const qreal square = std::floor(pointsPerSquare * ratio) / ratio;
+    const qreal start = std::round((width() - square * code.size) / 2 * ratio) / ratio;
     for (int row = 0; row < code.size; ++row) {
         for (int column = 0; column < code.size; ++column) {
             if (!code.isDark(row, column)) continue;

@@ -60,15 +60,18 @@ class Browser:
         line, self.bytes = self.bytes.split(b"\0", 1)
         return json.loads(line)
 
-    def open(self, url, width=390, height=844, dark=False):
-        """A page in a browser of its own, which knows nothing of the others."""
-        context = self.ask("Target.createBrowserContext")["browserContextId"]
+    def open(self, url, width=390, height=844, dark=False, beside=None):
+        """A page in the same browser as another, or in one that knows nothing of the others."""
+        context = (
+            beside.context if beside else self.ask("Target.createBrowserContext")["browserContextId"]
+        )
         return Page(self, context, url, width, height, dark)
 
 
 class Page:
     def __init__(self, browser, context, url, width, height, dark):
         self.browser = browser
+        self.context = context
         target = browser.ask("Target.createTarget", url="about:blank", browserContextId=context)
         self.session = browser.ask("Target.attachToTarget", flatten=True, **target)["sessionId"]
         for domain in ("Page", "Runtime", "Log"):
