@@ -1,6 +1,8 @@
 """The page for phones, in a real browser."""
 
 import http.server
+import os
+import pathlib
 import signal
 import socket
 import threading
@@ -165,6 +167,25 @@ class RemotePage(TalkTestCase):
         for page in (phone, tablet):
             page.wait_for("document.getElementById('secret')", "both have to pair again")
         self.assertEqual(self.status()["remotePages"], 0)
+
+    @unittest.skipUnless("TESSALINE_AXE" in os.environ, "tools/check-page has what this takes")
+    def test_can_be_used_by_everybody(self):
+        self.ctl("remote", "on")
+        self.browse()
+        pages = {"pairing": self.browser.open(self.place), "phone": self.pair()}
+        pages["pairing"].wait_for("document.getElementById('secret')")
+        pages["tablet"] = self.pair(width=1024, height=768, dark=True)
+        pages["headings"] = self.pair(dark=True)
+        pages["headings"].click("#headings")
+        axe = pathlib.Path(os.environ["TESSALINE_AXE"]).read_text(encoding="utf-8")
+        for name, page in pages.items():
+            page.value(axe + "; 0")
+            found = page.value(
+                "axe.run().then(({ violations, passes }) => [passes.length, violations.map("
+                "({ id, nodes }) => [id, nodes.map(({ target }) => target.join(' '))])])"
+            )
+            self.assertGreater(found[0], 10, name)
+            self.assertEqual(found[1], [], name)
 
     def test_comes_back_after_sleep(self):
         self.ctl("remote", "on")
