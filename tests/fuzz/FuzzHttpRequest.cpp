@@ -2,7 +2,7 @@
 
 #include "remote/web/HttpRequestReader.h"
 
-#include <algorithm>
+#include <QString>
 
 using namespace tessaline;
 

@@ -2,6 +2,8 @@
 
 #include "remote/page/PageCommands.h"
 
+#include <QString>
+
 using namespace tessaline;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
