@@ -15,10 +15,10 @@ constexpr qsizetype pieceBytes = qsizetype{64} << 10;
 
 } // namespace
 
-void WebConnection::DeleteLater::operator()(QTcpSocket* socket) const {
-    socket->disconnect();
-    socket->abort();
-    socket->deleteLater(); // its own signal may be what brings us here
+void WebConnection::DeleteLater::operator()(QTcpSocket* ended) const {
+    ended->disconnect();
+    ended->abort();
+    ended->deleteLater(); // its own signal may be what brings us here
 }
 
 WebConnection::WebConnection(QTcpSocket* opened)

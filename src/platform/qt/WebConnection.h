@@ -51,7 +51,7 @@ public:
 
 private:
     struct DeleteLater {
-        void operator()(QTcpSocket* socket) const;
+        void operator()(QTcpSocket* ended) const;
     };
 
     void sendMore();
