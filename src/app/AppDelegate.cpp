@@ -4,9 +4,9 @@
 #include "app/ConfigPanel.h"
 #include "app/ControlDeeds.h"
 #include "app/FirstRun.h"
-#include "app/MediaSession.h"
 #include "app/PrompterCutout.h"
 #include "app/ReadingPanel.h"
+#include "app/Remotes.h"
 #include "app/ScriptIntake.h"
 #include "app/SettingChoices.h"
 #include "app/SizeAdviser.h"
@@ -68,7 +68,12 @@ PrompterStatus AppDelegate::status() const {
     tellOptions(readingSettings.values(), QTime::currentTime(), status);
     SizeAdviser(prompter(), readingSettings).tell(status);
     opening().tell(status);
+    if (remotes) remotes->page.tell(status);
     return status;
+}
+
+RemotePage& AppDelegate::remotePage() const {
+    return required(remotes, "remotes").page;
 }
 
 SettingChoices& AppDelegate::choices() const {
@@ -151,11 +156,7 @@ void AppDelegate::createPanels() {
                                                 screenManager, platform, services());
     config().onSettingsChanged = weakly(&AppDelegate::settingsChanged);
     config().onSourceChanged = weakly(&AppDelegate::handleSourceChange);
-    readingPanel = std::make_unique<ReadingPanel>(
-        readingSettings, *prompterWindow, screenManager, settings,
-        LookHelp{[this] { return platform.windowTraits->showsTranslucency(); },
-                 [this] { return platform.windowTraits->canSetInputArea(); },
-                 [this] { return takeSuggestedSize(); }});
+    readingPanel = std::make_unique<ReadingPanel>(*this, screenManager, settings, platform);
 }
 
 void AppDelegate::setupStatusItem() {
@@ -181,7 +182,8 @@ void AppDelegate::startApp() {
     setupShortcuts();
     sources().startWatching();
     scripts().start();
-    mediaSession = std::make_unique<MediaSession>(*this, settings, platform);
+    remotes = std::make_unique<Remotes>(*this, settings, platform);
+    remotes->page.onChange = [this] { readingPanel->showOptions(); };
 }
 
 void AppDelegate::setupShortcuts() {

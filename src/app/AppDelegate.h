@@ -21,10 +21,11 @@ namespace tessaline {
 class ConfigPanel;
 class ConfigWindow;
 class FirstRun;
-class MediaSession;
 class PrompterCutout;
 class PrompterWindow;
 class ReadingPanel;
+class RemotePage;
+class Remotes;
 class ScriptIntake;
 class ScriptOpening;
 class Shortcuts;
@@ -72,6 +73,9 @@ public:
     /// What is chosen otherwise than in the settings window.
     SettingChoices& choices() const;
     QString takeSuggestedSize(); ///< of the text; says which and why
+
+    /// The page for phones, once the normal start has happened.
+    RemotePage& remotePage() const;
 
     /// Whether the normal start has happened: the first-run window is done with.
     bool hasStarted() const { return shortcuts != nullptr; }
@@ -128,7 +132,7 @@ private:
     std::unique_ptr<FirstRun> firstRun; ///< where there is one
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Shortcuts> shortcuts;
-    std::unique_ptr<MediaSession> mediaSession;
+    std::unique_ptr<Remotes> remotes;
     NotificationCenter::Observation sourceChangeObserver;
     Lifetime lifetime;
 };

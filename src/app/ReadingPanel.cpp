@@ -1,7 +1,12 @@
 #include "app/ReadingPanel.h"
 
+#include "app/AppDelegate.h"
 #include "app/SideWindowPlacer.h"
 #include "app/WindowOrder.h"
+#include "app/page/RemotePage.h"
+#include "platform/Platform.h"
+#include "platform/WebServer.h"
+#include "platform/WindowTraits.h"
 #include "platform/qt/FrameMarginsWatch.h"
 #include "prompter/PrompterLook.h"
 #include "prompter/PrompterWindow.h"
@@ -9,18 +14,13 @@
 
 #include <QWindow>
 
-#include <utility>
+#include <functional>
 
 namespace tessaline {
 
-ReadingPanel::ReadingPanel(ReadingSettings& readingSettings, const PrompterWindow& prompterWindow,
-                           const ScreenManager& screenManager, const AppSettings& appSettings,
-                           LookHelp lookHelp)
-    : reading(readingSettings)
-    , prompter(prompterWindow)
-    , screens(screenManager)
-    , settings(appSettings)
-    , help(std::move(lookHelp)) {}
+ReadingPanel::ReadingPanel(AppDelegate& owner, const ScreenManager& screenManager,
+                           const AppSettings& appSettings, const Platform& thePlatform)
+    : delegate(owner), screens(screenManager), settings(appSettings), platform(thePlatform) {}
 
 ReadingPanel::~ReadingPanel() = default;
 
@@ -31,12 +31,37 @@ void ReadingPanel::show() {
     makeKeyAndOrderFront(*window);
 }
 
+void ReadingPanel::showOptions() {
+    if (window) window->showOptions();
+}
+
 void ReadingPanel::place() {
     if (placer) placer->place();
 }
 
+LookHelp ReadingPanel::lookHelp() const {
+    return {[this] { return platform.windowTraits->showsTranslucency(); },
+            [this] { return platform.windowTraits->canSetInputArea(); },
+            [this] { return delegate.takeSuggestedSize(); }};
+}
+
+/// The window may be there before the page is.
+PageHelp ReadingPanel::pageHelp() const {
+    const auto asking = [this](auto question) {
+        return [this, question] {
+            using Answer = decltype(std::invoke(question, delegate.remotePage()));
+            if (delegate.hasStarted()) return std::invoke(question, delegate.remotePage());
+            return Answer();
+        };
+    };
+    return {asking(&RemotePage::code), asking(&RemotePage::problem), asking(&RemotePage::pages),
+            [this] { return platform.web->networkAddresses(); },
+            asking(&RemotePage::disconnectAll)};
+}
+
 void ReadingPanel::makeWindow() {
-    window = std::make_unique<ReadingWindow>(reading, help);
+    const PrompterWindow& prompter = delegate.prompter();
+    window = std::make_unique<ReadingWindow>(delegate.reading(), lookHelp(), pageHelp());
     window->winId(); // makes the native window
     placer = std::make_unique<SideWindowPlacer>(*window, prompter, screens, settings);
     window->onSizeChanged = [this] { place(); };

@@ -1,25 +1,26 @@
 #pragma once
 
 #include "ui/reading/LookSection.h"
+#include "ui/reading/PageSection.h"
 
 #include <memory>
 
 namespace tessaline {
 
+class AppDelegate;
 class AppSettings;
-class PrompterWindow;
-class ReadingSettings;
 class ReadingWindow;
 class ScreenManager;
 class SideWindowPlacer;
+struct Platform;
 
 /// The window of the reading options, which is made when it is first asked for, and kept beside the
 /// prompter.
 class ReadingPanel {
 public:
-    /// Everything is borrowed but the help.
-    ReadingPanel(ReadingSettings& reading, const PrompterWindow& prompter,
-                 const ScreenManager& screens, const AppSettings& settings, LookHelp help);
+    /// Borrows all; the delegate owns it and has the prompter.
+    ReadingPanel(AppDelegate& delegate, const ScreenManager& screens, const AppSettings& settings,
+                 const Platform& platform);
     ~ReadingPanel();
     ReadingPanel(const ReadingPanel&) = delete;
     ReadingPanel& operator=(const ReadingPanel&) = delete;
@@ -27,17 +28,21 @@ public:
     /// Brings the window to the front.
     void show();
 
+    /// Shows what the options are now, if there is a window.
+    void showOptions();
+
     /// Puts the window where it can be used, if there is one.
     void place();
 
 private:
     void makeWindow();
+    LookHelp lookHelp() const;
+    PageHelp pageHelp() const;
 
-    ReadingSettings& reading;
-    const PrompterWindow& prompter;
+    AppDelegate& delegate;
     const ScreenManager& screens;
     const AppSettings& settings;
-    const LookHelp help;
+    const Platform& platform;
     std::unique_ptr<ReadingWindow> window;
     std::unique_ptr<SideWindowPlacer> placer;
 };

@@ -18,7 +18,7 @@ struct Option {
 };
 
 /// When somebody's talk ends is nobody's business, only that it has such a time; which fonts they
-/// have is not either.
+/// have and where in their network they are is not either.
 std::vector<Option> optionsOf(const ReadingOptions& options) {
     return {
         {u"pace"_s, rawValue(options.pace)},
@@ -38,6 +38,9 @@ std::vector<Option> optionsOf(const ReadingOptions& options) {
         {u"lineSpacing"_s, QString::number(options.lineSpacing)},
         {u"readingDistance"_s, QString::number(options.readingDistance)},
         {u"mediaKeys"_s, booleanText(options.mediaKeys)},
+        {u"remotePage"_s, booleanText(options.remotePage)},
+        {u"remotePort"_s, booleanText(options.remotePort != ReadingOptions().remotePort)},
+        {u"remoteAddress"_s, booleanText(options.remoteAddress.has_value())},
     };
 }
 

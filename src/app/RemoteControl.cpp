@@ -6,6 +6,7 @@
 #include "app/ScriptIntake.h"
 #include "app/SettingChoices.h"
 #include "app/opening/ScriptOpening.h"
+#include "app/page/RemotePage.h"
 #include "app/shortcuts/Shortcuts.h"
 #include "prompter/PrompterWindow.h"
 #include "prompter/covers/TextCovers.h"
@@ -47,6 +48,8 @@ RemoteAnswer RemoteControl::answerTo(const ControlRequest& request) {
             return Refusal{
                 u"the source '%1' is not enabled in the settings"_s.arg(request.argument)};
         }
+    } else if (request.command == ControlCommand::remote) {
+        return delegate.remotePage().carryOut(request);
     } else if (request.command == ControlCommand::continueReading) {
         if (!delegate.opening().places().continueReading())
             return Refusal{u"there is no place further on to continue at"_s};
@@ -80,6 +83,8 @@ void RemoteControl::carryOut(const ControlRequest& request) {
         return delegate.performScroll(Shortcuts::shortcutScrollStep);
     case ControlCommand::down:
         return delegate.performScroll(-Shortcuts::shortcutScrollStep);
+    case ControlCommand::scroll:
+        return delegate.performScroll(-request.number());
     case ControlCommand::top:
         return view.jumps().toTop();
     case ControlCommand::nextHeading:
@@ -91,6 +96,8 @@ void RemoteControl::carryOut(const ControlRequest& request) {
     case ControlCommand::heading:
         view.jumps().toHeadingNumber(int(request.number()));
         return;
+    case ControlCommand::paragraph:
+        return view.jumps().toParagraphNumber(std::size_t(request.number()));
     case ControlCommand::black:
         return covers.setBlack(isSwitchedOn(request, covers.isBlack()));
     case ControlCommand::keys:
@@ -134,6 +141,7 @@ void RemoteControl::carryOut(const ControlRequest& request) {
         return;
     case ControlCommand::source:
     case ControlCommand::continueReading:
+    case ControlCommand::remote:
     case ControlCommand::paste: // which may be refused
     case ControlCommand::status:
         return;

@@ -146,6 +146,8 @@ constexpr QStringView fonts[] = {u"default"};
 constexpr QStringView switchStates[] = {u"on", u"off"};
 constexpr QStringView switchings[] = {u"on", u"off", u"toggle"};
 constexpr QStringView listDeeds[] = {u"clear"};
+constexpr QStringView remoteDeeds[] = {u"on",    u"off",     u"status", u"code",
+                                       u"local", u"devices", u"port",   u"renew"};
 constexpr CommandValue nothing{};
 
 constexpr ChoiceTail paceTails[] = {
@@ -159,6 +161,16 @@ constexpr ChoiceTail paceTails[] = {
       .kind = Kind::finish,
       .least = ReadingOptions::leastFinishMinutes,
       .most = ReadingOptions::mostFinishMinutes}},
+};
+
+constexpr ChoiceTail remoteTails[] = {
+    {u"devices", {.name = u"ADDRESS", .kind = Kind::phrase}},
+    {u"port",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = ReadingOptions::leastPort,
+      .most = ReadingOptions::mostPort,
+      .isWhole = true}},
 };
 
 constexpr ChoiceTail guideTails[] = {{u"band", {.name = u"LINES", .choices = bandLines}}};
@@ -186,6 +198,13 @@ constexpr ControlAction actions[] = {
      paceTails},
     {C::up, u"up", nothing, u"Scroll towards the start by one step."},
     {C::down, u"down", nothing, u"Scroll towards the end by one step."},
+    {C::scroll,
+     u"scroll",
+     {.name = u"N",
+      .kind = Kind::number,
+      .least = -ControlRequest::mostPoints,
+      .most = ControlRequest::mostPoints},
+     u"Scroll towards the end by N points."},
     {C::top, u"top", nothing, u"Go to the start of the script."},
     {C::nextHeading, u"next-heading", nothing, u"Go to the next heading."},
     {C::previousHeading, u"previous-heading", nothing, u"Go to the heading before."},
@@ -193,6 +212,10 @@ constexpr ControlAction actions[] = {
      u"heading",
      {.name = u"N", .kind = Kind::number, .least = 1.0, .most = 9999.0, .isWhole = true},
      u"Go to the heading N, counted from the start."},
+    {C::paragraph,
+     u"paragraph",
+     {.name = u"N", .kind = Kind::number, .least = 1.0, .most = 9999999.0, .isWhole = true},
+     u"Go to the paragraph N, counted from the start."},
     {C::show, u"show", nothing, u"Show the prompter."},
     {C::hide, u"hide", nothing, u"Hide the prompter."},
     {C::minimize, u"minimize", nothing, u"Fold it into the strip."},
@@ -290,6 +313,11 @@ constexpr ControlAction actions[] = {
      u"media-keys",
      {.name = u"on|off", .choices = switchStates},
      u"Let media keys and the desktop's player drive it."},
+    {C::remote,
+     u"remote",
+     {.name = u"DEED", .choices = remoteDeeds},
+     u"Let phones drive it by a page; see below.",
+     remoteTails},
     {C::quit, u"quit", nothing, u"End the program."},
     {C::status, u"status", nothing, u"Print its state as one JSON object."},
 };
@@ -336,9 +364,16 @@ constexpr CommandSpec commands[] = {
             u"'faster' and 'slower' step what the pace is: the speed by 0.25, the words by 5,\n"
             u"the minutes by 0.5, the time by one minute.\n"
             u"\n"
+            u"N of 'scroll' is from -10000 to 10000, negative towards the start. Blank lines\n"
+            u"count as paragraphs.\n"
             u"N of 'eyeline' is from 25 to 50, of 'countdown' from 0 to 10, LINES is 1 or 2.\n"
             u"N of 'opacity' is from 30 to 100 percent, of 'latest' from 1, the very last\n"
-            u"one, to 10, CM is from 40 to 200.\n",
+            u"one, to 10, CM is from 40 to 200.\n"
+            u"\n"
+            u"DEED of 'remote' is 'on' or 'off'; 'status'; 'code', which prints the address\n"
+            u"with the secret that lets a phone in; 'renew', which disconnects all and makes\n"
+            u"another secret; 'local', for browsers of this computer only, or 'devices\n"
+            u"[ADDRESS]', for all that reach its address ADDRESS; 'port N', from 1024.\n",
         .options = controlOptions,
         .actions = actions,
         .sections = controlSections,

@@ -118,6 +118,13 @@ QString font(const PrompterStatus& status) {
                : text + ", which is not installed: the default is shown"_L1;
 }
 
+QString remote(const ControlRequest& request, const PrompterStatus& status) {
+    if (request.argument == "code"_L1) return status.remoteAddress;
+    if (status.remote == "failed"_L1) return "remote page failed: "_L1 + status.remoteProblem;
+    if (status.remote != "on"_L1) return u"remote page off"_s;
+    return u"remote page at %1, connected: %2"_s.arg(status.remoteAddress).arg(status.remotePages);
+}
+
 QString latest(const ControlRequest& request, const PrompterStatus& status) {
     if (request.argument == "clear"_L1) return u"list cleared"_s;
     if (!request.argument.isEmpty()) return u"opened "_s + status.file;
@@ -145,10 +152,12 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"rate "_s + rawValue(status.rate);
     case ControlCommand::up:
     case ControlCommand::down:
+    case ControlCommand::scroll:
     case ControlCommand::top:
     case ControlCommand::nextHeading:
     case ControlCommand::previousHeading:
     case ControlCommand::heading:
+    case ControlCommand::paragraph:
         return position(status);
     case ControlCommand::show:
         return u"shown"_s;
@@ -201,6 +210,8 @@ QString controlAnswer(const ControlRequest& request, const PrompterStatus& statu
         return u"continued, "_s + position(status);
     case ControlCommand::mediaKeys:
         return status.mediaKeys ? u"media keys on"_s : u"media keys off"_s;
+    case ControlCommand::remote:
+        return remote(request, status);
     case ControlCommand::quit:
         return u"ending"_s;
     case ControlCommand::status:

@@ -13,6 +13,7 @@ namespace tessaline {
 struct ControlRequest {
     static constexpr double leastSpeed = 0.0;
     static constexpr double mostSpeed = 5.0;
+    static constexpr double mostPoints = 10000.0; ///< to scroll by at once
 
     /// Reads the command's name and what follows it. None when they are wrong; `error`, which may
     /// be null, then says why in one line without a full stop.

@@ -24,6 +24,7 @@
 #include "platform/TimerMaker.h"
 #include "platform/UrlOpener.h"
 #include "platform/UserDefaults.h"
+#include "platform/WebServer.h"
 #include "platform/WindowTraits.h"
 
 namespace tessaline {

@@ -30,6 +30,7 @@ class TaskRunner;
 class TimerMaker;
 class UrlOpener;
 class UserDefaults;
+class WebServer;
 class WindowTraits;
 
 /// The system that the program runs on: an adapter behind every port, none of them null. Whoever is
@@ -50,6 +51,7 @@ struct Platform {
     std::unique_ptr<UrlOpener> urlOpener;
     std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<HttpPoster> http;
+    std::unique_ptr<WebServer> web;
     std::unique_ptr<BundleInformation> bundle;
 
     // What hangs on one of these must not hold up the others.

@@ -56,6 +56,11 @@ struct PrompterStatus {
     QString suggestion;    ///< which size would be right, and why
     bool mediaKeys = false;
 
+    QString remote = QString::fromLatin1("off"); ///< the page for phones: "off", "on" or "failed"
+    QString remoteAddress;                       ///< where it is, without its secret
+    QString remoteProblem;                       ///< why it cannot be served
+    int remotePages = 0;                         ///< that are connected
+
     bool black = false; ///< the text is blacked out
     bool keys = false;  ///< the sheet of keys is shown
 
@@ -109,6 +114,10 @@ struct PrompterStatus {
         visit("fontSize", status.fontSize);
         visit("suggestion", status.suggestion);
         visit("mediaKeys", status.mediaKeys);
+        visit("remote", status.remote);
+        visit("remoteAddress", status.remoteAddress);
+        visit("remoteProblem", status.remoteProblem);
+        visit("remotePages", status.remotePages);
         visit("black", status.black);
         visit("keys", status.keys);
         visit("file", status.file);

@@ -60,6 +60,10 @@ const SettingsTable<ReadingOptions>& readingOptionsTable() {
                     within(Options::leastReadingDistance, Options::mostReadingDistance,
                            Options::readingDistanceStep)),
         settingsKey("mediaKeys", &Options::mediaKeys),
+        settingsKey("remotePage", &Options::remotePage),
+        settingsKey("remotePort", &Options::remotePort,
+                    within(Options::leastPort, Options::mostPort, 1.0)),
+        settingsKey("remoteAddress", &Options::remoteAddress, dropEmpty),
     });
     return table;
 }

@@ -50,6 +50,13 @@ struct ReadingOptions {
     double readingDistance = 60.0;     ///< centimetres from the eyes to the screen
     bool mediaKeys = false;            ///< drive the prompter
 
+    static constexpr double leastPort = 1024.0;
+    static constexpr double mostPort = 65535.0;
+
+    bool remotePage = false;              ///< phones may drive it by a page
+    double remotePort = 47865.0;          ///< whole
+    std::optional<QString> remoteAddress; ///< of this machine, for other devices; none: for itself
+
     bool operator==(const ReadingOptions&) const = default;
 };
 

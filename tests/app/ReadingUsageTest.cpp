@@ -70,12 +70,16 @@ TEST_F(ReadingUsageTest, RecordsHowTheTextLooksButNotWhichFontsThereAre) {
         options.lineSpacing = 1.5;
         options.readingDistance = 90;
         options.mediaKeys = true;
+        options.remotePage = true;
+        options.remotePort = 5000;
+        options.remoteAddress = u"192.168.1.5"_s;
     });
     EXPECT_THAT(recorded(),
                 ElementsAre(Pair(u"mirror"_s, u"horizontal"_s), Pair(u"groundOpacity"_s, u"0.7"_s),
                             Pair(u"clickThrough"_s, u"true"_s), Pair(u"fontFamily"_s, u"true"_s),
                             Pair(u"lineSpacing"_s, u"1.5"_s), Pair(u"readingDistance"_s, u"90"_s),
-                            Pair(u"mediaKeys"_s, u"true"_s)));
+                            Pair(u"mediaKeys"_s, u"true"_s), Pair(u"remotePage"_s, u"true"_s),
+                            Pair(u"remotePort"_s, u"true"_s), Pair(u"remoteAddress"_s, u"true"_s)));
 }
 
 TEST_F(ReadingUsageTest, KeepsTheTimeOfTheEndToItself) {

@@ -285,6 +285,13 @@ TEST_F(RemoteControlTest, MovesTheText) {
     EXPECT_GT(third, heading);
     EXPECT_EQ(textOf(u"heading 101"_s), textOf(u"heading 3"_s)) << "there are a hundred";
     EXPECT_DOUBLE_EQ(position(), third);
+    textOf(u"paragraph 3"_s);
+    EXPECT_DOUBLE_EQ(position(), heading) << "each heading has a line below it";
+    EXPECT_EQ(textOf(u"paragraph 1000"_s), textOf(u"paragraph 3"_s)) << "there are not as many";
+    textOf(u"scroll 12.5"_s);
+    EXPECT_DOUBLE_EQ(position(), heading + 12.5);
+    textOf(u"scroll -12.5"_s);
+    EXPECT_DOUBLE_EQ(position(), heading);
 }
 
 TEST_F(RemoteControlTest, BlacksTheTextOutAndShowsTheKeys) {

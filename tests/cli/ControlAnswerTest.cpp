@@ -48,6 +48,10 @@ PrompterStatus aStatus() {
             .fontSize = 21,
             .suggestion = u"so many points"_s,
             .mediaKeys = true,
+            .remote = u"on"_s,
+            .remoteAddress = u"http://127.0.0.1:5000/"_s,
+            .remoteProblem = u"none"_s,
+            .remotePages = 2,
             .black = true,
             .keys = true,
             .file = u"/talks/a.md"_s,
@@ -118,6 +122,14 @@ TEST(ControlAnswer, TellsTheReadingOptions) {
     EXPECT_EQ(answer(ControlCommand::atEnd), u"at the end: round"_s);
     EXPECT_EQ(answer(ControlCommand::glide), u"glide on"_s);
     EXPECT_EQ(answer(ControlCommand::mediaKeys), u"media keys on"_s);
+    EXPECT_EQ(answer(ControlCommand::remote),
+              u"remote page at http://127.0.0.1:5000/, connected: 2"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::remote, u"code"_s}, aStatus()),
+              u"http://127.0.0.1:5000/"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::remote, {}}, {}), u"remote page off"_s);
+    EXPECT_EQ(controlAnswer({ControlCommand::remote, {}},
+                            {.remote = u"failed"_s, .remoteProblem = u"no port"_s}),
+              u"remote page failed: no port"_s);
     EXPECT_EQ(answer(ControlCommand::black), u"text blacked out"_s);
     EXPECT_EQ(answer(ControlCommand::keys), u"keys shown"_s);
     EXPECT_EQ(answer(ControlCommand::open), u"asking for a file"_s);
@@ -164,6 +176,8 @@ TEST(ControlAnswer, TellsEverythingAsJson) {
               "\"clickThrough\":true,\"clickedThrough\":true,\"font\":\"DejaVu Serif\","
               "\"fontShown\":\"DejaVu Serif\",\"lineSpacing\":1.25,\"distance\":80,"
               "\"fontSize\":21.0,\"suggestion\":\"so many points\",\"mediaKeys\":true,"
+              "\"remote\":\"on\",\"remoteAddress\":\"http://127.0.0.1:5000/\","
+              "\"remoteProblem\":\"none\",\"remotePages\":2,"
               "\"black\":true,\"keys\":true,"
               "\"file\":\"/talks/a.md\",\"continueAt\":\"Continue at 43 %\","
               "\"latest\":[\"/talks/a.md\",\"/talks/b.md\"],\"platform\":\"wayland\"}"_s);

@@ -52,7 +52,8 @@ class RemoteControl(PrompterTestCase):
             + ["guideLines", "countdown", "atEnd", "glide"]
             + ["mirror", "opacity", "opacityShown", "clickThrough", "clickedThrough"]
             + ["font", "fontShown", "lineSpacing", "distance", "fontSize", "suggestion"]
-            + ["mediaKeys", "black", "keys", "file", "continueAt", "latest", "platform"],
+            + ["mediaKeys", "remote", "remoteAddress", "remoteProblem", "remotePages"]
+            + ["black", "keys", "file", "continueAt", "latest", "platform"],
         )
         self.assertEqual(status["version"], self.call("--version")[1].split()[1])
         self.assertTrue(status["visible"])

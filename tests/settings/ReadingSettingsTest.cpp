@@ -61,7 +61,10 @@ ReadingOptions everythingElse() {
             .fontFamily = u"DejaVu Serif"_s,
             .lineSpacing = 1.15,
             .readingDistance = 85,
-            .mediaKeys = true};
+            .mediaKeys = true,
+            .remotePage = true,
+            .remotePort = 5000,
+            .remoteAddress = u"192.168.1.5"_s};
 }
 
 constexpr auto everythingElseWritten = R"({
@@ -81,7 +84,10 @@ constexpr auto everythingElseWritten = R"({
   "fontFamily": "DejaVu Serif",
   "lineSpacing": 1.15,
   "readingDistance": 85.0,
-  "mediaKeys": true
+  "mediaKeys": true,
+  "remotePage": true,
+  "remotePort": 5000.0,
+  "remoteAddress": "192.168.1.5"
 }
 )";
 

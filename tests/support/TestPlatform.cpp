@@ -24,6 +24,7 @@
 #include "support/FakeTimerMaker.h"
 #include "support/FakeUrlOpener.h"
 #include "support/FakeUserDefaults.h"
+#include "support/FakeWebServer.h"
 #include "support/FakeWindowTraits.h"
 
 namespace tessaline {
@@ -48,6 +49,7 @@ TestPlatform::TestPlatform()
     , urlOpener(put<FakeUrlOpener>(platform.urlOpener))
     , defaults(put<FakeUserDefaults>(platform.defaults))
     , http(put<FakeHttpPoster>(platform.http))
+    , web(put<FakeWebServer>(platform.web))
     , bundle(put<FakeBundleInformation>(platform.bundle))
     , renderTasks(put<FakeTaskRunner>(platform.renderTasks))
     , fileTasks(put<FakeTaskRunner>(platform.fileTasks))

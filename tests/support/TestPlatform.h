@@ -27,6 +27,7 @@ class FakeTaskRunner;
 class FakeTimerMaker;
 class FakeUrlOpener;
 class FakeUserDefaults;
+class FakeWebServer;
 class FakeWindowTraits;
 class NotificationCenter;
 
@@ -45,6 +46,7 @@ struct TestPlatform {
     FakeUrlOpener& urlOpener;
     FakeUserDefaults& defaults;
     FakeHttpPoster& http;
+    FakeWebServer& web;
     FakeBundleInformation& bundle;
     FakeTaskRunner& renderTasks;
     FakeTaskRunner& fileTasks;

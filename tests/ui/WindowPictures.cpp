@@ -183,7 +183,7 @@ void takeReading(const Camera& camera) {
     ReadingSettings settings(set.folder.filePath(u"reading.json"_s));
     const LookHelp help{[] { return false; }, [] { return true; },
                         [] { return u"20 minutes of arc at 60 cm on this screen: 18 points"_s; }};
-    ReadingWindow window(settings, help, [] { return QTime(12, 0); });
+    ReadingWindow window(settings, help, {}, [] { return QTime(12, 0); });
     window.fitInto(5000);
     camera.take(window, u"reading-speed"_s);
     settings.change([](ReadingOptions& options) {

@@ -9,6 +9,7 @@
 #include "platform/qt/QtTimerMaker.h"
 #include "platform/qt/QtUrlOpener.h"
 #include "platform/qt/QtUserDefaults.h"
+#include "platform/qt/QtWebServer.h"
 
 namespace tessaline {
 
@@ -20,6 +21,7 @@ void addQtAdapters(Platform& platform) {
     platform.urlOpener = std::make_unique<QtUrlOpener>();
     platform.defaults = std::make_unique<QtUserDefaults>();
     platform.http = std::make_unique<QtHttpPoster>();
+    platform.web = std::make_unique<QtWebServer>();
     for (auto* tasks : {&platform.renderTasks, &platform.fileTasks, &platform.scriptTasks,
                         &platform.queryTasks, &platform.pasteTasks, &platform.historyTasks})
         *tasks = std::make_unique<ThreadTaskRunner>();

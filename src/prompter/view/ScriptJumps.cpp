@@ -60,6 +60,11 @@ bool ScriptJumps::toHeadingNumber(int number) {
     return false;
 }
 
+void ScriptJumps::toParagraphNumber(std::size_t number) {
+    const auto& paragraphs = view.script().paragraphs;
+    if (number <= paragraphs.size()) toOffset(paragraphs[number - 1].start);
+}
+
 void ScriptJumps::toHeading(std::size_t paragraph) {
     toOffset(view.script().paragraphs[paragraph].start);
 }

@@ -25,6 +25,9 @@ public:
     /// To a heading of the script, counted from 1. False when there is none.
     bool toHeadingNumber(int number);
 
+    /// To a paragraph of the script, counted from 1, if there is one.
+    void toParagraphNumber(std::size_t number);
+
     /// To the next page, or the one before. Always gliding, so that the eye finds its line again.
     void toNextPage();
     void toPreviousPage();

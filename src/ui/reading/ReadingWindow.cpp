@@ -40,14 +40,15 @@ void addKeys(QVBoxLayout& column) {
 } // namespace
 
 ReadingWindow::ReadingWindow(ReadingSettings& edited, const LookHelp& help,
-                             const std::function<QTime()>& now)
+                             const PageHelp& pageHelp, const std::function<QTime()>& now)
     : SideWindow(u"Reading"_s), settings(edited) {
-    fillWithContent(*this, createContent(help, now), leastContent);
+    fillWithContent(*this, createContent(help, pageHelp, now), leastContent);
     refresh();
     observation = settings.observe([this](const ReadingOptions&) { showOptions(); });
 }
 
-QWidget* ReadingWindow::createContent(const LookHelp& help, const std::function<QTime()>& now) {
+QWidget* ReadingWindow::createContent(const LookHelp& help, const PageHelp& pageHelp,
+                                      const std::function<QTime()>& now) {
     auto* content = new QWidget;
     QVBoxLayout* column = layOutColumn(*content, spacing);
     column->setContentsMargins(margin, margin, margin, margin);
@@ -63,6 +64,7 @@ QWidget* ReadingWindow::createContent(const LookHelp& help, const std::function<
     add(u"Start and End"_s, new StartEndSection(settings));
     add(u"Look"_s, new LookSection(settings, help));
     add(u"Remote Control"_s, new RemoteSection(settings));
+    add(u"Remote Page"_s, new PageSection(settings, pageHelp));
     addKeys(*column);
     column->addStretch();
     return content;

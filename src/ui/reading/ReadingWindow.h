@@ -3,6 +3,7 @@
 #include "settings/ReadingSettings.h"
 #include "ui/SideWindow.h"
 #include "ui/reading/LookSection.h"
+#include "ui/reading/PageSection.h"
 
 #include <QTime>
 
@@ -21,7 +22,7 @@ class ReadingWindow : public SideWindow {
 public:
     /// Builds the window; shows nothing yet. Borrows the settings; `now` tells the time on the
     /// clock.
-    ReadingWindow(ReadingSettings& settings, const LookHelp& help,
+    ReadingWindow(ReadingSettings& settings, const LookHelp& help, const PageHelp& pageHelp = {},
                   const std::function<QTime()>& now = &QTime::currentTime);
 
     /// Shows what the options are now. The window has its right size afterwards.
@@ -31,7 +32,8 @@ public:
     void showOptions();
 
 private:
-    QWidget* createContent(const LookHelp& help, const std::function<QTime()>& now);
+    QWidget* createContent(const LookHelp& help, const PageHelp& pageHelp,
+                           const std::function<QTime()>& now);
 
     ReadingSettings& settings;
     ReadingSettings::Observation observation;

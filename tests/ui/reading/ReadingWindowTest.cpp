@@ -79,6 +79,7 @@ protected:
                               ++suggestions;
                               return u"20 minutes of arc: 21 points"_s;
                           }},
+                         {},
                          [this] { return now; }};
 };
 
