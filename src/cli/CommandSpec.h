@@ -4,6 +4,7 @@
 
 #include <QStringView>
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 
@@ -78,5 +79,13 @@ struct CommandSpec {
     qsizetype leastOperands = 0;
     qsizetype mostOperands = 0;
 };
+
+/// The one of this name; null when there is none.
+template <typename Entry>
+const Entry* entryNamed(std::span<const Entry> entries, QStringView name) {
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& entry) { return entry.name == name; });
+    return found == entries.end() ? nullptr : &*found;
+}
 
 } // namespace tessaline

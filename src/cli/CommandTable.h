@@ -16,10 +16,4 @@ std::span<const CommandSpec> commandSpecs();
 /// The command of this name; null when there is none.
 const CommandSpec* commandNamed(QStringView name);
 
-/// What the running prompter can be told, in the order of the help.
-std::span<const ControlAction> controlActions();
-
-/// The action of this name; null when there is none.
-const ControlAction* controlActionNamed(QStringView name);
-
 } // namespace tessaline

@@ -1,6 +1,6 @@
 #include "cli/ControlRequest.h"
 
-#include "cli/CommandTable.h"
+#include "cli/ControlActions.h"
 #include "settings/PlainNumber.h"
 #include "settings/TimeOfDay.h"
 

@@ -1,6 +1,6 @@
 #include "cli/ControlRequest.h"
 
-#include "cli/CommandTable.h"
+#include "cli/ControlActions.h"
 #include "settings/PersistedSettings.h"
 #include "settings/ReadingChoices.h"
 #include "settings/ScrollRate.h"

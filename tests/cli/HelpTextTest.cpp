@@ -1,6 +1,7 @@
 #include "cli/HelpText.h"
 
 #include "cli/CommandTable.h"
+#include "cli/ControlActions.h"
 #include "cli/RenderRequest.h"
 #include "support/CaseName.h"
 #include "support/PrintQt.h"

@@ -1,5 +1,5 @@
 #include "remote/page/PageCommands.h"
-#include "cli/CommandTable.h"
+#include "cli/ControlActions.h"
 #include "support/CaseName.h"
 
 #include <QStringList>
