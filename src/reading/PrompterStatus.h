@@ -56,13 +56,13 @@ struct PrompterStatus {
     QString suggestion;    ///< which size would be right, and why
     bool mediaKeys = false;
 
-    QString remote = QString::fromLatin1("off"); ///< the page for phones: "off", "on" or "failed"
-    QString remoteAddress;                       ///< where it is, without its secret
-    QString remoteProblem;                       ///< why it cannot be served
-    int remotePages = 0;                         ///< that are connected
-
     bool black = false; ///< the text is blacked out
     bool keys = false;  ///< the sheet of keys is shown
+
+    int remotePages = 0;                         ///< of the page for phones that are connected
+    QString remote = QString::fromLatin1("off"); ///< whether that is served: "off", "on", "failed"
+    QString remoteAddress;                       ///< where it is, without its secret
+    QString remoteProblem;                       ///< why it cannot be served
 
     QString file;       ///< the script's path, if it was opened from a file
     QString continueAt; ///< where it can be gone on with, if anywhere

@@ -37,6 +37,14 @@ foreach(folder "${macos_tests}/libcxx" "${cxx_headers}" "${macos_tests}/declarat
                ${c_headers_${TESSALINE_MAC_PROCESSOR}})
   string(APPEND macos_flags " -isystem ${folder}")
 endforeach()
+# The header of this library lies among those of this machine's C library, which are not for here.
+find_program(tessaline_pkg_config NAMES pkg-config REQUIRED)
+execute_process(
+  COMMAND "${tessaline_pkg_config}" --variable=includedir libqrencode
+  OUTPUT_VARIABLE qrencode_headers
+  OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+file(COPY "${qrencode_headers}/qrencode.h" DESTINATION "${CMAKE_BINARY_DIR}/headers")
+string(APPEND macos_flags " -isystem ${CMAKE_BINARY_DIR}/headers")
 # The C library's headers are made for Linux: what they ask of its compiler is undone here.
 string(APPEND macos_flags " -D_GNU_SOURCE -U__nonnull -Wno-unused-command-line-argument"
        " -Wnullable-to-nonnull-conversion -Wunguarded-availability")
@@ -44,7 +52,6 @@ set(CMAKE_CXX_FLAGS_INIT "${macos_flags}")
 set(CMAKE_OBJCXX_FLAGS_INIT "${macos_flags} -fblocks")
 
 list(PREPEND CMAKE_MODULE_PATH "${CMAKE_CURRENT_LIST_DIR}")
-find_program(tessaline_pkg_config NAMES pkg-config REQUIRED)
 execute_process(
   COMMAND "${tessaline_pkg_config}" --variable=libdir Qt6Core
   OUTPUT_VARIABLE qt_libraries
