@@ -88,12 +88,13 @@ class ScriptsOnAMac(unittest.TestCase):
         handed, _ = self.opened()
         self.assertFalse(Path(handed[-1]).exists(), "left behind")
 
-    def test_the_program_needs_one_package_of_qt(self):
+    def test_the_program_needs_few_packages(self):
         self.command("brew", RECORDING + '[ "$1" != list ]\n')
         done = self.run_script("tools/install-dependencies", "build")
         self.assertEqual(done.returncode, 0, done.stderr)
         installed = [call for call in self.calls("brew") if call[0] == "install"]
-        self.assertEqual(installed, [["install", "--quiet", "cmake", "ninja", "pkgconf", "qtbase"]])
+        packages = ["cmake", "ninja", "pkgconf", "qrencode", "qtbase", "qtwebsockets"]
+        self.assertEqual(installed, [["install", "--quiet", *packages]])
 
     def test_without_homebrew_it_says_what_homebrew_calls_the_packages(self):
         (self.commands / "brew").unlink()

@@ -83,7 +83,9 @@ class Input(LayerTestCase):
         path.write_text("One two three four")
         source = self.start_other("normal", "#ff0000", "--drag", path.as_uri())
         x, y, width, height = self.desktop.geometry(source.window)
-        self.desktop.move_mouse(x + width // 2, y + height - 20)
+        grip = x + width // 2, y + height - 20
+        wait_until(lambda: self.desktop.pixel(*grip) == (255, 0, 0), "it is seen where it is to be")
+        self.desktop.move_mouse(*grip)
         self.desktop.press_button()
         wait_until(lambda: source.reports("drag"), "the file is dragged")
         for step in range(4):
